@@ -1,0 +1,32 @@
+// trovane-sim: the game with no window, for scripts, tests and benchmarks.
+#include <cstdio>
+#include <exception>
+
+#include <CLI/CLI.hpp>
+
+#include "app/sim_context.h"
+#include "world/fatal_error.h"
+
+int main(int argc, char** argv) {
+    using namespace trovane::sim;
+    CLI::App app{"Trovane 3 without a window: play, inspect and script a game on a data folder"};
+    app.require_subcommand(1);
+    SimContext ctx;
+    app.add_option("--data", ctx.dataDir, "The data folder of the game")->capture_default_str();
+    app.add_option("--seed", ctx.seed, "Seed of the random source; a run with the same seed repeats exactly");
+    app.add_flag("--json", ctx.json, "Machine-readable output");
+    app.fallthrough();
+    addWorldVerbs(app, ctx);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& e) {
+        return app.exit(e);
+    } catch (const trovane::FatalError& e) {
+        std::fprintf(stderr, "trovane-sim: %s\n", e.what());
+        return 2;
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "trovane-sim: unexpected failure: %s\n", e.what());
+        return 2;
+    }
+    return ctx.exitCode;
+}

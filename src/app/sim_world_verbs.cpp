@@ -1,0 +1,140 @@
+// The verbs that make, run and inspect a working set: init, status, advance, dump.
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "app/sim_context.h"
+#include "calendar/daily_cycle.h"
+#include "session/empty_world.h"
+#include "session/formats.h"
+#include "session/preferences.h"
+#include "session/session_record.h"
+#include "world/record_dump.h"
+#include "world/record_store.h"
+#include "world/strings.h"
+
+namespace trovane::sim {
+
+namespace {
+
+uint64_t clockSeed() {
+    return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
+std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
+
+}  // namespace
+
+Game& SimContext::freshGame() {
+    game_ = std::make_unique<Game>(dataDir, seed.value_or(clockSeed()));
+    return *game_;
+}
+
+Game& SimContext::openGame() {
+    Game& g = freshGame();
+    readPrefs(g);
+    readSessionFile(g, workingSessionFile(g));
+    openAllTables(g, "vel");
+    return g;
+}
+
+void SimContext::closeGame() {
+    if (!game_) return;
+    if (game_->news.isOpen()) writeSessionFile(*game_, workingSessionFile(*game_));
+    closeAllTables(*game_);
+}
+
+void addWorldVerbs(CLI::App& app, SimContext& ctx) {
+    auto* init = app.add_subcommand("init", "Make an empty working set in the data folder, on 5 August 2004");
+    init->callback([&ctx] {
+        Game& g = ctx.freshGame();
+        createEmptyWorkingSet(g);
+        ctx.closeGame();
+        if (ctx.json) std::printf("{\"data\":%s,\"date\":\"%s\"}\n", jsonQuote(ctx.dataDir.string()).c_str(),
+                                  isoDate(g.gameDate).c_str());
+        else std::printf("Made an empty working set in %s; the game stands on %s\n", ctx.dataDir.c_str(),
+                         formatDate(g.gameDate, "dddd d mmmm yyyy").c_str());
+    });
+
+    auto* status = app.add_subcommand("status", "Show the date, cash, label and player");
+    status->callback([&ctx] {
+        Game& g = ctx.openGame();
+        StatusBarTexts s = statusBarTexts(g);
+        if (ctx.json)
+            std::printf("{\"date\":\"%s\",\"cash\":%s,\"label\":%s,\"player\":%s}\n", isoDate(g.gameDate).c_str(),
+                        fmt::format("{:.4f}", moneyToDouble(g.player.playerLabelCash)).c_str(),
+                        jsonQuote(s.company).c_str(), jsonQuote(s.name).c_str());
+        else
+            std::printf("Date:   %s\nCash:   %s\nLabel:  %s\nPlayer: %s\n", s.date.c_str(), s.cash.c_str(),
+                        s.company.c_str(), s.name.c_str());
+        ctx.closeGame();
+    });
+
+    auto* advance = app.add_subcommand("advance", "Run days of the game");
+    static int days = 1;
+    static bool trace = false;
+    advance->add_option("N", days, "How many days")->required()->check(CLI::Range(0, 100000));
+    advance->add_flag("--trace", trace, "Show each step each day runs");
+    advance->callback([&ctx] {
+        Game& g = ctx.openGame();
+        std::vector<std::string> steps;
+        if (trace) g.trace = [&steps](std::string_view step) { steps.emplace_back(step); };
+        std::string json = "[";
+        for (int d = 0; d < days; ++d) {
+            if (!allRepliesGiven(g)) {
+                ctx.exitCode = kExitHeld;
+                const NewsRecord& n = g.news.rec;
+                if (ctx.json)
+                    json += fmt::format("{}{{\"held\":true,\"news\":{},\"title\":{}}}", d ? "," : "", n.id,
+                                        jsonQuote(trim(n.title.value)));
+                else
+                    std::printf("Held on %s: news item %d must be answered first: %s\n",
+                                formatDate(g.gameDate, "dddd d/m/yyyy").c_str(), n.id, trim(n.title.value).c_str());
+                break;
+            }
+            double day = g.gameDate;
+            steps.clear();
+            checkDaysSchedule(g);
+            if (ctx.json) {
+                json += fmt::format("{}{{\"date\":\"{}\"", d ? "," : "", isoDate(day));
+                if (trace) {
+                    json += ",\"steps\":[";
+                    for (std::size_t i = 0; i < steps.size(); ++i) json += (i ? "," : "") + jsonQuote(steps[i]);
+                    json += "]";
+                }
+                json += "}";
+            } else {
+                std::printf("%s", formatDate(day, "dddd d/m/yyyy").c_str());
+                if (trace)
+                    for (const auto& s : steps) std::printf("\n  %s", s.c_str());
+                std::printf("\n");
+            }
+        }
+        if (ctx.json) std::printf("%s]\n", json.c_str());
+        ctx.closeGame();
+    });
+
+    auto* dump = app.add_subcommand("dump", "Show the records of a table of the working set");
+    static std::string table;
+    dump->add_option("TABLE", table, "A table name (band, news, ...), chart0 to chart9, or a year's day index")
+        ->required();
+    dump->callback([&ctx] {
+        std::filesystem::path file;
+        std::optional<FileNo> n = fileNoByTableName(table);
+        if (n && catalogueEntry(*n).kind == FileKind::perUse) {
+            if (*n == FileNo::fileSvar) file = ctx.dataDir / "svar.vel";
+            else file = ctx.dataDir / (table + ".gam");
+        } else {
+            file = ctx.dataDir / (table + ".vel");
+            n = tableOfFile(file);
+        }
+        if (!n) throw FatalError(fmt::format("There is no table called {}", table));
+        std::string out = dumpTableFile(file, *n, ctx.json ? DumpFormat::json : DumpFormat::text);
+        std::fwrite(out.data(), 1, out.size(), stdout);
+    });
+}
+
+}  // namespace trovane::sim

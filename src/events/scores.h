@@ -1,0 +1,13 @@
+#pragma once
+// Lasting marks of a career: birthdays, the high-score table.
+
+namespace trovane {
+
+class Game;
+
+void addThisYearsBirthdays(Game& g);
+// Rewrites this career's row of highscore.gam: the sum of the five point
+// totals of the player's own staff record.
+void updateHighScoreTable(Game& g);
+
+}  // namespace trovane

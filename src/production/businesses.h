@@ -1,0 +1,10 @@
+#pragma once
+// Studios, pressing plants and distributors.
+
+namespace trovane {
+
+class Game;
+
+void subtractBusinessRunningCosts(Game& g);
+
+}  // namespace trovane

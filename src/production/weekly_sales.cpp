@@ -1,0 +1,10 @@
+#include "production/weekly_sales.h"
+
+#include "world/game.h"
+
+namespace trovane {
+
+// Not built yet: each runs as an empty step of the day until its rules are written.
+void calculateWeeklySales(Game& g) { static_cast<void>(g); }
+
+}  // namespace trovane

@@ -1,0 +1,10 @@
+#include "rivals/rival_bands.h"
+
+#include "world/game.h"
+
+namespace trovane {
+
+// Not built yet: each runs as an empty step of the day until its rules are written.
+void computerCheckBands(Game& g) { static_cast<void>(g); }
+
+}  // namespace trovane

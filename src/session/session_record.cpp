@@ -1,0 +1,39 @@
+#include "session/session_record.h"
+
+#include <fmt/format.h>
+
+#include "world/dates.h"
+#include "world/game.h"
+
+namespace trovane {
+
+std::filesystem::path workingSessionFile(const Game& g) { return g.dataDir / "svar.vel"; }
+
+void writeSessionFile(Game& g, const std::filesystem::path& file) {
+    SvarRecord& s = g.svar.rec;
+    s.gameDate = g.gameDate;
+    s.lastScheduleYear = g.lastScheduleYear;
+    s.firstScheduleYear = g.firstScheduleYear;
+    s.lastScheduleYear2 = g.lastScheduleYear;
+    s.eventRollsPerDay = g.eventRollsPerDay;
+    s.player = g.player;
+    g.svar.open(file, IfMissing::createEmpty);
+    g.svar.write(1);
+    g.svar.close();
+}
+
+void readSessionFile(Game& g, const std::filesystem::path& file) {
+    g.svar.open(file, IfMissing::fail);
+    bool present = g.svar.readIfPresent(1);
+    g.svar.close();
+    if (!present) throw FatalError(fmt::format("The session record {} is empty", file.string()));
+    const SvarRecord& s = g.svar.rec;
+    g.gameDate = s.gameDate;
+    g.lastScheduleYear = s.lastScheduleYear;
+    g.firstScheduleYear = s.firstScheduleYear;
+    g.eventRollsPerDay = s.eventRollsPerDay;
+    g.player = s.player;
+    g.currentYear = static_cast<int16_t>(yearOf(g.gameDate));
+}
+
+}  // namespace trovane

@@ -1,0 +1,19 @@
+#pragma once
+// The session record (svar): the state of a game that lives outside the tables.
+#include <filesystem>
+
+namespace trovane {
+
+class Game;
+
+// The working game's session record, kept beside the working set so that
+// separate runs of trovane-sim continue one game.
+std::filesystem::path workingSessionFile(const Game& g);
+
+// Fills g.svar from the session state and writes it to the file.
+void writeSessionFile(Game& g, const std::filesystem::path& file);
+// Reads the file and sets the session state from it; a missing or damaged
+// file is an error that names it.
+void readSessionFile(Game& g, const std::filesystem::path& file);
+
+}  // namespace trovane

@@ -1,0 +1,109 @@
+#pragma once
+// The one context object of a running game: every table with its record
+// buffer, the session state, the preferences, the random source and the clock.
+// Every operation of the game takes it first.
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+#include "world/records.h"
+#include "world/random.h"
+#include "world/table.h"
+
+namespace trovane {
+
+// Screens the logic can ask the shell to show; named after the game's screens.
+enum class Screen {
+    none,
+    frmStartForm,
+    frmNews,
+    frmNewsFull,
+    frmAwardCeremony,
+    frmLoading,
+};
+
+// The tables that openAllTables opens: member name, record, file number.
+#define TROVANE_WORKING_TABLES(X)                     \
+    X(country, CountryRecord, fileCountry)            \
+    X(city, CityRecord, fileCity)                     \
+    X(venue, VenueRecord, fileVenue)                  \
+    X(forename, ForenameRecord, fileForename)         \
+    X(surname, SurnameRecord, fileSurname)            \
+    X(job, JobRecord, fileJob)                        \
+    X(style, StyleRecord, fileStyle)                  \
+    X(artist, ArtistRecord, fileArtist)               \
+    X(band, BandRecord, fileBand)                     \
+    X(product, ProductRecord, fileProduct)            \
+    X(label, LabelRecord, fileLabel)                  \
+    X(staff, StaffRecord, fileStaff)                  \
+    X(look, LookRecord, fileLook)                     \
+    X(asslook, AssRecord, fileAssLook)                \
+    X(newband, NewBandRecord, fileNewBand)            \
+    X(news, NewsRecord, fileNews)                     \
+    X(schedule, ScheduleRecord, fileSchedule)         \
+    X(disc, DiscRecord, fileDisc)                     \
+    X(song, SongRecord, fileSong)                     \
+    X(assstyle, AssRecord, fileAssStyle)              \
+    X(offer, OfferRecord, fileOffer)                  \
+    X(assnation, AssRecord, fileAssNation)            \
+    X(business, BusinessRecord, fileBusiness)         \
+    X(newsong, NewSongRecord, fileNewSong)            \
+    X(tour, TourRecord, fileTour)                     \
+    X(gig, GigRecord, fileGig)                        \
+    X(festival, FestivalRecord, fileFestival)         \
+    X(event, EventRecord, fileEvent)                  \
+    X(crime, CrimeRecord, fileCrime)                  \
+    X(award, AwardRecord, fileAward)                  \
+    X(ceremony, CeremonyRecord, fileCeremony)         \
+    X(shortlist, ShortlistRecord, fileShortlist)      \
+    X(chartrecs, ChartRecords, fileChartRecs)         \
+    X(media, MediaRecord, fileMedia)                  \
+    X(achieve, AchievementRecord, fileAchieve)        \
+    X(newalbum, NewAlbumRecord, fileNewAlbum)         \
+    X(thank, ThankRecord, fileThank)
+
+// Tables opened by the operation that needs them and closed right after.
+#define TROVANE_PER_USE_TABLES(X)                     \
+    X(dayIndex, DayRecord, fileDay)                   \
+    X(prefs, PrefsRecord, filePrefs)                  \
+    X(svar, SvarRecord, fileSvar)                     \
+    X(chart, ChartRow, fileChart)                     \
+    X(fact, FactRecord, fileFact)                     \
+    X(highscore, HighScoreRecord, fileHighScore)      \
+    X(cb, BandRecord, fileCb)                         \
+    X(ca, ArtistRecord, fileCa)
+
+class Game {
+public:
+    explicit Game(std::filesystem::path dataFolder, uint64_t seed = 1);
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    std::filesystem::path dataDir;
+    Random rng;
+    // Milliseconds of real time; the desktop game uses the system clock, tests a fake one.
+    std::function<int64_t()> clock;
+
+    // Session state (saved in the session record of a save slot).
+    double gameDate = 0;
+    double gameStartDate = 0;
+    int16_t firstScheduleYear = 0;
+    int16_t lastScheduleYear = 0;
+    uint8_t eventRollsPerDay = 0;
+    PlayerBlock player{};
+    int16_t currentYear = 0;
+    Screen currentScreen = Screen::none;
+    Screen previousScreen = Screen::none;
+
+    // Told the name of each step of the day as it runs (trovane-sim --trace).
+    std::function<void(std::string_view)> trace;
+
+#define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
+    TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)
+    TROVANE_PER_USE_TABLES(TROVANE_TABLE_MEMBER)
+#undef TROVANE_TABLE_MEMBER
+};
+
+}  // namespace trovane

@@ -1,0 +1,188 @@
+#pragma once
+// How a record is declared, packed and dumped.
+//
+// Each record format is declared once, as a list of fields:
+//
+//   #define CITY_FIELDS(X) X(id, int16_t) X(name, Text<20>) X(size, uint8_t) X(country, uint8_t)
+//   TROVANE_RECORD(CityRecord, 24, id, CITY_FIELDS);
+//
+// From that one list come the struct, the packed little-endian codec, the
+// dump, and a compile-time check that the packed length is the file's record
+// length. Field kinds: uint8_t (byte), int16_t (integer or 16-bit boolean),
+// int32_t (long), float (single), double (date), Money (currency), Text<N>
+// (fixed string), std::array<T, N> (array), Reserved<N> (bytes kept as they
+// are but read by nothing), and any record declared the same way (nested).
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "world/cp1252.h"
+#include "world/numbers.h"
+
+namespace trovane {
+
+// A fixed string of N bytes. Held as UTF-8 without its blank padding; written
+// cut or blank-padded to exactly N Windows-1252 bytes.
+template <std::size_t N>
+struct Text {
+    std::string value;
+
+    Text() = default;
+    Text(const char* s) : value(s) {}
+    Text(std::string s) : value(std::move(s)) {}
+    Text(std::string_view s) : value(s) {}
+
+    Text& operator=(const char* s) { value = s; return *this; }
+    Text& operator=(std::string s) { value = std::move(s); return *this; }
+    Text& operator=(std::string_view s) { value = s; return *this; }
+
+    const std::string& str() const { return value; }
+    bool empty() const { return value.find_first_not_of(' ') == std::string::npos; }
+    friend bool operator==(const Text& a, const Text& b) { return a.value == b.value; }
+    friend bool operator==(const Text& a, std::string_view b) { return a.value == b; }
+    static constexpr std::size_t width = N;
+};
+
+template <std::size_t N>
+using Reserved = std::array<uint8_t, N>;
+
+template <class T> struct IsText : std::false_type {};
+template <std::size_t N> struct IsText<Text<N>> : std::true_type {};
+template <class T> struct IsStdArray : std::false_type {};
+template <class T, std::size_t N> struct IsStdArray<std::array<T, N>> : std::true_type {};
+
+template <class T>
+concept PackedRecord = requires { T::packedLength(); };
+
+// Bytes a field takes in the file.
+template <class T>
+constexpr std::size_t wireSize() {
+    if constexpr (IsText<T>::value) return T::width;
+    else if constexpr (IsStdArray<T>::value) return std::tuple_size_v<T> * wireSize<typename T::value_type>();
+    else if constexpr (PackedRecord<T>) return T::packedLength();
+    else {
+        static_assert(std::is_arithmetic_v<T>, "unknown field kind");
+        return sizeof(T);
+    }
+}
+
+namespace codec {
+
+template <class T>
+void putScalar(uint8_t* out, T v) {
+    using U = std::conditional_t<sizeof(T) == 1, uint8_t,
+              std::conditional_t<sizeof(T) == 2, uint16_t,
+              std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
+    U bits = std::bit_cast<U>(v);
+    for (std::size_t i = 0; i < sizeof(T); ++i) out[i] = static_cast<uint8_t>(bits >> (8 * i));
+}
+
+template <class T>
+T getScalar(const uint8_t* in) {
+    using U = std::conditional_t<sizeof(T) == 1, uint8_t,
+              std::conditional_t<sizeof(T) == 2, uint16_t,
+              std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
+    U bits = 0;
+    for (std::size_t i = 0; i < sizeof(T); ++i) bits |= static_cast<U>(static_cast<U>(in[i]) << (8 * i));
+    return std::bit_cast<T>(bits);
+}
+
+template <std::size_t N>
+void putText(uint8_t* out, const Text<N>& t) {
+    std::string bytes = utf8ToCp1252(t.value);
+    std::size_t n = bytes.size() < N ? bytes.size() : N;
+    std::memcpy(out, bytes.data(), n);
+    std::memset(out + n, ' ', N - n);
+}
+
+template <std::size_t N>
+void getText(const uint8_t* in, Text<N>& t) {
+    std::size_t n = N;
+    while (n > 0 && in[n - 1] == ' ') --n;
+    t.value = cp1252ToUtf8(std::string_view(reinterpret_cast<const char*>(in), n));
+}
+
+template <class T> void put(uint8_t*& out, const T& v);
+template <class T> void get(const uint8_t*& in, T& v);
+
+struct Writer {
+    uint8_t* out;
+    template <class T>
+    void operator()(const char*, const T& v) { put(out, v); }
+};
+
+struct Reader {
+    const uint8_t* in;
+    template <class T>
+    void operator()(const char*, T& v) { get(in, v); }
+};
+
+template <class T>
+void put(uint8_t*& out, const T& v) {
+    if constexpr (IsText<T>::value) { putText(out, v); out += T::width; }
+    else if constexpr (IsStdArray<T>::value) { for (const auto& e : v) put(out, e); }
+    else if constexpr (PackedRecord<T>) { Writer w{out}; T::forEachField(v, w); out = w.out; }
+    else { putScalar(out, v); out += sizeof(T); }
+}
+
+template <class T>
+void get(const uint8_t*& in, T& v) {
+    if constexpr (IsText<T>::value) { getText(in, v); in += T::width; }
+    else if constexpr (IsStdArray<T>::value) { for (auto& e : v) get(in, e); }
+    else if constexpr (PackedRecord<T>) { Reader r{in}; T::forEachField(v, r); in = r.in; }
+    else { v = getScalar<T>(in); in += sizeof(T); }
+}
+
+}  // namespace codec
+
+// Packs a record into exactly R::kLength bytes.
+template <PackedRecord R>
+void encodeRecord(const R& rec, uint8_t* out) {
+    codec::put(out, rec);
+}
+
+// Unpacks R::kLength bytes into a record.
+template <PackedRecord R>
+void decodeRecord(const uint8_t* in, R& rec) {
+    codec::get(in, rec);
+}
+
+}  // namespace trovane
+
+#define TROVANE_FIELD_MEMBER(name, ...) __VA_ARGS__ name{};
+#define TROVANE_FIELD_VISIT(name, ...) visit(#name, self.name);
+#define TROVANE_FIELD_SIZE(name, ...) +::trovane::wireSize<__VA_ARGS__>()
+
+#define TROVANE_RECORD_BODY(Type, length, FIELDS)                                        \
+    FIELDS(TROVANE_FIELD_MEMBER)                                                        \
+    static constexpr std::size_t kLength = length;                                      \
+    static constexpr const char* kTypeName = #Type;                                     \
+    template <class Self, class Visitor>                                                \
+    static void forEachField(Self& self, Visitor& visit) {                              \
+        FIELDS(TROVANE_FIELD_VISIT)                                                     \
+    }                                                                                   \
+    static constexpr std::size_t packedLength() { return 0 FIELDS(TROVANE_FIELD_SIZE); }
+
+// A record whose field idField holds its own record number.
+#define TROVANE_RECORD(Type, length, idField, FIELDS)                                    \
+    struct Type {                                                                       \
+        TROVANE_RECORD_BODY(Type, length, FIELDS)                                       \
+        static constexpr bool kHasId = true;                                            \
+        auto& ownNumber() { return idField; }                                           \
+        const auto& ownNumber() const { return idField; }                               \
+    };                                                                                  \
+    static_assert(Type::packedLength() == Type::kLength,                                \
+                  #Type " does not pack to its record length")
+
+// A record with no field of its own number (nested parts, one-record files).
+#define TROVANE_RECORD_NOID(Type, length, FIELDS)                                        \
+    struct Type {                                                                       \
+        TROVANE_RECORD_BODY(Type, length, FIELDS)                                       \
+        static constexpr bool kHasId = false;                                           \
+    };                                                                                  \
+    static_assert(Type::packedLength() == Type::kLength,                                \
+                  #Type " does not pack to its record length")

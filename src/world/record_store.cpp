@@ -1,0 +1,176 @@
+#include "world/record_store.h"
+
+#include <system_error>
+
+#include <fmt/format.h>
+
+#include "world/fatal_error.h"
+#include "world/strings.h"
+
+namespace trovane {
+
+namespace {
+
+bool createdEmptyWhenMissing(FileNo n) {
+    using enum FileNo;
+    return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist ||
+           n == fileChartRecs;
+}
+
+void copyFile(const fs::path& from, const fs::path& to) {
+    std::error_code ec;
+    if (!fs::exists(from, ec))
+        throw FatalError(fmt::format("The data file {} is missing", from.string()));
+    fs::copy_file(from, to, fs::copy_options::overwrite_existing, ec);
+    if (ec) throw FatalError(fmt::format("Cannot copy {} to {}: {}", from.string(), to.string(), ec.message()));
+}
+
+template <std::size_t N>
+bool nameMatches(const Text<N>& field, std::string_view name) {
+    if (trim(field.value) == name) return true;
+    std::string padded = field.value;
+    if (padded.size() < N) padded.append(N - padded.size(), ' ');
+    return padded == name;
+}
+
+template <PackedRecord R, class Matches>
+int32_t findIn(Table<R>& t, Matches matches) {
+    for (int32_t n = 1; n != t.recordCount(); ++n) {
+        t.read(n);
+        if (matches(t.rec)) return n;
+    }
+    return 0;
+}
+
+// Label and event keep their buffer: they are searched through a local copy.
+template <PackedRecord R, class Matches>
+int32_t findInCopy(Table<R>& t, Matches matches) {
+    R copy{};
+    for (int32_t n = 1; n != t.recordCount(); ++n) {
+        decodeRecord(t.bytesOf(n).data(), copy);
+        if (matches(copy)) return n;
+    }
+    return 0;
+}
+
+template <std::size_t A, std::size_t B>
+bool fullNameMatches(const Text<A>& fore, const Text<B>& sur, std::string_view name) {
+    if (trim(fore.value) + " " + trim(sur.value) == name) return true;
+    std::string f = fore.value, s = sur.value;
+    f.resize(std::max<std::size_t>(f.size(), A), ' ');
+    s.resize(std::max<std::size_t>(s.size(), B), ' ');
+    return f + " " + s == name;
+}
+
+}  // namespace
+
+TableBase& tableByNumber(Game& g, FileNo n) {
+    switch (n) {
+#define TROVANE_TABLE_CASE(member, Record, fileNo) \
+    case FileNo::fileNo:                           \
+        return g.member;
+        TROVANE_WORKING_TABLES(TROVANE_TABLE_CASE)
+        TROVANE_PER_USE_TABLES(TROVANE_TABLE_CASE)
+#undef TROVANE_TABLE_CASE
+    default:
+        throw FatalError(fmt::format("No table has file number {}", static_cast<int>(n)));
+    }
+}
+
+int32_t recordCount(Game& g, FileNo n) { return tableByNumber(g, n).recordCount(); }
+
+fs::path dataFile(const Game& g, std::string_view stem, std::string_view ext) {
+    return g.dataDir / fmt::format("{}.{}", stem, ext);
+}
+
+void openAllTables(Game& g, std::string_view ext) {
+    for (FileNo n : openAllOrder()) {
+        const auto& entry = catalogueEntry(n);
+        std::string_view useExt = entry.kind == FileKind::workingOnly ? "vel" : ext;
+        tableByNumber(g, n).open(dataFile(g, entry.stem, useExt),
+                                 createdEmptyWhenMissing(n) ? IfMissing::createEmpty : IfMissing::fail);
+    }
+}
+
+void closeAllTables(Game& g) {
+#define TROVANE_CLOSE(member, Record, fileNo) g.member.close();
+    TROVANE_WORKING_TABLES(TROVANE_CLOSE)
+    TROVANE_PER_USE_TABLES(TROVANE_CLOSE)
+#undef TROVANE_CLOSE
+}
+
+void flushAllTables(Game& g) {
+#define TROVANE_FLUSH(member, Record, fileNo) g.member.flush();
+    TROVANE_WORKING_TABLES(TROVANE_FLUSH)
+    TROVANE_PER_USE_TABLES(TROVANE_FLUSH)
+#undef TROVANE_FLUSH
+}
+
+void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
+    for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
+}
+
+void copyEmptyFile(Game& g, const fs::path& target) { copyFile(g.dataDir / "empty.gam", target); }
+
+int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
+    using enum FileNo;
+    switch (n) {
+    case fileBand: return findIn(g.band, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileCountry:
+        return findIn(g.country,
+                      [&](auto& r) { return nameMatches(r.name, name) || nameMatches(r.adjective, name); });
+    case fileCity: return findIn(g.city, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileJob: return findIn(g.job, [&](auto& r) { return nameMatches(r.title, name); });
+    case fileStyle: return findIn(g.style, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileLabel: return findInCopy(g.label, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileArtist:
+        return findIn(g.artist, [&](auto& r) { return fullNameMatches(r.forename, r.surname, name); });
+    case fileStaff:
+        return findIn(g.staff, [&](auto& r) { return fullNameMatches(r.forename, r.surname, name); });
+    case fileLook: return findIn(g.look, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileVenue: return findIn(g.venue, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileSong: return findIn(g.song, [&](auto& r) { return nameMatches(r.title, name); });
+    case fileEvent: return findInCopy(g.event, [&](auto& r) { return nameMatches(r.title, name); });
+    case fileAward: return findIn(g.award, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileCeremony: return findIn(g.ceremony, [&](auto& r) { return nameMatches(r.name, name); });
+    case fileNewAlbum: return findIn(g.newalbum, [&](auto& r) { return nameMatches(r.title, name); });
+    default:
+        throw FatalError(fmt::format("Table {} has no name to search by", catalogueEntry(n).table));
+    }
+}
+
+void openDayFile(Game& g, int year) {
+    g.dayIndex.open(dataFile(g, std::to_string(year), "vel"), IfMissing::fail);
+}
+void closeDayFile(Game& g) { g.dayIndex.close(); }
+
+void openChart(Game& g, int chartNumber) {
+    g.chart.open(dataFile(g, fmt::format("chart{}", chartNumber), "vel"), IfMissing::fail);
+}
+void closeChart(Game& g) { g.chart.close(); }
+
+namespace detail {
+
+void openScratch(Game& g, TableBase& scratch) {
+    fs::path tmp = g.dataDir / "tmp.tmp";
+    copyEmptyFile(g, tmp);
+    scratch.open(tmp, IfMissing::fail);
+}
+
+// The scratch file takes the table's place in one rename, so the table file is
+// never missing or half written.
+void replaceWithScratch(Game& g, TableBase& table, TableBase& scratch) {
+    static_cast<void>(g);
+    fs::path tmp = scratch.path();
+    fs::path target = table.path();
+    scratch.close();
+    table.close();
+    std::error_code ec;
+    fs::rename(tmp, target, ec);
+    if (ec) throw FatalError(fmt::format("Cannot replace {}: {}", target.string(), ec.message()));
+    table.open(target, IfMissing::fail);
+}
+
+}  // namespace detail
+
+}  // namespace trovane

@@ -1,0 +1,75 @@
+#pragma once
+// The record store: opening and closing the table set, counting, copying a
+// set of tables, finding a record by name, compaction and the per-use files.
+#include <cstdint>
+#include <filesystem>
+#include <string_view>
+
+#include "world/game.h"
+
+namespace trovane {
+
+// The table (working or per-use) that a file number names.
+TableBase& tableByNumber(Game& g, FileNo n);
+
+// The count of records of an open table plus one; 1 for an empty table.
+int32_t recordCount(Game& g, FileNo n);
+
+// "<dataDir>/<stem>.<ext>"
+std::filesystem::path dataFile(const Game& g, std::string_view stem, std::string_view ext);
+
+// Opens the working set. A table file the game fills itself (news, schedule,
+// offers, shortlist, chart records) is created empty when missing; any other
+// missing file is an error that names it.
+void openAllTables(Game& g, std::string_view ext = "vel");
+// Closes every open table, per-use ones included, writing back what changed.
+void closeAllTables(Game& g);
+// Writes back what changed in every open table, keeping them open.
+void flushAllTables(Game& g);
+
+// Copies every table file of the set (the ten charts included) from one
+// extension to the other. All tables must be closed.
+void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt);
+
+// Makes target an empty file by copying empty.gam, as every new scratch and day file is made.
+void copyEmptyFile(Game& g, const std::filesystem::path& target);
+
+// The first record whose name field equals name (trimmed or as stored), or 0.
+// Leaves the searched table's buffer on the last record read, except for
+// label and event, which are searched through a local copy.
+int32_t findRecordByName(Game& g, FileNo n, std::string_view name);
+
+void openDayFile(Game& g, int year);
+void closeDayFile(Game& g);
+void openChart(Game& g, int chartNumber);
+void closeChart(Game& g);
+
+// Rewrites a table without the records keep() refuses, numbering the kept
+// ones from 1, through the scratch file tmp.tmp; the table is open again after.
+template <PackedRecord R, class Keep>
+void compactTable(Game& g, Table<R>& table, Keep keep);
+
+namespace detail {
+void openScratch(Game& g, TableBase& scratch);
+void replaceWithScratch(Game& g, TableBase& table, TableBase& scratch);
+}  // namespace detail
+
+template <PackedRecord R, class Keep>
+void compactTable(Game& g, Table<R>& table, Keep keep) {
+    TableBase scratch(FileNo::fileTemp, R::kLength);
+    detail::openScratch(g, scratch);
+    int32_t out = 0;
+    std::array<uint8_t, R::kLength> bytes{};
+    for (int32_t n = 1; n != table.recordCount(); ++n) {
+        table.read(n);
+        if (!keep(table.rec)) continue;
+        ++out;
+        using IdType = std::remove_cvref_t<decltype(table.rec.ownNumber())>;
+        table.rec.ownNumber() = narrow<IdType>(out);
+        encodeRecord(table.rec, bytes.data());
+        scratch.putBytes(out, bytes);
+    }
+    detail::replaceWithScratch(g, table, scratch);
+}
+
+}  // namespace trovane

@@ -1,0 +1,141 @@
+#include "world/table.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include <fmt/format.h>
+
+#include "world/fatal_error.h"
+
+namespace trovane {
+
+TableBase::TableBase(FileNo number, std::size_t recordLength) : number_(number), length_(recordLength) {}
+
+TableBase::~TableBase() {
+    // A table dropped without close still writes back; errors cannot be reported here.
+    try {
+        close();
+    } catch (...) {
+    }
+}
+
+std::string TableBase::displayName() const {
+    return path_.empty() ? std::string(catalogueEntry(number_).table) : path_.string();
+}
+
+void TableBase::open(const fs::path& path, IfMissing ifMissing) {
+    close();
+    int flags = O_RDWR | O_CLOEXEC;
+    if (ifMissing == IfMissing::createEmpty) flags |= O_CREAT;
+    int fd = ::open(path.c_str(), flags, 0644);
+    if (fd < 0) {
+        if (errno == ENOENT)
+            throw FatalError(fmt::format("The data file {} is missing", path.string()));
+        throw FatalError(fmt::format("Cannot open {}: {}", path.string(), std::strerror(errno)));
+    }
+    struct stat st {};
+    if (::fstat(fd, &st) != 0) {
+        ::close(fd);
+        throw FatalError(fmt::format("Cannot read {}: {}", path.string(), std::strerror(errno)));
+    }
+    auto size = static_cast<std::size_t>(st.st_size);
+    if (length_ == 0 || size % length_ != 0) {
+        ::close(fd);
+        throw FatalError(fmt::format(
+            "The data file {} is damaged: its length of {} bytes is not a whole number of {}-byte records",
+            path.string(), size, length_));
+    }
+    std::vector<uint8_t> image(size);
+    std::size_t done = 0;
+    while (done < size) {
+        ssize_t got = ::pread(fd, image.data() + done, size - done, static_cast<off_t>(done));
+        if (got <= 0) {
+            int err = errno;
+            ::close(fd);
+            throw FatalError(fmt::format("Cannot read {}: {}", path.string(),
+                                         got == 0 ? "it ended early" : std::strerror(err)));
+        }
+        done += static_cast<std::size_t>(got);
+    }
+    fd_ = fd;
+    path_ = path;
+    image_ = std::move(image);
+    dirtyFrom_ = SIZE_MAX;
+    dirtyTo_ = 0;
+    truncated_ = false;
+}
+
+void TableBase::flush() {
+    if (fd_ < 0) return;
+    if (truncated_) {
+        if (::ftruncate(fd_, 0) != 0)
+            throw FatalError(fmt::format("Cannot write {}: {}", path_.string(), std::strerror(errno)));
+        truncated_ = false;
+    }
+    if (dirtyFrom_ >= dirtyTo_) return;
+    std::size_t at = dirtyFrom_;
+    while (at < dirtyTo_) {
+        ssize_t put = ::pwrite(fd_, image_.data() + at, dirtyTo_ - at, static_cast<off_t>(at));
+        if (put <= 0)
+            throw FatalError(fmt::format("Cannot write {}: {}", path_.string(), std::strerror(errno)));
+        at += static_cast<std::size_t>(put);
+    }
+    dirtyFrom_ = SIZE_MAX;
+    dirtyTo_ = 0;
+}
+
+void TableBase::close() {
+    if (fd_ < 0) return;
+    flush();
+    ::close(fd_);
+    fd_ = -1;
+    image_.clear();
+    image_.shrink_to_fit();
+}
+
+int32_t TableBase::recordCount() const {
+    requireOpen("count");
+    return narrow<int32_t>(image_.size() / length_ + 1);
+}
+
+void TableBase::requireOpen(const char* what) const {
+    if (fd_ < 0)
+        throw FatalError(fmt::format("Cannot {} table {}: it is not open", what,
+                                     catalogueEntry(number_).table));
+}
+
+void TableBase::missingRecord(int32_t n, const char* what) const {
+    throw FatalError(fmt::format("Cannot {} record {} of {}: it has {} records", what, n,
+                                 displayName(), records()));
+}
+
+std::span<const uint8_t> TableBase::bytesOf(int32_t n) const {
+    requireOpen("read");
+    if (n < 1 || n > records()) missingRecord(n, "read");
+    return {image_.data() + static_cast<std::size_t>(n - 1) * length_, length_};
+}
+
+void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
+    requireOpen("write");
+    if (n < 1 || n > records() + 1) missingRecord(n, "write");
+    std::size_t at = static_cast<std::size_t>(n - 1) * length_;
+    if (at + length_ > image_.size()) image_.resize(at + length_);
+    std::memcpy(image_.data() + at, bytes.data(), length_);
+    dirtyFrom_ = std::min(dirtyFrom_, at);
+    dirtyTo_ = std::max(dirtyTo_, at + length_);
+}
+
+void TableBase::clearAll() {
+    requireOpen("clear");
+    image_.clear();
+    dirtyFrom_ = SIZE_MAX;
+    dirtyTo_ = 0;
+    truncated_ = true;
+}
+
+}  // namespace trovane
