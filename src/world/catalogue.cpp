@@ -1,6 +1,8 @@
 #include "world/catalogue.h"
 
+#include <algorithm>
 #include <array>
+#include <cctype>
 
 #include "world/fatal_error.h"
 
@@ -91,6 +93,17 @@ const CatalogueEntry& catalogueEntry(FileNo n) {
 std::optional<FileNo> fileNoByTableName(std::string_view table) {
     for (const auto& e : kCatalogue)
         if (e.table == table) return e.number;
+    return std::nullopt;
+}
+
+std::optional<FileNo> tableOfFile(const std::filesystem::path& file) {
+    std::string stem = file.stem().string();
+    if (!stem.empty() && std::all_of(stem.begin(), stem.end(), [](unsigned char c) { return std::isdigit(c); }))
+        return FileNo::fileDay;
+    if (stem.size() == 6 && stem.starts_with("chart") && std::isdigit(static_cast<unsigned char>(stem[5])))
+        return FileNo::fileChart;
+    for (const auto& e : catalogue())
+        if (e.stem == stem) return e.number;
     return std::nullopt;
 }
 

@@ -2,6 +2,7 @@
 // The table catalogue: every file number of the game, its record length and
 // where its file lives.
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <span>
 #include <string>
@@ -41,6 +42,9 @@ struct CatalogueEntry {
 std::span<const CatalogueEntry> catalogue();
 const CatalogueEntry& catalogueEntry(FileNo n);
 std::optional<FileNo> fileNoByTableName(std::string_view table);
+
+// The table a file belongs to, from its name: "band.sg3" is band, "2005.vel" a day index.
+std::optional<FileNo> tableOfFile(const std::filesystem::path& file);
 
 // The tables openAllTables opens, in its order.
 std::span<const FileNo> openAllOrder();

@@ -44,6 +44,8 @@ struct Text {
     bool empty() const { return value.find_first_not_of(' ') == std::string::npos; }
     friend bool operator==(const Text& a, const Text& b) { return a.value == b.value; }
     friend bool operator==(const Text& a, std::string_view b) { return a.value == b; }
+    friend bool operator==(const Text& a, const char* b) { return a.value == b; }
+    friend bool operator==(const Text& a, const std::string& b) { return a.value == b; }
     static constexpr std::size_t width = N;
 };
 

@@ -43,17 +43,6 @@ std::string dateValue(double serial) {
 
 }  // namespace dump
 
-std::optional<FileNo> tableOfFile(const std::filesystem::path& file) {
-    std::string stem = file.stem().string();
-    if (!stem.empty() && std::all_of(stem.begin(), stem.end(), [](unsigned char c) { return std::isdigit(c); }))
-        return FileNo::fileDay;
-    if (stem.size() == 6 && stem.starts_with("chart") && std::isdigit(static_cast<unsigned char>(stem[5])))
-        return FileNo::fileChart;
-    for (const auto& e : catalogue())
-        if (e.stem == stem) return e.number;
-    return std::nullopt;
-}
-
 std::string dumpTableFile(const std::filesystem::path& file, FileNo n, DumpFormat fmt) {
     std::ifstream in(file, std::ios::binary);
     if (!in) throw FatalError(fmt::format("Cannot open {}", file.string()));

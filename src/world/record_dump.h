@@ -92,9 +92,6 @@ std::string recordToString(const R& rec, DumpFormat fmt) {
 // The file's record length must fit its table.
 std::string dumpTableFile(const std::filesystem::path& file, FileNo n, DumpFormat fmt);
 
-// The table a file belongs to, from its name: "band.sg3" is band, "2005.vel" a day index.
-std::optional<FileNo> tableOfFile(const std::filesystem::path& file);
-
 template <class F>
 decltype(auto) withRecordType(FileNo n, F&& f) {
     using enum FileNo;

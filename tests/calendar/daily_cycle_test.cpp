@@ -161,7 +161,7 @@ TEST_F(TwoYearsOfDays, YearEndSchedulesTheYearAfterNextOnlyFromTheSecondYear) {
     EXPECT_EQ(count(on(year{2004} / December / 31), "scheduleCeremonies"), 0);
     EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleFestivals"), 1);
     EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleCeremonies"), 1);
-    // Days that run no date step at all: 31 January, 30 December, a leap day.
+    // Days that run no date step at all: 31 January, 30 December.
     const std::vector<std::string> monthly = {"deliverMarketingReports", "updateLabelFinances",
                                               "checkPlayerControlledBands", "subtractBusinessRunningCosts",
                                               "bandPotentialCalculations", "updateBandTimeWithoutADeal",

@@ -1,0 +1,197 @@
+// Save slots: what a save holds, what a load brings back, and that a broken or
+// half-written slot never reaches the running game.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <map>
+
+#include "session/preferences.h"
+#include "session/save_load.h"
+#include "support/empty_game.h"
+#include "world/dates.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string readAll(const fs::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+// Every file of the data folder with the given extension, by name.
+std::map<std::string, std::string> filesWithExt(const fs::path& dir, const std::string& ext) {
+    std::map<std::string, std::string> out;
+    for (const auto& e : fs::directory_iterator(dir))
+        if (e.path().extension() == "." + ext) out[e.path().stem().string()] = readAll(e.path());
+    return out;
+}
+
+class SaveSlots : public ::testing::Test {
+protected:
+    test::EmptyGame eg;
+    Game& g = eg.g;
+
+    void SetUp() override {
+        // A small game in progress: a label, a band, a news item, three years of schedule.
+        g.label.rec.name = "Quarry Records";
+        g.label->cashBalance = moneyUnits(250000);
+        g.label->reputation = {40, 20, 15, 10, 5};
+        g.player.playerLabel = narrow<int16_t>(g.label.append());
+        g.player.playerForename = "Ann";
+        g.player.playerSurname = "Lee";
+        g.player.gameNumber = 7;
+        g.band.rec.name = "The Paper Lanterns";
+        g.band.append();
+        g.gameDate = serialFromCivil(2006, 3, 9);
+        g.lastScheduleYear = 2006;
+        makeYearFiles();
+    }
+
+    void makeYearFiles() {
+        for (int y = g.firstScheduleYear; y <= g.lastScheduleYear; ++y) {
+            fs::path p = dataFile(g, std::to_string(y), "vel");
+            if (fs::exists(p)) continue;
+            copyEmptyFile(g, p);
+            openDayFile(g, y);
+            g.dayIndex.rec = DayRecord{};
+            for (int d = 1; d <= daysInYear(y); ++d) g.dayIndex.write(d);
+            closeDayFile(g);
+        }
+    }
+
+    std::map<std::string, std::string> workingSet() {
+        flushAllTables(g);
+        return filesWithExt(g.dataDir, "vel");
+    }
+};
+
+TEST_F(SaveSlots, SaveLoadAndSaveAgainGiveIdenticalFiles) {
+    saveGame(g, 2, "First save");
+    auto firstSave = filesWithExt(g.dataDir, "sg2");
+    EXPECT_EQ(firstSave.size(), 47u + 3u + 1u);  // the table set, 2004 to 2006, svar
+    loadGame(g, 2);
+    saveGame(g, 3, "First save");
+    auto secondSave = filesWithExt(g.dataDir, "sg3");
+    EXPECT_EQ(firstSave, secondSave);
+}
+
+TEST_F(SaveSlots, LoadBringsBackTheSessionAndEveryYearFile) {
+    g.lastScheduleYear = 2008;
+    makeYearFiles();
+    saveGame(g, 1, "  Spring 2006  ");
+    EXPECT_EQ(slotName(g, 1), "Spring 2006");
+    EXPECT_EQ(slotName(g, 4), "None");
+
+    double savedDate = g.gameDate;
+    g.gameDate += 40;
+    g.player.playerLabelCash = moneyUnits(1);
+    g.band.read(1);
+    g.band->name = "Changed";
+    g.band.write(1);
+    fs::remove(dataFile(g, "2008", "vel"));
+
+    loadGame(g, 1);
+    EXPECT_EQ(g.gameDate, savedDate);
+    EXPECT_EQ(g.lastScheduleYear, 2008);
+    EXPECT_EQ(g.player.gameNumber, 7);
+    EXPECT_EQ(g.player.playerLabelCash, 0);
+    g.band.read(1);
+    EXPECT_EQ(g.band->name, "The Paper Lanterns");
+    EXPECT_TRUE(fs::exists(dataFile(g, "2008", "vel")));
+}
+
+TEST_F(SaveSlots, OverwriteDeleteAndDetails) {
+    saveGame(g, 5, "Old");
+    g.gameDate += 10;
+    saveGame(g, 5, "New");  // a used slot is overwritten without a question
+    EXPECT_EQ(slotName(g, 5), "New");
+    SlotDetails d = slotDetails(g, 5);
+    EXPECT_EQ(d.gameDate, g.gameDate);
+    EXPECT_EQ(d.labelName, "Quarry Records");
+    EXPECT_EQ(d.cash, moneyUnits(250000));
+    EXPECT_EQ(d.reputation[0], 40);
+    EXPECT_EQ(d.playerForename + " " + d.playerSurname, "Ann Lee");
+
+    deleteSlot(g, 5);
+    EXPECT_EQ(slotName(g, 5), "None");
+    saveGame(g, 5, "Again");  // a deleted slot takes a new save
+    EXPECT_EQ(slotName(g, 5), "Again");
+    readPrefs(g);
+    EXPECT_EQ(g.prefs->slotUsed[5], kTrue);
+}
+
+struct Damage {
+    const char* what;
+    void (*apply)(const fs::path& dataDir);
+};
+
+class BrokenSlot : public SaveSlots, public ::testing::WithParamInterface<Damage> {};
+
+TEST_P(BrokenSlot, IsRefusedAndTheRunningGameIsUntouched) {
+    saveGame(g, 6, "To be damaged");
+    GetParam().apply(g.dataDir);
+    g.band.read(1);
+    g.band->name = "Running game";
+    g.band.write(1);
+    double date = g.gameDate;
+    auto before = workingSet();
+    EXPECT_THROW(loadGame(g, 6), SlotError);
+    EXPECT_EQ(workingSet(), before);
+    EXPECT_EQ(g.gameDate, date);
+    g.band.read(1);  // the working set is still open and usable
+    EXPECT_EQ(g.band->name, "Running game");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SaveSlots, BrokenSlot,
+    ::testing::Values(
+        Damage{"MissingTable", [](const fs::path& d) { fs::remove(d / "band.sg6"); }},
+        Damage{"MissingYear", [](const fs::path& d) { fs::remove(d / "2005.sg6"); }},
+        Damage{"TruncatedTable", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 649); }},
+        Damage{"ShortYear", [](const fs::path& d) { fs::resize_file(d / "2004.sg6", 4004 * 365); }},
+        Damage{"TruncatedSession", [](const fs::path& d) { fs::resize_file(d / "svar.sg6", 100); }},
+        Damage{"GarbledSession",
+               [](const fs::path& d) {
+                   std::fstream f(d / "svar.sg6", std::ios::in | std::ios::out | std::ios::binary);
+                   f.seekp(40);
+                   f.write("\xff\x7f\x00\x00", 4);  // years out of all reason
+               }},
+        Damage{"MissingSession", [](const fs::path& d) { fs::remove(d / "svar.sg6"); }}),
+    [](const auto& info) { return std::string(info.param.what); });
+
+TEST_F(SaveSlots, AnInterruptedSaveLeavesTheOldGameLoadable) {
+    saveGame(g, 8, "Old game");
+    double oldDate = g.gameDate;
+    // A save that died after copying half its files: staged, never marked complete.
+    fs::path staging = g.dataDir / ".saving.sg8";
+    fs::create_directories(staging);
+    fs::copy_file(dataFile(g, "band", "vel"), staging / "band.sg8");
+    std::ofstream(staging / "svar.sg8") << "half";
+    g.gameDate += 100;
+    loadGame(g, 8);
+    EXPECT_EQ(g.gameDate, oldDate);
+    EXPECT_EQ(slotName(g, 8), "Old game");
+    EXPECT_FALSE(fs::exists(staging));
+}
+
+TEST_F(SaveSlots, ASaveInterruptedWhileMovingIntoPlaceIsFinished) {
+    saveGame(g, 9, "Before");
+    g.gameDate += 3;
+    saveGame(g, 0, "After");  // the files a finished save would move into slot 9
+    fs::path staging = g.dataDir / ".saving.sg9";
+    fs::create_directories(staging);
+    for (const auto& [stem, bytes] : filesWithExt(g.dataDir, "sg0")) {
+        if (stem == "band") continue;  // already moved before the crash
+        std::ofstream(staging / (stem + ".sg9"), std::ios::binary) << bytes;
+    }
+    std::ofstream(staging / "COMPLETE") << "complete\n";
+    recoverInterruptedSaves(g);
+    EXPECT_EQ(slotName(g, 9), "After");
+    loadGame(g, 9);
+    EXPECT_EQ(g.gameDate, slotDetails(g, 0).gameDate);
+}
+
+}  // namespace
