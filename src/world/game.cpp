@@ -1,5 +1,7 @@
 #include "world/game.h"
 
+#include "world/dates.h"
+
 namespace trovane {
 
 Game::Game(std::filesystem::path dataFolder, uint64_t seed)
@@ -7,6 +9,12 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
           return std::chrono::duration_cast<std::chrono::milliseconds>(
                      std::chrono::steady_clock::now().time_since_epoch())
               .count();
+      }),
+      clockDate([] {
+          auto today = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
+          std::chrono::year_month_day ymd{today};
+          return serialFromCivil(static_cast<int>(ymd.year()), static_cast<unsigned>(ymd.month()),
+                                 static_cast<unsigned>(ymd.day()));
       }) {}
 
 }  // namespace trovane

@@ -97,8 +97,14 @@ public:
     Screen currentScreen = Screen::none;
     Screen previousScreen = Screen::none;
 
+    // The computer's calendar date as a day serial (the player's age and first
+    // contract are reckoned from it when a game starts); tests fix it.
+    std::function<double()> clockDate;
+
     // Told the name of each step of the day as it runs (trovane-sim --trace).
     std::function<void(std::string_view)> trace;
+    // Told how far long work (a new game, a save, a load) has come, 0 to 100.
+    std::function<void(int percent)> progress;
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)
