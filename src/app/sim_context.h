@@ -33,6 +33,7 @@ private:
 };
 
 // Each group of verbs adds its subcommands here.
-void addWorldVerbs(CLI::App& app, SimContext& ctx);  // init, status, advance, dump
+void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
+void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
 
 }  // namespace trovane::sim

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include "app/sim_context.h"
+#include "session/save_load.h"
 #include "world/fatal_error.h"
 
 int main(int argc, char** argv) {
@@ -17,10 +18,14 @@ int main(int argc, char** argv) {
     app.add_flag("--json", ctx.json, "Machine-readable output");
     app.fallthrough();
     addWorldVerbs(app, ctx);
+    addSessionVerbs(app, ctx);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
         return app.exit(e);
+    } catch (const trovane::SlotError& e) {
+        std::fprintf(stderr, "trovane-sim: %s\n", e.what());
+        return 2;
     } catch (const trovane::FatalError& e) {
         std::fprintf(stderr, "trovane-sim: %s\n", e.what());
         return 2;

@@ -1,10 +1,35 @@
 #include "label/image.h"
 
+#include <algorithm>
+
 #include "world/game.h"
 
 namespace trovane {
 
 // Not built yet: each runs as an empty step of the day until its rules are written.
 void deliverMarketingReports(Game& g) { static_cast<void>(g); }
+
+
+uint8_t rateLook(Game& g) {
+    const ArtistRecord& a = g.artist.rec;
+    const LookRecord& look = g.look.rec;
+    // Attributes in the order of the look's bounds.
+    const int values[8] = {a.charisma, a.controversy, a.flair, a.dancing, a.live, a.attitude, a.angst, a.visual};
+    int penalty = 0;
+    for (std::size_t i = 0; i < 8; ++i) {
+        int low = look.bounds[2 * i], high = look.bounds[2 * i + 1];
+        if (values[i] < low) penalty += low - values[i];
+        else if (values[i] > high) penalty += values[i] - high;
+    }
+    int rating = 50 - penalty;
+    for (int32_t n = 1; n != g.asslook.recordCount(); ++n) {
+        g.asslook.read(n);
+        if (g.asslook->a == look.id && g.asslook->b == a.style) {
+            rating += g.asslook->weight;
+            break;
+        }
+    }
+    return static_cast<uint8_t>(std::clamp(rating, 0, 100));
+}
 
 }  // namespace trovane

@@ -6,5 +6,6 @@ namespace trovane {
 
 // Not built yet: each runs as an empty step of the day until its rules are written.
 void subtractBusinessRunningCosts(Game& g) { static_cast<void>(g); }
+void setBusinessCharge(Game& g) { static_cast<void>(g); }
 
 }  // namespace trovane

@@ -6,5 +6,7 @@ namespace trovane {
 class Game;
 
 void subtractBusinessRunningCosts(Game& g);
+// A firm's charge from its quality and size, set on every firm when a game starts.
+void setBusinessCharge(Game& g);
 
 }  // namespace trovane
