@@ -9,4 +9,7 @@ class Game;
 // Carries out every schedule entry of gameDate, in the order they were filed.
 void performDaysEvents(Game& g);
 
+// Makes the day index file of a year.
+void addScheduleYear(Game& g, int year);
+
 }  // namespace trovane
