@@ -1,0 +1,86 @@
+#include "support/tiny_world.h"
+
+#include <fstream>
+
+#include "world/game.h"
+#include "world/record_store.h"
+
+namespace trovane::test {
+
+void writeTinyBaseWorld(const std::filesystem::path& dataDir) {
+    std::filesystem::create_directories(dataDir);
+    std::ofstream(dataDir / "empty.gam", std::ios::binary);
+    Game g(dataDir, 1);
+    for (auto stem : tableSetStems()) copyEmptyFile(g, dataFile(g, stem, "gam"));
+    for (const char* file : {"fact.gam", "cb.gam", "ca.gam", "highscore.gam"}) copyEmptyFile(g, dataDir / file);
+    openAllTables(g, "gam");
+
+    struct Country {
+        const char* name;
+        const char* adjective;
+        const char* region;
+        const char* city;
+    };
+    const Country countries[] = {
+        {"England", "English", "E", "London"},       {"Scotland", "Scottish", "E", "Glasgow"},
+        {"France", "French", "E", "Paris"},          {"Canada", "Canadian", "N", "Toronto"},
+        {"New Zealand", "New Zealander", "O", "Auckland"}, {"Brazil", "Brazilian", "S", "Rio de Janeiro"},
+    };
+    for (const auto& c : countries) {
+        g.country.rec = CountryRecord{};
+        g.country->name = c.name;
+        g.country->adjective = c.adjective;
+        g.country->region = c.region;
+        int32_t n = g.country.append();
+        g.city.rec = CityRecord{};
+        g.city->name = c.city;
+        g.city->size = 10;
+        g.city->country = static_cast<uint8_t>(n);
+        g.city.append();
+    }
+    for (const char* name : {"Indie Rock", "Legend"}) {
+        g.style.rec = StyleRecord{};
+        g.style->name = name;
+        g.style->lifeSpan = 10;
+        g.style.append();
+    }
+    g.label.rec = LabelRecord{};
+    g.label->name = "Greystone Music";
+    g.label->cashBalance = moneyUnits(4500000);
+    g.label->reputation = {70, 55, 60, 40, 35};
+    g.label->city = 1;
+    int32_t label = g.label.append();
+
+    g.staff.rec = StaffRecord{};
+    g.staff->forename = "Morag";
+    g.staff->surname = "Dunbar";
+    g.staff->ability = 60;
+    g.staff->reputation = {50, 30, 40, 20, 10};
+    g.staff->employer = static_cast<int16_t>(label);
+    int32_t boss = g.staff.append();
+    g.label.read(label);
+    g.label->boss = static_cast<int16_t>(boss);
+    g.label.write(label);
+
+    g.artist.rec = ArtistRecord{};
+    g.artist->forename = "Tess";
+    g.artist->surname = "Calloway";
+    g.artist->age = 24;
+    g.artist->stamina = 70;
+    g.artist->style = 1;
+    int32_t artist = g.artist.append();
+    g.band.rec = BandRecord{};
+    g.band->name = "Tess Calloway";
+    g.band->style = 1;
+    g.band->label = static_cast<int16_t>(label);
+    g.band->memberCount = 1;
+    g.band->members[0] = static_cast<int16_t>(artist);
+    g.band->reputation = {45, 10, 20, 5, 5};
+    int32_t band = g.band.append();
+    g.artist.read(artist);
+    g.artist->band = static_cast<int16_t>(band);
+    g.artist.write(artist);
+    closeAllTables(g);
+}
+
+}  // namespace trovane::test
