@@ -140,8 +140,8 @@ void FieldReader::decode(const toml::node& n, const std::string& path, T& out) {
     if constexpr (IsText<T>::value) {
         auto s = text(n, path, T::width);
         if (!s) return;
-        if (const LetterRule* rule = lettersFor(path); rule && !s->empty() &&
-                                                      rule->allowed.find(*s) == std::string_view::npos) {
+        if (const LetterRule* rule = lettersFor(path);
+            rule && (s->size() != 1 || rule->allowed.find(*s) == std::string_view::npos)) {
             problem(n, fmt::format("`{}` = \"{}\" is not one of the letters {}", path, *s, rule->allowed));
             return;
         }
