@@ -1,8 +1,94 @@
 #include "label/finances.h"
 
+#include <algorithm>
+
+#include <fmt/format.h>
+
 #include "world/game.h"
 
 namespace trovane {
+
+namespace {
+
+std::size_t marketIndex(int market) {
+    if (market < 0 || market > 4) throw FatalError(fmt::format("There is no market {}", market));
+    return static_cast<std::size_t>(market);
+}
+
+void book(Game& g, Money amount, int category) {
+    LabelRecord& label = g.label.rec;
+    for (int period : {0, 2}) {
+        Money& entry = ledgerEntry(label, period, category);
+        entry = addMoney(entry, amount);
+    }
+    label.cashBalance = addMoney(label.cashBalance, amount);
+    g.label.write();
+    if (label.id != 0 && label.id == g.player.playerLabel) g.player.playerLabelCash = label.cashBalance;
+}
+
+}  // namespace
+
+Money addMoney(Money a, Money b) {
+    Money out = 0;
+    if (__builtin_add_overflow(a, b, &out))
+        throwOverflow("64-bit", static_cast<double>(a) + static_cast<double>(b));
+    return out;
+}
+
+Money& ledgerEntry(LabelRecord& label, int period, int category) {
+    if (period < 0 || period > 2) throw FatalError(fmt::format("There is no ledger period {}", period));
+    LedgerPeriod& p = label.period[static_cast<std::size_t>(period)];
+    if (category >= ledgerWages && category <= ledgerOtherExpense)
+        return p.expense[static_cast<std::size_t>(category - ledgerWages)];
+    if (category >= ledgerUnlistedIncome && category <= ledgerOtherIncome)
+        return p.income[static_cast<std::size_t>(category - ledgerUnlistedIncome)];
+    throw FatalError(fmt::format("There is no ledger category {}", category));
+}
+
+void addIncome(Game& g, Money amount, int category) { book(g, amount, category); }
+
+void addExpense(Game& g, Money amount, int category) {
+    if (amount == INT64_MIN) throwOverflow("64-bit", -static_cast<double>(amount));
+    book(g, -amount, category);
+}
+
+void addLabelPoints(Game& g, int market, int32_t amount) {
+    std::size_t m = marketIndex(market);
+    g.label->points[m] = narrow<int32_t>(static_cast<int64_t>(g.label->points[m]) + amount);
+    g.label.write();
+    // Earners are taken from the buffer before it can be read over.
+    std::array<int16_t, 7> earners{};
+    earners[0] = g.label->boss;
+    for (std::size_t d = 0; d < 6; ++d) earners[d + 1] = g.label->department[d].head;
+    for (int16_t s : earners) {
+        if (s <= 0) continue;
+        g.staff.read(s);
+        addStaffPoints(g, market, amount);
+    }
+}
+
+void addStaffPoints(Game& g, int market, int32_t amount) {
+    std::size_t m = marketIndex(market);
+    g.staff->points[m] = narrow<int32_t>(static_cast<int64_t>(g.staff->points[m]) + amount);
+    g.staff.write();
+}
+
+void addLabelHype(Game& g, const std::array<int16_t, 5>& deltas) {
+    LabelRecord& label = g.label.rec;
+    for (std::size_t m = 0; m < 5; ++m) {
+        if (deltas[m] > 0) label.hype[m] = narrow<int16_t>(label.hype[m] + deltas[m]);
+        int reputation = label.reputation[m];
+        if (label.hype[m] > reputation) {
+            reputation = std::clamp(reputation + 1, 0, 100);
+            label.hype[m] = narrow<int16_t>(label.hype[m] - reputation);
+        } else if (label.hype[m] < -100) {
+            reputation = std::clamp(reputation - 1, 0, 100);
+            label.hype[m] = narrow<int16_t>(-reputation);
+        }
+        label.reputation[m] = static_cast<uint8_t>(reputation);
+    }
+    g.label.write();
+}
 
 // Not built yet: each runs as an empty step of the day until its rules are written.
 void takeLabelWages(Game& g) { static_cast<void>(g); }

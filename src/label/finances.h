@@ -1,9 +1,63 @@
 #pragma once
-// A label's books.
+// A label's books: every sum of money the game moves goes through addIncome or
+// addExpense with a category, so the three periods of the balance sheet always
+// add up to what the cash balance did.
+#include <array>
+#include <cstdint>
+
+#include "world/numbers.h"
 
 namespace trovane {
 
 class Game;
+struct LabelRecord;
+
+// Ledger categories. Expenses 100 to 107, income 108 to 113.
+enum LedgerCategory : int {
+    ledgerWages = 100,
+    ledgerAdvances = 101,
+    ledgerProduction = 102,
+    ledgerStudioFees = 103,
+    ledgerManufacture = 104,
+    ledgerBusinessUpkeep = 105,
+    ledgerRoyaltiesPaid = 106,
+    ledgerOtherExpense = 107,
+    ledgerUnlistedIncome = 108,
+    ledgerRecordSales = 109,
+    ledgerInvestments = 110,
+    ledgerBusinesses = 111,
+    ledgerRecoupedAdvances = 112,
+    ledgerOtherIncome = 113,
+};
+
+// a + b; a sum past the 64 bits of a currency field is a fatal error.
+Money addMoney(Money a, Money b);
+
+// The running total of a category in one period of the label (0 this month,
+// 1 last month, 2 this year). A category outside 100 to 113 is a fatal error.
+Money& ledgerEntry(LabelRecord& label, int period, int category);
+
+// On the current label: the amount is added to the category in this month and
+// this year (never last month) and to the cash balance, and the label is
+// written. For the player's label the session's copy of the cash, which the
+// status bar shows, follows.
+void addIncome(Game& g, Money amount, int category);
+// The same, the amount taken from the cash balance.
+void addExpense(Game& g, Money amount, int category);
+
+// On the current label: the market's points are raised, the label written, and
+// the boss and every department head earn the same points.
+void addLabelPoints(Game& g, int market, int32_t amount);
+
+// On the current staff member: the market's points are raised and the record written.
+void addStaffPoints(Game& g, int market, int32_t amount);
+
+// On the current label, for each market with a positive delta: the hype meter
+// rises by it, and once it passes the reputation the reputation goes up one and
+// the meter starts again from what is left over; a meter below -100 costs a
+// point of reputation and restarts at minus the new reputation. Reputation
+// stays within 0 to 100. The label is written.
+void addLabelHype(Game& g, const std::array<int16_t, 5>& deltas);
 
 void takeLabelWages(Game& g);
 void updateLabelFinances(Game& g);

@@ -113,6 +113,7 @@ std::string formatMoney(const Game& g, Money amount, std::string_view mask) {
 
 std::string formatMoneyValue(const Game& g, double units, std::string_view mask) {
     double rate = static_cast<double>(g.prefs.rec.exchangeRate);
+    if (rate == 0) rate = 1;  // a record never given a currency shows pounds, not zeros
     return g.prefs.rec.currencySymbol.value + formatNumber(units * rate, mask);
 }
 

@@ -24,7 +24,7 @@ std::string_view weekdayName(int weekday);  // 1 Sunday
 std::string_view monthName(unsigned month);  // 1 January
 
 // Game money as the player sees it: the preferences' symbol, then the amount
-// times the exchange rate through the mask.
+// times the exchange rate through the mask. A rate of 0 counts as 1.
 std::string formatMoney(const Game& g, Money amount, std::string_view mask);
 // A plain figure already in whole base units (advances, fees) shown the same way.
 std::string formatMoneyValue(const Game& g, double units, std::string_view mask);

@@ -2,68 +2,85 @@
 
 #include <fstream>
 
-#include "world/catalogue.h"
-#include "world/numbers.h"
-#include "world/records.h"
-#include "world/table.h"
+#include "world/game.h"
+#include "world/record_store.h"
 
 namespace trovane::test {
 
-namespace fs = std::filesystem;
+void writeTinyBaseWorld(const std::filesystem::path& dataDir) {
+    std::filesystem::create_directories(dataDir);
+    std::ofstream(dataDir / "empty.gam", std::ios::binary);
+    Game g(dataDir, 1);
+    for (auto stem : tableSetStems()) copyEmptyFile(g, dataFile(g, stem, "gam"));
+    for (const char* file : {"fact.gam", "cb.gam", "ca.gam", "highscore.gam"}) copyEmptyFile(g, dataDir / file);
+    openAllTables(g, "gam");
 
-namespace {
+    struct Country {
+        const char* name;
+        const char* adjective;
+        const char* region;
+        const char* city;
+    };
+    const Country countries[] = {
+        {"England", "English", "E", "London"},       {"Scotland", "Scottish", "E", "Glasgow"},
+        {"France", "French", "E", "Paris"},          {"Canada", "Canadian", "N", "Toronto"},
+        {"New Zealand", "New Zealander", "O", "Auckland"}, {"Brazil", "Brazilian", "S", "Rio de Janeiro"},
+    };
+    for (const auto& c : countries) {
+        g.country.rec = CountryRecord{};
+        g.country->name = c.name;
+        g.country->adjective = c.adjective;
+        g.country->region = c.region;
+        int32_t n = g.country.append();
+        g.city.rec = CityRecord{};
+        g.city->name = c.city;
+        g.city->size = 10;
+        g.city->country = static_cast<uint8_t>(n);
+        g.city.append();
+    }
+    for (const char* name : {"Indie Rock", "Legend"}) {
+        g.style.rec = StyleRecord{};
+        g.style->name = name;
+        g.style->lifeSpan = 10;
+        g.style.append();
+    }
+    g.label.rec = LabelRecord{};
+    g.label->name = "Greystone Music";
+    g.label->cashBalance = moneyUnits(4500000);
+    g.label->reputation = {70, 55, 60, 40, 35};
+    g.label->city = 1;
+    int32_t label = g.label.append();
 
-template <class R, class Fill>
-void addRecord(const fs::path& dir, FileNo n, const char* stem, Fill fill) {
-    Table<R> t(n);
-    t.open(dir / (std::string(stem) + ".gam"), IfMissing::createEmpty);
-    t.rec = R{};
-    fill(t.rec);
-    t.append();
-    t.close();
-}
+    g.staff.rec = StaffRecord{};
+    g.staff->forename = "Morag";
+    g.staff->surname = "Dunbar";
+    g.staff->ability = 60;
+    g.staff->reputation = {50, 30, 40, 20, 10};
+    g.staff->employer = static_cast<int16_t>(label);
+    int32_t boss = g.staff.append();
+    g.label.read(label);
+    g.label->boss = static_cast<int16_t>(boss);
+    g.label.write(label);
 
-}  // namespace
-
-void writeTinyWorld(const fs::path& dir) {
-    fs::create_directories(dir);
-    std::ofstream(dir / "empty.gam", std::ios::binary).close();
-    for (auto stem : tableSetStems()) std::ofstream(dir / (std::string(stem) + ".gam"), std::ios::binary).close();
-
-    struct Country { const char* name; const char* adjective; const char* region; };
-    for (Country c : {Country{"England", "English", "E"}, Country{"France", "French", "E"},
-                      Country{"United States", "American", "N"}})
-        addRecord<CountryRecord>(dir, FileNo::fileCountry, "country", [&](CountryRecord& r) {
-            r.name = c.name;
-            r.adjective = c.adjective;
-            r.region = c.region;
-        });
-    struct City { const char* name; uint8_t country; };
-    for (City c : {City{"London", 1}, City{"Manchester", 1}, City{"Paris", 2}, City{"New York", 3}})
-        addRecord<CityRecord>(dir, FileNo::fileCity, "city", [&](CityRecord& r) {
-            r.name = c.name;
-            r.country = c.country;
-            r.size = 5;
-        });
-    for (const char* style : {"Rock", "Pop"})
-        addRecord<StyleRecord>(dir, FileNo::fileStyle, "style", [&](StyleRecord& r) { r.name = style; });
-    addRecord<LabelRecord>(dir, FileNo::fileLabel, "label", [](LabelRecord& r) {
-        r.name = "Quarry Records";
-        r.city = 1;
-        r.picture = "none.jpg";
-        r.cashBalance = moneyUnits(2500000);
-        r.reputation = {30, 10, 20, 5, 5};
-    });
-    addRecord<BandRecord>(dir, FileNo::fileBand, "band", [](BandRecord& r) {
-        r.name = "The Paper Lanterns";
-        r.label = 1;
-        r.style = 1;
-        r.picture = "none.jpg";
-    });
-    for (const char* line : {"The week's record sales are counted every Sunday.",
-                             "Friday is pay day for every label in the business.",
-                             "Saturday is the one day of the week on which no weekly business runs."})
-        addRecord<FactRecord>(dir, FileNo::fileFact, "fact", [&](FactRecord& r) { r.text = line; });
+    g.artist.rec = ArtistRecord{};
+    g.artist->forename = "Tess";
+    g.artist->surname = "Calloway";
+    g.artist->age = 24;
+    g.artist->stamina = 70;
+    g.artist->style = 1;
+    int32_t artist = g.artist.append();
+    g.band.rec = BandRecord{};
+    g.band->name = "Tess Calloway";
+    g.band->style = 1;
+    g.band->label = static_cast<int16_t>(label);
+    g.band->memberCount = 1;
+    g.band->members[0] = static_cast<int16_t>(artist);
+    g.band->reputation = {45, 10, 20, 5, 5};
+    int32_t band = g.band.append();
+    g.artist.read(artist);
+    g.artist->band = static_cast<int16_t>(band);
+    g.artist.write(artist);
+    closeAllTables(g);
 }
 
 }  // namespace trovane::test

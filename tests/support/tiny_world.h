@@ -1,11 +1,11 @@
 #pragma once
-// A base world small enough to write by hand: every table of the set as an
-// empty .gam file, plus three countries, four cities, two styles, a label
-// with one band, and a few "did you know" lines.
+// A small base world (*.gam) in a temporary folder: a few countries with
+// cities, two styles, a rival label with a signed band, and every other table
+// present and empty, as a new game expects.
 #include <filesystem>
 
 namespace trovane::test {
 
-void writeTinyWorld(const std::filesystem::path& dataDir);
+void writeTinyBaseWorld(const std::filesystem::path& dataDir);
 
 }  // namespace trovane::test

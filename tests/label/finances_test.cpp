@@ -1,0 +1,47 @@
+// The label's books: every amount lands in its category, this month and this
+// year, and in the cash the status bar shows.
+#include <gtest/gtest.h>
+
+#include "label/finances.h"
+#include "support/empty_game.h"
+
+using namespace trovane;
+
+TEST(LabelFinances, IncomeAndExpensesLandInThisMonthAndThisYearOnly) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label.append();  // a rival
+    g.player.playerLabel = narrow<int16_t>(g.label.append());
+    addIncome(g, moneyUnits(500), ledgerRecordSales);
+    addExpense(g, moneyUnits(200), ledgerWages);
+    addIncome(g, moneyUnits(7), ledgerOtherIncome);
+
+    g.label.read(g.player.playerLabel);
+    for (int period : {0, 2}) {
+        EXPECT_EQ(ledgerEntry(g.label.rec, period, ledgerRecordSales), moneyUnits(500));
+        EXPECT_EQ(ledgerEntry(g.label.rec, period, ledgerWages), -moneyUnits(200));
+        EXPECT_EQ(ledgerEntry(g.label.rec, period, ledgerOtherIncome), moneyUnits(7));
+    }
+    for (Money m : g.label->period[1].income) EXPECT_EQ(m, 0);
+    for (Money m : g.label->period[1].expense) EXPECT_EQ(m, 0);
+    EXPECT_EQ(g.label->cashBalance, moneyUnits(307));
+    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(307));
+
+    g.label.read(1);
+    addExpense(g, moneyUnits(999), ledgerStudioFees);
+    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(307)) << "a rival's money is not the player's";
+    EXPECT_THROW(addIncome(g, 1, 114), FatalError);
+    EXPECT_THROW(addExpense(g, 1, 99), FatalError);
+}
+
+TEST(LabelFinances, HypeRaisesReputationOnceItPassesIt) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label->reputation = {10, 10, 100, 5, 50};
+    g.label->hype = {5, 0, 100, -101, 0};
+    g.label.append();
+    addLabelHype(g, {6, 10, 5, 0, -20});
+    g.label.read(1);
+    EXPECT_EQ(g.label->reputation, (std::array<uint8_t, 5>{11, 10, 100, 4, 50}));
+    EXPECT_EQ(g.label->hype, (std::array<int16_t, 5>{0, 10, 5, -4, 0}));
+}

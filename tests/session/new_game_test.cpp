@@ -1,0 +1,219 @@
+// Starting a new game: the player's choices, founding or taking over a label,
+// and a whole stretch of play with saves and loads in between.
+#include <gtest/gtest.h>
+
+#include "calendar/daily_cycle.h"
+#include "session/new_game.h"
+#include "session/preferences.h"
+#include "session/save_load.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/dates.h"
+#include "world/record_store.h"
+#include "world/strings.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+class NewGame : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    Game g{folder.path(), 99};
+
+    void SetUp() override {
+        test::writeTinyBaseWorld(folder.path());
+        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
+        readPrefs(g);
+        beginNewGame(g);
+    }
+    void TearDown() override { closeAllTables(g); }
+
+    PlayerChoices player() {
+        PlayerChoices p;
+        p.forename = "  Ann ";
+        p.surname = "Lee";
+        p.birthYear = 1980;
+        p.birthMonth = 12;
+        p.birthDay = 24;
+        p.male = false;
+        p.nationality = "Scottish";
+        return p;
+    }
+    LabelChoices label(const std::string& country, const std::string& city) {
+        LabelChoices l;
+        l.name = "Quarry Records";
+        l.continent = "Europe";
+        l.country = country;
+        l.city = city;
+        l.style = "Indie Rock";
+        return l;
+    }
+};
+
+TEST(BirthDate, DayListsFollowTheMonthAndKeepTheDayWhenTheyCan) {
+    EXPECT_EQ(daysInBirthMonth(1984, 2), 29);
+    EXPECT_EQ(daysInBirthMonth(1983, 2), 28);
+    EXPECT_EQ(daysInBirthMonth(1900, 2), 28);
+    EXPECT_EQ(daysInBirthMonth(2000, 2), 29);
+    EXPECT_EQ(keptBirthDay(31, 1982, 6), 1);  // 31 falls back to the top of the list
+    EXPECT_EQ(keptBirthDay(30, 1982, 6), 30);
+    EXPECT_EQ(keptBirthDay(29, 1983, 2), 1);
+    EXPECT_EQ(birthYears().front(), 1880);
+    EXPECT_EQ(birthYears().back(), 2003);
+}
+
+TEST_F(NewGame, DefaultsAreTwentiethJuly1982OnlyWithoutEarlierChoices) {
+    PlayerChoices first = defaultPlayerChoices(g);
+    EXPECT_EQ(first.birthDay, 20);
+    EXPECT_EQ(first.birthMonth, 7u);
+    EXPECT_EQ(first.birthYear, 1982);
+    EXPECT_EQ(first.nationality, "English");
+    confirmPlayer(g, player());
+    PlayerChoices again = defaultPlayerChoices(g);
+    EXPECT_EQ(again.birthDay, 24);
+    EXPECT_EQ(again.birthMonth, 12u);
+    EXPECT_EQ(again.birthYear, 1980);
+    EXPECT_EQ(again.forename, "Ann");
+    EXPECT_FALSE(again.male);
+    EXPECT_EQ(again.nationality, "Scottish");
+}
+
+TEST_F(NewGame, ThePlayerIsAStaffRecordAgedByTheComputersClock) {
+    NewPlayer p = confirmPlayer(g, player());
+    EXPECT_EQ(p.staff.id, 2);  // after the rival's boss
+    EXPECT_EQ(p.staff.forename, "Ann");
+    EXPECT_EQ(p.staff.age, 45);  // on 22 November 2026, not on the game's first day
+    EXPECT_EQ(p.staff.male, kFalse);
+    EXPECT_EQ(p.staff.country, 2);
+    EXPECT_EQ(p.staff.contractEnd, serialFromCivil(2027, 11, 22));
+    EXPECT_EQ(g.gameDate, serialFromCivil(2004, 8, 5));
+}
+
+struct Home {
+    const char* country;
+    const char* city;
+    std::array<uint8_t, 5> reputation;  // UK, US, Europe, Oceania, Global
+};
+
+class LabelHome : public NewGame, public ::testing::WithParamInterface<Home> {};
+
+TEST_P(LabelHome, ANewLabelsReputationFollowsItsHome) {
+    NewPlayer p = confirmPlayer(g, player());
+    foundLabel(g, p, label(GetParam().country, GetParam().city));
+    g.label.read(g.player.playerLabel);
+    EXPECT_EQ(g.label->reputation, GetParam().reputation);
+}
+
+INSTANTIATE_TEST_SUITE_P(NewGame, LabelHome,
+                         ::testing::Values(Home{"Scotland", "Glasgow", {40, 15, 20, 10, 5}},
+                                           Home{"France", "Paris", {20, 15, 40, 10, 5}},
+                                           Home{"Canada", "Toronto", {10, 40, 20, 15, 5}},
+                                           Home{"New Zealand", "Auckland", {10, 20, 15, 40, 5}},
+                                           Home{"Brazil", "Rio de Janeiro", {15, 5, 10, 20, 40}}));
+
+TEST_F(NewGame, FoundingALabelGivesAMillionAndTellsTheNews) {
+    NewPlayer p = confirmPlayer(g, player());
+    foundLabel(g, p, label("Scotland", "Glasgow"));
+    EXPECT_EQ(g.player.playerLabel, 2);
+    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(1000000));
+    g.label.read(2);
+    EXPECT_EQ(g.label->boss, p.staff.id);
+    EXPECT_EQ(g.label->labelStyle, 1);
+    EXPECT_EQ(g.label->city, 2);
+    g.news.read(1);
+    EXPECT_EQ(g.news->title, "New indie label founded by Ann Lee");
+    EXPECT_EQ(g.news->text,
+              "New independent record label Quarry Records opened the doors of their Glasgow office for the first "
+              "time today. New boss Ann Lee will have her work cut out just trying to keep the label afloat in the "
+              "current climate but with hard work, perseverence and luck one day maybe Quarry Records can join the "
+              "hallowed ranks of the major labels. Only time will tell if Ann is up to the challenge.");
+    EXPECT_EQ(g.news->date, g.gameDate);
+    g.staff.read(p.staff.id);
+    EXPECT_EQ(g.staff->employer, 2);
+    EXPECT_EQ(g.currentScreen, Screen::frmNews);
+    LabelChoices remembered = defaultLabelChoices(g);
+    EXPECT_EQ(remembered.name, "Quarry Records");
+    EXPECT_EQ(remembered.city, "Glasgow");
+}
+
+TEST_F(NewGame, TakingOverALabelKeepsItsCashAndBands) {
+    NewPlayer p = confirmPlayer(g, player());
+    takeOverLabel(g, p, 1);
+    EXPECT_EQ(g.player.playerLabel, 1);
+    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(4500000));
+    EXPECT_EQ(trim(g.player.playerLabelName.value), "Greystone Music");
+    g.label.read(1);
+    EXPECT_EQ(g.label->boss, p.staff.id);
+    EXPECT_EQ(g.label->bandCount, 1);
+    g.news.read(1);
+    EXPECT_EQ(g.news->title, "Ann Lee appointed as new boss of Greystone Music");
+    EXPECT_NE(g.news->text.value.find("the 45 year old has no previous experience"), std::string::npos);
+    EXPECT_NE(g.news->text.value.find("confidence in her abilities"), std::string::npos);
+    auto labels = existingLabels(g);
+    ASSERT_EQ(labels.size(), 1u);
+    EXPECT_EQ(labels[0].bands, std::vector<std::string>{"Tess Calloway"});
+}
+
+TEST_F(NewGame, EveryNewGameRaisesTheCounterAndCancelLeavesNoWorkingSet) {
+    NewPlayer p = confirmPlayer(g, player());
+    foundLabel(g, p, label("England", "London"));
+    int first = g.player.gameNumber;
+    EXPECT_GE(first, 1);
+    discardWorkingSet(g);  // never saved
+    for (const auto& e : fs::directory_iterator(folder.path())) EXPECT_NE(e.path().extension(), ".vel");
+    beginNewGame(g);
+    takeOverLabel(g, confirmPlayer(g, player()), 1);
+    EXPECT_EQ(g.player.gameNumber, first + 1);
+}
+
+// Every reference of the working set stays within its table, after every day.
+void expectConsistent(Game& g) {
+    int32_t bands = g.band.recordCount(), artists = g.artist.recordCount(), labels = g.label.recordCount();
+    for (int32_t n = 1; n != g.band.recordCount(); ++n) {
+        g.band.read(n);
+        ASSERT_LT(g.band->label, labels);
+        for (int i = 0; i < g.band->memberCount; ++i) ASSERT_LT(g.band->members[static_cast<std::size_t>(i)], artists);
+    }
+    for (int32_t n = 1; n != g.artist.recordCount(); ++n) {
+        g.artist.read(n);
+        ASSERT_LT(g.artist->band, bands);
+        ASSERT_LE(g.artist->energy, 100);
+    }
+    g.label.read(g.player.playerLabel);
+    ASSERT_EQ(g.label->cashBalance, g.player.playerLabelCash);
+    ASSERT_GT(g.player.playerStaff, 0);
+    ASSERT_LT(g.player.playerStaff, g.staff.recordCount());
+}
+
+TEST_F(NewGame, ThirtyDaysSaveThirtyMoreLoadAndThirtyAgain) {
+    foundLabel(g, confirmPlayer(g, player()), label("England", "London"));
+    auto play = [&](int days) {
+        for (int d = 0; d < days; ++d) {
+            ASSERT_TRUE(allRepliesGiven(g));
+            checkDaysSchedule(g);
+            expectConsistent(g);
+        }
+    };
+    play(30);
+    double savedOn = g.gameDate;
+    saveGame(g, 4, "A month in");
+    play(30);
+    EXPECT_EQ(g.gameDate, savedOn + 30);
+    loadGame(g, 4);
+    EXPECT_EQ(g.gameDate, savedOn);
+    play(30);
+    EXPECT_EQ(g.gameDate, savedOn + 30);
+    // The high-score row of this career is the same one after the load.
+    g.highscore.open(dataFile(g, "highscore", "gam"), IfMissing::fail);
+    int rows = 0;
+    for (int32_t n = 1; n != g.highscore.recordCount(); ++n) {
+        g.highscore.read(n);
+        rows += g.highscore->game == g.player.gameNumber;
+    }
+    g.highscore.close();
+    EXPECT_EQ(rows, 1);
+}
+
+}  // namespace

@@ -1,0 +1,163 @@
+// Building the base set: what lands in the records, that a build repeats
+// byte for byte, and that a failed build leaves the previous set alone.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "support/temp_folder.h"
+#include "world/record_dump.h"
+#include "world/records.h"
+#include "worldtool/tiny_world.h"
+#include "worldtool/world_compiler.h"
+
+using namespace trovane;
+using namespace trovane::worldtool;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<uint8_t> bytesOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::map<std::string, std::vector<uint8_t>> snapshot(const fs::path& folder) {
+    std::map<std::string, std::vector<uint8_t>> files;
+    for (const auto& e : fs::directory_iterator(folder)) files[e.path().filename().string()] = bytesOf(e.path());
+    return files;
+}
+
+template <PackedRecord R>
+R recordOf(const BaseSet& set, const std::string& file, int n) {
+    const auto& bytes = set.files.at(file);
+    EXPECT_GE(bytes.size(), n * R::kLength) << file;
+    R rec{};
+    if (bytes.size() >= n * R::kLength) decodeRecord(bytes.data() + (n - 1) * R::kLength, rec);
+    return rec;
+}
+
+struct TinyWorld {
+    test::TempFolder folder;
+    fs::path source = folder.path() / "world";
+    fs::path out = folder.path() / "Data";
+    TinyWorld() {
+        fs::create_directories(source);
+        test::writeTinyWorld(source);
+    }
+};
+
+TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
+    TinyWorld w;
+    Diagnostics diag;
+    BaseSet set = compileWorld(w.source, diag);
+    ASSERT_TRUE(diag.clean());
+
+    auto saoPaulo = recordOf<CityRecord>(set, "city.gam", 2);
+    EXPECT_EQ(saoPaulo.name.str(), "São Paulo");
+    EXPECT_EQ(saoPaulo.country, 5);
+
+    auto oliver = recordOf<ForenameRecord>(set, "forename.gam", 1);
+    EXPECT_EQ(oliver.isMale, kTrue);
+    EXPECT_EQ(oliver.countryLinks, (std::array<uint8_t, 5>{3, 5, 0, 0, 0}));
+    EXPECT_EQ(oliver.countryWeights, (std::array<uint8_t, 5>{8, 1, 0, 0, 0}));
+    EXPECT_EQ(recordOf<ForenameRecord>(set, "forename.gam", 3).isMale, kFalse);
+
+    auto indie = recordOf<StyleRecord>(set, "style.gam", 1);
+    EXPECT_EQ(indie.bandJobs, (std::array<uint8_t, 7>{1, 2, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(indie.soloJob, 3);
+    EXPECT_EQ(indie.parentStyle, 2);
+    EXPECT_EQ(indie.baseCharisma, 55);
+    EXPECT_EQ(indie.baseAngst, 60);
+    EXPECT_EQ(indie.baseFlair, 0);
+
+    auto look = recordOf<LookRecord>(set, "look.gam", 1);
+    EXPECT_EQ(look.sex, 2);
+    EXPECT_EQ(look.bounds[2], 50);    // controversy low
+    EXPECT_EQ(look.bounds[15], 90);   // visual high
+
+    auto cola = recordOf<ProductRecord>(set, "product.gam", 1);
+    EXPECT_EQ(cola.regionWeights, (std::array<uint8_t, 5>{6, 2, 0, 0, 0}));
+    EXPECT_EQ(cola.area.str(), "X");
+
+    auto lookLink = recordOf<AssRecord>(set, "asslook.gam", 1);
+    EXPECT_EQ(lookLink.a, 1);        // the look
+    EXPECT_EQ(lookLink.b, 2);        // the style
+    EXPECT_EQ(lookLink.weight, 20);  // the bonus
+
+    // Banks of names keep the order of the source, styles included.
+    EXPECT_EQ(set.files.at("newband.gam").size(), 3 * NewBandRecord::kLength);
+    auto first = recordOf<NewBandRecord>(set, "newband.gam", 1);
+    EXPECT_EQ(first.name.str(), "The Paper Lanterns");
+    EXPECT_EQ(first.style, 2);
+    EXPECT_EQ(recordOf<NewBandRecord>(set, "newband.gam", 3).id, 3);
+
+    auto prefs = recordOf<PrefsRecord>(set, "prefs.gam", 1);
+    EXPECT_EQ(prefs.currencySymbol.str(), "£");
+    EXPECT_EQ(prefs.exchangeRate, 1.0f);
+}
+
+TEST(WorldBuild, TwoBuildsGiveIdenticalBytesInEveryFileOfTheSet) {
+    TinyWorld w;
+    ASSERT_TRUE(buildWorld(w.source, w.out).empty());
+    auto first = snapshot(w.out);
+    fs::path again = w.folder.path() / "Again";
+    ASSERT_TRUE(buildWorld(w.source, again).empty());
+
+    auto names = baseSetFileNames();
+    ASSERT_EQ(first.size(), names.size());
+    EXPECT_EQ(first, snapshot(again));
+    EXPECT_TRUE(first.at("empty.gam").empty());
+    for (const auto& c : countRecords(w.out)) EXPECT_GE(c.records, 0) << c.file;
+    EXPECT_EQ(dumpTableFile(w.out / "style.gam", FileNo::fileStyle, DumpFormat::json),
+              dumpTableFile(again / "style.gam", FileNo::fileStyle, DumpFormat::json));
+}
+
+TEST(WorldBuild, AFailedBuildLeavesThePreviousSetAsItWas) {
+    TinyWorld w;
+    ASSERT_TRUE(buildWorld(w.source, w.out).empty());
+    auto before = snapshot(w.out);
+
+    test::writeSource(w.source, "cities.toml", "city = [ { name = \"London\", country = \"Atlantis\", size = 1 } ]\n");
+    test::writeSource(w.source, "facts.toml", "fact = [ \"A new line that must not appear\" ]\n");
+    auto problems = buildWorld(w.source, w.out);
+
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(snapshot(w.out), before);
+    EXPECT_EQ(std::distance(fs::directory_iterator(w.folder.path()), fs::directory_iterator{}), 2)
+        << "nothing is left beside the set";
+}
+
+TEST(WorldBuild, ARebuildKeepsTheOtherFilesOfTheDataFolder) {
+    TinyWorld w;
+    fs::create_directories(w.out);
+    std::ofstream(w.out / "band.sg3") << "a saved game";
+    std::ofstream(w.out / "country.gam") << "stale";
+    ASSERT_TRUE(buildWorld(w.source, w.out).empty());
+    EXPECT_EQ(bytesOf(w.out / "band.sg3").size(), 12u);
+    EXPECT_EQ(bytesOf(w.out / "country.gam").size(), 6 * CountryRecord::kLength);
+}
+
+TEST(WorldBuild, TheProgramChecksBuildsAndCounts) {
+    TinyWorld w;
+    auto run = [](const std::string& args, std::string& output) {
+        std::string command = std::string(TROVANE_WORLD_PATH) + " " + args + " 2>&1";
+        FILE* pipe = popen(command.c_str(), "r");
+        output.clear();
+        for (int c; (c = std::fgetc(pipe)) != EOF;) output += static_cast<char>(c);
+        return WEXITSTATUS(pclose(pipe));
+    };
+    std::string output;
+    EXPECT_EQ(run("build " + w.source.string() + " " + w.out.string(), output), 0) << output;
+    EXPECT_EQ(run("stats --json " + w.out.string(), output), 0) << output;
+    EXPECT_NE(output.find("\"country.gam\":6,"), std::string::npos) << output;
+
+    test::writeSource(w.source, "venues.toml",
+                      "venue = [\n { name = \"Hall\", city = \"Londres\", capacity = 9 },\n]\n");
+    EXPECT_EQ(run("check " + w.source.string(), output), 1);
+    EXPECT_NE(output.find("venues.toml:2: unknown city \"Londres\""), std::string::npos) << output;
+}
+
+}  // namespace
