@@ -10,22 +10,13 @@
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
 #include "session/preferences.h"
-#include "world/strings.h"
 
 namespace trovane::screens {
 
 namespace {
 
-struct Currency {
-    const char* symbol;
-    float rate;
-    const char* name;
-};
-constexpr Currency kCurrencies[3] = {
-    {"£", 1.0f, "Pounds sterling"},
-    {"$", 1.77f, "US dollars"},
-    {"€", 1.47f, "Euros"},
-};
+// The names beside the three symbols, in the order of the game's currencies.
+constexpr const char* kCurrencyNames[3] = {"Pounds sterling", "US dollars", "Euros"};
 
 // A plain text screen with a back button.
 void addBack(ScreenPage* page, mdiParentForm& main) {
@@ -47,18 +38,22 @@ frmChangeCurrency::frmChangeCurrency(mdiParentForm& main) : QDialog(&main), main
     l->setSpacing(14);
     l->addWidget(makeSubtitle(tr("Show money in"), this));
     auto* group = new QButtonGroup(this);
-    main.guarded([&] { readPrefs(main.game()); });
-    std::string now = trim(main.game().prefs->currencySymbol.value);
+    int now = 0;
+    main.guarded([&] {
+        readPrefs(main.game());
+        now = currentCurrency(main.game());
+    });
     for (int i = 0; i < 3; ++i) {
-        const Currency& c = kCurrencies[i];
+        std::string_view symbol = kCurrencies[static_cast<std::size_t>(i)].symbol;
         optCurrency[i] = new QRadioButton(
-            QStringLiteral("%1   %2").arg(QString::fromUtf8(c.symbol), tr(c.name)), this);
+            QStringLiteral("%1   %2").arg(QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size())),
+                                          tr(kCurrencyNames[i])),
+            this);
         optCurrency[i]->setObjectName(QStringLiteral("optCurrency%1").arg(i));
         group->addButton(optCurrency[i], i);
-        optCurrency[i]->setChecked(now == c.symbol);
         l->addWidget(optCurrency[i]);
     }
-    if (!group->checkedButton()) optCurrency[0]->setChecked(true);
+    optCurrency[now >= 0 ? now : 0]->setChecked(true);
     auto* note = new QLabel(tr("Your accounts are kept in pounds; this changes only how amounts are shown."), this);
     note->setWordWrap(true);
     note->setStyleSheet(QStringLiteral("color: %1;").arg(palette::mutedText.name()));
@@ -73,14 +68,8 @@ frmChangeCurrency::frmChangeCurrency(mdiParentForm& main) : QDialog(&main), main
     l->addLayout(buttons);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmdConfirm, &QPushButton::clicked, this, [this, group] {
-        const Currency& c = kCurrencies[group->checkedId()];
-        Game& g = main_.game();
-        bool ok = main_.guarded([&] {
-            readPrefs(g);
-            g.prefs->currencySymbol = c.symbol;
-            g.prefs->exchangeRate = c.rate;
-            writePrefs(g);
-        });
+        std::string_view symbol = kCurrencies[static_cast<std::size_t>(group->checkedId())].symbol;
+        bool ok = main_.guarded([&] { changeCurrency(main_.game(), symbol); });
         if (ok) main_.refreshStatusBar();
         accept();
     });

@@ -200,6 +200,10 @@ void drawGlyph(QPainter& p, Glyph glyph, const QColor& c) {
         p.drawEllipse(QPointF(12, 12), 1.2, 1.2);
         break;
     }
+    case Glyph::chevron:
+        p.setPen(QPen(c, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.drawPolyline(QPolygonF({QPointF(6.5, 9.5), QPointF(12, 15), QPointF(17.5, 9.5)}));
+        break;
     case Glyph::person:
         filled();
         p.drawEllipse(QPointF(12, 8.5), 4.5, 4.5);

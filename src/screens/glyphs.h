@@ -32,6 +32,7 @@ enum class Glyph {
     info,       // an "i" in a circle
     record,     // a vinyl record, the game's emblem
     person,     // head and shoulders: a picture not yet taken
+    chevron,    // a small downward chevron: the arrow of a drop-down list
 };
 
 // The glyph on a transparent square of the given size in logical pixels.

@@ -88,6 +88,7 @@ void frmLoading::setProgress(int percent) {
 
 void frmLoading::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
+    painted_ = true;
     // The frame being painted reaches the screen before the queued call runs.
     if (pending_) QTimer::singleShot(0, this, &frmLoading::runPending);
 }

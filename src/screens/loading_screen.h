@@ -25,6 +25,7 @@ public:
     void whenPainted(std::function<void()> work);
     // Moves the bar and paints it at once: the thread is busy with the work.
     void setProgress(int percent);
+    bool hasPainted() const { return painted_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -36,6 +37,7 @@ private:
     QLabel* fact_;
     QTimer* fallback_;
     std::function<void()> pending_;
+    bool painted_ = false;
 };
 
 }  // namespace trovane::screens

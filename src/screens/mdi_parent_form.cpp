@@ -14,6 +14,7 @@
 
 #include "calendar/daily_cycle.h"
 #include "screens/game_option_screens.h"
+#include "screens/glyphs.h"
 #include "screens/loading_screen.h"
 #include "screens/new_game_screens.h"
 #include "screens/news_screens.h"
@@ -21,6 +22,7 @@
 #include "screens/side_bar.h"
 #include "screens/start_screens.h"
 #include "screens/status_bar.h"
+#include "screens/theme.h"
 #include "session/empty_world.h"
 #include "session/preferences.h"
 #include "session/save_load.h"
@@ -280,6 +282,8 @@ void mdiParentForm::continueGame() {
     if (!free) {
         // The item that waits for an answer; its screen holds the sidebar until it is given.
         sideBar_->CloseOtherWindows();
+        // A second press on the same item must not make the item its own way back.
+        if (g_.previousScreen == Screen::frmNewsFull) g_.previousScreen = Screen::frmNews;
         newsItemOnScreen = g_.news->id;
         showCurrentScreen();
         return;
@@ -351,6 +355,7 @@ void mdiParentForm::fatal(const QString& message) {
     auto* box = new QMessageBox(QMessageBox::Critical, tr("Trovane 3 has to stop"),
                                 tr("The game cannot go on:\n\n%1").arg(message), QMessageBox::Ok, this);
     box->setObjectName(QStringLiteral("fatalDialog"));
+    box->setIconPixmap(glyphPixmap(Glyph::no, palette::danger, 40, devicePixelRatioF()));
     box->setAttribute(Qt::WA_DeleteOnClose);
     connect(box, &QMessageBox::finished, this, [this] {
         if (endProgram) endProgram(1);
@@ -362,6 +367,7 @@ void mdiParentForm::fatal(const QString& message) {
 void mdiParentForm::showRefusal(const QString& title, const QString& message) {
     auto* box = new QMessageBox(QMessageBox::Warning, title, message, QMessageBox::Ok, this);
     box->setObjectName(QStringLiteral("refusalDialog"));
+    box->setIconPixmap(glyphPixmap(Glyph::info, palette::accent, 40, devicePixelRatioF()));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

@@ -33,7 +33,7 @@ void fillCombo(QComboBox* box, const std::vector<ListRow>& rows, const QString& 
 }
 
 QComboBox* combo(const char* name, QWidget* parent) {
-    auto* c = new QComboBox(parent);
+    auto* c = new ComboBox(parent);
     c->setObjectName(QString::fromLatin1(name));
     c->setMaxVisibleItems(16);
     return c;
@@ -84,8 +84,8 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     txtSurname = lineEdit("txtSurname", 32, this);
     txtName->setPlaceholderText(tr("First name"));
     txtSurname->setPlaceholderText(tr("Surname"));
-    grid->addWidget(captioned(tr("First name"), txtName), 0, 0);
-    grid->addWidget(captioned(tr("Surname"), txtSurname), 0, 1);
+    grid->addWidget(captioned(tr("First name"), txtName), 0, 0, Qt::AlignTop);
+    grid->addWidget(captioned(tr("Surname"), txtSurname), 0, 1, Qt::AlignTop);
 
     auto* born = new QWidget(this);
     auto* bornRow = new QHBoxLayout(born);
@@ -100,7 +100,7 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     bornRow->addWidget(cmbDay);
     bornRow->addWidget(cmbMonth, 1);
     bornRow->addWidget(cmbYear);
-    grid->addWidget(captioned(tr("Date of birth"), born), 1, 0);
+    grid->addWidget(captioned(tr("Date of birth"), born), 1, 0, Qt::AlignTop);
 
     auto* genders = new QButtonGroup(this);
     auto* genderBox = new QWidget(this);
@@ -112,10 +112,10 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     genderRow->addWidget(optGender[0]);
     genderRow->addWidget(optGender[1]);
     genderRow->addStretch(1);
-    grid->addWidget(captioned(tr("Gender"), genderBox), 1, 1);
+    grid->addWidget(captioned(tr("Gender"), genderBox), 1, 1, Qt::AlignTop);
 
     cmbNationality = combo("cmbNationality", this);
-    grid->addWidget(captioned(tr("Nationality"), cmbNationality), 2, 0);
+    grid->addWidget(captioned(tr("Nationality"), cmbNationality), 2, 0, Qt::AlignTop);
 
     auto* ways = new QButtonGroup(this);
     auto* wayBox = new QWidget(this);
@@ -126,7 +126,7 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     optCreateNew[1] = radio(QStringLiteral("optCreateNew1"), tr("Manage Existing Label"), ways, 1, wayBox);
     wayRow->addWidget(optCreateNew[0]);
     wayRow->addWidget(optCreateNew[1]);
-    grid->addWidget(captioned(tr("Your label"), wayBox), 2, 1);
+    grid->addWidget(captioned(tr("Your label"), wayBox), 2, 1, Qt::AlignTop);
     content()->addLayout(grid);
     addButtons(this, cmdOk, cmdCancel, tr("Next"));
     cmdCancel->setText(tr("Cancel"));
@@ -204,10 +204,10 @@ frmCreateNewLabel::frmCreateNewLabel(mdiParentForm& main, NewPlayer player, QWid
     cmbNationality = combo("cmbNationality", this);
     cmbCity = combo("cmbCity", this);
     cmbStyle = combo("cmbStyle", this);
-    grid->addWidget(captioned(tr("Continent"), cmbContinent), 1, 0);
-    grid->addWidget(captioned(tr("Country"), cmbNationality), 1, 1);
-    grid->addWidget(captioned(tr("Home city"), cmbCity), 2, 0);
-    grid->addWidget(captioned(tr("Style of music"), cmbStyle), 2, 1);
+    grid->addWidget(captioned(tr("Continent"), cmbContinent), 1, 0, Qt::AlignTop);
+    grid->addWidget(captioned(tr("Country"), cmbNationality), 1, 1, Qt::AlignTop);
+    grid->addWidget(captioned(tr("Home city"), cmbCity), 2, 0, Qt::AlignTop);
+    grid->addWidget(captioned(tr("Style of music"), cmbStyle), 2, 1, Qt::AlignTop);
     content()->addLayout(grid);
     addButtons(this, cmdOk, cmdCancel, tr("Start the Game"));
 

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -185,7 +184,8 @@ void frmNews::browseSort(int headerIndex) {
 }
 
 void frmNews::openRow(int row) {
-    if (row < 0 || row >= model_->rowCount()) return;
+    // A click also activates the row on some systems: the second signal finds this screen closed.
+    if (!isVisible() || row < 0 || row >= model_->rowCount()) return;
     main_.newsItemOnScreen = model_->row(row).recordNumber;
     main_.openScreen(Screen::frmNewsFull);
 }
@@ -206,7 +206,8 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     bool open = item.mustReply == kFalse || item.replied != kFalse;
 
     auto* card = new Card(this);
-    card->setMaximumWidth(1100);
+    card->setMaximumWidth(1000);
+    card->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     QVBoxLayout* c = card->content();
     c->setSpacing(12);
     lblDate = makeCaption(qs(formatDate(item.date, "dddd d mmmm yyyy")), card);
@@ -216,14 +217,11 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     lblHeadline->setObjectName(QStringLiteral("lblHeadline"));
     lblHeadline->setWordWrap(true);
     c->addWidget(lblHeadline);
+    // A text holds at most 1,024 characters: it always fits without scrolling.
     lblText = makeBody(qs(trim(item.text.value)), card);
     lblText->setObjectName(QStringLiteral("lblText"));
-    auto* scroll = new QScrollArea(card);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidget(lblText);
-    lblText->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    c->addWidget(scroll, 1);
+    c->addWidget(lblText);
+    c->addSpacing(8);
     if (!open) {
         QLabel* must = new QLabel(tr("This needs your answer before the next day can begin."), card);
         must->setObjectName(QStringLiteral("lblMustReply"));
@@ -263,7 +261,8 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
         buttons->addWidget(b);
     }
     c->addLayout(buttons);
-    body()->addWidget(card, 1);
+    body()->addWidget(card);
+    body()->addStretch(1);
 
     extra_ = qs(trim(item.extra.value));
     cmdHelp->setVisible(!extra_.isEmpty());

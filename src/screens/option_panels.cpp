@@ -1,5 +1,6 @@
 #include "screens/option_panels.h"
 
+#include <QGraphicsDropShadowEffect>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -27,6 +28,18 @@ OptionPanel::OptionPanel(const QString& objectName, const QString& heading, QWid
     entries_ = new QVBoxLayout;
     entries_->setSpacing(2);
     l->addLayout(entries_);
+    inertNote_ = new QLabel(tr("Not open in this version"), this);
+    inertNote_->setObjectName(QStringLiteral("lblInert"));
+    inertNote_->setStyleSheet(QStringLiteral("color: %1; font-size: 9pt; padding: 4px 8px 0 8px;")
+                                  .arg(palette::mutedText.name()));
+    inertNote_->hide();
+    l->addWidget(inertNote_);
+    // Lifts the panel off the screen under it.
+    auto* shadow = new QGraphicsDropShadowEffect(this);
+    shadow->setBlurRadius(28);
+    shadow->setOffset(0, 6);
+    shadow->setColor(QColor(0, 0, 0, 150));
+    setGraphicsEffect(shadow);
     hide();
 }
 
@@ -39,8 +52,12 @@ QPushButton* OptionPanel::addEntry(const QString& objectName, const QString& cap
     } else {
         // A screen the game does not have yet: the entry is there and does nothing.
         b->setEnabled(false);
-        b->setToolTip(tr("Not available in this version"));
+        b->setToolTip(tr("Not open in this version"));
     }
+    // When nothing in the panel can be used yet, say so once under the entries.
+    bool anyOpen = false;
+    for (QPushButton* e : findChildren<QPushButton*>()) anyOpen = anyOpen || e->isEnabled();
+    inertNote_->setVisible(!anyOpen);
     entries_->addWidget(b);
     adjustSize();
     return b;

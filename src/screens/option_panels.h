@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <functional>
 
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -30,6 +31,7 @@ protected:
 
 private:
     QVBoxLayout* entries_;
+    QLabel* inertNote_;
 };
 
 // The lists of the game's world: acts, staff, labels, venues, firms, awards...

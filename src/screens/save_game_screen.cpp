@@ -134,6 +134,7 @@ void frmSaveGame::fillList(int row) {
         item->setIcon(glyphIcon(name == "None" ? Glyph::save : Glyph::record,
                                 name == "None" ? palette::disabledText : palette::teal));
         item->setData(Qt::UserRole, name != "None");
+        item->setSizeHint(QSize(0, 36));
     }
     lstSaves->setCurrentRow(row);
     showSlot(row);

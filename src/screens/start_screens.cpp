@@ -47,6 +47,7 @@ frmQuellmarkGames::frmQuellmarkGames(mdiParentForm& main, QWidget* parent) : QWi
 
 void frmQuellmarkGames::goOn() {
     tmrLoad->stop();
+    if (!isVisible()) return;  // already closed: its timer must not pull the start form up again
     main_.showStartForm();
 }
 
@@ -56,7 +57,8 @@ void frmQuellmarkGames::paintEvent(QPaintEvent*) { paintStageBackground(this); }
 
 frmStartForm::frmStartForm(mdiParentForm& main, QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("frmStartForm"));
-    main.guarded([&] { readPrefs(main.game()); });
+    PrefsReport prefs;
+    main.guarded([&] { prefs = readPrefs(main.game()); });
 
     auto* l = new QVBoxLayout(this);
     l->addStretch(3);
@@ -78,6 +80,16 @@ frmStartForm::frmStartForm(mdiParentForm& main, QWidget* parent) : QWidget(paren
         column->addWidget(b, 0, Qt::AlignHCenter);
     }
     l->addLayout(column);
+    if (prefs.state == PrefsState::replaced) {
+        // The settings file was damaged and has been put back as delivered: say so once.
+        QLabel* note = makeBody(QString::fromStdString(prefs.message), this);
+        note->setObjectName(QStringLiteral("lblPrefsNote"));
+        note->setAlignment(Qt::AlignCenter);
+        note->setMaximumWidth(560);
+        note->setStyleSheet(QStringLiteral("color: %1;").arg(palette::accent.name()));
+        l->addSpacing(18);
+        l->addWidget(note, 0, Qt::AlignHCenter);
+    }
     l->addStretch(4);
     QLabel* version = makeCaption(tr("Trovane 3"), this);
     version->setAlignment(Qt::AlignCenter);

@@ -29,7 +29,7 @@ QLabel[role="body"] { font-size: 11.5pt; }
 QLabel[role="figure"] { font-size: 12pt; font-weight: 600; }
 
 QFrame[role="card"] { background: %surface; border: 1px solid %border; border-radius: 10px; }
-QFrame[role="panel"] { background: %raised; border: 1px solid %border; border-radius: 10px; }
+QFrame[role="panel"] { background: %raised; border: 1px solid #56607e; border-radius: 10px; }
 QFrame#frmStatusBar { background: %sidebar; border-bottom: 1px solid %border; }
 QFrame#frmSideBar { background: %sidebar; border-right: 1px solid %border; }
 
@@ -72,18 +72,26 @@ QLineEdit, QComboBox {
     selection-background-color: %selection; min-height: 20px;
 }
 QLineEdit:focus, QComboBox:focus { border: 2px solid %teal; }
+QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right; width: 26px; border: none; }
 QComboBox QAbstractItemView { background: %surface; border: 1px solid %border; selection-background-color: %selection; }
 QRadioButton { spacing: 8px; padding: 3px 0; }
 QRadioButton:focus { color: %accent; }
+QRadioButton::indicator { width: 12px; height: 12px; border-radius: 8px; border: 2px solid %border; background: %surface; }
+QRadioButton::indicator:hover { border-color: %muted; }
+QRadioButton::indicator:checked {
+    border-color: %accent;
+    background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5, stop: 0 %accent, stop: 0.5 %accent,
+                                stop: 0.62 %surface, stop: 1 %surface);
+}
 
 QTableView, QListWidget, QListView {
     background: %surface; alternate-background-color: #283044; border: 1px solid %border; border-radius: 8px;
     gridline-color: transparent; selection-background-color: %selection; selection-color: %text; outline: 0;
 }
-QTableView::item, QListWidget::item { padding: 4px 8px; }
+QListWidget::item { padding: 4px 6px; }
 QTableView:focus, QListWidget:focus { border: 1px solid %teal; }
 QHeaderView::section {
-    background: %raised; color: %muted; border: none; border-bottom: 1px solid %border; padding: 7px 8px;
+    background: %raised; color: %muted; border: none; border-bottom: 1px solid %border; padding: 7px 4px;
     font-weight: 600;
 }
 QHeaderView::section:hover { color: %text; }
@@ -173,6 +181,14 @@ QPushButton* makeButton(const QString& objectName, const QString& caption, Glyph
     b->setCursor(Qt::PointingHandCursor);
     b->setAutoDefault(false);
     return b;
+}
+
+void ComboBox::paintEvent(QPaintEvent* event) {
+    QComboBox::paintEvent(event);
+    QPainter p(this);
+    const int side = 16;
+    QColor ink = isEnabled() ? palette::mutedText : palette::disabledText;
+    p.drawPixmap(width() - side - 9, (height() - side) / 2, glyphPixmap(Glyph::chevron, ink, side, devicePixelRatioF()));
 }
 
 void paintStageBackground(QWidget* w) {

@@ -1,6 +1,7 @@
 #pragma once
 // The game's look: one palette, one style sheet, one set of type sizes.
 #include <QColor>
+#include <QComboBox>
 #include <QString>
 
 class QApplication;
@@ -41,6 +42,16 @@ QPushButton* makeButton(const QString& objectName, const QString& caption, Glyph
 
 // The background of the screens outside a game: the window colour with a warm glow.
 void paintStageBackground(QWidget* widget);
+
+// A drop-down list with the game's own arrow.
+class ComboBox : public QComboBox {
+    Q_OBJECT
+public:
+    explicit ComboBox(QWidget* parent = nullptr) : QComboBox(parent) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
 
 // Labels in the game's type scale.
 QLabel* makeTitle(const QString& text, QWidget* parent = nullptr);

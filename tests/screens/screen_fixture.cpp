@@ -10,7 +10,12 @@
 namespace trovane::test {
 
 void ScreenTest::SetUp() {
-    writeTinyWorld(folder.path());
+    writeTinyBaseWorld(folder.path());
+    Table<FactRecord> facts(FileNo::fileFact);
+    facts.open(folder.path() / "fact.gam", IfMissing::fail);
+    facts->text = "The week's record sales are counted every Sunday, in all five territories at once.";
+    facts.append();
+    facts.close();
     restartProgram();
 }
 
@@ -41,6 +46,7 @@ void ScreenTest::click(QAbstractButton* b) {
     ASSERT_TRUE(b->isVisible() && b->isEnabled()) << b->objectName().toStdString() << " cannot be pressed";
     QTest::mouseClick(b, Qt::LeftButton);
     QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 bool ScreenTest::waitFor(const std::function<bool()>& done, int ms) { return QTest::qWaitFor(done, ms); }
@@ -48,6 +54,7 @@ bool ScreenTest::waitFor(const std::function<bool()>& done, int ms) { return QTe
 void ScreenTest::startNewGameAsPlayer() {
     click("btnStartNewGame");
     ASSERT_EQ(screen(), Screen::frmStartNewGame);
+    for (const char* field : {"txtName", "txtSurname"}) find<QLineEdit>(field)->clear();
     QTest::keyClicks(find<QLineEdit>("txtName"), "Ann");
     QTest::keyClicks(find<QLineEdit>("txtSurname"), "Lee");
     find<QComboBox>("cmbNationality")->setCurrentText("English");
@@ -59,8 +66,8 @@ void ScreenTest::startNewGameAsPlayer() {
     QTest::keyClicks(name, "Nightjar Records");
     find<QComboBox>("cmbContinent")->setCurrentText("Europe");
     find<QComboBox>("cmbNationality")->setCurrentText("England");
-    find<QComboBox>("cmbCity")->setCurrentText("Manchester");
-    find<QComboBox>("cmbStyle")->setCurrentText("Rock");
+    find<QComboBox>("cmbCity")->setCurrentText("London");
+    find<QComboBox>("cmbStyle")->setCurrentText("Indie Rock");
     click("cmdOk");
     ASSERT_TRUE(waitFor([&] { return window->gameRunning() && screen() == Screen::frmNews; }));
 }

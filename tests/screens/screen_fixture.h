@@ -45,7 +45,7 @@ protected:
     bool waitFor(const std::function<bool()>& done, int ms = 5000);
     Screen screen() const { return game->currentScreen; }
 
-    // Start form to the first news screen, founding "Nightjar Records" in Manchester.
+    // Start form to the first news screen, founding "Nightjar Records" in London.
     void startNewGameAsPlayer();
     // One press of Continue, until the next screen is up.
     void continueOneDay();
