@@ -7,4 +7,7 @@ class Game;
 
 void subtractBusinessRunningCosts(Game& g);
 
+// Schedule type 24: the entry's new facility opens.
+void openBusiness(Game& g);
+
 }  // namespace trovane

@@ -22,6 +22,8 @@ enum class Screen {
     frmNewsFull,
     frmAwardCeremony,
     frmLoading,
+    frmBandOptionDecision,
+    frmChooseDistributor,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
@@ -99,6 +101,8 @@ public:
 
     // Told the name of each step of the day as it runs (trovane-sim --trace).
     std::function<void(std::string_view)> trace;
+    // Told each schedule handler by name, with its entry, just before it runs.
+    std::function<void(std::string_view handler, const ScheduleRecord& entry)> onScheduleHandler;
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)
