@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     app.add_flag("--json", ctx.json, "Machine-readable output");
     app.fallthrough();
     addWorldVerbs(app, ctx);
+    addNewsVerbs(app, ctx);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
