@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "session/empty_world.h"
 #include "world/dates.h"
 #include "world/game.h"
 
@@ -29,6 +30,8 @@ void readSessionFile(Game& g, const std::filesystem::path& file) {
     if (!present) throw FatalError(fmt::format("The session record {} is empty", file.string()));
     const SvarRecord& s = g.svar.rec;
     g.gameDate = s.gameDate;
+    // Not part of the record: every game starts on the same day.
+    g.gameStartDate = gameStartDay();
     g.lastScheduleYear = s.lastScheduleYear;
     g.firstScheduleYear = s.firstScheduleYear;
     g.eventRollsPerDay = s.eventRollsPerDay;
