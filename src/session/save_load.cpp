@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "session/preferences.h"
+#include "session/session_record.h"
 #include "world/dates.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -114,15 +115,6 @@ void checkSlotComplete(Game& g, int slot, const SvarRecord& session) {
     }
 }
 
-void sessionFromRecord(Game& g, const SvarRecord& s) {
-    g.gameDate = s.gameDate;
-    g.firstScheduleYear = s.firstScheduleYear;
-    g.lastScheduleYear = s.lastScheduleYear;
-    g.eventRollsPerDay = s.eventRollsPerDay;
-    g.player = s.player;
-    g.currentYear = static_cast<int16_t>(yearOf(g.gameDate));
-}
-
 }  // namespace
 
 void recoverInterruptedSaves(Game& g) {
@@ -151,20 +143,8 @@ void saveGame(Game& g, int slot, const std::string& saveName) {
             copyInto(dataFile(g, stem, "vel"), staging / fmt::format("{}.{}", stem, ext));
         for (int y = g.firstScheduleYear; y <= g.lastScheduleYear; ++y)
             copyInto(dataFile(g, std::to_string(y), "vel"), staging / fmt::format("{}.{}", y, ext));
-        // The session record, as writeSessionRecord fills it.
-        SvarRecord& s = g.svar.rec;
-        s = SvarRecord{};
-        s.saveName = trim(saveName);
-        s.gameDate = g.gameDate;
-        s.lastScheduleYear = g.lastScheduleYear;
-        s.firstScheduleYear = g.firstScheduleYear;
-        s.lastScheduleYear2 = g.lastScheduleYear;
-        s.eventRollsPerDay = g.eventRollsPerDay;
-        s.player = g.player;
         fs::path svar = staging / fmt::format("svar.{}", ext);
-        g.svar.open(svar, IfMissing::createEmpty);
-        g.svar.write(1);
-        g.svar.close();
+        writeSessionFile(g, svar, saveName);
         syncFile(svar);
         markComplete(staging);
         commitStaging(staging, g.dataDir);
@@ -202,7 +182,7 @@ void loadGame(Game& g, int slot) {
     // Everything is staged: only now is the running game replaced.
     closeAllTables(g);
     commitStaging(staging, g.dataDir);
-    sessionFromRecord(g, session);
+    applySessionRecord(g, session);
     openAllTables(g, "vel");
 }
 
