@@ -23,7 +23,6 @@
 #include "screens/start_screens.h"
 #include "screens/status_bar.h"
 #include "screens/theme.h"
-#include "session/empty_world.h"
 #include "session/preferences.h"
 #include "session/save_load.h"
 #include "world/fatal_error.h"
@@ -184,8 +183,6 @@ void mdiParentForm::loadSavedGame(int slot) {
                 *message = QString::fromStdString(e.what());
                 return false;
             }
-            // Every session starts its calendar on the first day of the game.
-            g_.gameStartDate = gameStartDay();
             readPrefs(g_);
             g_.label.read(g_.player.playerLabel);
             g_.previousScreen = Screen::none;

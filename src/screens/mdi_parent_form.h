@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 
+#include "calendar/news_inbox.h"
 #include "session/new_game.h"
 #include "world/game.h"
 
@@ -20,12 +21,6 @@ namespace trovane::screens {
 class frmSideBar;
 class frmStatusBar;
 class frmLoading;
-
-// The sort of the news list: the remembered column and direction (1 up, 2 down).
-struct NewsSort {
-    int column = 0;
-    int direction = 1;
-};
 
 class mdiParentForm : public QMainWindow {
     Q_OBJECT

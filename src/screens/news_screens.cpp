@@ -21,23 +21,22 @@ namespace {
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
-QString newsTitle(const Game& g) {
-    return QStringLiteral("%1 %2's News")
-        .arg(qs(trim(g.player.playerForename.value)), qs(trim(g.player.playerSurname.value)));
-}
+QString newsTitle(const Game& g) { return qs(newsScreenTitle(g)); }
 
-// ---- Provisional inbox access: to be replaced by the inbox of the calendar.
-std::vector<NewsRow> readNewsRows(Game& g) {
-    std::vector<NewsRow> rows;
-    for (int32_t n = g.news.recordCount() - 1; n >= 1; --n) {
-        g.news.read(n);
-        if (g.news->deleted != kFalse) continue;
-        rows.push_back({g.news->read == kFalse, g.news->date,
-                        qs(formatDate(g.news->date, "ddd") + " " + formatDate(g.news->date, "d/m/yyyy")),
-                        qs(trim(g.news->title.value)), n});
-    }
-    return rows;
-}
+// The drawn stand-ins for the pictures of the reply buttons.
+struct ReplyLook {
+    std::string_view picture;
+    const char* caption;
+    Glyph glyph;
+};
+constexpr ReplyLook kReplyLooks[] = {
+    {"graphics/ok.jpg", "OK", Glyph::ok},
+    {"graphics/yes.jpg", "Yes", Glyph::ok},
+    {"graphics/no.jpg", "No", Glyph::no},
+    {"graphics/defend.jpg", "Defend", Glyph::defend},
+    {"graphics/condemn.jpg", "Condemn", Glyph::condemn},
+    {"graphics/nocomment.jpg", "No Comment", Glyph::noComment},
+};
 
 }  // namespace
 
@@ -58,27 +57,28 @@ int NewsListModel::columnCount(const QModelIndex& parent) const { return parent.
 QVariant NewsListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const NewsRow& r = rows_[static_cast<std::size_t>(index.row())];
+    const bool unread = !r.unread.empty();
     switch (role) {
     case Qt::DisplayRole:
         switch (index.column()) {
-        case 0: return r.unread ? tr("Unread") : QString();
-        case 1: return r.dateText;
-        case 2: return r.title;
-        case 3: return QString::number(r.recordNumber);
+        case 0: return qs(r.unread);
+        case 1: return qs(r.date);
+        case 2: return qs(r.title);
+        case 3: return QString::number(r.record);
         default: return {};
         }
     case Qt::ForegroundRole:
         if (index.column() == 0) return palette::accent;
-        return r.unread ? palette::text : palette::mutedText;
+        return unread ? palette::text : palette::mutedText;
     case Qt::FontRole:
-        if (r.unread || index.column() == 0) {
+        if (unread || index.column() == 0) {
             QFont f;
             f.setBold(true);
             return f;
         }
         return {};
     case Qt::ToolTipRole:
-        return index.column() == 2 ? r.title : QVariant();
+        return index.column() == 2 ? qs(r.title) : QVariant();
     default: return {};
     }
 }
@@ -94,23 +94,6 @@ QVariant NewsListModel::headerData(int section, Qt::Orientation orientation, int
     }
 }
 
-void NewsListModel::sortBy(int column, int direction) {
-    beginResetModel();
-    auto key = [column](const NewsRow& a, const NewsRow& b) {
-        switch (column) {
-        case 0: return a.unread != b.unread ? a.unread < b.unread : a.recordNumber < b.recordNumber;
-        case 2: {
-            int c = QString::localeAwareCompare(a.title, b.title);
-            return c != 0 ? c < 0 : a.recordNumber < b.recordNumber;
-        }
-        default: return a.recordNumber < b.recordNumber;
-        }
-    };
-    std::stable_sort(rows_.begin(), rows_.end(), key);
-    if (direction == 2) std::reverse(rows_.begin(), rows_.end());
-    endResetModel();
-}
-
 // ---------------------------------------------------------------- frmNews
 
 frmNews::frmNews(mdiParentForm& main, QWidget* parent)
@@ -118,7 +101,11 @@ frmNews::frmNews(mdiParentForm& main, QWidget* parent)
     main.sideBar()->enableSidebar(true);
     model_ = new NewsListModel(this);
     std::vector<NewsRow> rows;
-    main.guarded([&] { rows = readNewsRows(main.game()); });
+    main.guarded([&] {
+        rows = newsListRows(main.game());
+        // The sort the player chose lasts for the session.
+        sortNewsRows(rows, main.newsSort());
+    });
     setSubtitle(rows.empty() ? QString() : tr("%n item(s)", nullptr, static_cast<int>(rows.size())));
     model_->setRows(std::move(rows));
 
@@ -157,9 +144,6 @@ frmNews::frmNews(mdiParentForm& main, QWidget* parent)
     connect(flxNews, &QTableView::clicked, this, [this](const QModelIndex& i) { openRow(i.row()); });
     connect(flxNews, &QTableView::activated, this, [this](const QModelIndex& i) { openRow(i.row()); });
 
-    // The session's sort, if the player chose one.
-    NewsSort& sort = main.newsSort();
-    if (sort.column != 0 || sort.direction != 1) model_->sortBy(sort.column, sort.direction);
     showTop();
     setFocusProxy(flxNews);
 }
@@ -171,23 +155,22 @@ void frmNews::showTop() {
 }
 
 void frmNews::browseSort(int headerIndex) {
-    int column = headerIndex == 1 ? 3 : headerIndex;
-    NewsSort& sort = main_.newsSort();
-    if (column != sort.column) {
-        sort.column = column;
-        sort.direction = 1;
-    } else {
-        sort.direction = 3 - sort.direction;
-    }
-    model_->sortBy(sort.column, sort.direction);
+    clickNewsHeader(main_.newsSort(), headerIndex);
+    std::vector<NewsRow> rows = model_->rows();
+    sortNewsRows(rows, main_.newsSort());
+    model_->setRows(std::move(rows));
     showTop();
 }
 
 void frmNews::openRow(int row) {
     // A click also activates the row on some systems: the second signal finds this screen closed.
-    if (!isVisible() || row < 0 || row >= model_->rowCount()) return;
-    main_.newsItemOnScreen = model_->row(row).recordNumber;
-    main_.openScreen(Screen::frmNewsFull);
+    if (!isVisible() || row < 0) return;
+    Game& g = main_.game();
+    bool opened = false;
+    if (!main_.guarded([&] { opened = clickNewsRow(g, model_->rows(), static_cast<std::size_t>(row)); }) || !opened)
+        return;
+    main_.newsItemOnScreen = g.news->id;
+    main_.showCurrentScreen();
 }
 
 // ---------------------------------------------------------------- frmNewsFull
@@ -195,15 +178,14 @@ void frmNews::openRow(int row) {
 frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     : ScreenPage(main, QStringLiteral("frmNewsFull"), newsTitle(main.game()), parent), item_(main.newsItemOnScreen) {
     Game& g = main.game();
+    NewsItemView view;
     NewsRecord item{};
-    // ---- Provisional: opening marks the item read.
     main.guarded([&] {
         g.news.read(item_);
-        g.news->read = kTrue;
-        g.news.write(item_);
+        view = openNewsItem(g);
         item = g.news.rec;
     });
-    bool open = item.mustReply == kFalse || item.replied != kFalse;
+    const bool open = view.sidebarEnabled;
 
     auto* card = new Card(this);
     card->setMaximumWidth(1000);
@@ -218,7 +200,7 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     lblHeadline->setWordWrap(true);
     c->addWidget(lblHeadline);
     // A text holds at most 1,024 characters: it always fits without scrolling.
-    lblText = makeBody(qs(trim(item.text.value)), card);
+    lblText = makeBody(qs(trim(view.text)), card);
     lblText->setObjectName(QStringLiteral("lblText"));
     c->addWidget(lblText);
     c->addSpacing(8);
@@ -236,26 +218,18 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     buttons->addWidget(cmdDelete);
     buttons->addWidget(cmdHelp);
     buttons->addStretch(1);
-    cmd1 = makeButton(QStringLiteral("cmd1"), tr("OK"), Glyph::ok, ButtonRole::primary, card);
-    cmd2 = makeButton(QStringLiteral("cmd2"), tr("No"), Glyph::no, ButtonRole::secondary, card);
-    cmd3 = makeButton(QStringLiteral("cmd3"), tr("No Comment"), Glyph::noComment, ButtonRole::secondary, card);
-    switch (item.kind) {
-    case 1:
-        cmd1->setText(tr("Yes"));
-        break;
-    case 4:
-        cmd1->setText(tr("Defend"));
-        cmd1->setIcon(glyphIcon(Glyph::defend, palette::accentText));
-        cmd2->setText(tr("Condemn"));
-        cmd2->setIcon(glyphIcon(Glyph::condemn, palette::text));
-        break;
-    default: break;
+    QPushButton** replyButton[3] = {&cmd1, &cmd2, &cmd3};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const NewsButton& shown = view.buttons[i];
+        const ReplyLook* look = nullptr;
+        for (const ReplyLook& l : kReplyLooks)
+            if (l.picture == shown.picture) look = &l;
+        QPushButton*& b = *replyButton[i];
+        b = makeButton(QStringLiteral("cmd%1").arg(i + 1), look ? tr(look->caption) : QString(),
+                       look ? look->glyph : Glyph::ok, i == 0 ? ButtonRole::primary : ButtonRole::secondary, card);
+        b->setVisible(shown.visible);
+        b->setEnabled(shown.enabled);
     }
-    cmd1->setVisible(item.kind == 0 || item.kind == 1 || item.kind == 4);
-    cmd2->setVisible(item.kind == 1 || item.kind == 4);
-    cmd3->setVisible(item.kind == 4);
-    cmd2->setEnabled(item.replied == kFalse);
-    cmd3->setEnabled(item.replied == kFalse);
     for (QPushButton* b : {cmd3, cmd2, cmd1}) {
         b->setMinimumWidth(120);
         buttons->addWidget(b);
@@ -264,10 +238,10 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     body()->addWidget(card);
     body()->addStretch(1);
 
-    extra_ = qs(trim(item.extra.value));
-    cmdHelp->setVisible(!extra_.isEmpty());
-    cmdDelete->setEnabled(open);
-    main.sideBar()->enableSidebar(open);
+    extra_ = qs(trim(view.help));
+    cmdHelp->setVisible(view.helpVisible);
+    cmdDelete->setEnabled(view.deleteEnabled);
+    main.sideBar()->enableSidebar(view.sidebarEnabled);
 
     connect(cmd1, &QPushButton::clicked, this, [this] { reply(1); });
     connect(cmd2, &QPushButton::clicked, this, [this] { reply(2); });
@@ -280,33 +254,30 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
     setFocusProxy(cmd1->isVisible() ? cmd1 : cmdDelete);
 }
 
-// ---- Provisional: a reply is recorded and the screen goes back; its effects come with the inbox.
+bool frmNewsFull::reopen() {
+    Game& g = main_.game();
+    return main_.guarded([&] {
+        g.news.read(item_);
+        openNewsItem(g);
+    });
+}
+
 void frmNewsFull::reply(int button) {
     Game& g = main_.game();
-    bool back = true;
-    bool ok = main_.guarded([&] {
-        g.news.read(item_);
-        int kind = g.news->kind;
-        if (button == 3) {  // "no comment" is to say nothing: nothing happens
-            back = false;
-            return;
-        }
-        if ((kind == 1) || (button == 2 && kind == 4)) {
-            g.news->replied = kTrue;
-            g.news.write(item_);
-        }
-    });
-    if (ok && back) main_.returnToPreviousScreen();
+    if (button == 3) {
+        pressNewsCmd3(g);  // to say nothing is to press nothing
+        return;
+    }
+    if (!reopen()) return;
+    if (!main_.guarded([&] { button == 1 ? pressNewsCmd1(g) : pressNewsCmd2(g); })) return;
+    main_.showCurrentScreen();
 }
 
 void frmNewsFull::removeItem() {
     Game& g = main_.game();
-    bool ok = main_.guarded([&] {
-        g.news.read(item_);
-        g.news->deleted = kTrue;
-        g.news.write(item_);
-    });
-    if (ok) main_.openScreen(Screen::frmNews);
+    bool removed = false;
+    if (!reopen() || !main_.guarded([&] { removed = deleteNewsItem(g); }) || !removed) return;
+    main_.showCurrentScreen();
 }
 
 // ---------------------------------------------------------------- frmHelpForm

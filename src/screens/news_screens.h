@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <vector>
 
+#include "calendar/news_inbox.h"
 #include "screens/screen_page.h"
 
 class QLabel;
@@ -14,30 +15,18 @@ namespace trovane::screens {
 
 class mdiParentForm;
 
-// One row of the news list.
-struct NewsRow {
-    bool unread = false;
-    double date = 0;
-    QString dateText;
-    QString title;
-    int32_t recordNumber = 0;
-};
-
 // The rows of flxNews: the "Unread" mark, the date, the title, and (hidden) the record number.
 class NewsListModel : public QAbstractTableModel {
     Q_OBJECT
 public:
     explicit NewsListModel(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
     void setRows(std::vector<NewsRow> rows);
-    const NewsRow& row(int r) const { return rows_[static_cast<std::size_t>(r)]; }
+    const std::vector<NewsRow>& rows() const { return rows_; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    // By the remembered column (3 for the date) and direction (1 up, 2 down).
-    void sortBy(int column, int direction);
-
 private:
     std::vector<NewsRow> rows_;
 };
@@ -77,6 +66,8 @@ public:
 private:
     void reply(int button);
     void removeItem();
+    // The item in the news buffer, opened afresh: anything may have used the buffers since.
+    bool reopen();
     int32_t item_;
     QString extra_;
 };

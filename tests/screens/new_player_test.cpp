@@ -33,7 +33,7 @@ TEST_F(ScreenTest, NewPlayerPlaysSavesQuitsAndLoadsTheSameGame) {
     startNewGameAsPlayer();
     auto* news = find<QTableView>("flxNews");
     ASSERT_EQ(news->model()->rowCount(), 1);
-    EXPECT_EQ(newsRows(news)[0], "Unread|Thu 5/8/2004|New indie label founded by Ann Lee");
+    EXPECT_EQ(newsRows(news)[0], "Unread|Thu 05/08/2004|New indie label founded by Ann Lee");
     EXPECT_EQ(find<QLabel>("lblTitle")->text(), "Ann Lee's News");
     EXPECT_EQ(window->gameStatusBar()->lblCompany->text(), "Nightjar Records");
     EXPECT_EQ(window->gameStatusBar()->lblCash->text(), "£1,000,000");
