@@ -60,7 +60,6 @@ frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), ma
         auto* cell = new QPushButton(this);
         cell->setObjectName(QStringLiteral("lblDayOfMonth%1").arg(d));
         cell->setProperty("role", "dayCell");
-        cell->setMinimumSize(132, 62);
         cell->setAutoDefault(false);
         auto* inner = new QVBoxLayout(cell);
         inner->setContentsMargins(10, 6, 10, 6);
@@ -100,6 +99,11 @@ frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), ma
 
     month_ = firstCalendarMonth(main.game(), mode);
     updateSchedule();
+    for (std::size_t i = 0; i < 31; ++i)
+        if (view_.cells[i].choosable) {
+            lblDayOfMonth[i]->setFocus();
+            break;
+        }
 }
 
 void frmChooseDate::step(int months) {

@@ -67,7 +67,7 @@ QPushButton[role="panelEntry"]:hover { background: %surface; }
 QPushButton[role="panelEntry"]:focus { border: 2px solid %teal; }
 QPushButton[role="panelEntry"]:disabled { color: %disabled; }
 
-QPushButton[role="dayCell"] { background: %surface; border-radius: 8px; padding: 0; }
+QPushButton[role="dayCell"] { background: %surface; border-radius: 8px; padding: 0; min-height: 56px; min-width: 128px; }
 QPushButton[role="dayCell"]:hover { background: #38405a; }
 QPushButton[role="dayCell"][busy="true"] { background: #342e26; border-color: #5e4c2e; }
 QPushButton[role="dayCell"][busy="true"]:hover { background: #342e26; }

@@ -92,6 +92,7 @@ void ScreenTest::screenshot(const QString& name) {
 void ScreenTest::screenshotOf(QWidget* w, const QString& name) {
     QDir dir(QStringLiteral(TROVANE_SCREENSHOT_DIR));
     dir.mkpath(QStringLiteral("."));
+    QApplication::processEvents();
     EXPECT_TRUE(w->grab().save(dir.filePath(name + QStringLiteral(".png"))));
 }
 

@@ -10,6 +10,8 @@
 #include <fstream>
 
 #include "screen_fixture.h"
+#include "calendar/schedule.h"
+#include "screens/choose_date.h"
 #include "screens/game_option_screens.h"
 #include "screens/loading_screen.h"
 #include "screens/option_panels.h"
@@ -237,6 +239,41 @@ TEST_F(ScreenTest, ABrokenSlotIsRefusedAndAFatalErrorIsShownBeforeTheEnd) {
     EXPECT_EQ(endedWith, -1);
     click(box->button(QMessageBox::Ok));
     EXPECT_EQ(endedWith, 1);
+}
+
+}  // namespace trovane::test
+
+namespace trovane::test {
+
+TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
+    startNewGameAsPlayer();
+    game->band.read(1);
+    ScheduleRecord rest{};
+    rest.type = 11;  // resting keeps the band busy
+    rest.band = 1;
+    rest.date = serialFromCivil(2004, 9, 14);
+    addSchedule(*game, rest);
+    game->band.read(1);
+    auto* calendar = new screens::frmChooseDate(*window, 1);
+    calendar->open();
+    double chosen = 0;
+    QObject::connect(calendar, &screens::frmChooseDate::dateChosen, [&](double d) { chosen = d; });
+    EXPECT_EQ(calendar->lblMonth->text(), "September");  // the month after today's
+    EXPECT_EQ(calendar->lblYear->text(), "2004");
+    EXPECT_EQ(calendar->lblEvent[13]->text(), "Resting");
+    EXPECT_FALSE(calendar->lblDayOfMonth[30]->isVisible());  // no 31 September
+    screenshotOf(calendar, "24_frmChooseDate");
+    click(calendar->lblDayOfMonth[13]);
+    EXPECT_EQ(chosen, 0);  // a busy day cannot be chosen
+    click(calendar->cmdYearRight);
+    for (int i = 0; i < 5; ++i) click(calendar->cmdMonthRight);
+    EXPECT_EQ(calendar->lblMonth->text(), "February");
+    EXPECT_EQ(calendar->lblYear->text(), "2006");
+    EXPECT_TRUE(calendar->lblDayOfMonth[27]->isVisible());
+    EXPECT_FALSE(calendar->lblDayOfMonth[28]->isVisible());
+    click(calendar->lblDayOfMonth[1]);
+    EXPECT_EQ(chosen, serialFromCivil(2006, 2, 2));
+    EXPECT_FALSE(calendar->isVisible());
 }
 
 }  // namespace trovane::test
