@@ -35,6 +35,13 @@ std::string_view screenName(Screen s) {
     case Screen::frmLoading: return "frmLoading";
     case Screen::frmBandOptionDecision: return "frmBandOptionDecision";
     case Screen::frmChooseDistributor: return "frmChooseDistributor";
+    case Screen::frmQuellmarkGames: return "frmQuellmarkGames";
+    case Screen::frmStartNewGame: return "frmStartNewGame";
+    case Screen::frmCreateNewLabel: return "frmCreateNewLabel";
+    case Screen::frmManageExistingLabel: return "frmManageExistingLabel";
+    case Screen::frmSaveGame: return "frmSaveGame";
+    case Screen::frmCredits: return "frmCredits";
+    case Screen::frmDisclaimer: return "frmDisclaimer";
     }
     return "unknown";
 }

@@ -174,6 +174,7 @@ void mdiParentForm::startGame(std::function<void()> foundOrTakeOver) {
 
 void mdiParentForm::loadSavedGame(int slot) {
     bool wasRunning = gameRunning_;
+    Screen wasOn = g_.currentScreen;
     auto message = std::make_shared<QString>();
     runBehindLoadingScreen(
         [this, slot, message] {
@@ -189,9 +190,10 @@ void mdiParentForm::loadSavedGame(int slot) {
             g_.currentScreen = Screen::frmNews;
             return true;
         },
-        [this, wasRunning, message] {
+        [this, wasRunning, wasOn, message] {
             // The running game, if any, is untouched: back to where the player was.
             if (wasRunning) {
+                g_.currentScreen = wasOn;
                 pages_->setCurrentWidget(shell_);
                 showCurrentScreen();
             } else {
@@ -203,8 +205,9 @@ void mdiParentForm::loadSavedGame(int slot) {
 
 void mdiParentForm::enterShell() {
     retire(startScreen_);
+    // The news list's sort lasts as long as the shell: a load in game keeps it.
+    if (!gameRunning_) newsSort_ = NewsSort{};
     gameRunning_ = true;
-    newsSort_ = NewsSort{};
     sideBar_->CloseOtherWindows();
     sideBar_->enableSidebar(true);
     statusBar_->initialise();

@@ -314,7 +314,10 @@ frmManageExistingLabel::frmManageExistingLabel(mdiParentForm& main, NewPlayer pl
     addButtons(this, cmdOk, cmdCancel, tr("Take Over"));
 
     main.guarded([&] { labels_ = existingLabels(main.game()); });
-    for (const ExistingLabel& l : labels_) lstLabel->addItem(qs(l.name));
+    for (const ExistingLabel& l : labels_) {
+        auto* item = new QListWidgetItem(qs(l.name), lstLabel);
+        item->setSizeHint(QSize(0, 34));
+    }
     connect(lstLabel, &QListWidget::currentRowChanged, this, &frmManageExistingLabel::showLabel);
     lstLabel->setCurrentRow(labels_.empty() ? -1 : 0);
     showLabel(lstLabel->currentRow());

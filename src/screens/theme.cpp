@@ -47,6 +47,7 @@ QPushButton[role="primary"]:pressed { background: #d9932b; }
 QPushButton[role="primary"]:focus { border: 2px solid %text; }
 QPushButton[role="primary"]:disabled { background: #5b4a33; color: #9a8a72; border-color: #5b4a33; }
 QPushButton[role="danger"] { color: %danger; }
+QPushButton[role="danger"]:disabled { color: %disabled; }
 QPushButton[role="sidebar"] {
     background: transparent; border: 1px solid transparent; border-radius: 8px; text-align: left;
     padding: 8px 12px; font-size: 11pt;

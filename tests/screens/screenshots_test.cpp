@@ -122,11 +122,10 @@ TEST_F(ScreenTest, ScreenshotsOfEveryScreenAtBothSizes) {
     screenshotOf(currency, "22_frmChangeCurrency");
     currency->close();
     window->showRefusal("Load Game", "Slot 3 cannot be loaded: the file band.sg3 is missing.");
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->isVisible() && w->objectName() == "refusalDialog") {
-            screenshotOf(w, "23_refusal");
-            w->close();
-        }
+    QWidget* refusal = dialog("refusalDialog");
+    ASSERT_NE(refusal, nullptr);
+    screenshotOf(refusal, "23_refusal");
+    refusal->close();
 }
 
 }  // namespace trovane::test

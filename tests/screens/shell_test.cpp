@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTableView>
 #include <fstream>
 
@@ -103,6 +104,7 @@ TEST_F(ScreenTest, AnUnansweredQuestionHoldsTheDayAndTheSidebarUntilAnswered) {
         EXPECT_FALSE(window->sideBar()->cmdExtra->isEnabled());
         EXPECT_FALSE(find<QPushButton>("cmdDelete")->isEnabled());
     }
+    screenshot("25_frmNewsFull_must_reply");
     click("cmdHelp");
     auto* help = dialog<QDialog>("frmHelpForm");
     ASSERT_NE(help, nullptr);
@@ -236,6 +238,7 @@ TEST_F(ScreenTest, ABrokenSlotIsRefusedAndAFatalErrorIsShownBeforeTheEnd) {
     EXPECT_TRUE(shown.contains("country")) << shown.toStdString();
     auto* box = dialog<QMessageBox>("fatalDialog");
     ASSERT_NE(box, nullptr);
+    screenshotOf(box, "26_fatalDialog");
     EXPECT_EQ(endedWith, -1);
     click(box->button(QMessageBox::Ok));
     EXPECT_EQ(endedWith, 1);
@@ -254,15 +257,15 @@ TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     rest.date = serialFromCivil(2004, 9, 14);
     addSchedule(*game, rest);
     game->band.read(1);
-    auto* calendar = new screens::frmChooseDate(*window, 1);
+    QPointer<screens::frmChooseDate> calendar = new screens::frmChooseDate(*window, 1);
     calendar->open();
     double chosen = 0;
-    QObject::connect(calendar, &screens::frmChooseDate::dateChosen, [&](double d) { chosen = d; });
+    QObject::connect(calendar.data(), &screens::frmChooseDate::dateChosen, [&](double d) { chosen = d; });
     EXPECT_EQ(calendar->lblMonth->text(), "September");  // the month after today's
     EXPECT_EQ(calendar->lblYear->text(), "2004");
     EXPECT_EQ(calendar->lblEvent[13]->text(), "Resting");
     EXPECT_FALSE(calendar->lblDayOfMonth[30]->isVisible());  // no 31 September
-    screenshotOf(calendar, "24_frmChooseDate");
+    screenshotOf(calendar.data(), "24_frmChooseDate");
     click(calendar->lblDayOfMonth[13]);
     EXPECT_EQ(chosen, 0);  // a busy day cannot be chosen
     click(calendar->cmdYearRight);
@@ -273,7 +276,29 @@ TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     EXPECT_FALSE(calendar->lblDayOfMonth[28]->isVisible());
     click(calendar->lblDayOfMonth[1]);
     EXPECT_EQ(chosen, serialFromCivil(2006, 2, 2));
-    EXPECT_FALSE(calendar->isVisible());
+    EXPECT_TRUE(calendar.isNull() || !calendar->isVisible());  // it closes itself
+}
+
+}  // namespace trovane::test
+
+namespace trovane::test {
+
+TEST_F(ScreenTest, LoadingInGameAsksFirstAndBringsTheSavedDayBack) {
+    startNewGameAsPlayer();
+    const double savedOn = game->gameDate;
+    window->openSaveScreen(false);
+    find<QListWidget>("lstSaves")->setCurrentRow(1);
+    click("cmdSave");
+    continueOneDay();
+    click(window->sideBar()->btnGameOptions);
+    click("lblLoadGame");
+    find<QListWidget>("lstSaves")->setCurrentRow(1);
+    click("cmdOverwrite");
+    auto* sure = dialog<QDialog>("frmSure");
+    ASSERT_NE(sure, nullptr);
+    click(sure->findChild<QAbstractButton*>("lblConfirm"));
+    ASSERT_TRUE(waitFor([&] { return game->gameDate == savedOn && screen() == Screen::frmNews; }));
+    EXPECT_EQ(window->gameStatusBar()->lblDate->text(), "Thursday 5/8/2004");
 }
 
 }  // namespace trovane::test
