@@ -35,5 +35,9 @@ private:
 // Each group of verbs adds its subcommands here.
 void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
+void addNewsVerbs(CLI::App& app, SimContext& ctx);     // news, show, reply, delete, schedule
+
+// The body and the replies of an item that holds the calendar, for advance to print.
+std::string heldItemDetails(const NewsRecord& n, bool json);
 
 }  // namespace trovane::sim

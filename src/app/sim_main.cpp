@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     app.fallthrough();
     addWorldVerbs(app, ctx);
     addSessionVerbs(app, ctx);
+    addNewsVerbs(app, ctx);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {

@@ -88,11 +88,12 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
                 ctx.exitCode = kExitHeld;
                 const NewsRecord& n = g.news.rec;
                 if (ctx.json)
-                    json += fmt::format("{}{{\"held\":true,\"news\":{},\"title\":{}}}", d ? "," : "", n.id,
-                                        jsonQuote(trim(n.title.value)));
+                    json += fmt::format("{}{{\"held\":true,\"news\":{},\"title\":{},{}}}", d ? "," : "", n.id,
+                                        jsonQuote(trim(n.title.value)), heldItemDetails(n, true));
                 else
-                    std::printf("Held on %s: news item %d must be answered first: %s\n",
-                                formatDate(g.gameDate, "dddd d/m/yyyy").c_str(), n.id, trim(n.title.value).c_str());
+                    std::printf("Held on %s: news item %d must be answered first: %s\n%s\n",
+                                formatDate(g.gameDate, "dddd d/m/yyyy").c_str(), n.id, trim(n.title.value).c_str(),
+                                heldItemDetails(n, false).c_str());
                 break;
             }
             double day = g.gameDate;

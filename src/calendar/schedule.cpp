@@ -1,16 +1,92 @@
 #include "calendar/schedule.h"
 
+#include <filesystem>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "calendar/dispatch.h"
+#include "world/dates.h"
+#include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_store.h"
 
 namespace trovane {
 
-// Not built yet: the dispatch comes with the schedule.
-void performDaysEvents(Game& g) { static_cast<void>(g); }
+int32_t dayNumberInYear(double date) {
+    int year = yearOf(date);
+    return static_cast<int32_t>(date - serialFromCivil(year, 1, 1)) + 1;
+}
 
-// Not built yet: the day index comes with the schedule.
+bool hasDayFile(const Game& g, int year) {
+    std::error_code ec;
+    return std::filesystem::exists(dataFile(g, std::to_string(year), "vel"), ec);
+}
+
 void addScheduleYear(Game& g, int year) {
-    static_cast<void>(g);
-    static_cast<void>(year);
+    // No year may be skipped: a date two years ahead makes both, in order.
+    if (g.lastScheduleYear != 0 && g.lastScheduleYear < year - 1) addScheduleYear(g, year - 1);
+    copyEmptyFile(g, dataFile(g, std::to_string(year), "vel"));
+    openDayFile(g, year);
+    g.dayIndex.rec = DayRecord{};
+    for (int32_t day = 1; day <= daysInYear(year); ++day) g.dayIndex.write(day);
+    closeDayFile(g);
+    g.lastScheduleYear = narrow<int16_t>(year);
+}
+
+int32_t addSchedule(Game& g, ScheduleRecord record) {
+    if (record.date < g.gameStartDate) return 0;
+    if (record.type != 17 || record.id == 0) record.id = g.schedule.recordCount();
+
+    ScheduleRecord kept = g.schedule.rec;
+    g.schedule.rec = record;
+    g.schedule.write(record.id);
+    g.schedule.rec = kept;
+
+    int year = yearOf(record.date);
+    if (year > g.lastScheduleYear) addScheduleYear(g, year);
+
+    int32_t day = dayNumberInYear(record.date);
+    openDayFile(g, year);
+    g.dayIndex.read(day);
+    DayRecord& d = g.dayIndex.rec;
+    if (d.count < 0 || d.count >= kMaxEntriesPerDay) {
+        closeDayFile(g);
+        throw FatalError(fmt::format("Subscript out of range: day {} of {} already holds {} schedule entries",
+                                     day, year, d.count));
+    }
+    d.entries[static_cast<std::size_t>(d.count)] = record.id;
+    d.count += 1;
+    g.dayIndex.write(day);
+    closeDayFile(g);
+    return record.id;
+}
+
+std::vector<int32_t> entriesOfDay(Game& g, double date) {
+    int year = yearOf(date);
+    if (!hasDayFile(g, year)) return {};
+    openDayFile(g, year);
+    g.dayIndex.read(dayNumberInYear(date));
+    const DayRecord& d = g.dayIndex.rec;
+    int32_t count = d.count;
+    if (count < 0 || count > kMaxEntriesPerDay) {
+        closeDayFile(g);
+        throw FatalError(fmt::format("The day index of {} is damaged: a day lists {} entries", year, count));
+    }
+    std::vector<int32_t> ids(d.entries.begin(), d.entries.begin() + count);
+    closeDayFile(g);
+    return ids;
+}
+
+void performDaysEvents(Game& g) {
+    // The bound is taken once: what the handlers file for today waits in the
+    // file. A day only ever grows at its end, so the first `count` entries
+    // read now are the ones the loop would read back after every handler,
+    // and the day file stays closed while the handlers run.
+    for (int32_t id : entriesOfDay(g, g.gameDate)) {
+        g.schedule.read(id);
+        runScheduleEntry(g);
+    }
 }
 
 }  // namespace trovane

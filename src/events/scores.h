@@ -10,4 +10,7 @@ void addThisYearsBirthdays(Game& g);
 // totals of the player's own staff record.
 void updateHighScoreTable(Game& g);
 
+// Schedule type 16: the entry's artist is a year older.
+void artistBirthday(Game& g);
+
 }  // namespace trovane

@@ -28,4 +28,7 @@ void runRandomEvents(Game& g) {
 // Not built yet: stories start once casting and stages are written.
 void tryStartEvent(Game& g) { static_cast<void>(g); }
 
+// Not built yet: stories have no later stages until they are written.
+void performStage(Game& g) { static_cast<void>(g); }
+
 }  // namespace trovane

@@ -11,4 +11,7 @@ void runRandomEvents(Game& g);
 // The current event buffer fired: find its cast and start the story.
 void tryStartEvent(Game& g);
 
+// Schedule type 12: the next stage of a story.
+void performStage(Game& g);
+
 }  // namespace trovane

@@ -31,5 +31,8 @@ uint8_t rateLook(Game& g) {
     }
     return static_cast<uint8_t>(std::clamp(rating, 0, 100));
 }
+// Not built yet: images do not change until image and marketing are written.
+void imageReport(Game& g) { static_cast<void>(g); }
+void changeLook(Game& g) { static_cast<void>(g); }
 
 }  // namespace trovane

@@ -13,5 +13,10 @@ void deliverMarketingReports(Game& g);
 // distance of each of the eight attributes outside the look's bounds, plus the
 // style's liking for the look.
 uint8_t rateLook(Game& g);
+// Schedule type 9: the marketing report on the image of the entry's artist.
+void imageReport(Game& g);
+// The player's yes to a proposed image: the artist in the artist buffer takes
+// the look in the look buffer.
+void changeLook(Game& g);
 
 }  // namespace trovane

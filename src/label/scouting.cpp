@@ -11,4 +11,7 @@ void tidyShortlist(Game& g) {
     compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
 }
 
+// Not built yet: no report arrives until scouting is written.
+void bandReport(Game& g) { static_cast<void>(g); }
+
 }  // namespace trovane

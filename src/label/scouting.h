@@ -9,4 +9,7 @@ void deliverScoutingReports(Game& g);
 // Rewrites the shortlist without its freed rows.
 void tidyShortlist(Game& g);
 
+// Schedule type 6: the scouting report on the entry's band.
+void bandReport(Game& g);
+
 }  // namespace trovane

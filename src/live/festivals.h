@@ -1,5 +1,6 @@
 #pragma once
 // The yearly festivals.
+#include <cstdint>
 
 namespace trovane {
 
@@ -7,5 +8,11 @@ class Game;
 
 // Makes each festival's tour and gigs of the given year and files its invitation date.
 void scheduleFestivals(Game& g, int year);
+
+// Schedule type 22: the bill of the entry's festival is drawn up.
+void fillFestivalBill(Game& g);
+// The player's yes to a festival invitation: the band in the band buffer takes
+// place `slot` on the bill of the festival in the festival buffer.
+void acceptFestivalSlot(Game& g, int32_t slot);
 
 }  // namespace trovane

@@ -9,4 +9,7 @@ void subtractBusinessRunningCosts(Game& g);
 // A firm's charge from its quality and size, set on every firm when a game starts.
 void setBusinessCharge(Game& g);
 
+// Schedule type 24: the entry's new facility opens.
+void openBusiness(Game& g);
+
 }  // namespace trovane

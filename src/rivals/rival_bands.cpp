@@ -7,4 +7,7 @@ namespace trovane {
 // Not built yet: each runs as an empty step of the day until its rules are written.
 void computerCheckBands(Game& g) { static_cast<void>(g); }
 
+// Not built yet: rivals release no follow-up singles until this is written.
+void rivalFollowUpSingle(Game& g) { static_cast<void>(g); }
+
 }  // namespace trovane

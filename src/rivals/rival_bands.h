@@ -7,4 +7,7 @@ class Game;
 
 void computerCheckBands(Game& g);
 
+// Schedule type 20: a rival follows a disc of the entry's band with a single.
+void rivalFollowUpSingle(Game& g);
+
 }  // namespace trovane

@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "calendar/schedule.h"
 #include "session/preferences.h"
 #include "session/session_record.h"
 #include "world/dates.h"
@@ -33,13 +34,16 @@ void createEmptyWorkingSet(Game& g) {
     g.gameStartDate = gameStartDay();
     g.gameDate = g.gameStartDate;
     g.firstScheduleYear = 2004;
-    g.lastScheduleYear = 2004;
+    g.lastScheduleYear = 0;
     g.eventRollsPerDay = 0;
     g.player = PlayerBlock{};
     g.player.dateBegun = g.gameDate;
     g.currentYear = 2004;
     readPrefs(g);
     openAllTables(g, "vel");
+    // A new game files its first two years; each 31 December files the year after next.
+    addScheduleYear(g, 2004);
+    addScheduleYear(g, 2005);
     writeSessionFile(g, workingSessionFile(g));
 }
 

@@ -10,7 +10,8 @@ double gameStartDay();
 
 // Makes g.dataDir a complete, empty working set (the zero-length empty.gam,
 // every table of the set as an empty .vel file, prefs.gam and highscore.gam
-// when missing) with the session on the first day, and opens it.
+// when missing, the day files of 2004 and 2005) with the session on the
+// first day, and opens it.
 void createEmptyWorkingSet(Game& g);
 
 }  // namespace trovane

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "session/preferences.h"
+#include "session/session_record.h"
 #include "world/dates.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -50,7 +51,16 @@ void copyInto(const fs::path& from, const fs::path& to) {
     std::error_code ec;
     fs::copy_file(from, to, fs::copy_options::overwrite_existing, ec);
     if (ec) throw SlotError(fmt::format("Cannot copy {} to {}: {}", from.string(), to.string(), ec.message()));
-    syncFile(to);
+}
+
+// Everything staged reaches the disk before the mark that says it is complete:
+// one flush of the file system instead of one per file.
+void syncStaged(const fs::path& staging) {
+    int fd = ::open(staging.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::syncfs(fd);
+        ::close(fd);
+    }
 }
 
 // Moves every staged file into the data folder, then drops the staging folder.
@@ -66,6 +76,7 @@ void commitStaging(const fs::path& staging, const fs::path& dataDir) {
 }
 
 void markComplete(const fs::path& staging) {
+    syncStaged(staging);
     fs::path mark = staging / kCompleteMark;
     std::ofstream(mark) << "complete\n";
     syncFile(mark);
@@ -114,15 +125,6 @@ void checkSlotComplete(Game& g, int slot, const SvarRecord& session) {
     }
 }
 
-void sessionFromRecord(Game& g, const SvarRecord& s) {
-    g.gameDate = s.gameDate;
-    g.firstScheduleYear = s.firstScheduleYear;
-    g.lastScheduleYear = s.lastScheduleYear;
-    g.eventRollsPerDay = s.eventRollsPerDay;
-    g.player = s.player;
-    g.currentYear = static_cast<int16_t>(yearOf(g.gameDate));
-}
-
 }  // namespace
 
 void recoverInterruptedSaves(Game& g) {
@@ -151,21 +153,8 @@ void saveGame(Game& g, int slot, const std::string& saveName) {
             copyInto(dataFile(g, stem, "vel"), staging / fmt::format("{}.{}", stem, ext));
         for (int y = g.firstScheduleYear; y <= g.lastScheduleYear; ++y)
             copyInto(dataFile(g, std::to_string(y), "vel"), staging / fmt::format("{}.{}", y, ext));
-        // The session record, as writeSessionRecord fills it.
-        SvarRecord& s = g.svar.rec;
-        s = SvarRecord{};
-        s.saveName = trim(saveName);
-        s.gameDate = g.gameDate;
-        s.lastScheduleYear = g.lastScheduleYear;
-        s.firstScheduleYear = g.firstScheduleYear;
-        s.lastScheduleYear2 = g.lastScheduleYear;
-        s.eventRollsPerDay = g.eventRollsPerDay;
-        s.player = g.player;
         fs::path svar = staging / fmt::format("svar.{}", ext);
-        g.svar.open(svar, IfMissing::createEmpty);
-        g.svar.write(1);
-        g.svar.close();
-        syncFile(svar);
+        writeSessionFile(g, svar, saveName);
         markComplete(staging);
         commitStaging(staging, g.dataDir);
     } catch (...) {
@@ -202,7 +191,7 @@ void loadGame(Game& g, int slot) {
     // Everything is staged: only now is the running game replaced.
     closeAllTables(g);
     commitStaging(staging, g.dataDir);
-    sessionFromRecord(g, session);
+    applySessionRecord(g, session);
     openAllTables(g, "vel");
 }
 

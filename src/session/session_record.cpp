@@ -2,21 +2,40 @@
 
 #include <fmt/format.h>
 
+#include "session/empty_world.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/strings.h"
 
 namespace trovane {
 
 std::filesystem::path workingSessionFile(const Game& g) { return g.dataDir / "svar.vel"; }
 
-void writeSessionFile(Game& g, const std::filesystem::path& file) {
+void fillSessionRecord(Game& g, std::string_view saveName) {
     SvarRecord& s = g.svar.rec;
+    s = SvarRecord{};
+    s.saveName = trim(saveName);
     s.gameDate = g.gameDate;
     s.lastScheduleYear = g.lastScheduleYear;
     s.firstScheduleYear = g.firstScheduleYear;
     s.lastScheduleYear2 = g.lastScheduleYear;
     s.eventRollsPerDay = g.eventRollsPerDay;
     s.player = g.player;
+}
+
+void applySessionRecord(Game& g, const SvarRecord& s) {
+    g.gameDate = s.gameDate;
+    // Not part of the record: every game starts on the same day.
+    g.gameStartDate = gameStartDay();
+    g.lastScheduleYear = s.lastScheduleYear;
+    g.firstScheduleYear = s.firstScheduleYear;
+    g.eventRollsPerDay = s.eventRollsPerDay;
+    g.player = s.player;
+    g.currentYear = static_cast<int16_t>(yearOf(g.gameDate));
+}
+
+void writeSessionFile(Game& g, const std::filesystem::path& file, std::string_view saveName) {
+    fillSessionRecord(g, saveName);
     g.svar.open(file, IfMissing::createEmpty);
     g.svar.write(1);
     g.svar.close();
@@ -27,13 +46,7 @@ void readSessionFile(Game& g, const std::filesystem::path& file) {
     bool present = g.svar.readIfPresent(1);
     g.svar.close();
     if (!present) throw FatalError(fmt::format("The session record {} is empty", file.string()));
-    const SvarRecord& s = g.svar.rec;
-    g.gameDate = s.gameDate;
-    g.lastScheduleYear = s.lastScheduleYear;
-    g.firstScheduleYear = s.firstScheduleYear;
-    g.eventRollsPerDay = s.eventRollsPerDay;
-    g.player = s.player;
-    g.currentYear = static_cast<int16_t>(yearOf(g.gameDate));
+    applySessionRecord(g, g.svar.rec);
 }
 
 }  // namespace trovane

@@ -1,6 +1,9 @@
 #pragma once
 // The session record (svar): the state of a game that lives outside the tables.
 #include <filesystem>
+#include <string_view>
+
+#include "world/records.h"
 
 namespace trovane {
 
@@ -10,8 +13,13 @@ class Game;
 // separate runs of trovane-sim continue one game.
 std::filesystem::path workingSessionFile(const Game& g);
 
-// Fills g.svar from the session state and writes it to the file.
-void writeSessionFile(Game& g, const std::filesystem::path& file);
+// Fills the svar buffer from the session state (and the save's name, trimmed).
+void fillSessionRecord(Game& g, std::string_view saveName);
+// Sets the session state from a session record.
+void applySessionRecord(Game& g, const SvarRecord& s);
+
+// Fills the svar buffer from the session state and writes it to the file.
+void writeSessionFile(Game& g, const std::filesystem::path& file, std::string_view saveName = "");
 // Reads the file and sets the session state from it; a missing or damaged
 // file is an error that names it.
 void readSessionFile(Game& g, const std::filesystem::path& file);

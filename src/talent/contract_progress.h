@@ -7,4 +7,7 @@ class Game;
 
 void updateMonthsRemainingOnOption(Game& g);
 
+// Schedule type 18: an option of the entry's band has run out.
+void contractPoint(Game& g);
+
 }  // namespace trovane

@@ -22,6 +22,8 @@ enum class Screen {
     frmNewsFull,
     frmAwardCeremony,
     frmLoading,
+    frmBandOptionDecision,
+    frmChooseDistributor,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
@@ -105,6 +107,8 @@ public:
     std::function<void(std::string_view)> trace;
     // Told how far long work (a new game, a save, a load) has come, 0 to 100.
     std::function<void(int percent)> progress;
+    // Told each schedule handler by name, with its entry, just before it runs.
+    std::function<void(std::string_view handler, const ScheduleRecord& entry)> onScheduleHandler;
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)

@@ -1,0 +1,237 @@
+// The verbs of the inbox and the schedule: news, show, reply, delete, schedule.
+#include <chrono>
+#include <cstdio>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "app/sim_context.h"
+#include "calendar/dispatch.h"
+#include "calendar/news_inbox.h"
+#include "calendar/schedule.h"
+#include "session/formats.h"
+#include "world/dates.h"
+#include "world/record_dump.h"
+#include "world/strings.h"
+
+namespace trovane::sim {
+
+namespace {
+
+// Exit status of a verb refused by the game's rules (no such button, a compulsory item).
+constexpr int kExitRefused = 1;
+
+std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
+
+std::string_view screenName(Screen s) {
+    switch (s) {
+    case Screen::none: return "none";
+    case Screen::frmStartForm: return "frmStartForm";
+    case Screen::frmNews: return "frmNews";
+    case Screen::frmNewsFull: return "frmNewsFull";
+    case Screen::frmAwardCeremony: return "frmAwardCeremony";
+    case Screen::frmLoading: return "frmLoading";
+    case Screen::frmBandOptionDecision: return "frmBandOptionDecision";
+    case Screen::frmChooseDistributor: return "frmChooseDistributor";
+    }
+    return "unknown";
+}
+
+// The reply words of each button of a kind: cmd1, cmd2 (cmd3, no comment, does nothing).
+std::vector<std::string_view> buttonWords(uint8_t kind) {
+    switch (kind) {
+    case kNewsOk: return {"ok"};
+    case kNewsYesNo: return {"yes", "no"};
+    case kNewsMediaStory: return {"defend", "condemn"};
+    default: return {};
+    }
+}
+
+void refuse(SimContext& ctx, const std::string& why) {
+    std::fprintf(stderr, "trovane-sim: %s\n", why.c_str());
+    ctx.exitCode = kExitRefused;
+}
+
+// Reads news item `id` into the buffer; false (and a refusal) when there is none.
+bool readItem(SimContext& ctx, Game& g, int id) {
+    if (id < 1 || id >= g.news.recordCount()) {
+        refuse(ctx, fmt::format("There is no news item {}", id));
+        return false;
+    }
+    g.news.read(id);
+    g.previousScreen = Screen::frmNews;
+    g.currentScreen = Screen::frmNewsFull;
+    return true;
+}
+
+std::string itemJson(const NewsRecord& n, const NewsItemView* view) {
+    std::string out = fmt::format(
+        "{{\"id\":{},\"date\":\"{}\",\"kind\":{},\"title\":{},\"text\":{},\"mustReply\":{},\"replied\":{},"
+        "\"read\":{},\"deleted\":{},\"scheduleLink\":{},\"eventLink\":{}",
+        n.id, isoDate(n.date), n.kind, jsonQuote(trim(n.title.value)), jsonQuote(n.text.value),
+        n.mustReply != 0, n.replied != 0, n.read != 0, n.deleted != 0, n.scheduleLink, n.eventLink);
+    if (view) {
+        out += ",\"help\":" + jsonQuote(view->help) + ",\"replies\":[";
+        auto words = buttonWords(n.kind);
+        for (std::size_t i = 0; i < words.size(); ++i)
+            out += fmt::format("{}{{\"reply\":\"{}\",\"enabled\":{}}}", i ? "," : "", words[i],
+                               view->buttons[i].enabled);
+        out += fmt::format("],\"deleteEnabled\":{},\"sidebarEnabled\":{}", view->deleteEnabled,
+                           view->sidebarEnabled);
+    }
+    return out + "}";
+}
+
+void printItem(const NewsRecord& n, const NewsItemView& view) {
+    std::printf("News item %d, %s%s\n%s\n\n%s\n", n.id, formatDate(n.date, "dddd d/m/yyyy").c_str(),
+                n.mustReply != 0 && n.replied == 0 ? " (must be answered)" : "", trim(n.title.value).c_str(),
+                n.text.value.c_str());
+    if (view.helpVisible) std::printf("\nHelp: %s\n", view.help.c_str());
+    std::string replies;
+    auto words = buttonWords(n.kind);
+    for (std::size_t i = 0; i < words.size(); ++i)
+        if (view.buttons[i].enabled) replies += (replies.empty() ? "" : "|") + std::string(words[i]);
+    if (!replies.empty()) std::printf("\nReplies: %s\n", replies.c_str());
+}
+
+std::optional<double> parseIsoDate(const std::string& text) {
+    int y = 0;
+    unsigned m = 0, d = 0;
+    char tail = 0;
+    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
+    std::chrono::year_month_day ymd{std::chrono::year{y}, std::chrono::month{m}, std::chrono::day{d}};
+    if (!ymd.ok()) return std::nullopt;
+    return serialFromCivil(y, m, d);
+}
+
+}  // namespace
+
+std::string heldItemDetails(const NewsRecord& n, bool json) {
+    std::string replies;
+    for (auto w : buttonWords(n.kind)) replies += (replies.empty() ? "" : "|") + std::string(w);
+    if (json) return fmt::format("\"text\":{},\"replies\":\"{}\"", jsonQuote(n.text.value), replies);
+    return fmt::format("{}\nAnswer it with: trovane-sim reply {} {}", n.text.value, n.id, replies);
+}
+
+void addNewsVerbs(CLI::App& app, SimContext& ctx) {
+    auto* news = app.add_subcommand("news", "List the news, newest first (deleted items left out)");
+    news->callback([&ctx] {
+        Game& g = ctx.openGame();
+        std::vector<NewsRow> rows = newsListRows(g);
+        if (ctx.json) {
+            std::string out = "[";
+            for (std::size_t i = 0; i < rows.size(); ++i) {
+                g.news.read(rows[i].record);
+                out += (i ? "," : "") + itemJson(g.news.rec, nullptr);
+            }
+            std::printf("%s]\n", out.c_str());
+        } else {
+            for (const NewsRow& r : rows) {
+                g.news.read(r.record);
+                bool held = g.news->mustReply != 0 && g.news->replied == 0;
+                std::printf("%5d  %-6s  %s  %s%s\n", r.record, r.unread.c_str(), r.date.c_str(), r.title.c_str(),
+                            held ? "  [must be answered]" : "");
+            }
+        }
+        ctx.closeGame();
+    });
+
+    static int showId = 0;
+    auto* show = app.add_subcommand("show", "Open a news item (it is then read)");
+    show->add_option("ID", showId, "The news item's number")->required();
+    show->callback([&ctx] {
+        Game& g = ctx.openGame();
+        if (readItem(ctx, g, showId)) {
+            NewsItemView view = openNewsItem(g);
+            if (ctx.json) std::printf("%s\n", itemJson(g.news.rec, &view).c_str());
+            else printItem(g.news.rec, view);
+        }
+        ctx.closeGame();
+    });
+
+    static int replyId = 0;
+    static std::string replyWord;
+    auto* reply = app.add_subcommand("reply", "Answer a news item");
+    reply->add_option("ID", replyId, "The news item's number")->required();
+    reply->add_option("REPLY", replyWord, "ok, yes, no, defend or condemn")
+        ->required()
+        ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn"}));
+    reply->callback([&ctx] {
+        Game& g = ctx.openGame();
+        if (readItem(ctx, g, replyId)) {
+            NewsItemView view = openNewsItem(g);
+            auto words = buttonWords(g.news->kind);
+            std::size_t button = 0;
+            while (button < words.size() && words[button] != replyWord) ++button;
+            if (button == words.size()) {
+                refuse(ctx, fmt::format("News item {} has no {} button", replyId, replyWord));
+            } else if (!view.buttons[button].enabled) {
+                refuse(ctx, fmt::format("News item {} has already been answered", replyId));
+            } else {
+                if (button == 0) pressNewsCmd1(g);
+                else pressNewsCmd2(g);
+                if (ctx.json)
+                    std::printf("{\"id\":%d,\"reply\":\"%s\",\"screen\":\"%s\"}\n", replyId, replyWord.c_str(),
+                                std::string(screenName(g.currentScreen)).c_str());
+                else
+                    std::printf("Answered news item %d: %s (now on %s)\n", replyId, replyWord.c_str(),
+                                std::string(screenName(g.currentScreen)).c_str());
+            }
+        }
+        ctx.closeGame();
+    });
+
+    static int deleteId = 0;
+    auto* del = app.add_subcommand("delete", "Delete a news item from the list");
+    del->add_option("ID", deleteId, "The news item's number")->required();
+    del->callback([&ctx] {
+        Game& g = ctx.openGame();
+        if (readItem(ctx, g, deleteId)) {
+            openNewsItem(g);
+            if (!deleteNewsItem(g)) {
+                refuse(ctx, fmt::format("News item {} must be answered before it can be deleted", deleteId));
+            } else if (ctx.json) {
+                std::printf("{\"id\":%d,\"deleted\":true}\n", deleteId);
+            } else {
+                std::printf("Deleted news item %d\n", deleteId);
+            }
+        }
+        ctx.closeGame();
+    });
+
+    static std::string scheduleDate;
+    auto* schedule = app.add_subcommand("schedule", "List the schedule entries of a date, in the order they run");
+    schedule->add_option("DATE", scheduleDate, "The date, YYYY-MM-DD")->required();
+    schedule->callback([&ctx] {
+        std::optional<double> date = parseIsoDate(scheduleDate);
+        if (!date) {
+            refuse(ctx, fmt::format("{} is not a date of the form YYYY-MM-DD", scheduleDate));
+            return;
+        }
+        Game& g = ctx.openGame();
+        std::vector<int32_t> ids = entriesOfDay(g, *date);
+        std::string out = "[";
+        if (!ctx.json && ids.empty())
+            std::printf("Nothing is scheduled on %s\n", formatDate(*date, "dddd d/m/yyyy").c_str());
+        for (std::size_t i = 0; i < ids.size(); ++i) {
+            g.schedule.read(ids[i]);
+            const ScheduleRecord& e = g.schedule.rec;
+            const ScheduleHandler* h = scheduleHandler(e.type);
+            std::string handler = h ? std::string(h->name) : "";
+            if (ctx.json) {
+                std::string rec = recordToString(e, DumpFormat::json);
+                rec.insert(1, fmt::format("\"position\":{},\"handler\":{},", i + 1, jsonQuote(handler)));
+                out += (i ? "," : "") + rec;
+            } else {
+                std::printf("%3zu. entry %d: type %d%s%s, band %d, label %d\n", i + 1, e.id, e.type,
+                            handler.empty() ? "" : " ", handler.c_str(), e.band, e.label);
+            }
+        }
+        if (ctx.json) std::printf("%s]\n", out.c_str());
+        ctx.closeGame();
+    });
+}
+
+}  // namespace trovane::sim

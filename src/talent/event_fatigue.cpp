@@ -1,0 +1,119 @@
+#include "talent/event_fatigue.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "session/news_post.h"
+#include "world/game.h"
+#include "world/strings.h"
+
+namespace trovane {
+
+namespace {
+
+// Complaint code of a band that has asked for time off.
+constexpr uint8_t kWantsABreak = 1;
+
+struct Wear {
+    int energy;  // taken from each member's energy
+    int morale;  // added to each member's morale
+};
+
+std::optional<Wear> wearOf(Game& g, const ScheduleRecord& e) {
+    switch (e.type) {
+    case 7: {
+        int comfort = 0;
+        if (e.business > 0) {
+            g.business.read(e.business);
+            comfort = g.business->quality;
+        }
+        return Wear{toInteger((100 - comfort) * 3 / 100.0) + 3, -4};
+    }
+    case 8: {
+        int energy = 7;
+        if (e.gig > 0) {
+            g.gig.read(e.gig);
+            if (g.gig->tour > 0) {
+                // The tour's levels run from 0 (lavish) to 4 (basic): a lavish tour tires less.
+                g.tour.read(g.gig->tour);
+                int levels = g.tour->hospitalityLevel + g.tour->accommodationLevel;
+                energy -= toInteger((3 - levels) / 2.0);
+            }
+        }
+        return Wear{energy, -5};
+    }
+    case 10: return Wear{4, 3};
+    case 11: return Wear{-2, 5};
+    case 17: return Wear{6, -10};
+    default: return std::nullopt;
+    }
+}
+
+int heldPercent(int v) { return std::clamp(v, 0, 100); }
+
+// The words the break request needs for a solo artist or a band; the first
+// member's sex is read through the artist buffer.
+struct ActWords {
+    std::string they, They, are, their, s;
+};
+
+ActWords actWords(Game& g) {
+    const BandRecord& b = g.band.rec;
+    if (b.memberCount > 1) return {"they", "They", "are", "their", ""};
+    bool male = true;
+    if (b.members[0] > 0) {
+        g.artist.read(b.members[0]);
+        male = g.artist->male != 0;
+    }
+    std::string s = b.memberCount == 1 ? "s" : "";
+    return male ? ActWords{"he", "He", "is", "his", s} : ActWords{"she", "She", "is", "her", s};
+}
+
+void askForABreak(Game& g) {
+    auto& complaints = g.band->complaints;
+    if (std::find(complaints.begin(), complaints.end(), kWantsABreak) != complaints.end()) return;
+    auto freeSlot = std::find(complaints.begin(), complaints.end(), uint8_t{0});
+    if (freeSlot == complaints.end()) return;
+    *freeSlot = kWantsABreak;
+    g.band.write();
+    std::string name = trim(g.band->name.value);
+    ActWords w = actWords(g);
+    std::string text = name + " made it known to you that " + w.they + " " + w.are +
+                       " feeling extremely jaded after " + w.their + " recent activity. " + w.They + " " + w.are +
+                       " concerned that " + w.they + " " + w.are + " currently unable to give 100% in " + w.their +
+                       " recent activities. As a result " + w.they + " " + w.are +
+                       " requesting you incorporate a lengthy break into " + w.their +
+                       " schedule as soon as possible.";
+    postNews(g, g.gameDate + 1, name + " demand" + w.s + " a break", text, 0, 0, 0, false, "");
+}
+
+}  // namespace
+
+void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
+    if (entry.band < 1) return;
+    std::optional<Wear> wear = wearOf(g, entry);
+    if (!wear) return;
+    g.band.read(entry.band);
+    int members = std::min<int>(g.band->memberCount, static_cast<int>(g.band->members.size()));
+    int energySum = 0;
+    for (int i = 0; i < members; ++i) {
+        int16_t who = g.band->members[static_cast<std::size_t>(i)];
+        if (who < 1) continue;
+        g.artist.read(who);
+        ArtistRecord& a = g.artist.rec;
+        // A member away resting is not at work: the rest runs its course.
+        if (a.energy >= 0) {
+            a.energy = static_cast<int16_t>(heldPercent(a.energy - wear->energy));
+            if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(heldPercent(a.writingFocus - wear->energy));
+            a.morale = static_cast<uint8_t>(heldPercent(a.morale + wear->morale));
+            g.artist.write(who);
+        }
+        energySum += a.energy;
+    }
+    if (members == 0) return;
+    bool players = g.player.playerLabel > 0 && g.band->label == g.player.playerLabel;
+    if (players && toInteger(static_cast<double>(energySum) / g.band->memberCount) < 35) askForABreak(g);
+}
+
+}  // namespace trovane
