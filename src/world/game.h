@@ -17,13 +17,20 @@ namespace trovane {
 // Screens the logic can ask the shell to show; named after the game's screens.
 enum class Screen {
     none,
+    frmQuellmarkGames,
     frmStartForm,
+    frmStartNewGame,
+    frmCreateNewLabel,
+    frmManageExistingLabel,
     frmNews,
     frmNewsFull,
     frmAwardCeremony,
     frmLoading,
     frmBandOptionDecision,
     frmChooseDistributor,
+    frmSaveGame,
+    frmCredits,
+    frmDisclaimer,
 };
 
 // The tables that openAllTables opens: member name, record, file number.

@@ -1,0 +1,385 @@
+#include "screens/mdi_parent_form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "calendar/daily_cycle.h"
+#include "screens/game_option_screens.h"
+#include "screens/glyphs.h"
+#include "screens/loading_screen.h"
+#include "screens/new_game_screens.h"
+#include "screens/news_screens.h"
+#include "screens/save_game_screen.h"
+#include "screens/side_bar.h"
+#include "screens/start_screens.h"
+#include "screens/status_bar.h"
+#include "screens/theme.h"
+#include "session/preferences.h"
+#include "session/save_load.h"
+#include "world/fatal_error.h"
+#include "world/record_store.h"
+
+namespace trovane::screens {
+
+namespace {
+
+constexpr int kPlayMinuteMs = 60'000;
+
+// A screen that is closed leaves the window at once and is deleted when the
+// event loop is next free (its own click handler may still be running).
+void retire(QWidget* screen) {
+    if (!screen) return;
+    screen->hide();
+    screen->setParent(nullptr);
+    screen->deleteLater();
+}
+
+}  // namespace
+
+mdiParentForm::mdiParentForm(Game& g, QWidget* parent) : QMainWindow(parent), g_(g) {
+    setObjectName(QStringLiteral("mdiParentForm"));
+    setWindowTitle(QStringLiteral("Trovane 3"));
+    setMinimumSize(1024, 700);
+    endProgram = [](int code) { QCoreApplication::exit(code); };
+
+    pages_ = new QStackedWidget(this);
+    setCentralWidget(pages_);
+
+    startArea_ = new QWidget(pages_);
+    startArea_->setObjectName(QStringLiteral("startArea"));
+    startLayout_ = new QVBoxLayout(startArea_);
+    startLayout_->setContentsMargins(0, 0, 0, 0);
+    pages_->addWidget(startArea_);
+
+    shell_ = new QWidget(pages_);
+    shell_->setObjectName(QStringLiteral("shell"));
+    auto* across = new QHBoxLayout(shell_);
+    across->setContentsMargins(0, 0, 0, 0);
+    across->setSpacing(0);
+    sideBar_ = new frmSideBar(*this, shell_);
+    across->addWidget(sideBar_);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(0);
+    statusBar_ = new frmStatusBar(*this, shell_);
+    right->addWidget(statusBar_);
+    screenLayout_ = new QVBoxLayout;
+    screenLayout_->setContentsMargins(0, 0, 0, 0);
+    right->addLayout(screenLayout_, 1);
+    across->addLayout(right, 1);
+    pages_->addWidget(shell_);
+
+    // The turn key, and Escape for the panels, work wherever the keyboard is in the shell.
+    for (QKeySequence key : {QKeySequence(Qt::Key_F5), QKeySequence(Qt::CTRL | Qt::Key_Return),
+                             QKeySequence(Qt::CTRL | Qt::Key_Enter)}) {
+        auto* s = new QShortcut(key, shell_);
+        s->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(s, &QShortcut::activated, this, [this] {
+            if (sideBar_->btnContinueGame->isEnabled()) sideBar_->btnContinueGame->click();
+        });
+    }
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), shell_);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, sideBar_, &frmSideBar::CloseOtherWindows);
+
+    tmrGameTime_ = new QTimer(this);
+    tmrGameTime_->setInterval(kPlayMinuteMs);
+    connect(tmrGameTime_, &QTimer::timeout, this, [this] {
+        if (gameRunning_ && !turnUnderWay_) guarded([this] { tickPlayMinute(g_); });
+    });
+}
+
+mdiParentForm::~mdiParentForm() = default;
+
+// ---------------------------------------------------------------- before a game
+
+void mdiParentForm::setStartScreen(QWidget* screen, Screen which) {
+    retire(startScreen_);
+    startScreen_ = screen;
+    g_.currentScreen = which;
+    startLayout_->addWidget(screen);
+    pages_->setCurrentWidget(startArea_);
+    screen->show();
+    screen->setFocus();
+    emit screenShown(which);
+}
+
+void mdiParentForm::showSplash() { setStartScreen(new frmQuellmarkGames(*this, startArea_), Screen::frmQuellmarkGames); }
+
+void mdiParentForm::showStartForm() { setStartScreen(new frmStartForm(*this, startArea_), Screen::frmStartForm); }
+
+void mdiParentForm::showStartNewGame(bool freshWorkingSet) {
+    if (freshWorkingSet && !guarded([this] { beginNewGame(g_); })) return;
+    setStartScreen(new frmStartNewGame(*this, startArea_), Screen::frmStartNewGame);
+}
+
+void mdiParentForm::showLabelForm(NewPlayer player) {
+    if (player.choices.createNewLabel)
+        setStartScreen(new frmCreateNewLabel(*this, std::move(player), startArea_), Screen::frmCreateNewLabel);
+    else
+        setStartScreen(new frmManageExistingLabel(*this, std::move(player), startArea_),
+                       Screen::frmManageExistingLabel);
+}
+
+void mdiParentForm::cancelNewGame() {
+    if (!guarded([this] { discardWorkingSet(g_); })) return;
+    // The splash again, as after any cancelled new game.
+    showSplash();
+}
+
+void mdiParentForm::showLoadFromStart() {
+    saveScreenLoads_ = true;
+    setStartScreen(new frmSaveGame(*this, true, startArea_), Screen::frmSaveGame);
+}
+
+// ---------------------------------------------------------------- long work
+
+void mdiParentForm::runBehindLoadingScreen(std::function<bool()> work, std::function<void()> refused) {
+    sideBar_->CloseOtherWindows();
+    auto* loading = new frmLoading(*this, true, startArea_);
+    setStartScreen(loading, Screen::frmLoading);
+    QPointer<frmLoading> screen = loading;
+    loading->whenPainted([this, screen, work = std::move(work), refused = std::move(refused)] {
+        g_.progress = [screen](int percent) {
+            if (screen) screen->setProgress(percent);
+        };
+        bool done = false;
+        bool alive = guarded([&] { done = work(); });
+        g_.progress = nullptr;
+        if (!alive) return;
+        if (!done) {
+            refused();
+            return;
+        }
+        enterShell();
+    });
+}
+
+void mdiParentForm::startGame(std::function<void()> foundOrTakeOver) {
+    runBehindLoadingScreen(
+        [foundOrTakeOver = std::move(foundOrTakeOver)] {
+            foundOrTakeOver();
+            return true;
+        },
+        [] {});
+}
+
+void mdiParentForm::loadSavedGame(int slot) {
+    bool wasRunning = gameRunning_;
+    auto message = std::make_shared<QString>();
+    runBehindLoadingScreen(
+        [this, slot, message] {
+            try {
+                loadGame(g_, slot);
+            } catch (const SlotError& e) {
+                *message = QString::fromStdString(e.what());
+                return false;
+            }
+            readPrefs(g_);
+            g_.label.read(g_.player.playerLabel);
+            g_.previousScreen = Screen::none;
+            g_.currentScreen = Screen::frmNews;
+            return true;
+        },
+        [this, wasRunning, message] {
+            // The running game, if any, is untouched: back to where the player was.
+            if (wasRunning) {
+                pages_->setCurrentWidget(shell_);
+                showCurrentScreen();
+            } else {
+                showLoadFromStart();
+            }
+            showRefusal(tr("Load Game"), *message);
+        });
+}
+
+void mdiParentForm::enterShell() {
+    retire(startScreen_);
+    gameRunning_ = true;
+    newsSort_ = NewsSort{};
+    sideBar_->CloseOtherWindows();
+    sideBar_->enableSidebar(true);
+    statusBar_->initialise();
+    pages_->setCurrentWidget(shell_);
+    tmrGameTime_->start();
+    showCurrentScreen();
+}
+
+// ---------------------------------------------------------------- the running game
+
+QWidget* mdiParentForm::createMainScreen(Screen s) {
+    switch (s) {
+    case Screen::frmNewsFull: return new frmNewsFull(*this);
+    case Screen::frmSaveGame: return new frmSaveGame(*this, saveScreenLoads_);
+    case Screen::frmCredits: return new frmCredits(*this);
+    case Screen::frmDisclaimer: return new frmDisclaimer(*this);
+    case Screen::frmNews:
+    default:
+        // The award ceremony is not in this version: a day that ends in one ends on the news.
+        g_.currentScreen = Screen::frmNews;
+        return new frmNews(*this);
+    }
+}
+
+void mdiParentForm::setMainScreen(QWidget* screen) {
+    retire(mainScreen_);
+    mainScreen_ = screen;
+    screenLayout_->addWidget(screen);
+    screen->show();
+    if (QPushButton* focused = qobject_cast<QPushButton*>(QApplication::focusWidget());
+        !focused || !sideBar_->isAncestorOf(focused) || !focused->isEnabled())
+        screen->setFocus();
+}
+
+void mdiParentForm::showCurrentScreen() {
+    if (!gameRunning_) return;
+    QWidget* screen = createMainScreen(g_.currentScreen);
+    setMainScreen(screen);
+    emit screenShown(g_.currentScreen);
+}
+
+void mdiParentForm::openScreen(Screen s) {
+    if (!gameRunning_) return;
+    sideBar_->CloseOtherWindows();
+    if (g_.currentScreen != s) g_.previousScreen = g_.currentScreen;
+    g_.currentScreen = s;
+    showCurrentScreen();
+}
+
+void mdiParentForm::openSaveScreen(bool loading) {
+    saveScreenLoads_ = loading;
+    if (g_.currentScreen == Screen::frmSaveGame) {
+        sideBar_->CloseOtherWindows();
+        showCurrentScreen();
+        return;
+    }
+    openScreen(Screen::frmSaveGame);
+}
+
+void mdiParentForm::returnToPreviousScreen() {
+    Screen back = g_.previousScreen == Screen::none ? Screen::frmNews : g_.previousScreen;
+    g_.previousScreen = Screen::none;
+    g_.currentScreen = back;
+    sideBar_->CloseOtherWindows();
+    showCurrentScreen();
+}
+
+void mdiParentForm::continueGame() {
+    if (!gameRunning_ || turnUnderWay_ || ended_) return;
+    bool free = false;
+    if (!guarded([&] { free = allRepliesGiven(g_); })) return;
+    if (!free) {
+        // The item that waits for an answer; its screen holds the sidebar until it is given.
+        sideBar_->CloseOtherWindows();
+        // A second press on the same item must not make the item its own way back.
+        if (g_.previousScreen == Screen::frmNewsFull) g_.previousScreen = Screen::frmNews;
+        newsItemOnScreen = g_.news->id;
+        showCurrentScreen();
+        return;
+    }
+    sideBar_->CloseOtherWindows();
+    turnUnderWay_ = true;
+    sideBar_->enableSidebar(false);
+    auto* loading = new frmLoading(*this, false);
+    setMainScreen(loading);
+    g_.currentScreen = Screen::frmLoading;
+    loading->whenPainted([this] { runDay(); });
+}
+
+void mdiParentForm::runDay() {
+    QElapsedTimer clock;
+    clock.start();
+    bool ok = guarded([this] {
+        checkDaysSchedule(g_);
+        flushAllTables(g_);
+    });
+    turnUnderWay_ = false;
+    if (!ok) return;
+    statusBar_->display();
+    showCurrentScreen();  // the news, which gives the sidebar back
+    lastTurnMs_ = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    emit dayEnded();
+}
+
+void mdiParentForm::quitGame() {
+    sideBar_->CloseOtherWindows();
+    tmrGameTime_->stop();
+    retire(mainScreen_);
+    gameRunning_ = false;
+    if (!guarded([this] { discardWorkingSet(g_); })) return;
+    showStartForm();
+}
+
+void mdiParentForm::refreshStatusBar() {
+    if (gameRunning_) statusBar_->display();
+}
+
+// ---------------------------------------------------------------- failures
+
+bool mdiParentForm::guarded(const std::function<void()>& work) {
+    if (ended_) return false;
+    try {
+        work();
+        return true;
+    } catch (const SlotError&) {
+        throw;  // a refused slot is the caller's to show; the game goes on
+    } catch (const FatalError& e) {
+        fatal(QString::fromStdString(e.what()));
+    } catch (const std::exception& e) {
+        fatal(tr("Unexpected failure: %1").arg(QString::fromStdString(e.what())));
+    }
+    return false;
+}
+
+void mdiParentForm::fatal(const QString& message) {
+    ended_ = true;
+    tmrGameTime_->stop();
+    g_.progress = nullptr;
+    // The files keep the game as far as it got.
+    try {
+        closeAllTables(g_);
+    } catch (const std::exception&) {
+    }
+    centralWidget()->setEnabled(false);
+    auto* box = new QMessageBox(QMessageBox::Critical, tr("Trovane 3 has to stop"),
+                                tr("The game cannot go on:\n\n%1").arg(message), QMessageBox::Ok, this);
+    box->setObjectName(QStringLiteral("fatalDialog"));
+    box->setIconPixmap(glyphPixmap(Glyph::no, palette::danger, 40, devicePixelRatioF()));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QMessageBox::finished, this, [this] {
+        if (endProgram) endProgram(1);
+    });
+    emit fatalErrorShown(message);
+    box->open();
+}
+
+void mdiParentForm::showRefusal(const QString& title, const QString& message) {
+    auto* box = new QMessageBox(QMessageBox::Warning, title, message, QMessageBox::Ok, this);
+    box->setObjectName(QStringLiteral("refusalDialog"));
+    box->setIconPixmap(glyphPixmap(Glyph::info, palette::accent, 40, devicePixelRatioF()));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void mdiParentForm::closeEvent(QCloseEvent* event) {
+    if (!gameRunning_ || ended_ || leaving_) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    askSure(this, QStringLiteral("leave"), tr("Leave Trovane 3? Whatever has not been saved will be lost."), [this] {
+        leaving_ = true;
+        quitGame();
+        close();
+    });
+}
+
+}  // namespace trovane::screens

@@ -1,0 +1,127 @@
+#pragma once
+// The game's one window. Before a game it shows the splash, the start form and
+// the new-game forms over its whole area; while a game runs it is the shell:
+// the sidebar on the left, the status bar on top, one main screen beside them,
+// and the option panels over the main screen.
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+#include <optional>
+
+#include "calendar/news_inbox.h"
+#include "session/new_game.h"
+#include "world/game.h"
+
+class QStackedWidget;
+class QTimer;
+class QVBoxLayout;
+
+namespace trovane::screens {
+
+class frmSideBar;
+class frmStatusBar;
+class frmLoading;
+
+class mdiParentForm : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit mdiParentForm(Game& g, QWidget* parent = nullptr);
+    ~mdiParentForm() override;
+
+    Game& game() { return g_; }
+
+    // ---- Before a game ----
+    void showSplash();
+    void showStartForm();
+    // frmStartNewGame.display: a fresh working set, then the form. Coming back
+    // from a label form keeps the working set.
+    void showStartNewGame(bool freshWorkingSet);
+    // The second step of a new game, for the player confirmed on the first.
+    void showLabelForm(NewPlayer player);
+    void cancelNewGame();
+    // frmSaveGame in loading mode, over the whole window.
+    void showLoadFromStart();
+
+    // ---- Long work behind the loading screen ----
+    // Shows frmLoading with its progress bar and, once it has painted, runs
+    // the work. On success the shell opens on the current screen; when the
+    // work returns false (a refused load) `refused` runs instead.
+    void runBehindLoadingScreen(std::function<bool()> work, std::function<void()> refused);
+    // A new game's last step: found or take over the label, then the shell.
+    void startGame(std::function<void()> foundOrTakeOver);
+    // Loads a slot (from the start or in game); a broken slot shows its message and nothing changes.
+    void loadSavedGame(int slot);
+
+    // ---- The running game ----
+    bool gameRunning() const { return gameRunning_; }
+    void showCurrentScreen();
+    void openScreen(Screen s);
+    void returnToPreviousScreen();
+    // The save screen opens in saving or in loading mode.
+    void openSaveScreen(bool loading);
+    bool saveScreenLoads() const { return saveScreenLoads_; }
+    // btnContinueGame: the turn.
+    void continueGame();
+    // lblQuit: the game is dropped and the start form returns.
+    void quitGame();
+    void refreshStatusBar();
+
+    // Runs game logic. A fatal error shows its message, ends the program and returns false.
+    bool guarded(const std::function<void()>& work);
+    // Shows a refusal that lets the game go on.
+    void showRefusal(const QString& title, const QString& message);
+
+    frmSideBar* sideBar() const { return sideBar_; }
+    frmStatusBar* gameStatusBar() const { return statusBar_; }
+    QWidget* currentScreenWidget() const { return mainScreen_; }
+    QWidget* startScreenWidget() const { return startScreen_; }
+    NewsSort& newsSort() { return newsSort_; }
+    // The news item frmNewsFull shows (its record number), so it can come back to it.
+    int32_t newsItemOnScreen = 0;
+
+    // Milliseconds from the start of the last day to its first screen shown,
+    // not counting the wait for the loading screen to paint.
+    double lastTurnMilliseconds() const { return lastTurnMs_; }
+    bool turnUnderWay() const { return turnUnderWay_; }
+
+    // What ends the program after a fatal error (the screen tests replace it).
+    std::function<void(int exitCode)> endProgram;
+
+signals:
+    void screenShown(trovane::Screen screen);
+    void dayEnded();
+    void fatalErrorShown(const QString& message);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void setStartScreen(QWidget* screen, Screen which);
+    void setMainScreen(QWidget* screen);
+    QWidget* createMainScreen(Screen s);
+    void enterShell();
+    void runDay();
+    void fatal(const QString& message);
+
+    Game& g_;
+    QStackedWidget* pages_;
+    QWidget* startArea_;
+    QVBoxLayout* startLayout_;
+    QWidget* shell_;
+    QVBoxLayout* screenLayout_;
+    frmSideBar* sideBar_;
+    frmStatusBar* statusBar_;
+    QPointer<QWidget> startScreen_;
+    QPointer<QWidget> mainScreen_;
+    QTimer* tmrGameTime_;
+    std::optional<NewPlayer> pendingPlayer_;
+    NewsSort newsSort_;
+    bool gameRunning_ = false;
+    bool turnUnderWay_ = false;
+    bool saveScreenLoads_ = false;
+    bool ended_ = false;
+    bool leaving_ = false;
+    double lastTurnMs_ = 0;
+};
+
+}  // namespace trovane::screens

@@ -1,0 +1,108 @@
+#include "screens/screen_page.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "screens/theme.h"
+
+namespace trovane::screens {
+
+ScreenPage::ScreenPage(mdiParentForm& main, const QString& objectName, const QString& title, QWidget* parent)
+    : QWidget(parent), main_(main) {
+    setObjectName(objectName);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(32, 24, 32, 24);
+    outer->setSpacing(16);
+
+    auto* heading = new QHBoxLayout;
+    heading->setSpacing(12);
+    auto* titles = new QVBoxLayout;
+    titles->setSpacing(2);
+    title_ = makeTitle(title, this);
+    title_->setObjectName(QStringLiteral("lblTitle"));
+    subtitle_ = new QLabel(this);
+    subtitle_->setObjectName(QStringLiteral("lblSubtitle"));
+    subtitle_->setStyleSheet(QStringLiteral("color: %1;").arg(palette::mutedText.name()));
+    subtitle_->hide();
+    titles->addWidget(title_);
+    titles->addWidget(subtitle_);
+    heading->addLayout(titles, 1);
+    headingExtras_ = new QHBoxLayout;
+    headingExtras_->setSpacing(8);
+    heading->addLayout(headingExtras_);
+    outer->addLayout(heading);
+
+    body_ = new QVBoxLayout;
+    body_->setSpacing(14);
+    outer->addLayout(body_, 1);
+}
+
+void ScreenPage::setSubtitle(const QString& text) {
+    subtitle_->setText(text);
+    subtitle_->setVisible(!text.isEmpty());
+}
+
+Card::Card(QWidget* parent, const char* role) : QFrame(parent) {
+    setProperty("role", role);
+    layout_ = new QVBoxLayout(this);
+    layout_->setContentsMargins(20, 18, 20, 18);
+    layout_->setSpacing(10);
+}
+
+FormPage::FormPage(const QString& objectName, const QString& title, const QString& subtitle, QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(objectName);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(32, 24, 32, 24);
+    outer->addStretch(1);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(14);
+    QLabel* t = makeTitle(title, this);
+    t->setObjectName(QStringLiteral("lblTitle"));
+    column->addWidget(t);
+    if (!subtitle.isEmpty()) {
+        auto* s = new QLabel(subtitle, this);
+        s->setStyleSheet(QStringLiteral("color: %1;").arg(palette::mutedText.name()));
+        s->setWordWrap(true);
+        column->addWidget(s);
+    }
+    card_ = new Card(this);
+    card_->content()->setContentsMargins(28, 24, 28, 24);
+    card_->content()->setSpacing(16);
+    column->addWidget(card_);
+    buttons_ = new QHBoxLayout;
+    buttons_->setSpacing(10);
+    buttons_->addStretch(1);
+    column->addLayout(buttons_);
+
+    auto* centred = new QHBoxLayout;
+    centred->addStretch(1);
+    auto* holder = new QWidget(this);
+    holder->setLayout(column);
+    holder->setMinimumWidth(640);
+    holder->setMaximumWidth(860);
+    holder->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    centred->addWidget(holder, 8);
+    centred->addStretch(1);
+    outer->addLayout(centred);
+    outer->addStretch(1);
+}
+
+QVBoxLayout* FormPage::content() const { return card_->content(); }
+
+void FormPage::paintEvent(QPaintEvent*) { paintStageBackground(this); }
+
+QWidget* captioned(const QString& caption, QWidget* field, QWidget* parent) {
+    auto* box = new QWidget(parent);
+    auto* l = new QVBoxLayout(box);
+    l->setContentsMargins(0, 0, 0, 0);
+    l->setSpacing(5);
+    QLabel* c = makeCaption(caption, box);
+    c->setBuddy(field);
+    l->addWidget(c);
+    l->addWidget(field);
+    return box;
+}
+
+}  // namespace trovane::screens

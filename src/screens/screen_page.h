@@ -1,0 +1,69 @@
+#pragma once
+// What every screen of the game is built from: a page with a heading, and
+// cards that group its controls.
+#include <QFrame>
+#include <QWidget>
+
+class QLabel;
+class QVBoxLayout;
+class QHBoxLayout;
+
+namespace trovane::screens {
+
+class mdiParentForm;
+
+// A main screen: a heading with an optional line under it, then the body.
+class ScreenPage : public QWidget {
+    Q_OBJECT
+public:
+    ScreenPage(mdiParentForm& main, const QString& objectName, const QString& title, QWidget* parent = nullptr);
+
+    QVBoxLayout* body() const { return body_; }
+    // Buttons or figures at the right of the heading.
+    QHBoxLayout* headingExtras() const { return headingExtras_; }
+    QLabel* titleLabel() const { return title_; }
+    void setSubtitle(const QString& text);
+
+protected:
+    mdiParentForm& main_;
+
+private:
+    QLabel* title_;
+    QLabel* subtitle_;
+    QHBoxLayout* headingExtras_;
+    QVBoxLayout* body_;
+};
+
+// A rounded surface that groups controls.
+class Card : public QFrame {
+    Q_OBJECT
+public:
+    explicit Card(QWidget* parent = nullptr, const char* role = "card");
+    QVBoxLayout* content() const { return layout_; }
+
+private:
+    QVBoxLayout* layout_;
+};
+
+// A form outside the running game (the new-game steps): a heading over one
+// card in the middle of the window, and its buttons under the card.
+class FormPage : public QWidget {
+    Q_OBJECT
+public:
+    FormPage(const QString& objectName, const QString& title, const QString& subtitle, QWidget* parent = nullptr);
+    QVBoxLayout* content() const;
+    QHBoxLayout* buttons() const { return buttons_; }
+    Card* card() const { return card_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Card* card_;
+    QHBoxLayout* buttons_;
+};
+
+// A small caption over a control or a figure.
+QWidget* captioned(const QString& caption, QWidget* field, QWidget* parent = nullptr);
+
+}  // namespace trovane::screens

@@ -1,0 +1,99 @@
+#include "screen_fixture.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+
+#include "screens/side_bar.h"
+#include "world/record_store.h"
+
+namespace trovane::test {
+
+void ScreenTest::SetUp() {
+    writeTinyBaseWorld(folder.path());
+    Table<FactRecord> facts(FileNo::fileFact);
+    facts.open(folder.path() / "fact.gam", IfMissing::fail);
+    facts->text = "The week's record sales are counted every Sunday, in all five territories at once.";
+    facts.append();
+    facts.close();
+    restartProgram();
+}
+
+void ScreenTest::restartProgram() {
+    window.reset();
+    game = std::make_unique<Game>(folder.path(), 4242);
+    window = std::make_unique<screens::mdiParentForm>(*game);
+    window->endProgram = [this](int code) { endedWith = code; };
+    window->resize(1280, 800);
+    window->show();
+    window->showStartForm();
+    QApplication::processEvents();
+}
+
+void ScreenTest::TearDown() {
+    // Close what a test left open, so the next starts on a clean desktop.
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != window.get() && w->isVisible()) w->close();
+    window.reset();
+    QApplication::processEvents();
+    closeAllTables(*game);
+}
+
+void ScreenTest::click(const char* name) { click(find<QAbstractButton>(name)); }
+
+void ScreenTest::click(QAbstractButton* b) {
+    ASSERT_NE(b, nullptr);
+    ASSERT_TRUE(b->isVisible() && b->isEnabled()) << b->objectName().toStdString() << " cannot be pressed";
+    QTest::mouseClick(b, Qt::LeftButton);
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool ScreenTest::waitFor(const std::function<bool()>& done, int ms) { return QTest::qWaitFor(done, ms); }
+
+void ScreenTest::startNewGameAsPlayer() {
+    click("btnStartNewGame");
+    ASSERT_EQ(screen(), Screen::frmStartNewGame);
+    for (const char* field : {"txtName", "txtSurname"}) find<QLineEdit>(field)->clear();
+    QTest::keyClicks(find<QLineEdit>("txtName"), "Ann");
+    QTest::keyClicks(find<QLineEdit>("txtSurname"), "Lee");
+    find<QComboBox>("cmbNationality")->setCurrentText("English");
+    click("optGender1");
+    click("cmdOk");
+    ASSERT_EQ(screen(), Screen::frmCreateNewLabel);
+    auto* name = find<QLineEdit>("txtName");
+    name->clear();
+    QTest::keyClicks(name, "Nightjar Records");
+    find<QComboBox>("cmbContinent")->setCurrentText("Europe");
+    find<QComboBox>("cmbNationality")->setCurrentText("England");
+    find<QComboBox>("cmbCity")->setCurrentText("London");
+    find<QComboBox>("cmbStyle")->setCurrentText("Indie Rock");
+    click("cmdOk");
+    ASSERT_TRUE(waitFor([&] { return window->gameRunning() && screen() == Screen::frmNews; }));
+}
+
+void ScreenTest::continueOneDay() {
+    double before = game->gameDate;
+    click(window->sideBar()->btnContinueGame);
+    ASSERT_TRUE(waitFor([&] { return game->gameDate == before + 1 && !window->turnUnderWay(); }));
+}
+
+void ScreenTest::screenshot(const QString& name) {
+    QSize was = window->size();
+    for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
+        window->resize(size);
+        QApplication::processEvents();
+        screenshotOf(window.get(), QStringLiteral("%1_%2x%3").arg(name).arg(size.width()).arg(size.height()));
+    }
+    window->resize(was);
+    QApplication::processEvents();
+}
+
+void ScreenTest::screenshotOf(QWidget* w, const QString& name) {
+    QDir dir(QStringLiteral(TROVANE_SCREENSHOT_DIR));
+    dir.mkpath(QStringLiteral("."));
+    QApplication::processEvents();
+    EXPECT_TRUE(w->grab().save(dir.filePath(name + QStringLiteral(".png"))));
+}
+
+}  // namespace trovane::test

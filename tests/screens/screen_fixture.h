@@ -1,0 +1,61 @@
+#pragma once
+// A game window on a tiny world in a fresh folder, and the moves a player makes.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QPushButton>
+#include <QApplication>
+#include <QTest>
+#include <memory>
+
+#include "screens/mdi_parent_form.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/game.h"
+
+namespace trovane::test {
+
+class ScreenTest : public ::testing::Test {
+protected:
+    TempFolder folder;
+    std::unique_ptr<Game> game;
+    std::unique_ptr<screens::mdiParentForm> window;
+    int endedWith = -1;
+
+    void SetUp() override;
+    void TearDown() override;
+    // A fresh window on the same data folder, as after a restart of the program.
+    void restartProgram();
+
+    template <class T = QWidget>
+    T* find(const char* name) const {
+        T* w = window->findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(w, nullptr) << "no control named " << name;
+        return w;
+    }
+    // The top-level dialog that is open now, by name, or null.
+    template <class T = QWidget>
+    T* dialog(const char* name) const {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->isVisible() && w->objectName() == QLatin1String(name)) return qobject_cast<T*>(w);
+        return nullptr;
+    }
+    void click(const char* name);
+    void click(QAbstractButton* b);
+    bool waitFor(const std::function<bool()>& done, int ms = 5000);
+    Screen screen() const { return game->currentScreen; }
+
+    // Start form to the first news screen, founding "Nightjar Records" in London.
+    void startNewGameAsPlayer();
+    // One press of Continue, until the next screen is up.
+    void continueOneDay();
+    // PNGs of the window at 1280x800 and 1920x1080, for a person to look at.
+    void screenshot(const QString& name);
+    void screenshotOf(QWidget* w, const QString& name);
+};
+
+}  // namespace trovane::test
+
+QT_BEGIN_NAMESPACE
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+QT_END_NAMESPACE

@@ -1,0 +1,132 @@
+// Pictures of every screen at 1280x800 and 1920x1080, written under the
+// build folder (screenshots/) for a person to look at: nothing clipped,
+// nothing overlapping, text readable.
+#include <QLineEdit>
+#include <QListWidget>
+#include <fmt/format.h>
+#include <QMessageBox>
+
+#include "screen_fixture.h"
+#include "screens/game_option_screens.h"
+#include "screens/loading_screen.h"
+#include "screens/save_game_screen.h"
+#include "screens/side_bar.h"
+#include "session/news_post.h"
+
+namespace trovane::test {
+
+namespace {
+
+const char* kLongText =
+    "Assembled journalists were left somewhat surprised today when the band announced a forty-date tour of the "
+    "country's smallest venues, a move their manager described as 'going back to where it all began'. Tickets for "
+    "every date sold out within the hour, and the promoters are already talking about adding a second run in the "
+    "spring. The band's label declined to comment on whether the new album, recorded over six weeks in a converted "
+    "chapel, would be released before the tour begins, but insiders say that the first single is ready to go and "
+    "that radio play has been lined up across three territories. Whatever happens, it promises to be a long, loud "
+    "year for everyone involved, and the industry will be watching closely to see whether the gamble pays off.";
+
+}  // namespace
+
+TEST_F(ScreenTest, ScreenshotsOfEveryScreenAtBothSizes) {
+    window->showSplash();
+    screenshot("01_frmQuellmarkGames");
+    window->showStartForm();
+    screenshot("02_frmStartForm");
+    click("btnLoad");
+    screenshot("03_frmSaveGame_load_from_start");
+    click("btnOk");
+    click("btnStartNewGame");
+    screenshot("04_frmStartNewGame");
+    click("optCreateNew1");
+    QTest::keyClicks(find<QLineEdit>("txtName"), "Ann");
+    click("cmdOk");
+    screenshot("05_frmManageExistingLabel");
+    click("cmdCancel");
+    click("optCreateNew0");
+    click("cmdOk");
+    screenshot("06_frmCreateNewLabel");
+    click("cmdCancel");
+    click("cmdCancel");
+
+    bool shot = false;
+    window->runBehindLoadingScreen(
+        [&] {
+            qobject_cast<screens::frmLoading*>(window->startScreenWidget())->setProgress(40);
+            screenshot("07_frmLoading_new_game");
+            shot = true;
+            return false;
+        },
+        [&] { window->showStartForm(); });
+    ASSERT_TRUE(waitFor([&] { return shot; }));
+
+    startNewGameAsPlayer();
+    for (int i = 0; i < 30; ++i)
+        postNews(*game, game->gameDate + 1, fmt::format("Item {} of a busy week in the music business", i), kLongText,
+                 0, 0, 0, false, "");
+    postNews(*game, game->gameDate + 1,
+             "The Paper Lanterns' singer caught in a row with a photographer outside a London club late last night",
+             kLongText, 4, 0, 0, false, "");
+    postNews(*game, game->gameDate + 1, "Greystone Music want to sign Tess Calloway's support act",
+             "Will you let them go?", 1, 0, 0, false, "Saying yes lets the act leave your label at once.");
+    for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
+        window->resize(size);
+        QApplication::processEvents();
+        game->trace = [&, size](std::string_view) {
+            if (qobject_cast<screens::frmLoading*>(window->currentScreenWidget()))
+                screenshotOf(window.get(), QStringLiteral("08_frmLoading_day_%1x%2").arg(size.width()).arg(size.height()));
+            game->trace = nullptr;
+        };
+        continueOneDay();
+    }
+    window->resize(1280, 800);
+    screenshot("09_frmNews");
+    window->newsItemOnScreen = game->news.recordCount() - 2;
+    window->openScreen(Screen::frmNewsFull);
+    screenshot("10_frmNewsFull_media_story");
+    window->returnToPreviousScreen();
+    window->newsItemOnScreen = game->news.recordCount() - 1;
+    window->openScreen(Screen::frmNewsFull);
+    screenshot("11_frmNewsFull_question");
+    click("cmdHelp");
+    screenshotOf(dialog("frmHelpForm"), "12_frmHelpForm");
+    dialog("frmHelpForm")->close();
+
+    screens::frmSideBar* bar = window->sideBar();
+    struct PanelShot {
+        QPushButton* button;
+        const char* name;
+    };
+    for (PanelShot p : {PanelShot{bar->btnFind, "13_frmFindOptions"}, PanelShot{bar->btnCharts, "14_frmChartOptions"},
+                        PanelShot{bar->btnGameOptions, "15_frmGameOptions"}, PanelShot{bar->btnQuit, "16_frmQuitOptions"}}) {
+        click(p.button);
+        screenshot(p.name);
+        click(p.button);
+    }
+    window->openSaveScreen(false);
+    screenshot("17_frmSaveGame_save");
+    click("cmdSave");
+    screenshot("18_frmSaveGame_after_save");
+    find<QListWidget>("lstSaves")->setCurrentRow(0);
+    if (find<QPushButton>("cmdDelete")->isVisible()) {
+        click("cmdDelete");
+        screenshotOf(dialog("frmSure"), "19_frmSure");
+        dialog("frmSure")->close();
+    }
+    window->openScreen(Screen::frmCredits);
+    screenshot("20_frmCredits");
+    window->openScreen(Screen::frmDisclaimer);
+    screenshot("21_frmDisclaimer");
+    auto* currency = new screens::frmChangeCurrency(*window);
+    currency->open();
+    screenshotOf(currency, "22_frmChangeCurrency");
+    currency->close();
+    window->showRefusal("Load Game", "Slot 3 cannot be loaded: the file band.sg3 is missing.");
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->isVisible() && w->objectName() == "refusalDialog") {
+            screenshotOf(w, "23_refusal");
+            w->close();
+        }
+}
+
+}  // namespace trovane::test

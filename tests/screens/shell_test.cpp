@@ -1,0 +1,279 @@
+// The shell around the screens: the option panels, the turn key, a reply
+// that holds the calendar, the currency, and a fatal error of the logic.
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTableView>
+#include <fstream>
+
+#include "screen_fixture.h"
+#include "calendar/schedule.h"
+#include "screens/choose_date.h"
+#include "screens/game_option_screens.h"
+#include "screens/loading_screen.h"
+#include "screens/option_panels.h"
+#include "screens/side_bar.h"
+#include "screens/status_bar.h"
+#include "session/news_post.h"
+#include "session/preferences.h"
+#include "world/dates.h"
+
+namespace trovane::test {
+
+using screens::OptionPanel;
+
+TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
+    startNewGameAsPlayer();
+    screens::frmSideBar* bar = window->sideBar();
+    struct Case {
+        QPushButton* button;
+        OptionPanel* panel;
+    };
+    const Case cases[] = {{bar->btnFind, bar->findOptions()},
+                          {bar->btnCharts, bar->chartOptions()},
+                          {bar->btnGameOptions, bar->gameOptions()},
+                          {bar->btnQuit, bar->quitOptions()}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.panel->objectName().toStdString());
+        click(c.button);
+        EXPECT_EQ(bar->openPanel(), c.panel);
+        EXPECT_TRUE(c.button->isChecked());
+        click(c.button);  // a second click closes it
+        EXPECT_EQ(bar->openPanel(), nullptr);
+        EXPECT_FALSE(c.button->isChecked());
+    }
+    click(bar->btnFind);
+    click(bar->btnGameOptions);  // another button swaps the panels
+    EXPECT_EQ(bar->openPanel(), bar->gameOptions());
+    EXPECT_FALSE(bar->findOptions()->isVisible());
+    EXPECT_TRUE(bar->gameOptions()->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(bar->openPanel(), nullptr);
+
+    click(bar->btnCharts);
+    continueOneDay();
+    EXPECT_EQ(bar->openPanel(), nullptr);
+    EXPECT_EQ(screen(), Screen::frmNews);
+}
+
+TEST_F(ScreenTest, ExtraDoesNothingOnTheNewsAndInertEntriesGoNowhere) {
+    startNewGameAsPlayer();
+    QWidget* news = window->currentScreenWidget();
+    click(window->sideBar()->cmdExtra);
+    EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
+    EXPECT_EQ(window->currentScreenWidget(), news);
+    EXPECT_EQ(screen(), Screen::frmNews);
+    // A list whose screen is not in the game yet is shown, and cannot be used.
+    click(window->sideBar()->btnFind);
+    EXPECT_TRUE(find<QPushButton>("lblArtists")->isVisible());
+    EXPECT_FALSE(find<QPushButton>("lblArtists")->isEnabled());
+}
+
+TEST_F(ScreenTest, ContinueHasKeysAndShowsTheLoadingScreenBeforeTheDayRuns) {
+    startNewGameAsPlayer();
+    bool loadingSeenBeforeDay = false;
+    const double today = game->gameDate;
+    game->trace = [&](std::string_view) {
+        auto* loading = qobject_cast<screens::frmLoading*>(window->currentScreenWidget());
+        if (loading && loading->isVisible() && loading->hasPainted() && game->gameDate == today)
+            loadingSeenBeforeDay = true;
+    };
+    QTest::keyClick(window->currentScreenWidget(), Qt::Key_F5);
+    ASSERT_TRUE(waitFor([&] { return game->gameDate == today + 1 && !window->turnUnderWay(); }));
+    EXPECT_TRUE(loadingSeenBeforeDay);
+    QTest::keyClick(window->currentScreenWidget(), Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_TRUE(waitFor([&] { return game->gameDate == today + 2 && !window->turnUnderWay(); }));
+}
+
+TEST_F(ScreenTest, AnUnansweredQuestionHoldsTheDayAndTheSidebarUntilAnswered) {
+    startNewGameAsPlayer();
+    postNews(*game, game->gameDate, "Will you play the Harbour Festival?", "The organisers need an answer.", 1, 0, 0,
+             true, "Answer yes to put your act on the bill.");
+    const double today = game->gameDate;
+    for (int press = 0; press < 2; ++press) {  // a second press shows the same item again
+        if (press == 0) click(window->sideBar()->btnContinueGame);
+        else window->continueGame();
+        ASSERT_EQ(screen(), Screen::frmNewsFull);
+        EXPECT_EQ(game->gameDate, today);
+        EXPECT_EQ(find<QLabel>("lblHeadline")->text(), "Will you play the Harbour Festival?");
+        EXPECT_FALSE(window->sideBar()->btnContinueGame->isEnabled());
+        EXPECT_FALSE(window->sideBar()->cmdExtra->isEnabled());
+        EXPECT_FALSE(find<QPushButton>("cmdDelete")->isEnabled());
+    }
+    click("cmdHelp");
+    auto* help = dialog<QDialog>("frmHelpForm");
+    ASSERT_NE(help, nullptr);
+    EXPECT_EQ(help->findChild<QLabel*>("lblText")->text(), "Answer yes to put your act on the bill.");
+    click(help->findChild<QPushButton*>("btnOk"));
+    click("cmd1");
+    EXPECT_EQ(screen(), Screen::frmNews);
+    EXPECT_TRUE(window->sideBar()->btnContinueGame->isEnabled());
+    EXPECT_TRUE(window->sideBar()->cmdExtra->isEnabled());
+    continueOneDay();
+}
+
+TEST_F(ScreenTest, NewsSortsByItsHeadersAndDeletedItemsLeaveTheList) {
+    startNewGameAsPlayer();
+    postNews(*game, game->gameDate, "Zebra Crossing sign with Greystone", "", 0, 0, 0, false, "");
+    postNews(*game, game->gameDate, "Attic Lights split", "", 0, 0, 0, false, "");
+    window->openScreen(Screen::frmNews);
+    auto titles = [&] {
+        auto* m = find<QTableView>("flxNews")->model();
+        QStringList t;
+        for (int r = 0; r < m->rowCount(); ++r) t << m->index(r, 2).data().toString().left(5);
+        return t.join(',');
+    };
+    EXPECT_EQ(titles(), "Attic,Zebra,New i");  // newest first
+    auto clickHeader = [&](int section) {
+        auto* header = find<QTableView>("flxNews")->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          QPoint(header->sectionViewportPosition(section) + 10, header->height() / 2));
+    };
+    clickHeader(2);
+    EXPECT_EQ(titles(), "Attic,New i,Zebra");
+    clickHeader(2);
+    EXPECT_EQ(titles(), "Zebra,New i,Attic");
+    clickHeader(1);  // the date sorts by record number
+    EXPECT_EQ(titles(), "New i,Zebra,Attic");
+    clickHeader(1);
+    EXPECT_EQ(titles(), "Attic,Zebra,New i");
+
+    auto* grid = find<QTableView>("flxNews");
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Return);  // the keyboard opens the current row too
+    ASSERT_EQ(screen(), Screen::frmNewsFull);
+    click("cmdDelete");
+    EXPECT_EQ(screen(), Screen::frmNews);
+    EXPECT_EQ(titles(), "Zebra,New i");  // and the sort lasts
+}
+
+TEST_F(ScreenTest, CurrencyChangesTheCashShownAndNeverTheCashHeld) {
+    startNewGameAsPlayer();
+    const Money held = game->player.playerLabelCash;
+    click(window->sideBar()->btnGameOptions);
+    click("lblCurrency");
+    auto* currency = dialog<QDialog>("frmChangeCurrency");
+    ASSERT_NE(currency, nullptr);
+    EXPECT_TRUE(currency->findChild<QAbstractButton*>("optCurrency0")->isChecked());
+    click(currency->findChild<QAbstractButton*>("optCurrency1"));
+    click(currency->findChild<QAbstractButton*>("cmdConfirm"));
+    EXPECT_EQ(window->gameStatusBar()->lblCash->text(), "$1,770,000");
+    EXPECT_EQ(game->player.playerLabelCash, held);
+    EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
+}
+
+TEST_F(ScreenTest, TheDisclaimerSaysItWordForWord) {
+    startNewGameAsPlayer();
+    click(window->sideBar()->btnGameOptions);
+    click("lblDisclaimer");
+    EXPECT_EQ(find<QLabel>("lblDisclaimer")->text(),
+              "This game is an unofficial simulation of the music industry and as such has no connection with the "
+              "featured artists, bands or record labels.");
+    click("btnOk");
+    EXPECT_EQ(screen(), Screen::frmNews);
+}
+
+TEST_F(ScreenTest, TheDayListFollowsTheMonthAndCancelDropsTheWorkingSet) {
+    click("btnStartNewGame");
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "band.vel"));
+    auto* day = find<QComboBox>("cmbDay");
+    EXPECT_EQ(day->currentText(), "20");  // 20 July 1982 when nothing was chosen before
+    EXPECT_EQ(find<QComboBox>("cmbMonth")->currentText(), "July");
+    find<QComboBox>("cmbYear")->setCurrentText("2000");
+    find<QComboBox>("cmbMonth")->setCurrentText("February");
+    EXPECT_EQ(day->count(), 29);
+    find<QComboBox>("cmbMonth")->setCurrentText("March");
+    day->setCurrentText("31");
+    find<QComboBox>("cmbMonth")->setCurrentText("April");
+    EXPECT_EQ(day->count(), 30);
+    EXPECT_EQ(day->currentText(), "1");
+    click("cmdCancel");
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "band.vel"));
+    EXPECT_EQ(screen(), Screen::frmQuellmarkGames);
+}
+
+TEST_F(ScreenTest, TakingOverALabelStartsTheGameAtItsHelm) {
+    click("btnStartNewGame");
+    QTest::keyClicks(find<QLineEdit>("txtName"), "Raj");
+    QTest::keyClicks(find<QLineEdit>("txtSurname"), "Patel");
+    click("optCreateNew1");
+    click("cmdOk");
+    ASSERT_EQ(screen(), Screen::frmManageExistingLabel);
+    auto* labels = find<QListWidget>("lstLabel");
+    ASSERT_EQ(labels->count(), 1);
+    EXPECT_EQ(find<QTableView>("flxBands")->model()->index(0, 0).data().toString(), "Tess Calloway");
+    click("cmdOk");
+    ASSERT_TRUE(waitFor([&] { return window->gameRunning() && screen() == Screen::frmNews; }));
+    EXPECT_EQ(window->gameStatusBar()->lblCompany->text(), "Greystone Music");
+    EXPECT_EQ(find<QTableView>("flxNews")->model()->index(0, 2).data().toString(),
+              "Raj Patel appointed as new boss of Greystone Music");
+}
+
+TEST_F(ScreenTest, ABrokenSlotIsRefusedAndAFatalErrorIsShownBeforeTheEnd) {
+    // A slot marked used whose files are missing: the load is refused, the program goes on.
+    readPrefs(*game);
+    game->prefs->slotUsed[4] = kTrue;
+    writePrefs(*game);
+    click("btnLoad");
+    find<QListWidget>("lstSaves")->setCurrentRow(4);
+    EXPECT_FALSE(find<QPushButton>("cmdOverwrite")->isVisible());
+    EXPECT_TRUE(find<QPushButton>("cmdDelete")->isVisible());
+    click("cmdDelete");
+    auto* sure = dialog<QDialog>("frmSure");
+    ASSERT_NE(sure, nullptr);
+    click(sure->findChild<QAbstractButton*>("lblConfirm"));
+    EXPECT_EQ(find<QListWidget>("lstSaves")->item(4)->text(), "4 : None");
+    click("btnOk");
+
+    // A base table whose length is no whole number of records stops the game with its message.
+    std::ofstream(folder.path() / "country.gam", std::ios::binary | std::ios::app) << "xyz";
+    QString shown;
+    QObject::connect(window.get(), &screens::mdiParentForm::fatalErrorShown, [&](const QString& m) { shown = m; });
+    click("btnStartNewGame");
+    EXPECT_TRUE(shown.contains("country")) << shown.toStdString();
+    auto* box = dialog<QMessageBox>("fatalDialog");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(endedWith, -1);
+    click(box->button(QMessageBox::Ok));
+    EXPECT_EQ(endedWith, 1);
+}
+
+}  // namespace trovane::test
+
+namespace trovane::test {
+
+TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
+    startNewGameAsPlayer();
+    game->band.read(1);
+    ScheduleRecord rest{};
+    rest.type = 11;  // resting keeps the band busy
+    rest.band = 1;
+    rest.date = serialFromCivil(2004, 9, 14);
+    addSchedule(*game, rest);
+    game->band.read(1);
+    auto* calendar = new screens::frmChooseDate(*window, 1);
+    calendar->open();
+    double chosen = 0;
+    QObject::connect(calendar, &screens::frmChooseDate::dateChosen, [&](double d) { chosen = d; });
+    EXPECT_EQ(calendar->lblMonth->text(), "September");  // the month after today's
+    EXPECT_EQ(calendar->lblYear->text(), "2004");
+    EXPECT_EQ(calendar->lblEvent[13]->text(), "Resting");
+    EXPECT_FALSE(calendar->lblDayOfMonth[30]->isVisible());  // no 31 September
+    screenshotOf(calendar, "24_frmChooseDate");
+    click(calendar->lblDayOfMonth[13]);
+    EXPECT_EQ(chosen, 0);  // a busy day cannot be chosen
+    click(calendar->cmdYearRight);
+    for (int i = 0; i < 5; ++i) click(calendar->cmdMonthRight);
+    EXPECT_EQ(calendar->lblMonth->text(), "February");
+    EXPECT_EQ(calendar->lblYear->text(), "2006");
+    EXPECT_TRUE(calendar->lblDayOfMonth[27]->isVisible());
+    EXPECT_FALSE(calendar->lblDayOfMonth[28]->isVisible());
+    click(calendar->lblDayOfMonth[1]);
+    EXPECT_EQ(chosen, serialFromCivil(2006, 2, 2));
+    EXPECT_FALSE(calendar->isVisible());
+}
+
+}  // namespace trovane::test
