@@ -51,7 +51,16 @@ void copyInto(const fs::path& from, const fs::path& to) {
     std::error_code ec;
     fs::copy_file(from, to, fs::copy_options::overwrite_existing, ec);
     if (ec) throw SlotError(fmt::format("Cannot copy {} to {}: {}", from.string(), to.string(), ec.message()));
-    syncFile(to);
+}
+
+// Everything staged reaches the disk before the mark that says it is complete:
+// one flush of the file system instead of one per file.
+void syncStaged(const fs::path& staging) {
+    int fd = ::open(staging.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::syncfs(fd);
+        ::close(fd);
+    }
 }
 
 // Moves every staged file into the data folder, then drops the staging folder.
@@ -67,6 +76,7 @@ void commitStaging(const fs::path& staging, const fs::path& dataDir) {
 }
 
 void markComplete(const fs::path& staging) {
+    syncStaged(staging);
     fs::path mark = staging / kCompleteMark;
     std::ofstream(mark) << "complete\n";
     syncFile(mark);
@@ -145,7 +155,6 @@ void saveGame(Game& g, int slot, const std::string& saveName) {
             copyInto(dataFile(g, std::to_string(y), "vel"), staging / fmt::format("{}.{}", y, ext));
         fs::path svar = staging / fmt::format("svar.{}", ext);
         writeSessionFile(g, svar, saveName);
-        syncFile(svar);
         markComplete(staging);
         commitStaging(staging, g.dataDir);
     } catch (...) {

@@ -40,16 +40,30 @@ char byteFor(char32_t cp) {
 
 }  // namespace
 
+bool isAscii(std::string_view s) {
+    for (char c : s)
+        if (static_cast<uint8_t>(c) >= 0x80) return false;
+    return true;
+}
+
 std::string cp1252ToUtf8(std::string_view bytes) {
     std::string out;
-    out.reserve(bytes.size());
+    appendCp1252AsUtf8(out, bytes);
+    return out;
+}
+
+void appendCp1252AsUtf8(std::string& out, std::string_view bytes) {
+    if (isAscii(bytes)) {
+        out.append(bytes);
+        return;
+    }
+    out.reserve(out.size() + bytes.size() * 2);
     for (char c : bytes) {
         auto b = static_cast<uint8_t>(c);
         if (b < 0x80) out += c;
         else if (b < 0xA0) appendUtf8(out, kHighControls[b - 0x80]);
         else appendUtf8(out, b);
     }
-    return out;
 }
 
 std::string utf8ToCp1252(std::string_view text) {

@@ -8,8 +8,14 @@ namespace trovane {
 // One Windows-1252 byte as UTF-8. The five bytes with no character there come
 // back as the C1 control of the same number, so that any byte survives a round trip.
 std::string cp1252ToUtf8(std::string_view bytes);
+// The same, appended to out (which keeps its capacity: a walk over a table
+// reuses the buffer's strings instead of allocating new ones).
+void appendCp1252AsUtf8(std::string& out, std::string_view bytes);
 
 // UTF-8 to Windows-1252; a character that has no byte there becomes "?".
 std::string utf8ToCp1252(std::string_view text);
+
+// True when every byte is below 0x80: then both encodings are the same bytes.
+bool isAscii(std::string_view s);
 
 }  // namespace trovane

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <fstream>
 #include <iterator>
 #include <vector>
@@ -38,7 +39,17 @@ std::string dateValue(double serial) {
         auto d = civilFromSerial(serial);
         return fmt::format("{} ({:04}-{:02}-{:02})", static_cast<int64_t>(serial), d.year, d.month, d.day);
     }
-    return std::to_string(serial);
+    return realValue(serial, DumpFormat::text);
+}
+
+std::string realValue(double v, DumpFormat fmt) {
+    if (fmt == DumpFormat::json && !std::isfinite(v)) return "null";
+    return fmt::format("{}", v);
+}
+
+std::string realValue(float v, DumpFormat fmt) {
+    if (fmt == DumpFormat::json && !std::isfinite(v)) return "null";
+    return fmt::format("{}", v);
 }
 
 }  // namespace dump

@@ -24,6 +24,10 @@ namespace dump {
 
 // A date field shown with its calendar day when it holds a plausible one.
 std::string dateValue(double serial);
+// A number as the shortest text that reads back as the same value. JSON has no
+// NaN or infinity (a damaged file may hold them): there they are null.
+std::string realValue(double v, DumpFormat fmt);
+std::string realValue(float v, DumpFormat fmt);
 
 template <class T>
 void value(std::string& out, const T& v, DumpFormat fmt);
@@ -68,9 +72,9 @@ void value(std::string& out, const T& v, DumpFormat fmt) {
         T::forEachField(v, inner);
         out += '}';
     } else if constexpr (std::is_same_v<T, double>) {
-        out += fmt == DumpFormat::json ? std::to_string(v) : dateValue(v);
+        out += fmt == DumpFormat::json ? realValue(v, fmt) : dateValue(v);
     } else if constexpr (std::is_same_v<T, float>) {
-        out += std::to_string(v);
+        out += realValue(v, fmt);
     } else {
         out += std::to_string(static_cast<int64_t>(v));
     }

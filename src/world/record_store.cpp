@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "world/cp1252.h"
 #include "world/fatal_error.h"
 #include "world/strings.h"
 
@@ -25,12 +26,18 @@ void copyFile(const fs::path& from, const fs::path& to) {
     if (ec) throw FatalError(fmt::format("Cannot copy {} to {}: {}", from.string(), to.string(), ec.message()));
 }
 
+// The field as stored: blank-padded to its width in the file's encoding.
+template <std::size_t N>
+std::string untrimmed(const Text<N>& field) {
+    std::string padded = field.value;
+    std::size_t stored = utf8ToCp1252(field.value).size();
+    if (stored < N) padded.append(N - stored, ' ');
+    return padded;
+}
+
 template <std::size_t N>
 bool nameMatches(const Text<N>& field, std::string_view name) {
-    if (trim(field.value) == name) return true;
-    std::string padded = field.value;
-    if (padded.size() < N) padded.append(N - padded.size(), ' ');
-    return padded == name;
+    return trim(field.value) == name || untrimmed(field) == name;
 }
 
 template <PackedRecord R, class Matches>
@@ -55,11 +62,16 @@ int32_t findInCopy(Table<R>& t, Matches matches) {
 
 template <std::size_t A, std::size_t B>
 bool fullNameMatches(const Text<A>& fore, const Text<B>& sur, std::string_view name) {
-    if (trim(fore.value) + " " + trim(sur.value) == name) return true;
-    std::string f = fore.value, s = sur.value;
-    f.resize(std::max<std::size_t>(f.size(), A), ' ');
-    s.resize(std::max<std::size_t>(s.size(), B), ' ');
-    return f + " " + s == name;
+    return trim(fore.value) + " " + trim(sur.value) == name || untrimmed(fore) + " " + untrimmed(sur) == name;
+}
+
+// A per-use file number holds one file at a time: opening it again before it
+// is closed means some caller forgot to close it.
+void openPerUse(TableBase& t, const fs::path& file) {
+    if (t.isOpen())
+        throw FatalError(fmt::format("Cannot open {}: file number {} still holds {}", file.string(),
+                                     static_cast<int>(t.number()), t.path().string()));
+    t.open(file, IfMissing::fail);
 }
 
 }  // namespace
@@ -83,13 +95,35 @@ fs::path dataFile(const Game& g, std::string_view stem, std::string_view ext) {
     return g.dataDir / fmt::format("{}.{}", stem, ext);
 }
 
-void openAllTables(Game& g, std::string_view ext) {
-    for (FileNo n : openAllOrder()) {
-        const auto& entry = catalogueEntry(n);
-        std::string_view useExt = entry.kind == FileKind::workingOnly ? "vel" : ext;
-        tableByNumber(g, n).open(dataFile(g, entry.stem, useExt),
+void openTable(Game& g, FileNo n, std::string_view ext) {
+    using enum FileNo;
+    const auto& entry = catalogueEntry(n);
+    switch (entry.kind) {
+    case FileKind::inSet:
+        tableByNumber(g, n).open(dataFile(g, entry.stem, ext), IfMissing::fail);
+        return;
+    case FileKind::workingOnly:
+        tableByNumber(g, n).open(dataFile(g, entry.stem, "vel"),
                                  createdEmptyWhenMissing(n) ? IfMissing::createEmpty : IfMissing::fail);
+        return;
+    case FileKind::perUse:
+        if (n == filePrefs || n == fileHighScore || n == fileFact || n == fileCb || n == fileCa) {
+            // The player's files outlive every game and start empty; the others are delivered data.
+            bool players = n == filePrefs || n == fileHighScore;
+            tableByNumber(g, n).open(dataFile(g, entry.stem, "gam"),
+                                     players ? IfMissing::createEmpty : IfMissing::fail);
+            return;
+        }
+        break;
     }
+    throw FatalError(fmt::format("Table {} has no file of its own: it is opened by the operation that names it",
+                                 entry.table));
+}
+
+void closeTable(Game& g, FileNo n) { tableByNumber(g, n).close(); }
+
+void openAllTables(Game& g, std::string_view ext) {
+    for (FileNo n : openAllOrder()) openTable(g, n, ext);
 }
 
 void closeAllTables(Game& g) {
@@ -107,6 +141,14 @@ void flushAllTables(Game& g) {
 }
 
 void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
+    // An open table may hold changes not yet in its file: a copy would miss them.
+    for (const auto& entry : catalogue()) {
+        if (entry.number == FileNo::fileTemp || entry.number == FileNo::fileTemp2) continue;
+        const TableBase& t = tableByNumber(g, entry.number);
+        if (t.isOpen())
+            throw FatalError(fmt::format("Cannot copy the {} tables to {}: table {} is still open", fromExt,
+                                         toExt, entry.table));
+    }
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
 }
 
@@ -139,13 +181,11 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     }
 }
 
-void openDayFile(Game& g, int year) {
-    g.dayIndex.open(dataFile(g, std::to_string(year), "vel"), IfMissing::fail);
-}
+void openDayFile(Game& g, int year) { openPerUse(g.dayIndex, dataFile(g, std::to_string(year), "vel")); }
 void closeDayFile(Game& g) { g.dayIndex.close(); }
 
 void openChart(Game& g, int chartNumber) {
-    g.chart.open(dataFile(g, fmt::format("chart{}", chartNumber), "vel"), IfMissing::fail);
+    openPerUse(g.chart, dataFile(g, fmt::format("chart{}", chartNumber), "vel"));
 }
 void closeChart(Game& g) { g.chart.close(); }
 

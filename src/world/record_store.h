@@ -18,9 +18,18 @@ int32_t recordCount(Game& g, FileNo n);
 // "<dataDir>/<stem>.<ext>"
 std::filesystem::path dataFile(const Game& g, std::string_view stem, std::string_view ext);
 
+// Opens one table by its number: a table of the set as "<stem>.<ext>", a
+// working-only table (news, schedule, offer, shortlist, chartrecs) always as
+// "<stem>.vel", and prefs, highscore, fact, cb and ca as their ".gam" file.
+// The day index, the charts and the session record have their own opens.
+// Opening an open table closes it first, writing back what changed.
+void openTable(Game& g, FileNo n, std::string_view ext = "vel");
+void closeTable(Game& g, FileNo n);
+
 // Opens the working set. A table file the game fills itself (news, schedule,
 // offers, shortlist, chart records) is created empty when missing; any other
-// missing file is an error that names it.
+// missing file is an error that names it. A file that is not a whole number of
+// records is refused by name.
 void openAllTables(Game& g, std::string_view ext = "vel");
 // Closes every open table, per-use ones included, writing back what changed.
 void closeAllTables(Game& g);
@@ -28,7 +37,9 @@ void closeAllTables(Game& g);
 void flushAllTables(Game& g);
 
 // Copies every table file of the set (the ten charts included) from one
-// extension to the other. All tables must be closed.
+// extension to the other, overwriting the targets. All tables must be closed
+// (an open one is refused, as a copy would miss its unwritten changes); a
+// missing source file is an error that names it.
 void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt);
 
 // Makes target an empty file by copying empty.gam, as every new scratch and day file is made.
@@ -39,6 +50,10 @@ void copyEmptyFile(Game& g, const std::filesystem::path& target);
 // label and event, which are searched through a local copy.
 int32_t findRecordByName(Game& g, FileNo n, std::string_view name);
 
+// The per-use files: <year>.vel under fileDay, chart<n>.vel under fileChart.
+// Each number holds one file at a time, so the caller closes it right after
+// use, before any other operation gets control; opening it again while it is
+// open is refused. A missing file is an error that names it.
 void openDayFile(Game& g, int year);
 void closeDayFile(Game& g);
 void openChart(Game& g, int chartNumber);

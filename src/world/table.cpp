@@ -25,7 +25,8 @@ TableBase::~TableBase() {
 }
 
 std::string TableBase::displayName() const {
-    return path_.empty() ? std::string(catalogueEntry(number_).table) : path_.string();
+    std::string table(catalogueEntry(number_).table);
+    return path_.empty() ? table : fmt::format("{} ({})", table, path_.string());
 }
 
 void TableBase::open(const fs::path& path, IfMissing ifMissing) {
@@ -110,8 +111,12 @@ void TableBase::requireOpen(const char* what) const {
 }
 
 void TableBase::missingRecord(int32_t n, const char* what) const {
-    throw FatalError(fmt::format("Cannot {} record {} of {}: it has {} records", what, n,
+    throw FatalError(fmt::format("Cannot {} record {} of table {}: it has {} records", what, n,
                                  displayName(), records()));
+}
+
+void TableBase::tableFull(int32_t n) const {
+    throw FatalError(fmt::format("Table {} is full: record {} does not fit its record number field", displayName(), n));
 }
 
 std::span<const uint8_t> TableBase::bytesOf(int32_t n) const {

@@ -1,15 +1,24 @@
 #pragma once
 // A table of fixed-length records with its one current-record buffer.
 //
-// Every read fills the buffer and every change lives only in the buffer until
-// it is written back by number: callers read the record they need right before
-// they use it, and read it again after any call that may have used the table.
+// The buffer rule, which the whole game relies on:
+// - every read of any record fills the one buffer, whoever reads;
+// - a change lives only in the buffer until it is written back by number, so
+//   reading another record of the same table before writing loses it, while
+//   writing without a read in between loses nothing;
+// - a walk leaves the last record it read in the buffer.
+// Callers therefore read the record they need right before they use it, and
+// read it again after any call that may have used the table.
+//
 // The file's bytes are kept in memory while it is open and written back to the
-// file on close and flush, so a walk costs no system call per record.
+// file on close and flush, so a walk costs no system call per record. The
+// buffer rule is not affected: the copy in memory is the file, not a cache of
+// records.
 #include <cstdint>
 #include <filesystem>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "world/catalogue.h"
@@ -56,6 +65,7 @@ public:
 protected:
     void requireOpen(const char* what) const;
     [[noreturn]] void missingRecord(int32_t n, const char* what) const;
+    [[noreturn]] void tableFull(int32_t n) const;
     std::string displayName() const;
 
 private:
@@ -80,7 +90,8 @@ public:
     const R* operator->() const { return &rec; }
     R& operator*() { return rec; }
 
-    // Reads record n into the buffer. A record past the end is a fatal error.
+    // Reads record n into the buffer. A record past the end is a fatal error
+    // that names the table.
     void read(int32_t n) {
         auto bytes = bytesOf(n);
         decodeRecord(bytes.data(), rec);
@@ -113,13 +124,15 @@ public:
     }
 
     // Adds the buffer as a new record: its own number becomes the next free
-    // number, which must fit the number's field.
+    // number. A table whose numbers are 16-bit is full at 32,767 records: the
+    // next append is a fatal error and the file does not grow.
     int32_t append()
         requires R::kHasId
     {
         int32_t n = recordCount();
         using IdType = std::remove_cvref_t<decltype(rec.ownNumber())>;
-        rec.ownNumber() = narrow<IdType>(n);
+        if (!std::in_range<IdType>(n)) tableFull(n);
+        rec.ownNumber() = static_cast<IdType>(n);
         write(n);
         return n;
     }

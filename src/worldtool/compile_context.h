@@ -39,11 +39,19 @@ public:
     // The record number of the record of that name, if there is one.
     std::optional<int32_t> find(FileNo table, std::string_view name) const;
 
+    // The source table of the record of that name, for checks that read a field of
+    // another table (a studio must be a studio); null when there is none.
+    const toml::table* sourceOf(FileNo table, std::string_view name) const;
+
+    // How many names the table has.
+    std::size_t nameCount(FileNo table) const;
+
 private:
     struct Named {
         int32_t number;
         const SourceFile* file;
         int64_t line;
+        const toml::node* node;
     };
     std::map<FileNo, std::map<std::string, Named, std::less<>>> names_;
 };

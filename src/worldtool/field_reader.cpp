@@ -80,6 +80,19 @@ std::optional<std::string> FieldReader::text(const toml::node& n, std::string_vi
     return value;
 }
 
+std::optional<uint8_t> FieldReader::byteFlag(const toml::node& n, std::string_view what, int64_t hi) {
+    if (const auto* b = n.as_boolean()) return b->get() ? 1 : 0;
+    if (auto v = wholeNumber(n, what, 0, hi)) return static_cast<uint8_t>(*v);
+    return std::nullopt;
+}
+
+void FieldReader::refuseUnknownKeys(const toml::table& t, std::string_view where,
+                                    std::span<const std::string_view> known) {
+    for (const auto& [k, v] : t)
+        if (std::find(known.begin(), known.end(), k.str()) == known.end())
+            problem(v, fmt::format("unknown field `{}.{}`", where, k.str()));
+}
+
 void FieldReader::money(const toml::node& n, const std::string& path, Money& out) {
     constexpr double kLimit = 9.0e14;   // pounds; keeps ten-thousandths well inside 64 bits
     if (const auto* i = n.as_integer()) {

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -75,6 +76,10 @@ public:
                                    FileNo target, int64_t maxNumber);
     // A text that fits width bytes of Windows-1252.
     std::optional<std::string> text(const toml::node& n, std::string_view what, std::size_t width);
+    // A byte that says yes or no: true or false (stored 1 and 0), or a number from 0 to hi.
+    std::optional<uint8_t> byteFlag(const toml::node& n, std::string_view what, int64_t hi);
+    // Reports each key of a small table that is not in `known`.
+    void refuseUnknownKeys(const toml::table& t, std::string_view where, std::span<const std::string_view> known);
 
     // Fills the record's fields from the table; reports every key it does not know.
     template <PackedRecord R>

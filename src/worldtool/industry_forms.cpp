@@ -1,11 +1,11 @@
-// The source forms of the industry tables that are plain lists of records:
-// the keys are the record's field names, references are names.
-//
-// Labels, staff, acts and their members, discs, songs, awards, ceremonies,
-// story events and crimes have no source form yet; their files are empty.
+// The source forms of the industry: firms, media, festivals and the thank-you
+// lines are plain lists of records (the keys are the record's field names,
+// references are names); staff, labels, acts, ceremonies, events and crimes
+// have forms of their own.
 #include "world/records/events_records.h"
 #include "world/records/live_records.h"
 #include "world/records/production_records.h"
+#include "worldtool/industry_book.h"
 #include "worldtool/table_form.h"
 
 namespace trovane::worldtool {
@@ -51,8 +51,17 @@ ListFormSpec<ThankRecord> thankForm() {
 
 }  // namespace
 
+// Staff come before labels and acts before labels: a label's figures are its staff's and acts'.
 std::vector<std::unique_ptr<TableForm>> industryForms() {
+    auto book = std::make_shared<IndustryBook>();
     std::vector<std::unique_ptr<TableForm>> forms;
+    forms.push_back(staffTableForm(book));
+    forms.push_back(actTableForm(book));
+    forms.push_back(hiddenActTableForm());
+    forms.push_back(labelTableForm(book));
+    forms.push_back(ceremonyTableForm());
+    forms.push_back(eventTableForm());
+    forms.push_back(crimeTableForm());
     forms.push_back(std::make_unique<ListForm<BusinessRecord>>(businessForm()));
     forms.push_back(std::make_unique<ListForm<MediaRecord>>(mediaForm()));
     forms.push_back(std::make_unique<ListForm<FestivalRecord>>(festivalForm()));

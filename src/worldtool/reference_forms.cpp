@@ -18,14 +18,6 @@ constexpr std::string_view kAreas = "ENSOAFX";   // a region, or X for the whole
 constexpr std::array<std::string_view, 8> kAttributes = {"charisma", "controversy", "flair", "dancing",
                                                          "live",     "attitude",    "angst", "visual"};
 
-// The keys of a small table that are not in `known`, each reported.
-void refuseUnknownKeys(FieldReader& r, const toml::table& t, std::string_view where,
-                       std::span<const std::string_view> known) {
-    for (const auto& [k, v] : t)
-        if (std::find(known.begin(), known.end(), k.str()) == known.end())
-            r.problem(v, fmt::format("unknown field `{}.{}`", where, k.str()));
-}
-
 // countries = { England = 8, Wales = 4 }: up to five countries, each with a weight.
 // No countries at all leaves the name open to every country.
 void readCountryWeights(FieldReader& r, const toml::table& t, std::array<uint8_t, 5>& links,
@@ -129,7 +121,7 @@ void readStyleBase(FieldReader& r, const toml::table& t, StyleRecord& rec) {
         if (const toml::node* v = base->get(kAttributes[i]))
             if (auto x = r.wholeNumber(*v, fmt::format("base.{}", kAttributes[i]), 0, 100))
                 *fields[i] = static_cast<uint8_t>(*x);
-    refuseUnknownKeys(r, *base, "base", kAttributes);
+    r.refuseUnknownKeys(*base, "base", kAttributes);
 }
 
 void checkStyle(FieldReader& r, const toml::table& t, int64_t line, const StyleRecord& rec) {
@@ -244,7 +236,7 @@ void readLookBounds(FieldReader& r, const toml::table& t, int64_t line, LookReco
         rec.bounds[2 * i] = static_cast<uint8_t>(*lo);
         rec.bounds[2 * i + 1] = static_cast<uint8_t>(*hi);
     }
-    refuseUnknownKeys(r, *bounds, "bounds", kAttributes);
+    r.refuseUnknownKeys(*bounds, "bounds", kAttributes);
 }
 
 ListFormSpec<LookRecord> lookForm() {
@@ -326,7 +318,7 @@ public:
         }
     }
 
-    std::vector<uint8_t> compile(CompileContext& ctx) override {
+    CompiledFiles compile(CompileContext& ctx) override {
         std::vector<Compiled<FactRecord>> out;
         for (const SourceRecord& src : records_) {
             FieldReader reader(ctx, *src.file, noRules_);
@@ -336,7 +328,7 @@ public:
             rec.text = *text;
             out.push_back(Compiled<FactRecord>{std::move(rec), &src});
         }
-        return packRecords<FactRecord>(ctx, out);
+        return {{fileFact, packRecords<FactRecord>(ctx, out)}};
     }
 
 private:

@@ -1,3 +1,5 @@
+// toml++'s implementation is built here, once for the tool (see CMakeLists.txt).
+#define TOML_IMPLEMENTATION
 #include "worldtool/source_folder.h"
 
 #include <algorithm>

@@ -20,6 +20,9 @@
 
 namespace trovane::worldtool {
 
+// What a form writes: the bytes of each table file it fills.
+using CompiledFiles = std::vector<std::pair<FileNo, std::vector<uint8_t>>>;
+
 class TableForm {
 public:
     virtual ~TableForm() = default;
@@ -27,8 +30,9 @@ public:
     virtual std::string_view key() const = 0;
     virtual FileNo file() const = 0;
     virtual void gather(CompileContext& ctx, std::span<const Section> sections) = 0;
-    // The table's file, record after record.
-    virtual std::vector<uint8_t> compile(CompileContext& ctx) = 0;
+    // The table's file, record after record, and the files of the tables its
+    // records hold (an act writes its members, discs and songs too).
+    virtual CompiledFiles compile(CompileContext& ctx) = 0;
 };
 
 template <PackedRecord R>
@@ -73,6 +77,8 @@ struct ListFormSpec {
     std::function<void(FieldReader&, const toml::table&, int64_t line, R&)> bespoke{};
     // Checks one record once all its fields are read.
     std::function<void(FieldReader&, const toml::table&, int64_t line, const R&)> checkOne{};
+    // Fills the fields the compiler derives, once every record is read.
+    std::function<void(CompileContext&, std::span<Compiled<R>>)> derive{};
     // Checks the table as a whole.
     std::function<void(CompileContext&, std::span<const Compiled<R>>)> checkAll{};
 };
@@ -102,7 +108,7 @@ public:
         }
     }
 
-    std::vector<uint8_t> compile(CompileContext& ctx) override {
+    CompiledFiles compile(CompileContext& ctx) override {
         std::vector<Compiled<R>> out;
         out.reserve(records_.size());
         for (const SourceRecord& src : records_) {
@@ -114,8 +120,9 @@ public:
             if (spec_.checkOne) spec_.checkOne(reader, t, src.line, rec);
             out.push_back(Compiled<R>{std::move(rec), &src});
         }
+        if (spec_.derive) spec_.derive(ctx, out);
         if (spec_.checkAll) spec_.checkAll(ctx, out);
-        return packRecords<R>(ctx, out);
+        return {{spec_.file, packRecords<R>(ctx, out)}};
     }
 
 private:
@@ -172,7 +179,7 @@ public:
         }
     }
 
-    std::vector<uint8_t> compile(CompileContext& ctx) override {
+    CompiledFiles compile(CompileContext& ctx) override {
         std::vector<Compiled<R>> out;
         out.reserve(records_.size());
         const toml::node* lastGroup = nullptr;
@@ -197,7 +204,7 @@ public:
             spec_.fill(rec, *name, static_cast<uint8_t>(*style));
             out.push_back(Compiled<R>{std::move(rec), &src});
         }
-        return packRecords<R>(ctx, out);
+        return {{spec_.file, packRecords<R>(ctx, out)}};
     }
 
 private:

@@ -66,7 +66,9 @@ BaseSet compileWorld(const fs::path& source, Diagnostics& diag) {
         form->gather(ctx, it == folder.sections.end() ? std::span<const Section>{} : std::span(it->second));
     }
 
-    for (auto& form : forms) set.files[std::string(catalogueEntry(form->file()).stem) + ".gam"] = form->compile(ctx);
+    for (auto& form : forms)
+        for (auto& [table, bytes] : form->compile(ctx))
+            set.files[std::string(catalogueEntry(table).stem) + ".gam"] = std::move(bytes);
     set.files["prefs.gam"] = deliveredPrefs();
     return set;
 }

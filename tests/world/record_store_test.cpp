@@ -1,13 +1,224 @@
+// The record store: counting, the one buffer per table, searching by name,
+// compaction, and the errors that stop the game.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "support/empty_game.h"
+#include "world/fatal_error.h"
 
 using namespace trovane;
 
-TEST(RecordStore, EmptyTableCountsOneAndFirstAppendIsRecordOne) {
-    test::EmptyGame eg;
-    EXPECT_EQ(recordCount(eg.g, FileNo::fileNews), 1);
-    eg.g.band.rec.name = "First";
-    EXPECT_EQ(eg.g.band.append(), 1);
-    EXPECT_EQ(eg.g.band->id, 1);
+namespace {
+
+template <class R, class Set>
+int32_t add(Table<R>& t, Set set) {
+    t.rec = R{};
+    set(t.rec);
+    return t.append();
 }
+
+int32_t addBand(Game& g, std::string_view name, uint8_t ability = 50) {
+    return add(g.band, [&](BandRecord& b) {
+        b.name = name;
+        b.ability = ability;
+    });
+}
+
+// Runs f, which must throw FatalError, and returns its message.
+template <class F>
+std::string fatalMessage(F f) {
+    try {
+        f();
+    } catch (const FatalError& e) {
+        return e.what();
+    }
+    ADD_FAILURE() << "no FatalError";
+    return {};
+}
+
+TEST(RecordStore, AnEmptyTableCountsOneAndItsWalkReadsNothing) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    EXPECT_EQ(recordCount(g, FileNo::fileNews), 1);
+    int reads = 0;
+    for (int32_t n = 1; n != recordCount(g, FileNo::fileNews); ++n) ++reads;
+    EXPECT_EQ(reads, 0);
+    EXPECT_EQ(addBand(g, "First"), 1);
+    EXPECT_EQ(g.band->id, 1);
+    EXPECT_EQ(recordCount(g, FileNo::fileBand), 2);
+    EXPECT_THROW(recordCount(g, FileNo::fileTemp), FatalError);
+}
+
+TEST(RecordStore, AWalkLeavesTheLastRecordInTheBuffer) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    for (auto name : {"One", "Two", "Three"}) addBand(g, name);
+    g.band.read(1);
+    for (int32_t n = 1; n != g.band.recordCount(); ++n) g.band.read(n);
+    EXPECT_EQ(g.band->name, "Three");
+    EXPECT_EQ(g.band->id, 3);
+}
+
+// A change lives in the buffer until it is written: writing keeps it, reading
+// another record of the same table first throws it away. Other tables'
+// buffers are not touched.
+TEST(RecordStore, AChangeSurvivesOnlyUntilTheNextReadOfItsTable) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addBand(g, "One", 10);
+    addBand(g, "Two", 20);
+    add(g.artist, [](ArtistRecord& a) { a.forename = "Ann"; });
+
+    g.band.read(1);
+    g.artist.read(1);
+    g.band->ability = 11;
+    g.band.write();
+    g.band.read(1);
+    EXPECT_EQ(g.band->ability, 11);
+
+    g.band->ability = 99;
+    g.band.read(2);
+    g.band.write();  // writes band 2 back as it was
+    g.band.read(1);
+    EXPECT_EQ(g.band->ability, 11);
+    g.band.read(2);
+    EXPECT_EQ(g.band->ability, 20);
+    EXPECT_EQ(g.artist->forename, "Ann");
+}
+
+TEST(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addBand(g, "Only");
+    for (int32_t n : {0, 2, -1}) {
+        std::string message = fatalMessage([&] { g.band.read(n); });
+        EXPECT_NE(message.find("band"), std::string::npos) << message;
+    }
+    EXPECT_THROW(g.band.write(3), FatalError);  // only the next free number adds a record
+    EXPECT_FALSE(g.band.readIfPresent(2));
+    EXPECT_EQ(g.band->name, "");
+}
+
+TEST(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    for (int32_t n = 1; n <= 32767; ++n) add(g.look, [](LookRecord&) {});
+    EXPECT_EQ(g.look->id, 32767);
+    std::string message = fatalMessage([&] { add(g.look, [](LookRecord&) {}); });
+    EXPECT_NE(message.find("look"), std::string::npos) << message;
+    EXPECT_EQ(g.look.recordCount(), 32768);  // the file did not grow
+}
+
+struct NameCase {
+    FileNo file;
+    std::string name;
+    int32_t expected;
+};
+
+TEST(FindRecordByName, EachTableSearchesItsOwnNameField) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addBand(g, "Other");
+    addBand(g, "The Band");
+    add(g.country, [](CountryRecord& r) { r.name = "Spain"; r.adjective = "Spanish"; });
+    add(g.country, [](CountryRecord& r) { r.name = "France"; r.adjective = "French"; });
+    add(g.city, [](CityRecord& r) { r.name = "Café Town"; });
+    add(g.job, [](JobRecord& r) { r.title = "Drummer"; r.titleFemale = "Drummeress"; });
+    add(g.style, [](StyleRecord& r) { r.name = "  Punk"; });
+    add(g.look, [](LookRecord& r) { r.name = "Goth"; });
+    add(g.venue, [](VenueRecord& r) { r.name = "The Hall"; });
+    add(g.song, [](SongRecord& r) { r.title = "Hit"; });
+    add(g.award, [](AwardRecord& r) { r.name = "Best Act"; });
+    add(g.ceremony, [](CeremonyRecord& r) { r.name = "The Awards"; });
+    add(g.newalbum, [](NewAlbumRecord& r) { r.title = "Debut"; });
+    for (int i = 0; i < 3; ++i) {
+        add(g.artist, [&](ArtistRecord& r) { r.forename = i ? "Ann" : "Bob"; r.surname = "Lee"; });
+        add(g.staff, [&](StaffRecord& r) { r.forename = i ? "Ann" : "Bob"; r.surname = "Lee"; });
+    }
+    const std::string padded = "Ann" + std::string(29, ' ') + " Lee" + std::string(29, ' ');
+    const NameCase cases[] = {
+        {FileNo::fileBand, "The Band", 2},
+        {FileNo::fileBand, "The Band" + std::string(42, ' '), 2},  // as stored, blank-padded
+        {FileNo::fileBand, "the band", 0},
+        {FileNo::fileCountry, "France", 2},
+        {FileNo::fileCountry, "French", 2},
+        {FileNo::fileCity, "Café Town", 1},
+        {FileNo::fileCity, "Café Town" + std::string(11, ' '), 1},  // 20 bytes in the file
+        {FileNo::fileJob, "Drummer", 1},
+        {FileNo::fileJob, "Drummeress", 0},
+        {FileNo::fileStyle, "Punk", 1},
+        {FileNo::fileLook, "Goth", 1},
+        {FileNo::fileVenue, "The Hall", 1},
+        {FileNo::fileSong, "Hit", 1},
+        {FileNo::fileAward, "Best Act", 1},
+        {FileNo::fileCeremony, "The Awards", 1},
+        {FileNo::fileNewAlbum, "Debut", 1},
+        {FileNo::fileArtist, "Ann Lee", 2},  // the first of two namesakes
+        {FileNo::fileArtist, padded, 2},
+        {FileNo::fileArtist, "Lee", 0},
+        {FileNo::fileStaff, "Ann Lee", 2},
+        {FileNo::fileStaff, "Bob Lee", 1},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(findRecordByName(g, c.file, c.name), c.expected) << catalogueEntry(c.file).table << " '" << c.name << "'";
+    EXPECT_THROW(findRecordByName(g, FileNo::fileNews, "x"), FatalError);
+}
+
+TEST(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    for (auto name : {"A", "B", "C"}) {
+        addBand(g, name);
+        add(g.label, [&](LabelRecord& r) { r.name = name; });
+        add(g.event, [&](EventRecord& r) { r.title = name; });
+    }
+    g.band.read(3);
+    EXPECT_EQ(findRecordByName(g, FileNo::fileBand, "B"), 2);
+    EXPECT_EQ(g.band->name, "B");
+    EXPECT_EQ(findRecordByName(g, FileNo::fileBand, "none"), 0);
+    EXPECT_EQ(g.band->name, "C");
+
+    g.label.read(1);
+    g.label->cashBalance = 5;  // not written: the search must not lose it
+    EXPECT_EQ(findRecordByName(g, FileNo::fileLabel, "C"), 3);
+    EXPECT_EQ(g.label->name, "A");
+    EXPECT_EQ(g.label->cashBalance, 5);
+    g.event.read(2);
+    EXPECT_EQ(findRecordByName(g, FileNo::fileEvent, "A"), 1);
+    EXPECT_EQ(g.event->title, "B");
+}
+
+TEST(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    for (auto [band, label] : {std::pair{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
+        add(g.shortlist, [&](ShortlistRecord& r) { r.band = static_cast<int16_t>(band); r.label = static_cast<int16_t>(label); });
+    compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
+    ASSERT_EQ(g.shortlist.recordCount(), 4);
+    int16_t bands[] = {1, 5, 7};
+    for (int32_t n = 1; n <= 3; ++n) {
+        g.shortlist.read(n);
+        EXPECT_EQ(g.shortlist->id, n);
+        EXPECT_EQ(g.shortlist->band, bands[n - 1]);
+    }
+    EXPECT_FALSE(std::filesystem::exists(g.dataDir / "tmp.tmp"));
+    g.shortlist.flush();
+    EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 3 * ShortlistRecord::kLength);
+}
+
+TEST(CompactTable, KeepingNothingLeavesAnEmptyTableThatStillWorks) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    add(g.shortlist, [](ShortlistRecord& r) { r.band = 0; });
+    add(g.shortlist, [](ShortlistRecord& r) { r.label = 0; });
+    compactTable(g, g.shortlist, [](const ShortlistRecord&) { return false; });
+    EXPECT_TRUE(g.shortlist.isOpen());
+    EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 0u);
+    EXPECT_EQ(recordCount(g, FileNo::fileShortlist), 1);
+    EXPECT_EQ(add(g.shortlist, [](ShortlistRecord& r) { r.band = 4; r.label = 2; }), 1);
+    closeAllTables(g);
+    EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), ShortlistRecord::kLength);
+}
+
+}  // namespace

@@ -1,0 +1,192 @@
+// Opening and copying the table set, and the files used one operation at a time.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "events/scores.h"
+#include "production/charts.h"
+#include "session/preferences.h"
+#include "support/empty_game.h"
+#include "world/fatal_error.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+template <class F>
+std::string fatalMessage(F f) {
+    try {
+        f();
+    } catch (const FatalError& e) {
+        return e.what();
+    }
+    ADD_FAILURE() << "no FatalError";
+    return {};
+}
+
+std::string contents(const fs::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+TEST(OpenAllTables, AMissingWorldTableIsAnErrorNamingItsFile) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    closeAllTables(g);
+    fs::remove(g.dataDir / "country.vel");
+    std::string message = fatalMessage([&] { openAllTables(g, "vel"); });
+    EXPECT_NE(message.find("country.vel"), std::string::npos) << message;
+}
+
+TEST(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    closeAllTables(g);
+    const char* created[] = {"news", "schedule", "offer", "shortlist", "chartrecs"};
+    for (auto stem : created) fs::remove(g.dataDir / (std::string(stem) + ".vel"));
+    openAllTables(g, "vel");
+    for (auto stem : created) {
+        auto n = *fileNoByTableName(stem);
+        EXPECT_EQ(recordCount(g, n), 1) << stem;
+        EXPECT_TRUE(fs::exists(g.dataDir / (std::string(stem) + ".vel"))) << stem;
+    }
+}
+
+TEST(OpenAllTables, WorkingOnlyTablesOpenTheWorkingSetWhateverTheExtension) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    closeAllTables(g);
+    copyTableSet(g, "vel", "sg4");
+    openAllTables(g, "sg4");
+    EXPECT_EQ(g.band.path().filename(), "band.sg4");
+    EXPECT_EQ(g.news.path().filename(), "news.vel");
+    EXPECT_EQ(g.chartrecs.path().filename(), "chartrecs.vel");
+}
+
+TEST(OpenAllTables, AFileThatIsNotWholeRecordsIsRefusedByName) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    closeAllTables(g);
+    std::ofstream(g.dataDir / "band.vel", std::ios::binary) << std::string(BandRecord::kLength + 1, 'x');
+    std::string message = fatalMessage([&] { openAllTables(g, "vel"); });
+    EXPECT_NE(message.find("band.vel"), std::string::npos) << message;
+}
+
+TEST(OpenTable, OpensEachTableUnderItsOwnFileName) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    closeAllTables(g);
+    copyTableSet(g, "vel", "sg0");
+    struct Case {
+        FileNo file;
+        const char* ext;
+        const char* name;
+    };
+    for (auto c : {Case{FileNo::fileBand, "sg0", "band.sg0"}, Case{FileNo::fileSchedule, "sg0", "schedule.vel"},
+                   Case{FileNo::fileHighScore, "sg0", "highscore.gam"}, Case{FileNo::filePrefs, "vel", "prefs.gam"}}) {
+        openTable(g, c.file, c.ext);
+        EXPECT_EQ(tableByNumber(g, c.file).path().filename(), c.name);
+        closeTable(g, c.file);
+        EXPECT_FALSE(tableByNumber(g, c.file).isOpen());
+    }
+    std::string fact = fatalMessage([&] { openTable(g, FileNo::fileFact); });
+    EXPECT_NE(fact.find("fact.gam"), std::string::npos) << fact;
+    EXPECT_THROW(openTable(g, FileNo::fileDay), FatalError);
+    EXPECT_THROW(openTable(g, FileNo::fileChart), FatalError);
+}
+
+TEST(CopyTableSet, CopiesAllFortySevenFilesOverTheTarget) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.band.rec.name = "Saved";
+    g.band.append();
+    closeAllTables(g);
+    std::ofstream(g.dataDir / "chart9.vel", std::ios::binary) << std::string(ChartRow::kLength, '\1');
+    std::ofstream(g.dataDir / "band.sg1", std::ios::binary) << "stale";
+    copyTableSet(g, "vel", "sg1");
+    ASSERT_EQ(tableSetStems().size(), 47u);
+    for (auto stem : tableSetStems()) {
+        std::string s(stem);
+        ASSERT_TRUE(fs::exists(g.dataDir / (s + ".sg1"))) << s;
+        EXPECT_EQ(contents(g.dataDir / (s + ".sg1")), contents(g.dataDir / (s + ".vel"))) << s;
+    }
+    EXPECT_EQ(fs::file_size(g.dataDir / "band.sg1"), BandRecord::kLength);
+    EXPECT_EQ(fs::file_size(g.dataDir / "chart9.sg1"), ChartRow::kLength);
+}
+
+TEST(CopyTableSet, RefusesAMissingSourceAndAnOpenTable) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    std::string open = fatalMessage([&] { copyTableSet(g, "vel", "sg2"); });
+    EXPECT_NE(open.find("still open"), std::string::npos) << open;
+    EXPECT_FALSE(fs::exists(g.dataDir / "artist.sg2"));
+    closeAllTables(g);
+    fs::remove(g.dataDir / "chart7.vel");
+    std::string missing = fatalMessage([&] { copyTableSet(g, "vel", "sg2"); });
+    EXPECT_NE(missing.find("chart7.vel"), std::string::npos) << missing;
+}
+
+TEST(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    std::string missing = fatalMessage([&] { openDayFile(g, 2031); });
+    EXPECT_NE(missing.find("2031.vel"), std::string::npos) << missing;
+
+    copyEmptyFile(g, g.dataDir / "2031.vel");
+    openDayFile(g, 2031);
+    g.dayIndex->entries[0] = 17;
+    g.dayIndex->count = 1;
+    g.dayIndex.write(1);
+    std::string twice = fatalMessage([&] { openDayFile(g, 2032); });
+    EXPECT_NE(twice.find("2031.vel"), std::string::npos) << twice;
+    closeDayFile(g);
+    EXPECT_FALSE(g.dayIndex.isOpen());
+    EXPECT_EQ(fs::file_size(g.dataDir / "2031.vel"), DayRecord::kLength);
+
+    g.dayIndex.rec = DayRecord{};
+    openDayFile(g, 2031);
+    g.dayIndex.read(1);
+    closeDayFile(g);
+    EXPECT_EQ(g.dayIndex->count, 1);
+    EXPECT_EQ(g.dayIndex->entries[0], 17);
+}
+
+TEST(PerUseFiles, ChartsAreClosedAfterTheirTidying) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    openChart(g, 4);
+    g.chart.rec.disc = 9;
+    g.chart.append();
+    EXPECT_THROW(openChart(g, 5), FatalError);
+    closeChart(g);
+    tidyCharts(g);
+    EXPECT_FALSE(g.chart.isOpen());
+    openChart(g, 4);
+    EXPECT_EQ(g.chart.recordCount(), 2);  // fewer than 200 rows: all kept
+    closeChart(g);
+}
+
+TEST(PerUseFiles, PrefsAndHighScoresAreClosedBetweenUses) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    EXPECT_FALSE(g.prefs.isOpen());
+    g.prefs->minutesPlayed = 61;
+    writePrefs(g);
+    EXPECT_FALSE(g.prefs.isOpen());
+    EXPECT_EQ(fs::file_size(g.dataDir / "prefs.gam"), PrefsRecord::kLength);
+    g.prefs->minutesPlayed = 0;
+    readPrefs(g);
+    EXPECT_FALSE(g.prefs.isOpen());
+    EXPECT_EQ(g.prefs->minutesPlayed, 61);
+
+    g.player.gameNumber = 3;
+    updateHighScoreTable(g);
+    updateHighScoreTable(g);  // the same career keeps its one row
+    EXPECT_FALSE(g.highscore.isOpen());
+    EXPECT_EQ(fs::file_size(g.dataDir / "highscore.gam"), HighScoreRecord::kLength);
+}
+
+}  // namespace
