@@ -230,7 +230,7 @@ private:
     std::vector<SourceRecord> records_;
 };
 
-ListFormSpec<CrimeRecord> crimeSpec() {
+ListFormRules<CrimeRecord> crimeSpec() {
     return {.key = "crime",
             .file = fileCrime,
             .nameKey = "crimeName",

@@ -14,7 +14,7 @@ namespace {
 using enum FileNo;
 
 // kind: 0 studio, 1 pressing plant, 2 distributor.
-ListFormSpec<BusinessRecord> businessForm() {
+ListFormRules<BusinessRecord> businessForm() {
     return {.key = "business",
             .file = fileBusiness,
             .nameKey = "name",
@@ -24,7 +24,7 @@ ListFormSpec<BusinessRecord> businessForm() {
 }
 
 // mediaType: 0 newspaper, 1 magazine, 2 radio show, 3 TV show; frequency: 0 daily ... 3 annual.
-ListFormSpec<MediaRecord> mediaForm() {
+ListFormRules<MediaRecord> mediaForm() {
     return {.key = "media",
             .file = fileMedia,
             .nameKey = "mediaName",
@@ -35,7 +35,7 @@ ListFormSpec<MediaRecord> mediaForm() {
 }
 
 // A festival lasts at most 40 days; its venues are fixed by name when it does not travel.
-ListFormSpec<FestivalRecord> festivalForm() {
+ListFormRules<FestivalRecord> festivalForm() {
     return {.key = "festival",
             .file = fileFestival,
             .nameKey = "festivalName",
@@ -45,7 +45,7 @@ ListFormSpec<FestivalRecord> festivalForm() {
                       .required = {"festivalName", "days"}}};
 }
 
-ListFormSpec<ThankRecord> thankForm() {
+ListFormRules<ThankRecord> thankForm() {
     return {.key = "thank", .file = fileThank, .rules = {.required = {"text"}}};
 }
 

@@ -41,7 +41,7 @@ void readAptitude(FieldReader& r, const toml::table& t, int64_t, StaffRecord& re
 
 // A staff member's wage, when the source leaves it out, is the game's rate for
 // their standing and ability (a new game sets that rate again).
-ListFormSpec<StaffRecord> staffSpec(std::shared_ptr<IndustryBook> book) {
+ListFormRules<StaffRecord> staffSpec(std::shared_ptr<IndustryBook> book) {
     return {.key = "staff",
             .file = fileStaff,
             .nameKey = "forename",
@@ -195,7 +195,7 @@ void checkPosts(CompileContext& ctx, const IndustryBook& book, std::span<const C
                                    fullName(s.rec), labelName(s.rec.employer)));
 }
 
-ListFormSpec<LabelRecord> labelSpec(std::shared_ptr<IndustryBook> book) {
+ListFormRules<LabelRecord> labelSpec(std::shared_ptr<IndustryBook> book) {
     return {.key = "label",
             .file = fileLabel,
             .nameKey = "name",

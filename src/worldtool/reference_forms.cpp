@@ -46,14 +46,14 @@ void readCountryWeights(FieldReader& r, const toml::table& t, std::array<uint8_t
     if (!entries.empty() && sum == 0) r.problem(*n, "the weights of `countries` sum to nothing");
 }
 
-ListFormSpec<CountryRecord> countryForm() {
+ListFormRules<CountryRecord> countryForm() {
     return {.key = "country",
             .file = fileCountry,
             .nameKey = "name",
             .rules = {.letters = {{"region", kRegions}}, .required = {"name", "adjective", "region"}}};
 }
 
-ListFormSpec<CityRecord> cityForm() {
+ListFormRules<CityRecord> cityForm() {
     return {.key = "city",
             .file = fileCity,
             .nameKey = "name",
@@ -61,7 +61,7 @@ ListFormSpec<CityRecord> cityForm() {
 }
 
 // A crowd of exactly 100,001 has no divisor in the gig rules, so no venue may hold that many.
-ListFormSpec<VenueRecord> venueForm() {
+ListFormRules<VenueRecord> venueForm() {
     return {.key = "venue",
             .file = fileVenue,
             .nameKey = "name",
@@ -70,7 +70,7 @@ ListFormSpec<VenueRecord> venueForm() {
                       .required = {"name", "city", "capacity"}}};
 }
 
-ListFormSpec<ForenameRecord> forenameForm() {
+ListFormRules<ForenameRecord> forenameForm() {
     return {.key = "forename",
             .file = fileForename,
             .nameKey = "name",
@@ -89,7 +89,7 @@ ListFormSpec<ForenameRecord> forenameForm() {
             }};
 }
 
-ListFormSpec<SurnameRecord> surnameForm() {
+ListFormRules<SurnameRecord> surnameForm() {
     return {.key = "surname",
             .file = fileSurname,
             .nameKey = "name",
@@ -100,7 +100,7 @@ ListFormSpec<SurnameRecord> surnameForm() {
 }
 
 // rank 1 is the front of the band; shares are weighted 6 - rank and reputation moves by 3 / rank.
-ListFormSpec<JobRecord> jobForm() {
+ListFormRules<JobRecord> jobForm() {
     return {.key = "job",
             .file = fileJob,
             .nameKey = "title",
@@ -160,7 +160,7 @@ void checkStyles(CompileContext& ctx, std::span<const Compiled<StyleRecord>> sty
     }
 }
 
-ListFormSpec<StyleRecord> styleForm() {
+ListFormRules<StyleRecord> styleForm() {
     FieldRules rules{
         .refs = {{"bandJobs", fileJob}, {"soloJob", fileJob}, {"parentStyle", fileStyle}},
         .ranges = {{"popularity", 0, 100},   {"commerciality", 0, 100}, {"membersHigh", 1, 10},
@@ -182,7 +182,7 @@ ListFormSpec<StyleRecord> styleForm() {
             .checkAll = checkStyles};
 }
 
-ListFormSpec<ProductRecord> productForm() {
+ListFormRules<ProductRecord> productForm() {
     return {.key = "product",
             .file = fileProduct,
             .nameKey = "name",
@@ -239,7 +239,7 @@ void readLookBounds(FieldReader& r, const toml::table& t, int64_t line, LookReco
     r.refuseUnknownKeys(*bounds, "bounds", kAttributes);
 }
 
-ListFormSpec<LookRecord> lookForm() {
+ListFormRules<LookRecord> lookForm() {
     return {.key = "look",
             .file = fileLook,
             .nameKey = "name",
@@ -274,7 +274,7 @@ void checkDrawWeights(CompileContext& ctx, std::span<const Compiled<AssRecord>> 
                        fmt::format("the weights of the links of \"{}\" sum to nothing", g.name));
 }
 
-ListFormSpec<AssRecord> assNationForm() {
+ListFormRules<AssRecord> assNationForm() {
     return {.key = "assnation",
             .file = fileAssNation,
             .rules = {.refs = {{"a", fileCountry}, {"b", fileCountry}}, .required = {"a", "b", "weight"}},
@@ -283,7 +283,7 @@ ListFormSpec<AssRecord> assNationForm() {
             }};
 }
 
-ListFormSpec<AssRecord> assStyleForm() {
+ListFormRules<AssRecord> assStyleForm() {
     return {.key = "assstyle",
             .file = fileAssStyle,
             .rules = {.refs = {{"a", fileStyle}, {"b", fileStyle}}, .required = {"a", "b", "weight"}},
@@ -293,7 +293,7 @@ ListFormSpec<AssRecord> assStyleForm() {
 }
 
 // asslook is (look, style, bonus) in the same shape as the other two.
-ListFormSpec<AssRecord> assLookForm() {
+ListFormRules<AssRecord> assLookForm() {
     return {.key = "asslook",
             .file = fileAssLook,
             .rules = {.refs = {{"a", fileLook}, {"b", fileStyle}},
@@ -337,13 +337,13 @@ private:
 };
 
 template <PackedRecord R>
-std::unique_ptr<TableForm> listForm(ListFormSpec<R> spec) {
-    return std::make_unique<ListForm<R>>(std::move(spec));
+std::unique_ptr<TableForm> listForm(ListFormRules<R> rules) {
+    return std::make_unique<ListForm<R>>(std::move(rules));
 }
 
 template <PackedRecord R>
-std::unique_ptr<TableForm> bankForm(BankFormSpec<R> spec) {
-    return std::make_unique<BankForm<R>>(std::move(spec));
+std::unique_ptr<TableForm> bankForm(BankFormRules<R> rules) {
+    return std::make_unique<BankForm<R>>(std::move(rules));
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ std::vector<uint8_t> packRecords(CompileContext& ctx, std::span<Compiled<R>> rec
 //   country = [ { name = "England", adjective = "English", region = "E" } ]
 // or, for long records, [[style]] tables.
 template <PackedRecord R>
-struct ListFormSpec {
+struct ListFormRules {
     std::string_view key{};
     FileNo file{};
     // The key whose text names a record; names are unique within the table and
@@ -86,20 +86,20 @@ struct ListFormSpec {
 template <PackedRecord R>
 class ListForm : public TableForm {
 public:
-    explicit ListForm(ListFormSpec<R> spec) : spec_(std::move(spec)) {}
-    std::string_view key() const override { return spec_.key; }
-    FileNo file() const override { return spec_.file; }
+    explicit ListForm(ListFormRules<R> rules) : rules_(std::move(rules)) {}
+    std::string_view key() const override { return rules_.key; }
+    FileNo file() const override { return rules_.file; }
 
     void gather(CompileContext& ctx, std::span<const Section> sections) override {
         for (const Section& s : sections) {
             const toml::array* list = s.node->as_array();
             if (!list) {
-                ctx.report(*s.file, s.line, fmt::format("`{}` should be a list of records", spec_.key));
+                ctx.report(*s.file, s.line, fmt::format("`{}` should be a list of records", rules_.key));
                 continue;
             }
             for (const toml::node& n : *list) {
                 if (!n.is_table()) {
-                    ctx.report(*s.file, lineOf(n), fmt::format("a {} should be a table of its fields", spec_.key));
+                    ctx.report(*s.file, lineOf(n), fmt::format("a {} should be a table of its fields", rules_.key));
                     continue;
                 }
                 records_.push_back(SourceRecord{s.file, &n, lineOf(n), {}, nullptr});
@@ -113,28 +113,28 @@ public:
         out.reserve(records_.size());
         for (const SourceRecord& src : records_) {
             const toml::table& t = *src.node->as_table();
-            FieldReader reader(ctx, *src.file, spec_.rules);
+            FieldReader reader(ctx, *src.file, rules_.rules);
             R rec{};
-            if (spec_.bespoke) spec_.bespoke(reader, t, src.line, rec);
+            if (rules_.bespoke) rules_.bespoke(reader, t, src.line, rec);
             reader.bind(t, src.line, rec);
-            if (spec_.checkOne) spec_.checkOne(reader, t, src.line, rec);
+            if (rules_.checkOne) rules_.checkOne(reader, t, src.line, rec);
             out.push_back(Compiled<R>{std::move(rec), &src});
         }
-        if (spec_.derive) spec_.derive(ctx, out);
-        if (spec_.checkAll) spec_.checkAll(ctx, out);
-        return {{spec_.file, packRecords<R>(ctx, out)}};
+        if (rules_.derive) rules_.derive(ctx, out);
+        if (rules_.checkAll) rules_.checkAll(ctx, out);
+        return {{rules_.file, packRecords<R>(ctx, out)}};
     }
 
 private:
     void registerName(CompileContext& ctx, const SourceRecord& rec, int32_t number) {
-        if (spec_.nameKey.empty()) return;
+        if (rules_.nameKey.empty()) return;
         const toml::table& t = *rec.node->as_table();
-        auto name = t[spec_.nameKey].template value<std::string>();
+        auto name = t[rules_.nameKey].template value<std::string>();
         if (!name || name->empty()) return;   // reported by the record's own checks
-        ctx.addName(spec_.file, spec_.identity ? spec_.identity(t, *name) : *name, rec, number);
+        ctx.addName(rules_.file, rules_.identity ? rules_.identity(t, *name) : *name, rec, number);
     }
 
-    ListFormSpec<R> spec_;
+    ListFormRules<R> rules_;
     std::vector<SourceRecord> records_;
 };
 
@@ -142,7 +142,7 @@ private:
 //   [newband]
 //   "Indie Rock" = ["The Paper Lanterns", "Velvet Static"]
 template <PackedRecord R>
-struct BankFormSpec {
+struct BankFormRules {
     std::string_view key{};
     FileNo file{};
     std::size_t width{};   // of the name's field
@@ -152,15 +152,15 @@ struct BankFormSpec {
 template <PackedRecord R>
 class BankForm : public TableForm {
 public:
-    explicit BankForm(BankFormSpec<R> spec) : spec_(std::move(spec)) {}
-    std::string_view key() const override { return spec_.key; }
-    FileNo file() const override { return spec_.file; }
+    explicit BankForm(BankFormRules<R> rules) : rules_(std::move(rules)) {}
+    std::string_view key() const override { return rules_.key; }
+    FileNo file() const override { return rules_.file; }
 
     void gather(CompileContext& ctx, std::span<const Section> sections) override {
         for (const Section& s : sections) {
             const toml::table* styles = s.node->as_table();
             if (!styles) {
-                ctx.report(*s.file, s.line, fmt::format("`{}` should be a table of names by style", spec_.key));
+                ctx.report(*s.file, s.line, fmt::format("`{}` should be a table of names by style", rules_.key));
                 continue;
             }
             for (const auto& [style, names] : inSourceOrder(*styles)) {
@@ -173,7 +173,7 @@ public:
                 for (const toml::node& n : *list) {
                     records_.push_back(SourceRecord{s.file, &n, lineOf(n), std::string(style->str()), names});
                     if (auto name = n.value<std::string>())
-                        ctx.addName(spec_.file, *name, records_.back(), static_cast<int32_t>(records_.size()));
+                        ctx.addName(rules_.file, *name, records_.back(), static_cast<int32_t>(records_.size()));
                 }
             }
         }
@@ -194,21 +194,21 @@ public:
                     reader.problem(*src.groupNode, fmt::format("style \"{}\" is record {}, out of range (1 to 255)",
                                                                src.group, *style));
             }
-            auto name = reader.text(*src.node, spec_.key, spec_.width);
+            auto name = reader.text(*src.node, rules_.key, rules_.width);
             if (!name || !style || *style > 255) continue;
             if (name->empty()) {
                 reader.problem(*src.node, "an empty name");
                 continue;
             }
             R rec{};
-            spec_.fill(rec, *name, static_cast<uint8_t>(*style));
+            rules_.fill(rec, *name, static_cast<uint8_t>(*style));
             out.push_back(Compiled<R>{std::move(rec), &src});
         }
-        return {{spec_.file, packRecords<R>(ctx, out)}};
+        return {{rules_.file, packRecords<R>(ctx, out)}};
     }
 
 private:
-    BankFormSpec<R> spec_;
+    BankFormRules<R> rules_;
     FieldRules noRules_;
     std::vector<SourceRecord> records_;
 };
