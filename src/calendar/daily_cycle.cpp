@@ -99,7 +99,8 @@ bool allRepliesGiven(Game& g) {
     for (int32_t n = 1; n != g.news.recordCount(); ++n) {
         g.news.read(n);
         if (g.news->mustReply == kTrue && g.news->replied == kFalse) {
-            g.previousScreen = g.currentScreen;
+            // A second press on the same held item keeps the screen to go back to.
+            if (g.currentScreen != Screen::frmNewsFull) g.previousScreen = g.currentScreen;
             g.currentScreen = Screen::frmNewsFull;
             return false;
         }
