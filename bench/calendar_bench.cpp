@@ -36,7 +36,7 @@ int32_t fileEntry(Game& g, uint8_t type, double date, int16_t band = 0, int32_t 
 void BM_DispatchADayOf200Entries(benchmark::State& state) {
     Game g(benchFolder("trovane-bench-day"), 1);
     createEmptyWorkingSet(g);
-    constexpr std::array<uint8_t, 23> types = {1, 2, 3, 6, 9, 12, 13, 14, 15, 16, 18, 19,
+    constexpr std::array<uint8_t, 23> types = {1,  2,  3,  6,  9,  12, 13, 14, 15, 16, 18, 19,
                                                20, 21, 22, 24, 25, 26, 27, 28, 29, 30, 31};
     g.gameDate = serialFromCivil(2004, 10, 1);
     for (int i = 0; i < 200; ++i) fileEntry(g, types[static_cast<std::size_t>(i) % types.size()], g.gameDate);

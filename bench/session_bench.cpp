@@ -57,8 +57,10 @@ void BM_SaveAndLoadAYearIn(benchmark::State& state) {
     bool save = state.range(0) == 0;
     if (!save) saveGame(g, 1, "A year in");
     for (auto _ : state) {
-        if (save) saveGame(g, 1, "A year in");
-        else loadGame(g, 1);
+        if (save)
+            saveGame(g, 1, "A year in");
+        else
+            loadGame(g, 1);
     }
     state.SetLabel(save ? "save" : "load");
     closeAllTables(g);

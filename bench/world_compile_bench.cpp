@@ -33,17 +33,18 @@ fs::path generateWorld(const WorldSize& n) {
                            "ENSOAF"[i % 6]);
     out << "]\ncity = [\n";
     for (int i = 1; i <= n.cities; ++i)
-        out << fmt::format("  {{ name = \"City {}\", country = \"Country {}\", size = {} }},\n", i,
-                           1 + i % n.countries, 1 + i % 100);
+        out << fmt::format("  {{ name = \"City {}\", country = \"Country {}\", size = {} }},\n", i, 1 + i % n.countries,
+                           1 + i % 100);
     out << "]\nvenue = [\n";
     for (int i = 1; i <= n.venues; ++i)
         out << fmt::format("  {{ name = \"Venue {}\", city = \"City {}\", capacity = {}, rating = {}, flags = 1 }},\n",
                            i, 1 + i % n.cities, 50 + i * 17 % 60000, i % 90);
     out << "]\nforename = [\n";
     for (int i = 1; i <= n.forenames; ++i)
-        out << fmt::format("  {{ name = \"Forename {}\", male = {}, "
-                           "countries = {{ \"Country {}\" = 5, \"Country {}\" = 2 }} }},\n",
-                           i, i % 2 ? "true" : "false", 1 + i % n.countries, 1 + (i + 7) % n.countries);
+        out << fmt::format(
+            "  {{ name = \"Forename {}\", male = {}, "
+            "countries = {{ \"Country {}\" = 5, \"Country {}\" = 2 }} }},\n",
+            i, i % 2 ? "true" : "false", 1 + i % n.countries, 1 + (i + 7) % n.countries);
     out << "]\nsurname = [\n";
     for (int i = 1; i <= n.surnames; ++i)
         out << fmt::format("  {{ name = \"Surname {}\", countries = {{ \"Country {}\" = 4 }} }},\n", i,
@@ -57,11 +58,12 @@ fs::path generateWorld(const WorldSize& n) {
         out << fmt::format("  \"Did you know? Fact number {} is one of many lines of the loading screen.\",\n", i);
     out << "]\n";
     for (int s = 1; s <= n.styles; ++s)
-        out << fmt::format("[[style]]\nname = \"{}\"\nlifeSpan = 8\npopularity = [30, 18, 25, 20, 10]\n"
-                           "membersHigh = 5\nmembersUsual = 4\nmembersLow = 3\nbandJobs = [\"Lead Singer\", "
-                           "\"Drummer\"]\nsoloJob = \"Lead Singer\"\nsoloPercent = 10\n"
-                           "base = {{ charisma = 50, angst = 40 }}\n",
-                           s == n.styles ? std::string("Legend") : fmt::format("Style {}", s));
+        out << fmt::format(
+            "[[style]]\nname = \"{}\"\nlifeSpan = 8\npopularity = [30, 18, 25, 20, 10]\n"
+            "membersHigh = 5\nmembersUsual = 4\nmembersLow = 3\nbandJobs = [\"Lead Singer\", "
+            "\"Drummer\"]\nsoloJob = \"Lead Singer\"\nsoloPercent = 10\n"
+            "base = {{ charisma = 50, angst = 40 }}\n",
+            s == n.styles ? std::string("Legend") : fmt::format("Style {}", s));
     auto bank = [&](const char* key, int perStyle, const char* what) {
         out << fmt::format("[{}]\n", key);
         for (int s = 1; s < n.styles; ++s) {

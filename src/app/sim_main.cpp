@@ -22,9 +22,7 @@ int main(int argc, char** argv) {
     addNewsVerbs(app, ctx);
     try {
         app.parse(argc, argv);
-    } catch (const CLI::ParseError& e) {
-        return app.exit(e);
-    } catch (const trovane::SlotError& e) {
+    } catch (const CLI::ParseError& e) { return app.exit(e); } catch (const trovane::SlotError& e) {
         std::fprintf(stderr, "trovane-sim: %s\n", e.what());
         return 2;
     } catch (const trovane::FatalError& e) {

@@ -77,16 +77,15 @@ std::string itemJson(const NewsRecord& n, const NewsItemView* view) {
     std::string out = fmt::format(
         "{{\"id\":{},\"date\":\"{}\",\"kind\":{},\"title\":{},\"text\":{},\"mustReply\":{},\"replied\":{},"
         "\"read\":{},\"deleted\":{},\"scheduleLink\":{},\"eventLink\":{}",
-        n.id, isoDate(n.date), n.kind, jsonQuote(trim(n.title.value)), jsonQuote(n.text.value),
-        n.mustReply != 0, n.replied != 0, n.read != 0, n.deleted != 0, n.scheduleLink, n.eventLink);
+        n.id, isoDate(n.date), n.kind, jsonQuote(trim(n.title.value)), jsonQuote(n.text.value), n.mustReply != 0,
+        n.replied != 0, n.read != 0, n.deleted != 0, n.scheduleLink, n.eventLink);
     if (view) {
         out += ",\"help\":" + jsonQuote(view->help) + ",\"replies\":[";
         auto words = buttonWords(n.kind);
         for (std::size_t i = 0; i < words.size(); ++i)
-            out += fmt::format("{}{{\"reply\":\"{}\",\"enabled\":{}}}", i ? "," : "", words[i],
-                               view->buttons[i].enabled);
-        out += fmt::format("],\"deleteEnabled\":{},\"sidebarEnabled\":{}", view->deleteEnabled,
-                           view->sidebarEnabled);
+            out +=
+                fmt::format("{}{{\"reply\":\"{}\",\"enabled\":{}}}", i ? "," : "", words[i], view->buttons[i].enabled);
+        out += fmt::format("],\"deleteEnabled\":{},\"sidebarEnabled\":{}", view->deleteEnabled, view->sidebarEnabled);
     }
     return out + "}";
 }
@@ -152,8 +151,10 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
         Game& g = ctx.openGame();
         if (readItem(ctx, g, showId)) {
             NewsItemView view = openNewsItem(g);
-            if (ctx.json) std::printf("%s\n", itemJson(g.news.rec, &view).c_str());
-            else printItem(g.news.rec, view);
+            if (ctx.json)
+                std::printf("%s\n", itemJson(g.news.rec, &view).c_str());
+            else
+                printItem(g.news.rec, view);
         }
         ctx.closeGame();
     });
@@ -177,8 +178,10 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             } else if (!view.buttons[button].enabled) {
                 refuse(ctx, fmt::format("News item {} has already been answered", replyId));
             } else {
-                if (button == 0) pressNewsCmd1(g);
-                else pressNewsCmd2(g);
+                if (button == 0)
+                    pressNewsCmd1(g);
+                else
+                    pressNewsCmd2(g);
                 if (ctx.json)
                     std::printf("{\"id\":%d,\"reply\":\"%s\",\"screen\":\"%s\"}\n", replyId, replyWord.c_str(),
                                 std::string(screenName(g.currentScreen)).c_str());

@@ -30,9 +30,10 @@ void ensureBaseSet(const fs::path& dataDir) {
     fs::path exe = fs::read_symlink("/proc/self/exe", ec);
     fs::path base = exe.parent_path() / "Data";
     if (ec || !fs::exists(base / "country.gam"))
-        throw FatalError(fmt::format("{} holds no base world (country.gam and the rest), and none was found beside "
-                                     "the program",
-                                     dataDir.string()));
+        throw FatalError(
+            fmt::format("{} holds no base world (country.gam and the rest), and none was found beside "
+                        "the program",
+                        dataDir.string()));
     fs::create_directories(dataDir, ec);
     for (const auto& e : fs::directory_iterator(base))
         if (e.path().extension() == ".gam" && !fs::exists(dataDir / e.path().filename()))
@@ -66,16 +67,16 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
     found->excludes(take);
     newGame->callback([&ctx] {
         if (a.found.empty() == a.takeOver.empty())
-            throw FatalError("Give either --found NAME (with --continent, --country, --city, --style) or --take-over LABEL");
+            throw FatalError(
+                "Give either --found NAME (with --continent, --country, --city, --style) or --take-over LABEL");
         PlayerChoices p;
         p.forename = a.forename;
         p.surname = a.surname;
         unsigned bornDay = 0;
         int fields = parseDate(a.born, p.birthYear, p.birthMonth, bornDay);
         p.birthDay = static_cast<int>(bornDay);
-        if (fields != 3 ||
-            p.birthMonth < 1 || p.birthMonth > 12 || p.birthYear < 1880 || p.birthYear > 2003 || p.birthDay < 1 ||
-            p.birthDay > daysInBirthMonth(p.birthYear, p.birthMonth))
+        if (fields != 3 || p.birthMonth < 1 || p.birthMonth > 12 || p.birthYear < 1880 || p.birthYear > 2003 ||
+            p.birthDay < 1 || p.birthDay > daysInBirthMonth(p.birthYear, p.birthMonth))
             throw FatalError(fmt::format("--born {}: give a real date from 1880 to 2003 as YYYY-MM-DD", a.born));
         p.male = a.sex == "male";
         p.nationality = a.nationality;
@@ -110,9 +111,9 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
             std::printf("{\"date\":\"%s\",\"label\":%s,\"game\":%d}\n", formatDate(g.gameDate, "yyyy-mm-dd").c_str(),
                         jsonQuote(trim(g.player.playerLabelName.value)).c_str(), g.player.gameNumber);
         else
-            std::printf("A new game has begun on %s: %s %s heads %s.\n", formatDate(g.gameDate, "dddd d mmmm yyyy").c_str(),
-                        trim(g.player.playerForename.value).c_str(), trim(g.player.playerSurname.value).c_str(),
-                        trim(g.player.playerLabelName.value).c_str());
+            std::printf("A new game has begun on %s: %s %s heads %s.\n",
+                        formatDate(g.gameDate, "dddd d mmmm yyyy").c_str(), trim(g.player.playerForename.value).c_str(),
+                        trim(g.player.playerSurname.value).c_str(), trim(g.player.playerLabelName.value).c_str());
     });
 
     auto* save = app.add_subcommand("save", "Save the game into a slot (0 to 9)");
@@ -124,8 +125,10 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
         Game& g = ctx.openGame();
         saveGame(g, slot, name);
         ctx.closeGame();
-        if (ctx.json) std::printf("{\"slot\":%d,\"name\":%s}\n", slot, jsonQuote(trim(name)).c_str());
-        else std::printf("Saved in slot %d as %s\n", slot, trim(name).c_str());
+        if (ctx.json)
+            std::printf("{\"slot\":%d,\"name\":%s}\n", slot, jsonQuote(trim(name)).c_str());
+        else
+            std::printf("Saved in slot %d as %s\n", slot, trim(name).c_str());
     });
 
     auto* load = app.add_subcommand("load", "Load the game of a slot (0 to 9)");
@@ -137,8 +140,10 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
             throw SlotError(fmt::format("Slot {} holds no game", slot));
         loadGame(g, slot);
         ctx.closeGame();
-        if (ctx.json) std::printf("{\"slot\":%d,\"date\":\"%s\"}\n", slot, formatDate(g.gameDate, "yyyy-mm-dd").c_str());
-        else std::printf("Loaded slot %d: %s\n", slot, formatDate(g.gameDate, "dddd d/m/yyyy").c_str());
+        if (ctx.json)
+            std::printf("{\"slot\":%d,\"date\":\"%s\"}\n", slot, formatDate(g.gameDate, "yyyy-mm-dd").c_str());
+        else
+            std::printf("Loaded slot %d: %s\n", slot, formatDate(g.gameDate, "dddd d/m/yyyy").c_str());
     });
 
     auto* slots = app.add_subcommand("slots", "List the ten save slots");
@@ -153,10 +158,10 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
                 if (n != "None") {
                     try {
                         SlotDetails d = slotDetails(g, s);
-                        json += fmt::format(",\"date\":\"{}\",\"label\":{},\"cash\":{:.4f}", formatDate(d.gameDate, "yyyy-mm-dd"),
-                                            jsonQuote(d.labelName), moneyToDouble(d.cash));
-                    } catch (const std::exception&) {
-                    }
+                        json += fmt::format(",\"date\":\"{}\",\"label\":{},\"cash\":{:.4f}",
+                                            formatDate(d.gameDate, "yyyy-mm-dd"), jsonQuote(d.labelName),
+                                            moneyToDouble(d.cash));
+                    } catch (const std::exception&) {}
                 }
                 json += "}";
             } else {
@@ -170,8 +175,10 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
     quit->callback([&ctx] {
         Game& g = ctx.freshGame();
         discardWorkingSet(g);
-        if (!ctx.json) std::printf("The game is over; the working set in %s is gone.\n", ctx.dataDir.c_str());
-        else std::printf("{\"quit\":true}\n");
+        if (!ctx.json)
+            std::printf("The game is over; the working set in %s is gone.\n", ctx.dataDir.c_str());
+        else
+            std::printf("{\"quit\":true}\n");
     });
 }
 

@@ -20,9 +20,7 @@ namespace trovane::sim {
 
 namespace {
 
-uint64_t clockSeed() {
-    return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-}
+uint64_t clockSeed() { return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()); }
 
 std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
 
@@ -53,10 +51,12 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
         Game& g = ctx.freshGame();
         createEmptyWorkingSet(g);
         ctx.closeGame();
-        if (ctx.json) std::printf("{\"data\":%s,\"date\":\"%s\"}\n", jsonQuote(ctx.dataDir.string()).c_str(),
-                                  isoDate(g.gameDate).c_str());
-        else std::printf("Made an empty working set in %s; the game stands on %s\n", ctx.dataDir.c_str(),
-                         formatDate(g.gameDate, "dddd d mmmm yyyy").c_str());
+        if (ctx.json)
+            std::printf("{\"data\":%s,\"date\":\"%s\"}\n", jsonQuote(ctx.dataDir.string()).c_str(),
+                        isoDate(g.gameDate).c_str());
+        else
+            std::printf("Made an empty working set in %s; the game stands on %s\n", ctx.dataDir.c_str(),
+                        formatDate(g.gameDate, "dddd d mmmm yyyy").c_str());
     });
 
     auto* status = app.add_subcommand("status", "Show the date, cash, label and player");
@@ -126,8 +126,10 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
         std::filesystem::path file;
         std::optional<FileNo> n = fileNoByTableName(table);
         if (n && catalogueEntry(*n).kind == FileKind::perUse) {
-            if (*n == FileNo::fileSvar) file = ctx.dataDir / "svar.vel";
-            else file = ctx.dataDir / (table + ".gam");
+            if (*n == FileNo::fileSvar)
+                file = ctx.dataDir / "svar.vel";
+            else
+                file = ctx.dataDir / (table + ".gam");
         } else {
             file = ctx.dataDir / (table + ".vel");
             n = tableOfFile(file);

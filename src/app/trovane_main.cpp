@@ -24,9 +24,7 @@ fs::path dataBesideProgram() {
     return ec ? fs::path("Data") : exe.parent_path() / "Data";
 }
 
-uint64_t clockSeed() {
-    return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-}
+uint64_t clockSeed() { return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()); }
 
 }  // namespace
 
@@ -42,9 +40,7 @@ int main(int argc, char** argv) {
     cli.add_option("--seed", seed, "Seed of the game's random source (default: the clock)");
     try {
         cli.parse(argc, argv);
-    } catch (const CLI::ParseError& e) {
-        return cli.exit(e);
-    }
+    } catch (const CLI::ParseError& e) { return cli.exit(e); }
 
     trovane::screens::applyTheme(app);
     if (!fs::exists(dataDir / "country.gam")) {

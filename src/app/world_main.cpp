@@ -4,8 +4,8 @@
 #include <exception>
 #include <string>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include "world/fatal_error.h"
 #include "world/record_dump.h"
@@ -19,8 +19,7 @@ using namespace trovane::worldtool;
 int reportProblems(const std::vector<SourceProblem>& problems, std::string_view outcome) {
     for (const auto& p : problems) fmt::print(stderr, "{}\n", describe(p));
     if (problems.empty()) return 0;
-    fmt::print(stderr, "trovane-world: {} problem{}; {}\n", problems.size(), problems.size() == 1 ? "" : "s",
-               outcome);
+    fmt::print(stderr, "trovane-world: {} problem{}; {}\n", problems.size(), problems.size() == 1 ? "" : "s", outcome);
     return 1;
 }
 
@@ -40,8 +39,8 @@ int printStats(const std::string& folder, bool json) {
         fmt::print("{}}}\n", out);
     } else {
         for (const auto& c : counts)
-            fmt::print("{:<16} {:>8}\n", c.file, c.records < 0 ? std::string("missing or damaged")
-                                                               : std::to_string(c.records));
+            fmt::print("{:<16} {:>8}\n", c.file,
+                       c.records < 0 ? std::string("missing or damaged") : std::to_string(c.records));
     }
     bool whole = std::all_of(counts.begin(), counts.end(), [](const auto& c) { return c.records >= 0; });
     return whole ? 0 : 1;
@@ -81,9 +80,7 @@ int main(int argc, char** argv) {
 
     try {
         app.parse(argc, argv);
-    } catch (const CLI::ParseError& e) {
-        return app.exit(e);
-    } catch (const std::exception& e) {
+    } catch (const CLI::ParseError& e) { return app.exit(e); } catch (const std::exception& e) {
         fmt::print(stderr, "trovane-world: {}\n", e.what());
         return 2;
     }

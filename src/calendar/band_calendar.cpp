@@ -16,7 +16,14 @@ namespace {
 
 bool occupiesOwnBand(uint8_t type) {
     switch (type) {
-    case 5: case 7: case 8: case 10: case 11: case 15: case 17: case 28: return true;
+    case 5:
+    case 7:
+    case 8:
+    case 10:
+    case 11:
+    case 15:
+    case 17:
+    case 28: return true;
     default: return false;
     }
 }
@@ -33,8 +40,7 @@ public:
     ~DayReader() {
         try {
             closeDayFile(g_);
-        } catch (...) {
-        }
+        } catch (...) {}
     }
 
     // The day's record in the day buffer, or nullptr when its year has no file.
@@ -43,8 +49,10 @@ public:
         if (year != year_) {
             year_ = year;
             present_ = hasDayFile(g_, year);
-            if (present_) openDayFile(g_, year);
-            else closeDayFile(g_);
+            if (present_)
+                openDayFile(g_, year);
+            else
+                closeDayFile(g_);
         }
         if (!present_) return nullptr;
         g_.dayIndex.read(dayNumberInYear(date));
@@ -62,8 +70,10 @@ private:
 bool onTheBill(Game& g, const ScheduleRecord& e, int16_t band) {
     if (e.gig < 1) return false;
     g.gig.read(e.gig);
-    if (g.gig->tour > 0) g.tour.read(g.gig->tour);
-    else g.tour.rec = TourRecord{};
+    if (g.gig->tour > 0)
+        g.tour.read(g.gig->tour);
+    else
+        g.tour.rec = TourRecord{};
     int first = 1;
     int last = g.tour->supportCount;
     if (g.tour->festival != 0) {
@@ -124,9 +134,7 @@ std::string scheduleActivityText(Game& g, int32_t id) {
     g.schedule.read(id);
     const ScheduleRecord e = g.schedule.rec;
     switch (e.type) {
-    case 5:
-        g.label.read(e.label);
-        return "Signing for " + trim(g.label->name.value);
+    case 5: g.label.read(e.label); return "Signing for " + trim(g.label->name.value);
     case 7:
         g.disc.read(e.disc);
         return "Recording " + trim(g.disc->title.value) + " " + (g.disc->isSingle == 1 ? "(single)" : "(album)");
@@ -143,12 +151,8 @@ std::string scheduleActivityText(Game& g, int32_t id) {
         return "Playing " + trim(g.venue->name.value);
     case 10: return "Travelling";
     case 11: return "Resting";
-    case 15:
-        g.disc.read(e.disc);
-        return discReleaseText(g);
-    case 17:
-        g.media.read(e.media);
-        return "Promotion (" + trim(g.media->mediaName.value) + ")";
+    case 15: g.disc.read(e.disc); return discReleaseText(g);
+    case 17: g.media.read(e.media); return "Promotion (" + trim(g.media->mediaName.value) + ")";
     case 28: return "Retiring";
     default: return "";
     }
@@ -156,9 +160,13 @@ std::string scheduleActivityText(Game& g, int32_t id) {
 
 std::string_view daySuffix(unsigned day) {
     switch (day) {
-    case 1: case 21: case 31: return "st";
-    case 2: case 22: return "nd";
-    case 3: case 23: return "rd";
+    case 1:
+    case 21:
+    case 31: return "st";
+    case 2:
+    case 22: return "nd";
+    case 3:
+    case 23: return "rd";
     default: return "th";
     }
 }

@@ -33,38 +33,38 @@ constexpr int kLastType = 31;
 
 // Indexed by type. A row without a function is a type that runs nothing.
 constexpr std::array<ScheduleHandler, kLastType + 1> kHandlers = {{
-    {"", nullptr, G::none},                                    // 0: a blank entry
-    {"decideStaffOffer", decideStaffOffer, G::none},           // 1
-    {"hireStaff", hireStaff, G::none},                         // 2
-    {"fireStaff", fireStaff, G::none},                         // 3
-    {"decideOffers", decideOffers, G::bandNotRetired},         // 4
-    {"signBand", signBand, G::bandNotRetired},                 // 5
-    {"bandReport", bandReport, G::none},                       // 6
-    {"recordingDay", recordingDay, G::bandFitAndNotRetired},   // 7
-    {"performGig", performGig, G::gigCanGoAhead},              // 8
-    {"imageReport", imageReport, G::none},                     // 9
-    {"", nullptr, G::none},                                    // 10: a travel day only occupies the band
-    {"", nullptr, G::none},                                    // 11: so does a rest day
-    {"performStage", performStage, G::none},                   // 12
-    {"finishCeremony", finishCeremony, G::none},               // 13
-    {"judgeCeremony", judgeCeremony, G::none},                 // 14
-    {"releaseDay", releaseDay, G::none},                       // 15
-    {"artistBirthday", artistBirthday, G::none},               // 16
+    {"", nullptr, G::none},                                             // 0: a blank entry
+    {"decideStaffOffer", decideStaffOffer, G::none},                    // 1
+    {"hireStaff", hireStaff, G::none},                                  // 2
+    {"fireStaff", fireStaff, G::none},                                  // 3
+    {"decideOffers", decideOffers, G::bandNotRetired},                  // 4
+    {"signBand", signBand, G::bandNotRetired},                          // 5
+    {"bandReport", bandReport, G::none},                                // 6
+    {"recordingDay", recordingDay, G::bandFitAndNotRetired},            // 7
+    {"performGig", performGig, G::gigCanGoAhead},                       // 8
+    {"imageReport", imageReport, G::none},                              // 9
+    {"", nullptr, G::none},                                             // 10: a travel day only occupies the band
+    {"", nullptr, G::none},                                             // 11: so does a rest day
+    {"performStage", performStage, G::none},                            // 12
+    {"finishCeremony", finishCeremony, G::none},                        // 13
+    {"judgeCeremony", judgeCeremony, G::none},                          // 14
+    {"releaseDay", releaseDay, G::none},                                // 15
+    {"artistBirthday", artistBirthday, G::none},                        // 16
     {"performAppearance", performAppearance, G::appearanceCanGoAhead},  // 17
-    {"contractPoint", contractPoint, G::none},                 // 18
-    {"offerSupportSlot", offerSupportSlot, G::none},           // 19
-    {"rivalFollowUpSingle", rivalFollowUpSingle, G::none},     // 20
-    {"inviteToCeremony", inviteToCeremony, G::none},           // 21
-    {"fillFestivalBill", fillFestivalBill, G::none},           // 22
-    {"", nullptr, G::none},                                    // 23: the link of a festival invitation
-    {"openBusiness", openBusiness, G::none},                   // 24
-    {"pressWeek", pressWeek, G::none},                         // 25
-    {"distributorNeeded", distributorNeeded, G::none},         // 26
-    {"announceBandRetirement", announceBandRetirement, G::none},  // 27
-    {"retireBand", [](Game& g) { retireBand(g, false); }, G::none},  // 28
-    {"announceArtistRetirement", announceArtistRetirement, G::none},  // 29
+    {"contractPoint", contractPoint, G::none},                          // 18
+    {"offerSupportSlot", offerSupportSlot, G::none},                    // 19
+    {"rivalFollowUpSingle", rivalFollowUpSingle, G::none},              // 20
+    {"inviteToCeremony", inviteToCeremony, G::none},                    // 21
+    {"fillFestivalBill", fillFestivalBill, G::none},                    // 22
+    {"", nullptr, G::none},                                             // 23: the link of a festival invitation
+    {"openBusiness", openBusiness, G::none},                            // 24
+    {"pressWeek", pressWeek, G::none},                                  // 25
+    {"distributorNeeded", distributorNeeded, G::none},                  // 26
+    {"announceBandRetirement", announceBandRetirement, G::none},        // 27
+    {"retireBand", [](Game& g) { retireBand(g, false); }, G::none},     // 28
+    {"announceArtistRetirement", announceArtistRetirement, G::none},    // 29
     {"retireArtist", [](Game& g) { retireArtist(g, 1, g.schedule->artist); }, G::none},  // 30
-    {"memberLeaves", memberLeaves, G::none},                   // 31
+    {"memberLeaves", memberLeaves, G::none},                                             // 31
 }};
 
 // Reads the entry's band into the band buffer, when the entry has one.
@@ -133,8 +133,10 @@ bool gigCanGoAhead(Game& g) {
     const ScheduleRecord entry = g.schedule.rec;
     g.gig.read(entry.gig);
     if (g.gig->bill[0] == 0) return false;
-    if (g.gig->tour > 0) g.tour.read(g.gig->tour);
-    else g.tour.rec = TourRecord{};
+    if (g.gig->tour > 0)
+        g.tour.read(g.gig->tour);
+    else
+        g.tour.rec = TourRecord{};
     if (g.tour->band == 0 && g.tour->festival == 0) return false;
     if (entry.band < 1) return true;
     g.band.read(entry.band);

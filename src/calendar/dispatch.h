@@ -11,10 +11,10 @@ class Game;
 // What an entry's band must be for its handler to run.
 enum class ScheduleGuard {
     none,
-    bandNotRetired,         // signing and offers
-    bandFitAndNotRetired,   // a recording day
-    gigCanGoAhead,          // a gig
-    appearanceCanGoAhead,   // a promotion appearance: a band, fit and not retired
+    bandNotRetired,        // signing and offers
+    bandFitAndNotRetired,  // a recording day
+    gigCanGoAhead,         // a gig
+    appearanceCanGoAhead,  // a promotion appearance: a band, fit and not retired
 };
 
 struct ScheduleHandler {

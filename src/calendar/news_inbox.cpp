@@ -27,18 +27,18 @@ constexpr int16_t kVoidOfferBand = -1;
 
 // The news record as the list reads it: the same layout, with the body and
 // the help left as raw bytes, which the list never shows.
-#define NEWS_LIST_FIELDS(X)      \
-    X(id, int16_t)               \
-    X(date, double)              \
-    X(kind, uint8_t)             \
-    X(title, Text<256>)          \
-    X(text, Reserved<1024>)      \
-    X(scheduleLink, int32_t)     \
-    X(eventLink, int16_t)        \
-    X(replied, int16_t)          \
-    X(read, int16_t)             \
-    X(mustReply, int16_t)        \
-    X(extra, Reserved<512>)      \
+#define NEWS_LIST_FIELDS(X)  \
+    X(id, int16_t)           \
+    X(date, double)          \
+    X(kind, uint8_t)         \
+    X(title, Text<256>)      \
+    X(text, Reserved<1024>)  \
+    X(scheduleLink, int32_t) \
+    X(eventLink, int16_t)    \
+    X(replied, int16_t)      \
+    X(read, int16_t)         \
+    X(mustReply, int16_t)    \
+    X(extra, Reserved<512>)  \
     X(deleted, int16_t)
 TROVANE_RECORD_NOID(NewsListLine, NewsRecord::kLength, NEWS_LIST_FIELDS);
 
@@ -194,8 +194,8 @@ std::vector<NewsRow> newsListRows(Game& g) {
     for (int32_t n = last; n >= 1; --n) {
         decodeRecord(g.news.bytesOf(n).data(), r);
         if (r.deleted != kFalse) continue;
-        rows.push_back({r.read == kFalse ? "Unread" : "", formatDate(r.date, "ddd dd/mm/yyyy"), trim(r.title.value),
-                        n});
+        rows.push_back(
+            {r.read == kFalse ? "Unread" : "", formatDate(r.date, "ddd dd/mm/yyyy"), trim(r.title.value), n});
     }
     // The walk ends on the first record, and so does the news buffer.
     if (last >= 1) g.news.read(1);

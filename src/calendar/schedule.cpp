@@ -52,8 +52,8 @@ int32_t addSchedule(Game& g, ScheduleRecord record) {
     DayRecord& d = g.dayIndex.rec;
     if (d.count < 0 || d.count >= kMaxEntriesPerDay) {
         closeDayFile(g);
-        throw FatalError(fmt::format("Subscript out of range: day {} of {} already holds {} schedule entries",
-                                     day, year, d.count));
+        throw FatalError(
+            fmt::format("Subscript out of range: day {} of {} already holds {} schedule entries", day, year, d.count));
     }
     d.entries[static_cast<std::size_t>(d.count)] = record.id;
     d.count += 1;

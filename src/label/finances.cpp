@@ -30,8 +30,7 @@ void book(Game& g, Money amount, int category) {
 
 Money addMoney(Money a, Money b) {
     Money out = 0;
-    if (__builtin_add_overflow(a, b, &out))
-        throwOverflow("64-bit", static_cast<double>(a) + static_cast<double>(b));
+    if (__builtin_add_overflow(a, b, &out)) throwOverflow("64-bit", static_cast<double>(a) + static_cast<double>(b));
     return out;
 }
 

@@ -9,7 +9,6 @@ namespace trovane {
 // Not built yet: each runs as an empty step of the day until its rules are written.
 void deliverMarketingReports(Game& g) { static_cast<void>(g); }
 
-
 uint8_t rateLook(Game& g) {
     const ArtistRecord& a = g.artist.rec;
     const LookRecord& look = g.look.rec;
@@ -18,8 +17,10 @@ uint8_t rateLook(Game& g) {
     int penalty = 0;
     for (std::size_t i = 0; i < 8; ++i) {
         int low = look.bounds[2 * i], high = look.bounds[2 * i + 1];
-        if (values[i] < low) penalty += low - values[i];
-        else if (values[i] > high) penalty += values[i] - high;
+        if (values[i] < low)
+            penalty += low - values[i];
+        else if (values[i] > high)
+            penalty += values[i] - high;
     }
     int rating = 50 - penalty;
     for (int32_t n = 1; n != g.asslook.recordCount(); ++n) {

@@ -93,8 +93,9 @@ frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), ma
         QKeySequence key;
         int months;
     };
-    for (Key k : {Key{QKeySequence(Qt::Key_PageUp), -1}, Key{QKeySequence(Qt::Key_PageDown), 1},
-                  Key{QKeySequence(Qt::CTRL | Qt::Key_PageUp), -12}, Key{QKeySequence(Qt::CTRL | Qt::Key_PageDown), 12}})
+    for (Key k :
+         {Key{QKeySequence(Qt::Key_PageUp), -1}, Key{QKeySequence(Qt::Key_PageDown), 1},
+          Key{QKeySequence(Qt::CTRL | Qt::Key_PageUp), -12}, Key{QKeySequence(Qt::CTRL | Qt::Key_PageDown), 12}})
         connect(new QShortcut(k.key, this), &QShortcut::activated, this, [this, k] { step(k.months); });
 
     month_ = firstCalendarMonth(main.game(), mode);

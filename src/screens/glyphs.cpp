@@ -67,8 +67,10 @@ void drawGlyph(QPainter& p, Glyph glyph, const QColor& c) {
             qreal r1 = (i % 2 == 0) ? 9.5 : 7.0;
             qreal a0 = a - M_PI / (teeth * 2), a1 = a + M_PI / (teeth * 2);
             QPointF p0(12 + r1 * qCos(a0), 12 + r1 * qSin(a0)), p1(12 + r1 * qCos(a1), 12 + r1 * qSin(a1));
-            if (i == 0) cog.moveTo(p0);
-            else cog.lineTo(p0);
+            if (i == 0)
+                cog.moveTo(p0);
+            else
+                cog.lineTo(p0);
             cog.lineTo(p1);
         }
         cog.closeSubpath();
@@ -143,8 +145,8 @@ void drawGlyph(QPainter& p, Glyph glyph, const QColor& c) {
         p.drawRect(QRectF(7, 13, 10, 7));
         break;
     case Glyph::load:
-        p.drawPolyline(QPolygonF({QPointF(3, 19), QPointF(3, 5), QPointF(9, 5), QPointF(11, 7.5), QPointF(18, 7.5),
-                                  QPointF(18, 10)}));
+        p.drawPolyline(QPolygonF(
+            {QPointF(3, 19), QPointF(3, 5), QPointF(9, 5), QPointF(11, 7.5), QPointF(18, 7.5), QPointF(18, 10)}));
         p.drawPolygon(QPolygonF({QPointF(3, 19), QPointF(6.5, 10.5), QPointF(21.5, 10.5), QPointF(18, 19)}));
         break;
     case Glyph::back:

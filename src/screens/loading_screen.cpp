@@ -46,9 +46,7 @@ frmLoading::frmLoading(mdiParentForm& main, bool showProgress, QWidget* parent) 
 
     // A line of the world's facts, drawn with a die of the screen's own so the game's random stream is untouched.
     std::string line;
-    main.guarded([&] {
-        line = loadingFact(main.game(), QRandomGenerator::global()->bounded(1u << 30));
-    });
+    main.guarded([&] { line = loadingFact(main.game(), QRandomGenerator::global()->bounded(1u << 30)); });
     fact_ = makeBody(QString(), card);
     fact_->setObjectName(QStringLiteral("lblFact"));
     fact_->setAlignment(Qt::AlignCenter);

@@ -78,8 +78,8 @@ mdiParentForm::mdiParentForm(Game& g, QWidget* parent) : QMainWindow(parent), g_
     pages_->addWidget(shell_);
 
     // The turn key, and Escape for the panels, work wherever the keyboard is in the shell.
-    for (QKeySequence key : {QKeySequence(Qt::Key_F5), QKeySequence(Qt::CTRL | Qt::Key_Return),
-                             QKeySequence(Qt::CTRL | Qt::Key_Enter)}) {
+    for (QKeySequence key :
+         {QKeySequence(Qt::Key_F5), QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)}) {
         auto* s = new QShortcut(key, shell_);
         s->setContext(Qt::WidgetWithChildrenShortcut);
         connect(s, &QShortcut::activated, this, [this] {
@@ -112,7 +112,9 @@ void mdiParentForm::setStartScreen(QWidget* screen, Screen which) {
     emit screenShown(which);
 }
 
-void mdiParentForm::showSplash() { setStartScreen(new frmQuellmarkGames(*this, startArea_), Screen::frmQuellmarkGames); }
+void mdiParentForm::showSplash() {
+    setStartScreen(new frmQuellmarkGames(*this, startArea_), Screen::frmQuellmarkGames);
+}
 
 void mdiParentForm::showStartForm() { setStartScreen(new frmStartForm(*this, startArea_), Screen::frmStartForm); }
 
@@ -334,9 +336,7 @@ bool mdiParentForm::guarded(const std::function<void()>& work) {
         return true;
     } catch (const SlotError&) {
         throw;  // a refused slot is the caller's to show; the game goes on
-    } catch (const FatalError& e) {
-        fatal(QString::fromStdString(e.what()));
-    } catch (const std::exception& e) {
+    } catch (const FatalError& e) { fatal(QString::fromStdString(e.what())); } catch (const std::exception& e) {
         fatal(tr("Unexpected failure: %1").arg(QString::fromStdString(e.what())));
     }
     return false;
@@ -349,8 +349,7 @@ void mdiParentForm::fatal(const QString& message) {
     // The files keep the game as far as it got.
     try {
         closeAllTables(g_);
-    } catch (const std::exception&) {
-    }
+    } catch (const std::exception&) {}
     centralWidget()->setEnabled(false);
     auto* box = new QMessageBox(QMessageBox::Critical, tr("Trovane 3 has to stop"),
                                 tr("The game cannot go on:\n\n%1").arg(message), QMessageBox::Ok, this);

@@ -344,7 +344,8 @@ void frmManageExistingLabel::showLabel(int row) {
     }
     const ExistingLabel& l = labels_[static_cast<std::size_t>(row)];
     lblCash->setText(qs(formatMoney(main_.game(), l.cash, "###,###,###,##0")));
-    for (int m = 0; m < 5; ++m) lblReputation[m]->setText(QStringLiteral("%1%").arg(l.reputation[static_cast<std::size_t>(m)]));
+    for (int m = 0; m < 5; ++m)
+        lblReputation[m]->setText(QStringLiteral("%1%").arg(l.reputation[static_cast<std::size_t>(m)]));
     flxBands->setRowCount(static_cast<int>(l.bands.size()));
     for (std::size_t i = 0; i < l.bands.size(); ++i)
         flxBands->setItem(static_cast<int>(i), 0, new QTableWidgetItem(qs(l.bands[i])));

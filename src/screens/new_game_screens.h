@@ -24,7 +24,7 @@ public:
 
     QLineEdit* txtName;
     QLineEdit* txtSurname;
-    QRadioButton* optGender[2];     // 0 male, 1 female
+    QRadioButton* optGender[2];  // 0 male, 1 female
     QComboBox* cmbDay;
     QComboBox* cmbMonth;
     QComboBox* cmbYear;

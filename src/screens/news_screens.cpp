@@ -77,8 +77,7 @@ QVariant NewsListModel::data(const QModelIndex& index, int role) const {
             return f;
         }
         return {};
-    case Qt::ToolTipRole:
-        return index.column() == 2 ? qs(r.title) : QVariant();
+    case Qt::ToolTipRole: return index.column() == 2 ? qs(r.title) : QVariant();
     default: return {};
     }
 }

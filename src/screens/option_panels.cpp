@@ -14,8 +14,7 @@
 
 namespace trovane::screens {
 
-OptionPanel::OptionPanel(const QString& objectName, const QString& heading, QWidget* parent)
-    : QFrame(parent) {
+OptionPanel::OptionPanel(const QString& objectName, const QString& heading, QWidget* parent) : QFrame(parent) {
     setObjectName(objectName);
     setProperty("role", "panel");
     setFocusPolicy(Qt::NoFocus);
@@ -30,8 +29,8 @@ OptionPanel::OptionPanel(const QString& objectName, const QString& heading, QWid
     l->addLayout(entries_);
     inertNote_ = new QLabel(tr("Not open in this version"), this);
     inertNote_->setObjectName(QStringLiteral("lblInert"));
-    inertNote_->setStyleSheet(QStringLiteral("color: %1; font-size: 9pt; padding: 4px 8px 0 8px;")
-                                  .arg(palette::mutedText.name()));
+    inertNote_->setStyleSheet(
+        QStringLiteral("color: %1; font-size: 9pt; padding: 4px 8px 0 8px;").arg(palette::mutedText.name()));
     inertNote_->hide();
     l->addWidget(inertNote_);
     // Lifts the panel off the screen under it.
@@ -63,9 +62,7 @@ QPushButton* OptionPanel::addEntry(const QString& objectName, const QString& cap
     return b;
 }
 
-QPushButton* OptionPanel::entry(const QString& objectName) const {
-    return findChild<QPushButton*>(objectName);
-}
+QPushButton* OptionPanel::entry(const QString& objectName) const { return findChild<QPushButton*>(objectName); }
 
 void OptionPanel::focusFirstEntry() {
     for (int i = 0; i < entries_->count(); ++i) {
@@ -138,8 +135,8 @@ frmGameOptions::frmGameOptions(mdiParentForm& main, QWidget* parent)
 
 frmQuitOptions::frmQuitOptions(mdiParentForm& main, QWidget* parent)
     : OptionPanel(QStringLiteral("frmQuitOptions"), tr("Quit"), parent) {
-    QPushButton* quit = addEntry(QStringLiteral("lblQuit"), tr("Quit to the Start Screen"), Glyph::power,
-                                 [&main] { main.quitGame(); });
+    QPushButton* quit =
+        addEntry(QStringLiteral("lblQuit"), tr("Quit to the Start Screen"), Glyph::power, [&main] { main.quitGame(); });
     quit->setToolTip(tr("Whatever has not been saved will be lost"));
 }
 

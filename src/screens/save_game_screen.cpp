@@ -72,8 +72,8 @@ frmSaveGame::frmSaveGame(mdiParentForm& main, bool loading, QWidget* parent)
     grid->addWidget(captioned(tr("Cash"), cash), 3, 0, 1, 5);
     const char* markets[5] = {"UK", "US", "Europe", "Oceania", "Global"};
     for (int m = 0; m < 5; ++m)
-        grid->addWidget(captioned(tr(markets[m]), figure(QStringLiteral("lblReputation%1").arg(m).toLatin1().constData(),
-                                                        detailBox_)),
+        grid->addWidget(captioned(tr(markets[m]),
+                                  figure(QStringLiteral("lblReputation%1").arg(m).toLatin1().constData(), detailBox_)),
                         4, m);
     d->addWidget(detailBox_);
 
@@ -101,14 +101,16 @@ frmSaveGame::frmSaveGame(mdiParentForm& main, bool loading, QWidget* parent)
     row->addWidget(detailCard, 3);
     body()->addLayout(row, 1);
 
-    btnOk = makeButton(QStringLiteral("btnOk"), main.gameRunning() ? tr("Back to the Game") : tr("Back"),
-                       Glyph::back, ButtonRole::secondary, this);
+    btnOk = makeButton(QStringLiteral("btnOk"), main.gameRunning() ? tr("Back to the Game") : tr("Back"), Glyph::back,
+                       ButtonRole::secondary, this);
     headingExtras()->addWidget(btnOk, 0, Qt::AlignTop);
 
     connect(lstSaves, &QListWidget::currentRowChanged, this, &frmSaveGame::showSlot);
     connect(txtSaveName, &QLineEdit::returnPressed, this, [this] {
-        if (cmdSave->isVisible()) save();
-        else if (cmdOverwrite->isVisible()) overwrite();
+        if (cmdSave->isVisible())
+            save();
+        else if (cmdOverwrite->isVisible())
+            overwrite();
     });
     connect(lstSaves, &QListWidget::itemActivated, this, [this] {
         if (loading_ && cmdOverwrite->isVisible() && cmdOverwrite->isEnabled()) overwrite();
@@ -117,8 +119,10 @@ frmSaveGame::frmSaveGame(mdiParentForm& main, bool loading, QWidget* parent)
     connect(cmdOverwrite, &QPushButton::clicked, this, &frmSaveGame::overwrite);
     connect(cmdDelete, &QPushButton::clicked, this, &frmSaveGame::remove);
     connect(btnOk, &QPushButton::clicked, this, [&main] {
-        if (main.gameRunning()) main.returnToPreviousScreen();
-        else main.showStartForm();
+        if (main.gameRunning())
+            main.returnToPreviousScreen();
+        else
+            main.showStartForm();
     });
     fillList(0);
     setFocusProxy(lstSaves);
@@ -148,9 +152,7 @@ void frmSaveGame::showSlot(int row) {
     if (used) {
         try {
             main_.guarded([&] { details = slotDetails(g, row); });
-        } catch (const SlotError& e) {
-            broken = qs(e.what());
-        }
+        } catch (const SlotError& e) { broken = qs(e.what()); }
     }
     bool showDetails = used && broken.isEmpty();
     detailBox_->setVisible(showDetails);
@@ -165,8 +167,10 @@ void frmSaveGame::showSlot(int row) {
             findChild<QLabel*>(QStringLiteral("lblReputation%1").arg(m))
                 ->setText(QStringLiteral("%1%").arg(details.reputation[static_cast<std::size_t>(m)]));
     }
-    if (!used) freeNote_->setText(loading_ ? tr("This slot is empty.") : tr("This slot is free."));
-    else freeNote_->setText(broken.isEmpty() ? QString() : tr("This saved game cannot be read: %1").arg(broken));
+    if (!used)
+        freeNote_->setText(loading_ ? tr("This slot is empty.") : tr("This slot is free."));
+    else
+        freeNote_->setText(broken.isEmpty() ? QString() : tr("This saved game cannot be read: %1").arg(broken));
     freeNote_->setVisible(!freeNote_->text().isEmpty());
 
     // Saving: a free slot takes a name and Save; a used one may be overwritten under a new name.
@@ -183,9 +187,7 @@ void frmSaveGame::save() {
     std::string name = txtSaveName->text().toStdString();
     try {
         if (!main_.guarded([&] { saveGame(main_.game(), row, name); })) return;
-    } catch (const SlotError& e) {
-        main_.showRefusal(tr("Save Game"), qs(e.what()));
-    }
+    } catch (const SlotError& e) { main_.showRefusal(tr("Save Game"), qs(e.what())); }
     fillList(row);
 }
 

@@ -26,7 +26,8 @@ frmSideBar::frmSideBar(mdiParentForm& main, QWidget* panelHost) : main_(main), p
     logo->setContentsMargins(4, 0, 0, 14);
     l->addWidget(logo);
 
-    btnContinueGame = makeButton(QStringLiteral("btnContinueGame"), tr("&Continue"), Glyph::play, ButtonRole::sidebar, this);
+    btnContinueGame =
+        makeButton(QStringLiteral("btnContinueGame"), tr("&Continue"), Glyph::play, ButtonRole::sidebar, this);
     btnContinueGame->setToolTip(tr("Play the next day (F5 or Ctrl+Enter)"));
     l->addWidget(btnContinueGame);
     l->addSpacing(12);
@@ -67,8 +68,8 @@ frmSideBar::frmSideBar(mdiParentForm& main, QWidget* panelHost) : main_(main), p
 }
 
 void frmSideBar::enableSidebar(bool on) {
-    for (QPushButton* b : {btnContinueGame, btnNews, btnLabelOptions, btnFind, btnCharts, btnGameOptions, btnQuit,
-                           cmdExtra})
+    for (QPushButton* b :
+         {btnContinueGame, btnNews, btnLabelOptions, btnFind, btnCharts, btnGameOptions, btnQuit, cmdExtra})
         b->setEnabled(on);
     if (!on) CloseOtherWindows();
 }

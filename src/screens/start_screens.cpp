@@ -15,7 +15,6 @@
 
 namespace trovane::screens {
 
-
 frmQuellmarkGames::frmQuellmarkGames(mdiParentForm& main, QWidget* parent) : QWidget(parent), main_(main) {
     setObjectName(QStringLiteral("frmQuellmarkGames"));
     setFocusPolicy(Qt::StrongFocus);
@@ -70,7 +69,8 @@ frmStartForm::frmStartForm(mdiParentForm& main, QWidget* parent) : QWidget(paren
 
     auto* column = new QVBoxLayout;
     column->setSpacing(12);
-    btnStartNewGame = makeButton(QStringLiteral("btnStartNewGame"), tr("New Game"), Glyph::play, ButtonRole::primary, this);
+    btnStartNewGame =
+        makeButton(QStringLiteral("btnStartNewGame"), tr("New Game"), Glyph::play, ButtonRole::primary, this);
     btnLoad = makeButton(QStringLiteral("btnLoad"), tr("Load Game"), Glyph::load, ButtonRole::secondary, this);
     btnQuit = makeButton(QStringLiteral("btnQuit"), tr("Quit"), Glyph::power, ButtonRole::secondary, this);
     for (QPushButton* b : {btnStartNewGame, btnLoad, btnQuit}) {

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPalette>
-#include <QRadialGradient>
 #include <QPushButton>
+#include <QRadialGradient>
 #include <QStyleFactory>
 
 #include "screens/glyphs.h"
@@ -194,7 +194,8 @@ void ComboBox::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     const int side = 16;
     QColor ink = isEnabled() ? palette::mutedText : palette::disabledText;
-    p.drawPixmap(width() - side - 9, (height() - side) / 2, glyphPixmap(Glyph::chevron, ink, side, devicePixelRatioF()));
+    p.drawPixmap(width() - side - 9, (height() - side) / 2,
+                 glyphPixmap(Glyph::chevron, ink, side, devicePixelRatioF()));
 }
 
 void paintStageBackground(QWidget* w) {

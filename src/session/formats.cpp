@@ -12,11 +12,11 @@ namespace trovane {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> kWeekdays = {"Sunday", "Monday", "Tuesday", "Wednesday",
-                                                      "Thursday", "Friday", "Saturday"};
-constexpr std::array<std::string_view, 12> kMonths = {"January", "February", "March", "April",
-                                                     "May", "June", "July", "August",
-                                                     "September", "October", "November", "December"};
+constexpr std::array<std::string_view, 7> kWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                       "Thursday", "Friday", "Saturday"};
+constexpr std::array<std::string_view, 12> kMonths = {"January",   "February", "March",    "April",
+                                                      "May",       "June",     "July",     "August",
+                                                      "September", "October",  "November", "December"};
 
 }  // namespace
 
@@ -24,9 +24,7 @@ std::string_view weekdayName(int weekday) {
     return weekday >= 1 && weekday <= 7 ? kWeekdays[static_cast<std::size_t>(weekday - 1)] : "";
 }
 
-std::string_view monthName(unsigned month) {
-    return month >= 1 && month <= 12 ? kMonths[month - 1] : "";
-}
+std::string_view monthName(unsigned month) { return month >= 1 && month <= 12 ? kMonths[month - 1] : ""; }
 
 std::string formatNumber(double value, std::string_view mask) {
     auto point = mask.find('.');
@@ -82,22 +80,32 @@ std::string formatDate(double serial, std::string_view mask) {
         char lower = (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
         if (lower == 'd') {
             std::size_t n = runOf('d');
-            if (n == 1) out += std::to_string(d.day);
-            else if (n == 2) out += fmt::format("{:02}", d.day);
-            else if (n == 3) out += weekdayName(weekdayOf(serial)).substr(0, 3);
-            else out += weekdayName(weekdayOf(serial));
+            if (n == 1)
+                out += std::to_string(d.day);
+            else if (n == 2)
+                out += fmt::format("{:02}", d.day);
+            else if (n == 3)
+                out += weekdayName(weekdayOf(serial)).substr(0, 3);
+            else
+                out += weekdayName(weekdayOf(serial));
             i += n;
         } else if (lower == 'm') {
             std::size_t n = runOf('m');
-            if (n == 1) out += std::to_string(d.month);
-            else if (n == 2) out += fmt::format("{:02}", d.month);
-            else if (n == 3) out += monthName(d.month).substr(0, 3);
-            else out += monthName(d.month);
+            if (n == 1)
+                out += std::to_string(d.month);
+            else if (n == 2)
+                out += fmt::format("{:02}", d.month);
+            else if (n == 3)
+                out += monthName(d.month).substr(0, 3);
+            else
+                out += monthName(d.month);
             i += n;
         } else if (lower == 'y') {
             std::size_t n = runOf('y');
-            if (n <= 2) out += fmt::format("{:02}", d.year % 100);
-            else out += std::to_string(d.year);
+            if (n <= 2)
+                out += fmt::format("{:02}", d.year % 100);
+            else
+                out += std::to_string(d.year);
             i += n;
         } else {
             out += c;

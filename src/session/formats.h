@@ -20,7 +20,7 @@ std::string formatNumber(double value, std::string_view mask);
 std::string formatDate(double serial, std::string_view mask);
 
 // The weekday's and the month's names, English as the game shows them.
-std::string_view weekdayName(int weekday);  // 1 Sunday
+std::string_view weekdayName(int weekday);   // 1 Sunday
 std::string_view monthName(unsigned month);  // 1 January
 
 // Game money as the player sees it: the preferences' symbol, then the amount

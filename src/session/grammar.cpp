@@ -75,11 +75,11 @@ std::string grammarWord(Game& g, int code, bool capital) {
 
 std::string personWord(int code, bool isMale) {
     switch (code) {
-        case 0: return isMale ? "he" : "she";
-        case 1: return isMale ? "himself" : "herself";
-        case 2: return isMale ? "him" : "her";
-        case 3: return isMale ? "his" : "her";
-        default: return {};
+    case 0: return isMale ? "he" : "she";
+    case 1: return isMale ? "himself" : "herself";
+    case 2: return isMale ? "him" : "her";
+    case 3: return isMale ? "his" : "her";
+    default: return {};
     }
 }
 

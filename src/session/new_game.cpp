@@ -126,9 +126,9 @@ NewPlayer confirmPlayer(Game& g, const PlayerChoices& choices) {
     s.id = narrow<int16_t>(g.staff.recordCount());
     s.forename = g.player.playerForename;
     s.surname = g.player.playerSurname;
-    s.birthDate = serialFromCivil(choices.birthYear, choices.birthMonth,
-                                  static_cast<unsigned>(keptBirthDay(choices.birthDay, choices.birthYear,
-                                                                     choices.birthMonth)));
+    s.birthDate =
+        serialFromCivil(choices.birthYear, choices.birthMonth,
+                        static_cast<unsigned>(keptBirthDay(choices.birthDay, choices.birthYear, choices.birthMonth)));
     // Reckoned from the computer's date, not the game's.
     double today = g.clockDate();
     s.age = narrow<uint8_t>(std::clamp(wholeYearsBetween(s.birthDate, today), 0, 255));
@@ -140,9 +140,9 @@ NewPlayer confirmPlayer(Game& g, const PlayerChoices& choices) {
 }
 
 const std::vector<Continent>& continents() {
-    static const std::vector<Continent> kContinents = {
-        {"Africa", "F"}, {"Asia", "A"}, {"Europe", "E"}, {"North America", "N"}, {"Oceania", "O"},
-        {"South America", "S"}};
+    static const std::vector<Continent> kContinents = {{"Africa", "F"},  {"Asia", "A"},
+                                                       {"Europe", "E"},  {"North America", "N"},
+                                                       {"Oceania", "O"}, {"South America", "S"}};
     return kContinents;
 }
 
@@ -177,9 +177,12 @@ std::array<uint8_t, 5> newLabelReputation(Game& g, int32_t countryNumber) {
         std::string region = trim(g.country->region.value);
         if (name == "England" || name == "Scotland" || name == "Wales" || name == "Northern Ireland")
             order = {uk, europe, us, oceania, global};
-        else if (region == "E") order = {europe, uk, us, oceania, global};
-        else if (region == "N") order = {us, europe, oceania, uk, global};
-        else if (region == "O") order = {oceania, us, europe, uk, global};
+        else if (region == "E")
+            order = {europe, uk, us, oceania, global};
+        else if (region == "N")
+            order = {us, europe, oceania, uk, global};
+        else if (region == "O")
+            order = {oceania, us, europe, uk, global};
     }
     std::array<uint8_t, 5> shares{};
     std::array<uint8_t, 5> rep{};
@@ -209,14 +212,14 @@ void foundLabel(Game& g, const NewPlayer& player, const LabelChoices& choice) {
 
     std::string forename = trim(player.choices.forename), surname = trim(player.choices.surname);
     std::string label = trim(choice.name);
-    postNews(g, g.gameDate, fmt::format("New indie label founded by {} {}", forename, surname),
-             fmt::format("New independent record label {} opened the doors of their {} office for the first time "
-                         "today. New boss {} {} will have {} work cut out just trying to keep the label afloat in "
-                         "the current climate but with hard work, perseverence and luck one day maybe {} can join "
-                         "the hallowed ranks of the major labels. Only time will tell if {} is up to the challenge.",
-                         label, trim(choice.city), forename, surname, personWord(3, player.choices.male), label,
-                         forename),
-             0, 0, 0, false, "");
+    postNews(
+        g, g.gameDate, fmt::format("New indie label founded by {} {}", forename, surname),
+        fmt::format("New independent record label {} opened the doors of their {} office for the first time "
+                    "today. New boss {} {} will have {} work cut out just trying to keep the label afloat in "
+                    "the current climate but with hard work, perseverence and luck one day maybe {} can join "
+                    "the hallowed ranks of the major labels. Only time will tell if {} is up to the challenge.",
+                    label, trim(choice.city), forename, surname, personWord(3, player.choices.male), label, forename),
+        0, 0, 0, false, "");
 
     readPrefs(g);
     g.prefs->labelName = choice.name;

@@ -43,14 +43,18 @@ uint8_t newBandShare(Game& g, double reputation, double divisor, double spread, 
 }  // namespace
 
 int16_t clampInteger(int16_t& value, int16_t low, int16_t high) {
-    if (value < low) value = low;
-    else if (value > high) value = high;
+    if (value < low)
+        value = low;
+    else if (value > high)
+        value = high;
     return value;
 }
 
 int32_t clampLong(int32_t& value, int32_t low, int32_t high) {
-    if (value < low) value = low;
-    else if (value > high) value = high;
+    if (value < low)
+        value = low;
+    else if (value > high)
+        value = high;
     return value;
 }
 

@@ -86,7 +86,8 @@ void markComplete(const fs::path& staging) {
 SvarRecord readSlotSession(Game& g, int slot) {
     fs::path file = g.dataDir / fmt::format("svar.{}", slotExt(slot));
     std::error_code ec;
-    if (!fs::exists(file, ec)) throw SlotError(fmt::format("Slot {} is incomplete: {} is missing", slot, file.string()));
+    if (!fs::exists(file, ec))
+        throw SlotError(fmt::format("Slot {} is incomplete: {} is missing", slot, file.string()));
     auto size = fs::file_size(file, ec);
     if (ec || size != SvarRecord::kLength)
         throw SlotError(fmt::format("Slot {} is damaged: its session record {} is {} bytes, not {}", slot,
@@ -98,8 +99,8 @@ SvarRecord readSlotSession(Game& g, int slot) {
     decodeRecord(bytes.data(), rec);
     if (rec.firstScheduleYear < 1900 || rec.lastScheduleYear < rec.firstScheduleYear ||
         rec.lastScheduleYear > rec.firstScheduleYear + 1000 || !(rec.gameDate >= 1.0 && rec.gameDate < 2958466.0))
-        throw SlotError(fmt::format("Slot {} is damaged: its session record {} does not hold a game", slot,
-                                    file.string()));
+        throw SlotError(
+            fmt::format("Slot {} is damaged: its session record {} does not hold a game", slot, file.string()));
     return rec;
 }
 
@@ -114,8 +115,8 @@ void checkSlotComplete(Game& g, int slot, const SvarRecord& session) {
         FileNo n = *tableOfFile(file);
         std::size_t length = catalogueEntry(n).recordLength;
         if (ec || size % length != 0)
-            throw SlotError(fmt::format("Slot {} is damaged: {} is not a whole number of {}-byte records", slot,
-                                        name, length));
+            throw SlotError(
+                fmt::format("Slot {} is damaged: {} is not a whole number of {}-byte records", slot, name, length));
         if (n == FileNo::fileDay) {
             int year = std::stoi(file.stem().string());
             if (size != static_cast<std::uintmax_t>(daysInYear(year)) * length)
@@ -132,8 +133,10 @@ void recoverInterruptedSaves(Game& g) {
     for (int slot = 0; slot < kSlotCount; ++slot) {
         fs::path staging = stagingFolder(g, slot);
         if (!fs::exists(staging, ec)) continue;
-        if (fs::exists(staging / kCompleteMark, ec)) commitStaging(staging, g.dataDir);
-        else fs::remove_all(staging, ec);
+        if (fs::exists(staging / kCompleteMark, ec))
+            commitStaging(staging, g.dataDir);
+        else
+            fs::remove_all(staging, ec);
     }
     fs::remove_all(loadStagingFolder(g), ec);
 }
@@ -149,8 +152,7 @@ void saveGame(Game& g, int slot, const std::string& saveName) {
     if (ec) throw SlotError(fmt::format("Cannot save into slot {}: {}", slot, ec.message()));
     try {
         std::string ext = slotExt(slot);
-        for (auto stem : tableSetStems())
-            copyInto(dataFile(g, stem, "vel"), staging / fmt::format("{}.{}", stem, ext));
+        for (auto stem : tableSetStems()) copyInto(dataFile(g, stem, "vel"), staging / fmt::format("{}.{}", stem, ext));
         for (int y = g.firstScheduleYear; y <= g.lastScheduleYear; ++y)
             copyInto(dataFile(g, std::to_string(y), "vel"), staging / fmt::format("{}.{}", y, ext));
         fs::path svar = staging / fmt::format("svar.{}", ext);
@@ -180,8 +182,7 @@ void loadGame(Game& g, int slot) {
     fs::create_directories(staging, ec);
     if (ec) throw SlotError(fmt::format("Cannot load slot {}: {}", slot, ec.message()));
     try {
-        for (auto stem : tableSetStems())
-            copyInto(dataFile(g, stem, ext), staging / fmt::format("{}.vel", stem));
+        for (auto stem : tableSetStems()) copyInto(dataFile(g, stem, ext), staging / fmt::format("{}.vel", stem));
         for (int y = session.firstScheduleYear; y <= session.lastScheduleYear; ++y)
             copyInto(dataFile(g, std::to_string(y), ext), staging / fmt::format("{}.vel", y));
     } catch (...) {
@@ -201,9 +202,7 @@ std::string slotName(Game& g, int slot) {
     if (g.prefs->slotUsed[static_cast<std::size_t>(slot)] == kFalse) return "None";
     try {
         return trim(readSlotSession(g, slot).saveName.value);
-    } catch (const SlotError&) {
-        return "(damaged)";
-    }
+    } catch (const SlotError&) { return "(damaged)"; }
 }
 
 void deleteSlot(Game& g, int slot) {

@@ -68,8 +68,7 @@ int32_t drawName(Game& g, Table<NameRecord>& table, int country, SexFits sexFits
 }  // namespace
 
 int32_t drawForename(Game& g, int country, bool male) {
-    return drawName(g, g.forename, country,
-                    [male](const ForenameRecord& r) { return (r.isMale != kFalse) == male; });
+    return drawName(g, g.forename, country, [male](const ForenameRecord& r) { return (r.isMale != kFalse) == male; });
 }
 
 int32_t drawSurname(Game& g, int country) {

@@ -79,11 +79,10 @@ void askForABreak(Game& g) {
     g.band.write();
     std::string name = trim(g.band->name.value);
     ActWords w = actWords(g);
-    std::string text = name + " made it known to you that " + w.they + " " + w.are +
-                       " feeling extremely jaded after " + w.their + " recent activity. " + w.They + " " + w.are +
-                       " concerned that " + w.they + " " + w.are + " currently unable to give 100% in " + w.their +
-                       " recent activities. As a result " + w.they + " " + w.are +
-                       " requesting you incorporate a lengthy break into " + w.their +
+    std::string text = name + " made it known to you that " + w.they + " " + w.are + " feeling extremely jaded after " +
+                       w.their + " recent activity. " + w.They + " " + w.are + " concerned that " + w.they + " " +
+                       w.are + " currently unable to give 100% in " + w.their + " recent activities. As a result " +
+                       w.they + " " + w.are + " requesting you incorporate a lengthy break into " + w.their +
                        " schedule as soon as possible.";
     postNews(g, g.gameDate + 1, name + " demand" + w.s + " a break", text, 0, 0, 0, false, "");
 }

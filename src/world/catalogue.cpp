@@ -63,21 +63,19 @@ constexpr std::array kCatalogue = {
 };
 
 constexpr std::array kOpenAllOrder = {
-    fileCountry, fileCity, fileVenue, fileForename, fileSurname, fileJob, fileStyle,
-    fileArtist, fileBand, fileProduct, fileLabel, fileStaff, fileLook, fileAssLook,
-    fileNewBand, fileNews, fileSchedule, fileDisc, fileSong, fileAssStyle, fileOffer,
-    fileAssNation, fileBusiness, fileNewSong, fileTour, fileGig, fileFestival, fileEvent,
-    fileCrime, fileAward, fileCeremony, fileShortlist, fileChartRecs, fileMedia,
-    fileAchieve, fileNewAlbum, fileThank,
+    fileCountry,   fileCity,    fileVenue,    fileForename, fileSurname, fileJob,       fileStyle,    fileArtist,
+    fileBand,      fileProduct, fileLabel,    fileStaff,    fileLook,    fileAssLook,   fileNewBand,  fileNews,
+    fileSchedule,  fileDisc,    fileSong,     fileAssStyle, fileOffer,   fileAssNation, fileBusiness, fileNewSong,
+    fileTour,      fileGig,     fileFestival, fileEvent,    fileCrime,   fileAward,     fileCeremony, fileShortlist,
+    fileChartRecs, fileMedia,   fileAchieve,  fileNewAlbum, fileThank,
 };
 
 constexpr std::array<std::string_view, 47> kTableSetStems = {
-    "artist", "band", "city", "country", "forename", "job", "label", "product", "staff",
-    "style", "surname", "venue", "look", "asslook", "newband", "news", "schedule", "disc",
-    "song", "offer", "assstyle", "assnation", "business", "newsong", "tour", "gig",
-    "festival", "event", "crime", "award", "ceremony", "shortlist", "chartrecs",
-    "chart0", "chart1", "chart2", "chart3", "chart4", "chart5", "chart6", "chart7",
-    "chart8", "chart9", "media", "achieve", "thank", "newalbum",
+    "artist",   "band",      "city",      "country", "forename", "job",    "label",    "product", "staff",  "style",
+    "surname",  "venue",     "look",      "asslook", "newband",  "news",   "schedule", "disc",    "song",   "offer",
+    "assstyle", "assnation", "business",  "newsong", "tour",     "gig",    "festival", "event",   "crime",  "award",
+    "ceremony", "shortlist", "chartrecs", "chart0",  "chart1",   "chart2", "chart3",   "chart4",  "chart5", "chart6",
+    "chart7",   "chart8",    "chart9",    "media",   "achieve",  "thank",  "newalbum",
 };
 
 }  // namespace

@@ -7,11 +7,10 @@ namespace trovane {
 namespace {
 
 // Code points of bytes 0x80 to 0x9F; the rest of the byte range is Latin-1.
-constexpr std::array<char32_t, 32> kHighControls = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char32_t, 32> kHighControls = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 void appendUtf8(std::string& out, char32_t cp) {
     if (cp < 0x80) {
@@ -60,9 +59,12 @@ void appendCp1252AsUtf8(std::string& out, std::string_view bytes) {
     out.reserve(out.size() + bytes.size() * 2);
     for (char c : bytes) {
         auto b = static_cast<uint8_t>(c);
-        if (b < 0x80) out += c;
-        else if (b < 0xA0) appendUtf8(out, kHighControls[b - 0x80]);
-        else appendUtf8(out, b);
+        if (b < 0x80)
+            out += c;
+        else if (b < 0xA0)
+            appendUtf8(out, kHighControls[b - 0x80]);
+        else
+            appendUtf8(out, b);
     }
 }
 
@@ -88,7 +90,10 @@ std::string utf8ToCp1252(std::string_view text) {
         bool ok = true;
         for (int k = 1; k <= extra; ++k) {
             auto cb = static_cast<uint8_t>(text[i + k]);
-            if ((cb & 0xC0) != 0x80) { ok = false; break; }
+            if ((cb & 0xC0) != 0x80) {
+                ok = false;
+                break;
+            }
             cp = (cp << 6) | (cb & 0x3F);
         }
         if (!ok) {

@@ -30,8 +30,6 @@ unsigned dayOf(double serial) { return civilFromSerial(serial).day; }
 bool isLeapYear(int y) { return year{y}.is_leap(); }
 int daysInYear(int y) { return isLeapYear(y) ? 366 : 365; }
 
-unsigned daysInMonth(int y, unsigned m) {
-    return static_cast<unsigned>((year{y} / month{m} / last).day());
-}
+unsigned daysInMonth(int y, unsigned m) { return static_cast<unsigned>((year{y} / month{m} / last).day()); }
 
 }  // namespace trovane

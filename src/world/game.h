@@ -8,8 +8,8 @@
 #include <functional>
 #include <string_view>
 
-#include "world/records.h"
 #include "world/random.h"
+#include "world/records.h"
 #include "world/table.h"
 
 namespace trovane {
@@ -34,54 +34,54 @@ enum class Screen {
 };
 
 // The tables that openAllTables opens: member name, record, file number.
-#define TROVANE_WORKING_TABLES(X)                     \
-    X(country, CountryRecord, fileCountry)            \
-    X(city, CityRecord, fileCity)                     \
-    X(venue, VenueRecord, fileVenue)                  \
-    X(forename, ForenameRecord, fileForename)         \
-    X(surname, SurnameRecord, fileSurname)            \
-    X(job, JobRecord, fileJob)                        \
-    X(style, StyleRecord, fileStyle)                  \
-    X(artist, ArtistRecord, fileArtist)               \
-    X(band, BandRecord, fileBand)                     \
-    X(product, ProductRecord, fileProduct)            \
-    X(label, LabelRecord, fileLabel)                  \
-    X(staff, StaffRecord, fileStaff)                  \
-    X(look, LookRecord, fileLook)                     \
-    X(asslook, AssRecord, fileAssLook)                \
-    X(newband, NewBandRecord, fileNewBand)            \
-    X(news, NewsRecord, fileNews)                     \
-    X(schedule, ScheduleRecord, fileSchedule)         \
-    X(disc, DiscRecord, fileDisc)                     \
-    X(song, SongRecord, fileSong)                     \
-    X(assstyle, AssRecord, fileAssStyle)              \
-    X(offer, OfferRecord, fileOffer)                  \
-    X(assnation, AssRecord, fileAssNation)            \
-    X(business, BusinessRecord, fileBusiness)         \
-    X(newsong, NewSongRecord, fileNewSong)            \
-    X(tour, TourRecord, fileTour)                     \
-    X(gig, GigRecord, fileGig)                        \
-    X(festival, FestivalRecord, fileFestival)         \
-    X(event, EventRecord, fileEvent)                  \
-    X(crime, CrimeRecord, fileCrime)                  \
-    X(award, AwardRecord, fileAward)                  \
-    X(ceremony, CeremonyRecord, fileCeremony)         \
-    X(shortlist, ShortlistRecord, fileShortlist)      \
-    X(chartrecs, ChartRecords, fileChartRecs)         \
-    X(media, MediaRecord, fileMedia)                  \
-    X(achieve, AchievementRecord, fileAchieve)        \
-    X(newalbum, NewAlbumRecord, fileNewAlbum)         \
+#define TROVANE_WORKING_TABLES(X)                \
+    X(country, CountryRecord, fileCountry)       \
+    X(city, CityRecord, fileCity)                \
+    X(venue, VenueRecord, fileVenue)             \
+    X(forename, ForenameRecord, fileForename)    \
+    X(surname, SurnameRecord, fileSurname)       \
+    X(job, JobRecord, fileJob)                   \
+    X(style, StyleRecord, fileStyle)             \
+    X(artist, ArtistRecord, fileArtist)          \
+    X(band, BandRecord, fileBand)                \
+    X(product, ProductRecord, fileProduct)       \
+    X(label, LabelRecord, fileLabel)             \
+    X(staff, StaffRecord, fileStaff)             \
+    X(look, LookRecord, fileLook)                \
+    X(asslook, AssRecord, fileAssLook)           \
+    X(newband, NewBandRecord, fileNewBand)       \
+    X(news, NewsRecord, fileNews)                \
+    X(schedule, ScheduleRecord, fileSchedule)    \
+    X(disc, DiscRecord, fileDisc)                \
+    X(song, SongRecord, fileSong)                \
+    X(assstyle, AssRecord, fileAssStyle)         \
+    X(offer, OfferRecord, fileOffer)             \
+    X(assnation, AssRecord, fileAssNation)       \
+    X(business, BusinessRecord, fileBusiness)    \
+    X(newsong, NewSongRecord, fileNewSong)       \
+    X(tour, TourRecord, fileTour)                \
+    X(gig, GigRecord, fileGig)                   \
+    X(festival, FestivalRecord, fileFestival)    \
+    X(event, EventRecord, fileEvent)             \
+    X(crime, CrimeRecord, fileCrime)             \
+    X(award, AwardRecord, fileAward)             \
+    X(ceremony, CeremonyRecord, fileCeremony)    \
+    X(shortlist, ShortlistRecord, fileShortlist) \
+    X(chartrecs, ChartRecords, fileChartRecs)    \
+    X(media, MediaRecord, fileMedia)             \
+    X(achieve, AchievementRecord, fileAchieve)   \
+    X(newalbum, NewAlbumRecord, fileNewAlbum)    \
     X(thank, ThankRecord, fileThank)
 
 // Tables opened by the operation that needs them and closed right after.
-#define TROVANE_PER_USE_TABLES(X)                     \
-    X(dayIndex, DayRecord, fileDay)                   \
-    X(prefs, PrefsRecord, filePrefs)                  \
-    X(svar, SvarRecord, fileSvar)                     \
-    X(chart, ChartRow, fileChart)                     \
-    X(fact, FactRecord, fileFact)                     \
-    X(highscore, HighScoreRecord, fileHighScore)      \
-    X(cb, BandRecord, fileCb)                         \
+#define TROVANE_PER_USE_TABLES(X)                \
+    X(dayIndex, DayRecord, fileDay)              \
+    X(prefs, PrefsRecord, filePrefs)             \
+    X(svar, SvarRecord, fileSvar)                \
+    X(chart, ChartRow, fileChart)                \
+    X(fact, FactRecord, fileFact)                \
+    X(highscore, HighScoreRecord, fileHighScore) \
+    X(cb, BandRecord, fileCb)                    \
     X(ca, ArtistRecord, fileCa)
 
 class Game {

@@ -29,11 +29,16 @@ inline double intFloor(double v) { return std::floor(v); }
 
 template <class T>
 constexpr const char* integerKindName() {
-    if constexpr (std::is_same_v<T, uint8_t>) return "byte";
-    else if constexpr (std::is_same_v<T, int16_t>) return "16-bit";
-    else if constexpr (std::is_same_v<T, int32_t>) return "32-bit";
-    else if constexpr (std::is_same_v<T, uint16_t>) return "unsigned 16-bit";
-    else return "64-bit";
+    if constexpr (std::is_same_v<T, uint8_t>)
+        return "byte";
+    else if constexpr (std::is_same_v<T, int16_t>)
+        return "16-bit";
+    else if constexpr (std::is_same_v<T, int32_t>)
+        return "32-bit";
+    else if constexpr (std::is_same_v<T, uint16_t>)
+        return "unsigned 16-bit";
+    else
+        return "64-bit";
 }
 
 // Checked narrowing of a whole number to a field's type.

@@ -37,9 +37,18 @@ struct Text {
     Text(std::string s) : value(std::move(s)) {}
     Text(std::string_view s) : value(s) {}
 
-    Text& operator=(const char* s) { value = s; return *this; }
-    Text& operator=(std::string s) { value = std::move(s); return *this; }
-    Text& operator=(std::string_view s) { value = s; return *this; }
+    Text& operator=(const char* s) {
+        value = s;
+        return *this;
+    }
+    Text& operator=(std::string s) {
+        value = std::move(s);
+        return *this;
+    }
+    Text& operator=(std::string_view s) {
+        value = s;
+        return *this;
+    }
 
     const std::string& str() const { return value; }
     bool empty() const { return value.find_first_not_of(' ') == std::string::npos; }
@@ -53,22 +62,33 @@ struct Text {
 template <std::size_t N>
 using Reserved = std::array<uint8_t, N>;
 
-template <class T> struct IsText : std::false_type {};
-template <std::size_t N> struct IsText<Text<N>> : std::true_type {};
-template <class T> struct IsStdArray : std::false_type {};
-template <class T, std::size_t N> struct IsStdArray<std::array<T, N>> : std::true_type {};
-template <class T> struct IsNumberArray : std::false_type {};
-template <class T, std::size_t N> struct IsNumberArray<std::array<T, N>> : std::is_arithmetic<T> {};
+template <class T>
+struct IsText : std::false_type {};
+template <std::size_t N>
+struct IsText<Text<N>> : std::true_type {};
+template <class T>
+struct IsStdArray : std::false_type {};
+template <class T, std::size_t N>
+struct IsStdArray<std::array<T, N>> : std::true_type {};
+template <class T>
+struct IsNumberArray : std::false_type {};
+template <class T, std::size_t N>
+struct IsNumberArray<std::array<T, N>> : std::is_arithmetic<T> {};
 
 template <class T>
-concept PackedRecord = requires { T::packedLength(); };
+concept PackedRecord = requires {
+    T::packedLength();
+};
 
 // Bytes a field takes in the file.
 template <class T>
 constexpr std::size_t wireSize() {
-    if constexpr (IsText<T>::value) return T::width;
-    else if constexpr (IsStdArray<T>::value) return std::tuple_size_v<T> * wireSize<typename T::value_type>();
-    else if constexpr (PackedRecord<T>) return T::packedLength();
+    if constexpr (IsText<T>::value)
+        return T::width;
+    else if constexpr (IsStdArray<T>::value)
+        return std::tuple_size_v<T> * wireSize<typename T::value_type>();
+    else if constexpr (PackedRecord<T>)
+        return T::packedLength();
     else {
         static_assert(std::is_arithmetic_v<T>, "unknown field kind");
         return sizeof(T);
@@ -81,9 +101,9 @@ namespace codec {
 inline constexpr bool kFileOrder = std::endian::native == std::endian::little;
 
 template <class T>
-using UnsignedOfSize = std::conditional_t<sizeof(T) == 1, uint8_t,
-                       std::conditional_t<sizeof(T) == 2, uint16_t,
-                       std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
+using UnsignedOfSize = std::conditional_t<
+    sizeof(T) == 1, uint8_t,
+    std::conditional_t<sizeof(T) == 2, uint16_t, std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
 
 template <class T>
 void putScalar(uint8_t* out, T v) {
@@ -117,8 +137,10 @@ inline void putTextBytes(uint8_t* out, std::size_t width, std::string_view bytes
 
 template <std::size_t N>
 void putText(uint8_t* out, const Text<N>& t) {
-    if (isAscii(t.value)) putTextBytes(out, N, t.value);
-    else putTextBytes(out, N, utf8ToCp1252(t.value));
+    if (isAscii(t.value))
+        putTextBytes(out, N, t.value);
+    else
+        putTextBytes(out, N, utf8ToCp1252(t.value));
 }
 
 template <std::size_t N>
@@ -129,44 +151,66 @@ void getText(const uint8_t* in, Text<N>& t) {
     appendCp1252AsUtf8(t.value, std::string_view(reinterpret_cast<const char*>(in), n));
 }
 
-template <class T> void put(uint8_t*& out, const T& v);
-template <class T> void get(const uint8_t*& in, T& v);
+template <class T>
+void put(uint8_t*& out, const T& v);
+template <class T>
+void get(const uint8_t*& in, T& v);
 
 struct Writer {
     uint8_t* out;
     template <class T>
-    void operator()(const char*, const T& v) { put(out, v); }
+    void operator()(const char*, const T& v) {
+        put(out, v);
+    }
 };
 
 struct Reader {
     const uint8_t* in;
     template <class T>
-    void operator()(const char*, T& v) { get(in, v); }
+    void operator()(const char*, T& v) {
+        get(in, v);
+    }
 };
 
 template <class T>
 void put(uint8_t*& out, const T& v) {
-    if constexpr (IsText<T>::value) { putText(out, v); out += T::width; }
-    else if constexpr (kFileOrder && IsNumberArray<T>::value) {
+    if constexpr (IsText<T>::value) {
+        putText(out, v);
+        out += T::width;
+    } else if constexpr (kFileOrder && IsNumberArray<T>::value) {
         static_assert(sizeof(v) == wireSize<T>());
         std::memcpy(out, v.data(), sizeof(v));
         out += sizeof(v);
+    } else if constexpr (IsStdArray<T>::value) {
+        for (const auto& e : v) put(out, e);
+    } else if constexpr (PackedRecord<T>) {
+        Writer w{out};
+        T::forEachField(v, w);
+        out = w.out;
+    } else {
+        putScalar(out, v);
+        out += sizeof(T);
     }
-    else if constexpr (IsStdArray<T>::value) { for (const auto& e : v) put(out, e); }
-    else if constexpr (PackedRecord<T>) { Writer w{out}; T::forEachField(v, w); out = w.out; }
-    else { putScalar(out, v); out += sizeof(T); }
 }
 
 template <class T>
 void get(const uint8_t*& in, T& v) {
-    if constexpr (IsText<T>::value) { getText(in, v); in += T::width; }
-    else if constexpr (kFileOrder && IsNumberArray<T>::value) {
+    if constexpr (IsText<T>::value) {
+        getText(in, v);
+        in += T::width;
+    } else if constexpr (kFileOrder && IsNumberArray<T>::value) {
         std::memcpy(v.data(), in, sizeof(v));
         in += sizeof(v);
+    } else if constexpr (IsStdArray<T>::value) {
+        for (auto& e : v) get(in, e);
+    } else if constexpr (PackedRecord<T>) {
+        Reader r{in};
+        T::forEachField(v, r);
+        in = r.in;
+    } else {
+        v = getScalar<T>(in);
+        in += sizeof(T);
     }
-    else if constexpr (IsStdArray<T>::value) { for (auto& e : v) get(in, e); }
-    else if constexpr (PackedRecord<T>) { Reader r{in}; T::forEachField(v, r); in = r.in; }
-    else { v = getScalar<T>(in); in += sizeof(T); }
 }
 
 }  // namespace codec
@@ -232,32 +276,30 @@ std::optional<std::size_t> fieldOffset(std::string_view path) {
 #define TROVANE_FIELD_SIZE(name, ...) +::trovane::wireSize<__VA_ARGS__>()
 
 #define TROVANE_RECORD_BODY(Type, length, FIELDS)                                        \
-    FIELDS(TROVANE_FIELD_MEMBER)                                                        \
-    static constexpr std::size_t kLength = length;                                      \
-    static constexpr const char* kTypeName = #Type;                                     \
-    template <class Self, class Visitor>                                                \
-    static void forEachField(Self& self, Visitor& visit) {                              \
-        FIELDS(TROVANE_FIELD_VISIT)                                                     \
-    }                                                                                   \
+    FIELDS(TROVANE_FIELD_MEMBER)                                                         \
+    static constexpr std::size_t kLength = length;                                       \
+    static constexpr const char* kTypeName = #Type;                                      \
+    template <class Self, class Visitor>                                                 \
+    static void forEachField(Self& self, Visitor& visit) {                               \
+        FIELDS(TROVANE_FIELD_VISIT)                                                      \
+    }                                                                                    \
     static constexpr std::size_t packedLength() { return 0 FIELDS(TROVANE_FIELD_SIZE); } \
     friend bool operator==(const Type&, const Type&) = default;
 
 // A record whose field idField holds its own record number.
-#define TROVANE_RECORD(Type, length, idField, FIELDS)                                    \
-    struct Type {                                                                       \
-        TROVANE_RECORD_BODY(Type, length, FIELDS)                                       \
-        static constexpr bool kHasId = true;                                            \
-        auto& ownNumber() { return idField; }                                           \
-        const auto& ownNumber() const { return idField; }                               \
-    };                                                                                  \
-    static_assert(Type::packedLength() == Type::kLength,                                \
-                  #Type " does not pack to its record length")
+#define TROVANE_RECORD(Type, length, idField, FIELDS)     \
+    struct Type {                                         \
+        TROVANE_RECORD_BODY(Type, length, FIELDS)         \
+        static constexpr bool kHasId = true;              \
+        auto& ownNumber() { return idField; }             \
+        const auto& ownNumber() const { return idField; } \
+    };                                                    \
+    static_assert(Type::packedLength() == Type::kLength, #Type " does not pack to its record length")
 
 // A record with no field of its own number (nested parts, one-record files).
-#define TROVANE_RECORD_NOID(Type, length, FIELDS)                                        \
-    struct Type {                                                                       \
-        TROVANE_RECORD_BODY(Type, length, FIELDS)                                       \
-        static constexpr bool kHasId = false;                                           \
-    };                                                                                  \
-    static_assert(Type::packedLength() == Type::kLength,                                \
-                  #Type " does not pack to its record length")
+#define TROVANE_RECORD_NOID(Type, length, FIELDS) \
+    struct Type {                                 \
+        TROVANE_RECORD_BODY(Type, length, FIELDS) \
+        static constexpr bool kHasId = false;     \
+    };                                            \
+    static_assert(Type::packedLength() == Type::kLength, #Type " does not pack to its record length")

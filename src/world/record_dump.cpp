@@ -24,8 +24,10 @@ std::string jsonQuote(std::string_view s) {
         case '\r': out += "\\r"; break;
         case '\t': out += "\\t"; break;
         default:
-            if (static_cast<unsigned char>(c) < 0x20) out += fmt::format("\\u{:04x}", c);
-            else out += c;
+            if (static_cast<unsigned char>(c) < 0x20)
+                out += fmt::format("\\u{:04x}", c);
+            else
+                out += c;
         }
     }
     out += '"';

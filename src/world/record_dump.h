@@ -107,13 +107,17 @@ decltype(auto) withRecordType(FileNo n, F&& f) {
     case fileSurname: return f(std::type_identity<SurnameRecord>{});
     case fileJob: return f(std::type_identity<JobRecord>{});
     case fileStyle: return f(std::type_identity<StyleRecord>{});
-    case fileArtist: case fileCa: return f(std::type_identity<ArtistRecord>{});
-    case fileBand: case fileCb: return f(std::type_identity<BandRecord>{});
+    case fileArtist:
+    case fileCa: return f(std::type_identity<ArtistRecord>{});
+    case fileBand:
+    case fileCb: return f(std::type_identity<BandRecord>{});
     case fileProduct: return f(std::type_identity<ProductRecord>{});
     case fileLabel: return f(std::type_identity<LabelRecord>{});
     case fileStaff: return f(std::type_identity<StaffRecord>{});
     case fileLook: return f(std::type_identity<LookRecord>{});
-    case fileAssLook: case fileAssStyle: case fileAssNation: return f(std::type_identity<AssRecord>{});
+    case fileAssLook:
+    case fileAssStyle:
+    case fileAssNation: return f(std::type_identity<AssRecord>{});
     case fileDay: return f(std::type_identity<DayRecord>{});
     case fileNewBand: return f(std::type_identity<NewBandRecord>{});
     case fileNews: return f(std::type_identity<NewsRecord>{});

@@ -14,14 +14,12 @@ namespace {
 
 bool createdEmptyWhenMissing(FileNo n) {
     using enum FileNo;
-    return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist ||
-           n == fileChartRecs;
+    return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist || n == fileChartRecs;
 }
 
 void copyFile(const fs::path& from, const fs::path& to) {
     std::error_code ec;
-    if (!fs::exists(from, ec))
-        throw FatalError(fmt::format("The data file {} is missing", from.string()));
+    if (!fs::exists(from, ec)) throw FatalError(fmt::format("The data file {} is missing", from.string()));
     fs::copy_file(from, to, fs::copy_options::overwrite_existing, ec);
     if (ec) throw FatalError(fmt::format("Cannot copy {} to {}: {}", from.string(), to.string(), ec.message()));
 }
@@ -79,13 +77,11 @@ void openPerUse(TableBase& t, const fs::path& file) {
 TableBase& tableByNumber(Game& g, FileNo n) {
     switch (n) {
 #define TROVANE_TABLE_CASE(member, Record, fileNo) \
-    case FileNo::fileNo:                           \
-        return g.member;
+    case FileNo::fileNo: return g.member;
         TROVANE_WORKING_TABLES(TROVANE_TABLE_CASE)
         TROVANE_PER_USE_TABLES(TROVANE_TABLE_CASE)
 #undef TROVANE_TABLE_CASE
-    default:
-        throw FatalError(fmt::format("No table has file number {}", static_cast<int>(n)));
+    default: throw FatalError(fmt::format("No table has file number {}", static_cast<int>(n)));
     }
 }
 
@@ -99,9 +95,7 @@ void openTable(Game& g, FileNo n, std::string_view ext) {
     using enum FileNo;
     const auto& entry = catalogueEntry(n);
     switch (entry.kind) {
-    case FileKind::inSet:
-        tableByNumber(g, n).open(dataFile(g, entry.stem, ext), IfMissing::fail);
-        return;
+    case FileKind::inSet: tableByNumber(g, n).open(dataFile(g, entry.stem, ext), IfMissing::fail); return;
     case FileKind::workingOnly:
         tableByNumber(g, n).open(dataFile(g, entry.stem, "vel"),
                                  createdEmptyWhenMissing(n) ? IfMissing::createEmpty : IfMissing::fail);
@@ -116,8 +110,8 @@ void openTable(Game& g, FileNo n, std::string_view ext) {
         }
         break;
     }
-    throw FatalError(fmt::format("Table {} has no file of its own: it is opened by the operation that names it",
-                                 entry.table));
+    throw FatalError(
+        fmt::format("Table {} has no file of its own: it is opened by the operation that names it", entry.table));
 }
 
 void closeTable(Game& g, FileNo n) { tableByNumber(g, n).close(); }
@@ -146,8 +140,8 @@ void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
         if (entry.number == FileNo::fileTemp || entry.number == FileNo::fileTemp2) continue;
         const TableBase& t = tableByNumber(g, entry.number);
         if (t.isOpen())
-            throw FatalError(fmt::format("Cannot copy the {} tables to {}: table {} is still open", fromExt,
-                                         toExt, entry.table));
+            throw FatalError(
+                fmt::format("Cannot copy the {} tables to {}: table {} is still open", fromExt, toExt, entry.table));
     }
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
 }
@@ -159,16 +153,13 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     switch (n) {
     case fileBand: return findIn(g.band, [&](auto& r) { return nameMatches(r.name, name); });
     case fileCountry:
-        return findIn(g.country,
-                      [&](auto& r) { return nameMatches(r.name, name) || nameMatches(r.adjective, name); });
+        return findIn(g.country, [&](auto& r) { return nameMatches(r.name, name) || nameMatches(r.adjective, name); });
     case fileCity: return findIn(g.city, [&](auto& r) { return nameMatches(r.name, name); });
     case fileJob: return findIn(g.job, [&](auto& r) { return nameMatches(r.title, name); });
     case fileStyle: return findIn(g.style, [&](auto& r) { return nameMatches(r.name, name); });
     case fileLabel: return findInCopy(g.label, [&](auto& r) { return nameMatches(r.name, name); });
-    case fileArtist:
-        return findIn(g.artist, [&](auto& r) { return fullNameMatches(r.forename, r.surname, name); });
-    case fileStaff:
-        return findIn(g.staff, [&](auto& r) { return fullNameMatches(r.forename, r.surname, name); });
+    case fileArtist: return findIn(g.artist, [&](auto& r) { return fullNameMatches(r.forename, r.surname, name); });
+    case fileStaff: return findIn(g.staff, [&](auto& r) { return fullNameMatches(r.forename, r.surname, name); });
     case fileLook: return findIn(g.look, [&](auto& r) { return nameMatches(r.name, name); });
     case fileVenue: return findIn(g.venue, [&](auto& r) { return nameMatches(r.name, name); });
     case fileSong: return findIn(g.song, [&](auto& r) { return nameMatches(r.title, name); });
@@ -176,8 +167,7 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     case fileAward: return findIn(g.award, [&](auto& r) { return nameMatches(r.name, name); });
     case fileCeremony: return findIn(g.ceremony, [&](auto& r) { return nameMatches(r.name, name); });
     case fileNewAlbum: return findIn(g.newalbum, [&](auto& r) { return nameMatches(r.title, name); });
-    default:
-        throw FatalError(fmt::format("Table {} has no name to search by", catalogueEntry(n).table));
+    default: throw FatalError(fmt::format("Table {} has no name to search by", catalogueEntry(n).table));
     }
 }
 

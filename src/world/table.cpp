@@ -20,8 +20,7 @@ TableBase::~TableBase() {
     // A table dropped without close still writes back; errors cannot be reported here.
     try {
         close();
-    } catch (...) {
-    }
+    } catch (...) {}
 }
 
 std::string TableBase::displayName() const {
@@ -35,8 +34,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     if (ifMissing == IfMissing::createEmpty) flags |= O_CREAT;
     int fd = ::open(path.c_str(), flags, 0644);
     if (fd < 0) {
-        if (errno == ENOENT)
-            throw FatalError(fmt::format("The data file {} is missing", path.string()));
+        if (errno == ENOENT) throw FatalError(fmt::format("The data file {} is missing", path.string()));
         throw FatalError(fmt::format("Cannot open {}: {}", path.string(), std::strerror(errno)));
     }
     struct stat st {};
@@ -47,9 +45,9 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     auto size = static_cast<std::size_t>(st.st_size);
     if (length_ == 0 || size % length_ != 0) {
         ::close(fd);
-        throw FatalError(fmt::format(
-            "The data file {} is damaged: its length of {} bytes is not a whole number of {}-byte records",
-            path.string(), size, length_));
+        throw FatalError(
+            fmt::format("The data file {} is damaged: its length of {} bytes is not a whole number of {}-byte records",
+                        path.string(), size, length_));
     }
     std::vector<uint8_t> image(size);
     std::size_t done = 0;
@@ -58,8 +56,8 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
         if (got <= 0) {
             int err = errno;
             ::close(fd);
-            throw FatalError(fmt::format("Cannot read {}: {}", path.string(),
-                                         got == 0 ? "it ended early" : std::strerror(err)));
+            throw FatalError(
+                fmt::format("Cannot read {}: {}", path.string(), got == 0 ? "it ended early" : std::strerror(err)));
         }
         done += static_cast<std::size_t>(got);
     }
@@ -82,8 +80,7 @@ void TableBase::flush() {
     std::size_t at = dirtyFrom_;
     while (at < dirtyTo_) {
         ssize_t put = ::pwrite(fd_, image_.data() + at, dirtyTo_ - at, static_cast<off_t>(at));
-        if (put <= 0)
-            throw FatalError(fmt::format("Cannot write {}: {}", path_.string(), std::strerror(errno)));
+        if (put <= 0) throw FatalError(fmt::format("Cannot write {}: {}", path_.string(), std::strerror(errno)));
         at += static_cast<std::size_t>(put);
     }
     dirtyFrom_ = SIZE_MAX;
@@ -106,13 +103,12 @@ int32_t TableBase::recordCount() const {
 
 void TableBase::requireOpen(const char* what) const {
     if (fd_ < 0)
-        throw FatalError(fmt::format("Cannot {} table {}: it is not open", what,
-                                     catalogueEntry(number_).table));
+        throw FatalError(fmt::format("Cannot {} table {}: it is not open", what, catalogueEntry(number_).table));
 }
 
 void TableBase::missingRecord(int32_t n, const char* what) const {
-    throw FatalError(fmt::format("Cannot {} record {} of table {}: it has {} records", what, n,
-                                 displayName(), records()));
+    throw FatalError(
+        fmt::format("Cannot {} record {} of table {}: it has {} records", what, n, displayName(), records()));
 }
 
 void TableBase::tableFull(int32_t n) const {

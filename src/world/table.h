@@ -117,18 +117,12 @@ public:
     }
 
     // Writes the buffer to the record its own number names.
-    void write()
-        requires R::kHasId
-    {
-        write(static_cast<int32_t>(rec.ownNumber()));
-    }
+    void write() requires R::kHasId { write(static_cast<int32_t>(rec.ownNumber())); }
 
     // Adds the buffer as a new record: its own number becomes the next free
     // number. A table whose numbers are 16-bit is full at 32,767 records: the
     // next append is a fatal error and the file does not grow.
-    int32_t append()
-        requires R::kHasId
-    {
+    int32_t append() requires R::kHasId {
         int32_t n = recordCount();
         using IdType = std::remove_cvref_t<decltype(rec.ownNumber())>;
         if (!std::in_range<IdType>(n)) tableFull(n);

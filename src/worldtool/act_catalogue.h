@@ -15,7 +15,7 @@ namespace trovane::worldtool {
 struct Catalogue {
     std::vector<Compiled<DiscRecord>> discs;
     std::vector<Compiled<SongRecord>> songs;
-    std::deque<SourceRecord> sources;   // where each disc and song stands, for problems
+    std::deque<SourceRecord> sources;  // where each disc and song stands, for problems
 };
 
 // Reads the discs of one act into the catalogue, numbering discs and songs on

@@ -23,8 +23,9 @@ constexpr int kMembersRoyalty = 70;
 
 // The deal of a signed act, as the contract rules read it; an unsigned act has none.
 constexpr std::array<std::string_view, 10> kDealKeys = {
-    "signedOn",         "initialAdvance",   "additionalAdvance", "additionalAdvanceCount", "optionLength",
-    "optionsRemaining", "optionMonthsLeft", "royaltyRate",       "albumStatus",            "songsWritten"};
+    "signedOn",     "initialAdvance",   "additionalAdvance", "additionalAdvanceCount",
+    "optionLength", "optionsRemaining", "optionMonthsLeft",  "royaltyRate",
+    "albumStatus",  "songsWritten"};
 // Of the deal, what every signed act must give.
 constexpr std::array<std::string_view, 5> kDealRequired = {"signedOn", "royaltyRate", "optionLength",
                                                            "additionalAdvanceCount", "optionsRemaining"};
@@ -43,22 +44,20 @@ FieldRules bandRules() {
                        {"offerStage", 0, 1}},
             .required = {"name", "style", "reputation"},
             .bespokeKeys = {"formedIn", "member", "disc"},
-            .hidden = {"memberCount", "members", "ability", "visual", "live", "flair", "dancing", "stamina",
-                       "charisma", "controversy", "topAttitudeLevel", "formedInCity", "formedIn", "retired",
-                       "contractEnd"}};
+            .hidden = {"memberCount", "members", "ability", "visual", "live", "flair", "dancing", "stamina", "charisma",
+                       "controversy", "topAttitudeLevel", "formedInCity", "formedIn", "retired", "contractEnd"}};
 }
 
 FieldRules memberRules() {
-    FieldRules rules{.refs = {{"job", fileJob}, {"country", fileCountry}, {"city", fileCity}, {"look", fileLook},
-                              {"style", fileStyle}},
-                     .ranges = {{"potential", 20, 100}},
-                     .required = {"forename", "surname", "age", "job", "country", "male", "ability", "talentCeiling",
-                                  "potential"},
-                     .hidden = {"band", "reputation", "energy", "morale", "listed"}};
+    FieldRules rules{
+        .refs =
+            {{"job", fileJob}, {"country", fileCountry}, {"city", fileCity}, {"look", fileLook}, {"style", fileStyle}},
+        .ranges = {{"potential", 20, 100}},
+        .required = {"forename", "surname", "age", "job", "country", "male", "ability", "talentCeiling", "potential"},
+        .hidden = {"band", "reputation", "energy", "morale", "listed"}};
     for (std::string_view percent : {"ability", "talentCeiling", "charisma", "controversy", "composure", "flair",
                                      "dancing", "visual", "live", "stamina", "attitude", "angst", "imageRating",
-                                     "songQuality", "writingRate", "songCommerciality", "writingFocus",
-                                     "royaltyShare"})
+                                     "songQuality", "writingRate", "songCommerciality", "writingFocus", "royaltyShare"})
         rules.ranges.push_back({percent, 0, 100});
     return rules;
 }
@@ -180,8 +179,8 @@ private:
         const toml::table* c = ctx.sourceOf(fileCity, *city);
         auto cityCountry = c ? (*c)["country"].value<std::string>() : std::nullopt;
         if (cityCountry && *cityCountry != *country)
-            r.problem(*member.get("city"), fmt::format("\"{}\" is a city of {}, not of {}", *city, *cityCountry,
-                                                       *country));
+            r.problem(*member.get("city"),
+                      fmt::format("\"{}\" is a city of {}, not of {}", *city, *cityCountry, *country));
     }
 
     void checkAct(CompileContext& ctx, FieldReader& r, const SourceRecord& src, const BandRecord& band,
@@ -192,12 +191,14 @@ private:
                 r.problem(*n, "a hidden act has no label: it signs to the player's label when it is unlocked");
             if (const toml::node* n = t.get("disc")) r.problem(*n, "a hidden act has no discs");
             if (ctx.find(fileBand, band.name.str()))
-                r.problemAt(src.line, fmt::format("the hidden act \"{}\" has the name of an act of the world",
-                                                  band.name.str()));
+                r.problemAt(src.line,
+                            fmt::format("the hidden act \"{}\" has the name of an act of the world", band.name.str()));
         }
         bool signed_ = t.contains("label");
-        if (signed_ && !hidden_) checkDeal(r, t, src.line, band);
-        else refuseDeal(r, t);
+        if (signed_ && !hidden_)
+            checkDeal(r, t, src.line, band);
+        else
+            refuseDeal(r, t);
         // A hidden act is signed the moment it is unlocked, so its shares are a signed act's.
         if ((signed_ || hidden_) && !members.empty()) {
             int total = 0;
@@ -243,8 +244,7 @@ private:
                                   : fmt::format("`optionMonthsLeft` = {}: past the first option it is {} (not "
                                                 "counting)",
                                                 left, kNotCounting));
-        if (band.monthsUnsigned != 0)
-            r.problemAt(at("monthsUnsigned"), "a signed act has no `monthsUnsigned`");
+        if (band.monthsUnsigned != 0) r.problemAt(at("monthsUnsigned"), "a signed act has no `monthsUnsigned`");
     }
 
     // The act's figures from its members, by the game's own rule.

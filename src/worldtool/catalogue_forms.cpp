@@ -77,7 +77,12 @@ class ActDiscs {
 public:
     ActDiscs(CompileContext& ctx, const SourceRecord& act, int16_t bandNumber, const BandRecord& band,
              std::span<const Compiled<ArtistRecord>> members, Catalogue& out)
-        : ctx_(ctx), act_(act), bandNumber_(bandNumber), band_(band), members_(members), out_(out),
+        : ctx_(ctx),
+          act_(act),
+          bandNumber_(bandNumber),
+          band_(band),
+          members_(members),
+          out_(out),
           reader_(ctx, *act.file, discRules()) {}
 
     void compile(const toml::array& discs) {
@@ -201,9 +206,9 @@ private:
                 song = readSong(*own, single);
             } else if (auto title = n.value<std::string>()) {
                 auto it = songTitles_.find(*title);
-                bool onAlbum = it != songTitles_.end() &&
-                               out_.discs[out_.songs[static_cast<std::size_t>(it->second - 1)].rec.disc - 1u]
-                                       .rec.isSingle == 0;
+                bool onAlbum =
+                    it != songTitles_.end() &&
+                    out_.discs[out_.songs[static_cast<std::size_t>(it->second - 1)].rec.disc - 1u].rec.isSingle == 0;
                 if (!onAlbum) {
                     reader_.problem(n, fmt::format("no song \"{}\" on an album of \"{}\"", *title, actName()));
                     continue;
@@ -264,8 +269,10 @@ void compileActDiscs(CompileContext& ctx, const SourceRecord& act, int16_t bandN
     const toml::node* n = act.node->as_table()->get("disc");
     if (!n) return;
     ActDiscs discs(ctx, act, bandNumber, band, members, out);
-    if (const toml::array* list = n->as_array()) discs.compile(*list);
-    else ctx.report(*act.file, lineOf(*n), "`disc` should be a list of discs ([[band.disc]])");
+    if (const toml::array* list = n->as_array())
+        discs.compile(*list);
+    else
+        ctx.report(*act.file, lineOf(*n), "`disc` should be a list of discs ([[band.disc]])");
 }
 
 }  // namespace trovane::worldtool

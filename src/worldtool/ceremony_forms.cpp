@@ -45,7 +45,8 @@ void readOrigin(FieldReader& r, const toml::table& t, AwardRecord& award) {
     const toml::node* group = t.get("originGroup");
     if (country && group) return r.problem(*group, "give `origin` or `originGroup`, not both");
     if (country) {
-        if (auto c = r.reference(*country, "origin", fileCountry, INT16_MAX)) award.originRule = static_cast<int16_t>(*c);
+        if (auto c = r.reference(*country, "origin", fileCountry, INT16_MAX))
+            award.originRule = static_cast<int16_t>(*c);
     } else if (group) {
         auto g = group->value<int64_t>();
         if (!g || std::find(kOriginGroups.begin(), kOriginGroups.end(), *g) == kOriginGroups.end())
@@ -64,8 +65,10 @@ void readRanges(FieldReader& r, const toml::table& t, AwardRecord& award) {
             continue;
         }
         const toml::array* pair = n->as_array();
-        if (!pair || pair->size() != 2) r.problem(*n, fmt::format("`{}` should be [low, high]", key));
-        else if ((*range)[0] > (*range)[1]) r.problem(*n, fmt::format("`{}`: the low end is above the high one", key));
+        if (!pair || pair->size() != 2)
+            r.problem(*n, fmt::format("`{}` should be [low, high]", key));
+        else if ((*range)[0] > (*range)[1])
+            r.problem(*n, fmt::format("`{}`: the low end is above the high one", key));
     }
 }
 
@@ -103,7 +106,8 @@ public:
             reader.bind(t, src.line, ceremony);
             if (const toml::node* n = t.get("award")) {
                 const toml::array* list = n->as_array();
-                if (!list) reader.problem(*n, "`award` should be a list of awards ([[ceremony.award]])");
+                if (!list)
+                    reader.problem(*n, "`award` should be a list of awards ([[ceremony.award]])");
                 else if (list->size() > kMostAwards)
                     reader.problem(*n, fmt::format("\"{}\" has {} awards; a ceremony holds at most {}",
                                                    ceremony.name.str(), list->size(), kMostAwards));
@@ -117,8 +121,8 @@ public:
     }
 
 private:
-    void readAward(CompileContext& ctx, const SourceRecord& ceremonySrc, const toml::node& n,
-                   CeremonyRecord& ceremony, std::vector<Compiled<AwardRecord>>& awards) {
+    void readAward(CompileContext& ctx, const SourceRecord& ceremonySrc, const toml::node& n, CeremonyRecord& ceremony,
+                   std::vector<Compiled<AwardRecord>>& awards) {
         const toml::table* t = n.as_table();
         if (!t) return ctx.report(*ceremonySrc.file, lineOf(n), "an award should be a table of its fields");
         FieldReader r(ctx, *ceremonySrc.file, awardRules_);

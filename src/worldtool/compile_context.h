@@ -16,9 +16,9 @@ namespace trovane::worldtool {
 // One record as it stands in the source.
 struct SourceRecord {
     const SourceFile* file = nullptr;
-    const toml::node* node = nullptr;    // the record's table, or its text in a bank of names
+    const toml::node* node = nullptr;  // the record's table, or its text in a bank of names
     int64_t line = 0;
-    std::string group;                   // in a bank of names: the style it is listed under
+    std::string group;  // in a bank of names: the style it is listed under
     const toml::node* groupNode = nullptr;
 };
 

@@ -8,8 +8,8 @@
 namespace trovane::worldtool {
 
 struct SourceProblem {
-    std::string file;   // the source file's name within the source folder
-    int64_t line = 0;   // 1-based; 0 when the problem belongs to no line
+    std::string file;  // the source file's name within the source folder
+    int64_t line = 0;  // 1-based; 0 when the problem belongs to no line
     std::string message;
 };
 

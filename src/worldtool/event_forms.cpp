@@ -20,10 +20,9 @@ constexpr int64_t kCrimeType = 3;
 
 // The tags the news texts of a story may hold; a 1 or 2 at the end names the participant.
 constexpr std::array<std::string_view, 43> kMacros = {
-    "acn",  "acv",  "ap1",   "ap2",   "ast1", "ast2", "ac1",  "ac2",  "al1",  "al2",  "pn",
-    "phs",  "pl",   "afn1",  "afn2",  "asn1", "asn2", "ab1",  "ab2",  "abr1", "abr2", "abn1",
-    "abn2", "an1",  "an2",   "as1",   "as2",  "aj1",  "aj2",  "ahh1", "ahh2", "ahha1", "ahha2",
-    "ahs1", "ahs2", "aa1",   "aa2",   "biw",  "bn",   "baa",  "bmo",  "bl",   "bmu"};
+    "acn",  "acv",   "ap1",   "ap2",  "ast1", "ast2", "ac1",  "ac2",  "al1", "al2", "pn",  "phs", "pl",  "afn1", "afn2",
+    "asn1", "asn2",  "ab1",   "ab2",  "abr1", "abr2", "abn1", "abn2", "an1", "an2", "as1", "as2", "aj1", "aj2",  "ahh1",
+    "ahh2", "ahha1", "ahha2", "ahs1", "ahs2", "aa1",  "aa2",  "biw",  "bn",  "baa", "bmo", "bl",  "bmu"};
 
 // The six attributes a condition tests and a stage changes, in the record's order.
 constexpr std::array<std::string_view, 6> kBoundNames = {"ability",  "charisma", "controversy",
@@ -63,7 +62,8 @@ void readRule(FieldReader& r, const toml::table& t, std::string_view key, std::s
     if (!n) return;
     if (n->is_string()) {
         if (auto label = r.reference(*n, key, fileLabel, INT16_MAX)) out = static_cast<int16_t>(*label);
-    } else if (auto v = n->value<int64_t>(); v && (*v == 0 || std::find(rules.begin(), rules.end(), *v) != rules.end())) {
+    } else if (auto v = n->value<int64_t>();
+               v && (*v == 0 || std::find(rules.begin(), rules.end(), *v) != rules.end())) {
         out = static_cast<int16_t>(*v);
     } else {
         r.problem(*n, fmt::format("`{}` is 0, {} or the name of a label", key, fmt::join(rules, ", ")));
@@ -101,8 +101,10 @@ void readTables(FieldReader& r, const toml::table& t, std::string_view key, std:
         return r.problem(*n, fmt::format("`{}` has {} entries; an event holds at most {}", key, list->size(), most));
     for (std::size_t i = 0; i < list->size(); ++i) {
         const toml::table* entry = (*list)[i].as_table();
-        if (entry) read(*entry, i);
-        else r.problem((*list)[i], fmt::format("an entry of `{}` should be a table", key));
+        if (entry)
+            read(*entry, i);
+        else
+            r.problem((*list)[i], fmt::format("an entry of `{}` should be a table", key));
     }
 }
 
@@ -196,13 +198,13 @@ public:
             if (const toml::node* n = t.get("name"); n && !n->is_string())
                 r.problem(*n, "`name` should be a text that other events and crimes name this one by");
             if (const toml::node* n = t.get("crime"))
-                r.problem(*n, "`crime` stands below an [[event]] header, so it is read as a field of that event: "
-                              "put the crime list above the first [[event]], or in a file of its own");
+                r.problem(*n,
+                          "`crime` stands below an [[event]] header, so it is read as a field of that event: "
+                          "put the crime list above the first [[event]], or in a file of its own");
             if (const toml::node* n = t.get("reportAlways"))
                 if (auto flag = r.byteFlag(*n, "reportAlways", 255)) e.reportAlways = *flag;
-            readTables(r, t, "conditions", kMostParticipants, [&](const toml::table& c, std::size_t i) {
-                readCondition(r, c, e.conditions[i]);
-            });
+            readTables(r, t, "conditions", kMostParticipants,
+                       [&](const toml::table& c, std::size_t i) { readCondition(r, c, e.conditions[i]); });
             readTables(r, t, "next", kMostFollowUps,
                        [&](const toml::table& f, std::size_t i) { readFollowUp(r, f, i, e); });
             readTables(r, t, "replies", kMostReplies, [&](const toml::table& reply, std::size_t i) {

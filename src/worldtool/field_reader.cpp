@@ -12,8 +12,7 @@ void FieldReader::problem(const toml::node& at, std::string message) {
 
 void FieldReader::problemAt(int64_t line, std::string message) { ctx_.report(file_, line, std::move(message)); }
 
-std::optional<int64_t> FieldReader::wholeNumber(const toml::node& n, std::string_view what, int64_t lo,
-                                                int64_t hi) {
+std::optional<int64_t> FieldReader::wholeNumber(const toml::node& n, std::string_view what, int64_t lo, int64_t hi) {
     if (const auto* i = n.as_integer()) {
         int64_t v = i->get();
         if (v >= lo && v <= hi) return v;
@@ -94,7 +93,7 @@ void FieldReader::refuseUnknownKeys(const toml::table& t, std::string_view where
 }
 
 void FieldReader::money(const toml::node& n, const std::string& path, Money& out) {
-    constexpr double kLimit = 9.0e14;   // pounds; keeps ten-thousandths well inside 64 bits
+    constexpr double kLimit = 9.0e14;  // pounds; keeps ten-thousandths well inside 64 bits
     if (const auto* i = n.as_integer()) {
         if (i->get() >= -kLimit && i->get() <= kLimit) {
             out = moneyUnits(i->get());

@@ -30,8 +30,8 @@
 namespace trovane::worldtool {
 
 struct RefRule {
-    std::string_view path;   // field, or "outer.inner" in a nested record
-    FileNo table;            // the table its names are looked up in
+    std::string_view path;  // field, or "outer.inner" in a nested record
+    FileNo table;           // the table its names are looked up in
 };
 struct RangeRule {
     std::string_view path;
@@ -43,8 +43,8 @@ struct LetterRule {
     std::string_view allowed;
 };
 struct Rename {
-    std::string_view key;     // the key in the source
-    std::string_view field;   // the field it fills
+    std::string_view key;    // the key in the source
+    std::string_view field;  // the field it fills
 };
 
 // How one table is written in the source, beyond "keys are field names".
@@ -53,9 +53,9 @@ struct FieldRules {
     std::vector<RangeRule> ranges{};
     std::vector<LetterRule> letters{};
     std::vector<Rename> renames{};
-    std::vector<std::string_view> required{};      // keys every record must have
-    std::vector<std::string_view> bespokeKeys{};   // keys the table's form reads itself
-    std::vector<std::string_view> hidden{};        // fields the form fills, not written in the source
+    std::vector<std::string_view> required{};     // keys every record must have
+    std::vector<std::string_view> bespokeKeys{};  // keys the table's form reads itself
+    std::vector<std::string_view> hidden{};       // fields the form fills, not written in the source
 };
 
 class FieldReader {
@@ -69,11 +69,10 @@ public:
     // A whole number from lo to hi.
     std::optional<int64_t> wholeNumber(const toml::node& n, std::string_view what, int64_t lo, int64_t hi);
     // The record number of the named record of the target table; at most maxNumber. "" is none (0).
-    std::optional<int32_t> reference(const toml::node& n, std::string_view what, FileNo target,
-                                     int64_t maxNumber);
+    std::optional<int32_t> reference(const toml::node& n, std::string_view what, FileNo target, int64_t maxNumber);
     // The same, for a name that stands at the node `at` (a key, say).
-    std::optional<int32_t> resolve(std::string_view name, const toml::node& at, std::string_view what,
-                                   FileNo target, int64_t maxNumber);
+    std::optional<int32_t> resolve(std::string_view name, const toml::node& at, std::string_view what, FileNo target,
+                                   int64_t maxNumber);
     // A text that fits width bytes of Windows-1252.
     std::optional<std::string> text(const toml::node& n, std::string_view what, std::size_t width);
     // A byte that says yes or no: true or false (stored 1 and 0), or a number from 0 to hi.
@@ -161,15 +160,22 @@ void FieldReader::decode(const toml::node& n, const std::string& path, T& out) {
             for (std::size_t i = 0; i < list->size(); ++i) decode((*list)[i], path, out[i]);
         }
     } else if constexpr (PackedRecord<T>) {
-        if (const toml::table* t = n.as_table()) bindFields(*t, out, path + ".", false);
-        else problem(n, fmt::format("`{}` should be a table of its fields", path));
+        if (const toml::table* t = n.as_table())
+            bindFields(*t, out, path + ".", false);
+        else
+            problem(n, fmt::format("`{}` should be a table of its fields", path));
     } else if constexpr (std::is_same_v<T, double>) {
-        if (const auto* d = n.as_date()) out = serialFromCivil(d->get().year, d->get().month, d->get().day);
-        else if (n.is_number()) out = n.value<double>().value_or(0);
-        else problem(n, fmt::format("`{}` should be a date such as 2004-08-05", path));
+        if (const auto* d = n.as_date())
+            out = serialFromCivil(d->get().year, d->get().month, d->get().day);
+        else if (n.is_number())
+            out = n.value<double>().value_or(0);
+        else
+            problem(n, fmt::format("`{}` should be a date such as 2004-08-05", path));
     } else if constexpr (std::is_same_v<T, float>) {
-        if (n.is_number()) out = static_cast<float>(n.value<double>().value_or(0));
-        else problem(n, fmt::format("`{}` should be a number", path));
+        if (n.is_number())
+            out = static_cast<float>(n.value<double>().value_or(0));
+        else
+            problem(n, fmt::format("`{}` should be a number", path));
     } else if constexpr (std::is_same_v<T, Money>) {
         money(n, path, out);
     } else {

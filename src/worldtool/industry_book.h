@@ -12,8 +12,8 @@
 namespace trovane::worldtool {
 
 struct IndustryBook {
-    std::vector<Compiled<StaffRecord>> staff;   // numbered from 1, as compiled
-    std::vector<BandRecord> bands;              // the acts of the world (not the hidden ones)
+    std::vector<Compiled<StaffRecord>> staff;  // numbered from 1, as compiled
+    std::vector<BandRecord> bands;             // the acts of the world (not the hidden ones)
 };
 
 // Each industry form that shares the book; industryForms() puts them in order.

@@ -29,7 +29,9 @@ ListFormRules<MediaRecord> mediaForm() {
             .file = fileMedia,
             .nameKey = "mediaName",
             .rules = {.refs = {{"mediaStyle", fileStyle}, {"country", fileCountry}},
-                      .ranges = {{"mediaType", 0, 3}, {"frequency", 0, 3}, {"minControversy", 0, 100},
+                      .ranges = {{"mediaType", 0, 3},
+                                 {"frequency", 0, 3},
+                                 {"minControversy", 0, 100},
                                  {"maxControversy", 0, 100}},
                       .required = {"mediaName", "mediaType", "frequency"}}};
 }
@@ -45,9 +47,7 @@ ListFormRules<FestivalRecord> festivalForm() {
                       .required = {"festivalName", "days"}}};
 }
 
-ListFormRules<ThankRecord> thankForm() {
-    return {.key = "thank", .file = fileThank, .rules = {.required = {"text"}}};
-}
+ListFormRules<ThankRecord> thankForm() { return {.key = "thank", .file = fileThank, .rules = {.required = {"text"}}}; }
 
 }  // namespace
 

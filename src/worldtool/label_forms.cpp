@@ -36,26 +36,27 @@ void readAptitude(FieldReader& r, const toml::table& t, int64_t, StaffRecord& re
         }
     }
     if (const toml::node* n = t.get("preferredStyle"))
-        if (auto style = r.reference(*n, "preferredStyle", fileStyle, 255)) rec.aptitude[9] = static_cast<uint8_t>(*style);
+        if (auto style = r.reference(*n, "preferredStyle", fileStyle, 255))
+            rec.aptitude[9] = static_cast<uint8_t>(*style);
 }
 
 // A staff member's wage, when the source leaves it out, is the game's rate for
 // their standing and ability (a new game sets that rate again).
 ListFormRules<StaffRecord> staffSpec(std::shared_ptr<IndustryBook> book) {
-    return {.key = "staff",
-            .file = fileStaff,
-            .nameKey = "forename",
-            .rules = {.refs = {{"country", fileCountry}, {"employer", fileLabel}, {"offerLabel", fileLabel}},
-                      .ranges = {{"ability", 0, 100}, {"reputation", 0, 100}, {"department", 0, 5},
-                                 {"offerYears", 0, 5}},
-                      .required = {"forename", "surname", "male", "ability"},
-                      .bespokeKeys = {"aptitude", "preferredStyle"},
-                      .hidden = {"aptitude"}},
-            .identity = [](const toml::table& t, const std::string& forename) {
-                return forename + " " + t["surname"].value_or(std::string{});
-            },
-            .bespoke = readAptitude,
-            .derive = [book](CompileContext&, std::span<Compiled<StaffRecord>> staff) {
+    return {
+        .key = "staff",
+        .file = fileStaff,
+        .nameKey = "forename",
+        .rules = {.refs = {{"country", fileCountry}, {"employer", fileLabel}, {"offerLabel", fileLabel}},
+                  .ranges = {{"ability", 0, 100}, {"reputation", 0, 100}, {"department", 0, 5}, {"offerYears", 0, 5}},
+                  .required = {"forename", "surname", "male", "ability"},
+                  .bespokeKeys = {"aptitude", "preferredStyle"},
+                  .hidden = {"aptitude"}},
+        .identity = [](const toml::table& t,
+                       const std::string& forename) { return forename + " " + t["surname"].value_or(std::string{}); },
+        .bespoke = readAptitude,
+        .derive =
+            [book](CompileContext&, std::span<Compiled<StaffRecord>> staff) {
                 Game g{std::filesystem::path{}};
                 for (auto& s : staff) {
                     if (s.src->node->as_table()->contains("wage")) continue;
@@ -86,7 +87,7 @@ void checkLabel(FieldReader& r, const toml::table& t, int64_t line, const LabelR
     if (rec.minControversy > rec.maxControversy) r.problemAt(line, "`minControversy` is above `maxControversy`");
     const toml::node* n = t.get("department");
     const toml::array* departments = n ? n->as_array() : nullptr;
-    if (!departments) return;   // bind has reported it
+    if (!departments) return;  // bind has reported it
     if (departments->size() != kDepartmentNames.size()) {
         r.problem(*n, fmt::format("`department` lists {} departments; a label has all six: {}", departments->size(),
                                   fmt::join(kDepartmentNames, ", ")));
@@ -132,9 +133,9 @@ void checkParentChains(CompileContext& ctx, std::span<const Compiled<LabelRecord
             at = static_cast<std::size_t>(labels[at].rec.parentLabel - 1);
             if (at >= labels.size()) break;
             if (!visited.insert(at).second) {
-                ctx.report(*labels[i].src->file, labels[i].src->line,
-                           fmt::format("the parentLabel links of \"{}\" go round in a circle",
-                                       labels[i].rec.name.str()));
+                ctx.report(
+                    *labels[i].src->file, labels[i].src->line,
+                    fmt::format("the parentLabel links of \"{}\" go round in a circle", labels[i].rec.name.str()));
                 break;
             }
         }
@@ -178,13 +179,13 @@ void checkPosts(CompileContext& ctx, const IndustryBook& book, std::span<const C
             int64_t line = lineWithin(src, t["department"][d]["head"]);
             std::string post = fmt::format("the head of {} at \"{}\"", kDepartmentNames[d], label.name.str());
             if (person.employer != number)
-                ctx.report(*src.file, line, fmt::format("{}, \"{}\", {}", post, fullName(person),
-                                                        labelName(person.employer)));
-            else if (person.department != d)
                 ctx.report(*src.file, line,
-                           fmt::format("{}, \"{}\", has `department` = {} ({})", post, fullName(person),
-                                       person.department,
-                                       kDepartmentNames[std::min<std::size_t>(person.department, 5)]));
+                           fmt::format("{}, \"{}\", {}", post, fullName(person), labelName(person.employer)));
+            else if (person.department != d)
+                ctx.report(
+                    *src.file, line,
+                    fmt::format("{}, \"{}\", has `department` = {} ({})", post, fullName(person), person.department,
+                                kDepartmentNames[std::min<std::size_t>(person.department, 5)]));
             take(src, line, head, post);
         }
     }
@@ -212,10 +213,11 @@ ListFormRules<LabelRecord> labelSpec(std::shared_ptr<IndustryBook> book) {
                       .hidden = {"strengthClass", "wageBill", "department.rating", "bandCount", "hype"}},
             .checkOne = checkLabel,
             .derive = [book](CompileContext&, std::span<Compiled<LabelRecord>> labels) { deriveLabels(*book, labels); },
-            .checkAll = [book](CompileContext& ctx, std::span<const Compiled<LabelRecord>> labels) {
-                checkParentChains(ctx, labels);
-                checkPosts(ctx, *book, labels);
-            }};
+            .checkAll =
+                [book](CompileContext& ctx, std::span<const Compiled<LabelRecord>> labels) {
+                    checkParentChains(ctx, labels);
+                    checkPosts(ctx, *book, labels);
+                }};
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace {
 using enum FileNo;
 
 constexpr std::string_view kRegions = "ENSOAF";
-constexpr std::string_view kAreas = "ENSOAFX";   // a region, or X for the whole world
+constexpr std::string_view kAreas = "ENSOAFX";  // a region, or X for the whole world
 
 // The eight attributes of an artist's image, in the order style templates and looks hold them.
 constexpr std::array<std::string_view, 8> kAttributes = {"charisma", "controversy", "flair", "dancing",
@@ -77,16 +77,20 @@ ListFormRules<ForenameRecord> forenameForm() {
             .rules = {.required = {"name", "male"},
                       .bespokeKeys = {"male", "countries"},
                       .hidden = {"countryLinks", "countryWeights", "isMale"}},
-            .identity = [](const toml::table& t, const std::string& name) {
-                return name + (t["male"].value_or(false) ? " (male)" : " (female)");
-            },
-            .bespoke = [](FieldReader& r, const toml::table& t, int64_t, ForenameRecord& rec) {
-                if (const toml::node* male = t.get("male")) {
-                    if (male->is_boolean()) rec.isMale = boolean(male->value_or(false));
-                    else r.problem(*male, "`male` should be true or false");
-                }
-                readCountryWeights(r, t, rec.countryLinks, rec.countryWeights);
-            }};
+            .identity =
+                [](const toml::table& t, const std::string& name) {
+                    return name + (t["male"].value_or(false) ? " (male)" : " (female)");
+                },
+            .bespoke =
+                [](FieldReader& r, const toml::table& t, int64_t, ForenameRecord& rec) {
+                    if (const toml::node* male = t.get("male")) {
+                        if (male->is_boolean())
+                            rec.isMale = boolean(male->value_or(false));
+                        else
+                            r.problem(*male, "`male` should be true or false");
+                    }
+                    readCountryWeights(r, t, rec.countryLinks, rec.countryWeights);
+                }};
 }
 
 ListFormRules<SurnameRecord> surnameForm() {
@@ -163,23 +167,30 @@ void checkStyles(CompileContext& ctx, std::span<const Compiled<StyleRecord>> sty
 ListFormRules<StyleRecord> styleForm() {
     FieldRules rules{
         .refs = {{"bandJobs", fileJob}, {"soloJob", fileJob}, {"parentStyle", fileStyle}},
-        .ranges = {{"popularity", 0, 100},   {"commerciality", 0, 100}, {"membersHigh", 1, 10},
-                   {"membersUsual", 1, 10},  {"membersLow", 1, 10},     {"soloPercent", 0, 100},
-                   {"writerPercent", 0, 100}, {"singingWeight", 0, 100}, {"dancingWeight", 0, 100},
-                   {"contentWeight", 0, 100}, {"abilityWeight", 0, 100}, {"genderRule", 0, 2}},
+        .ranges = {{"popularity", 0, 100},
+                   {"commerciality", 0, 100},
+                   {"membersHigh", 1, 10},
+                   {"membersUsual", 1, 10},
+                   {"membersLow", 1, 10},
+                   {"soloPercent", 0, 100},
+                   {"writerPercent", 0, 100},
+                   {"singingWeight", 0, 100},
+                   {"dancingWeight", 0, 100},
+                   {"contentWeight", 0, 100},
+                   {"abilityWeight", 0, 100},
+                   {"genderRule", 0, 2}},
         .required = {"name", "lifeSpan", "popularity", "membersHigh", "membersUsual", "membersLow", "bandJobs"},
         .bespokeKeys = {"base"},
         .hidden = {"baseCharisma", "baseControversy", "baseFlair", "baseDancing", "baseLive", "baseAttitude",
                    "baseAngst", "baseVisual"}};
-    return {.key = "style",
-            .file = fileStyle,
-            .nameKey = "name",
-            .rules = std::move(rules),
-            .bespoke = [](FieldReader& r, const toml::table& t, int64_t, StyleRecord& rec) {
-                readStyleBase(r, t, rec);
-            },
-            .checkOne = checkStyle,
-            .checkAll = checkStyles};
+    return {
+        .key = "style",
+        .file = fileStyle,
+        .nameKey = "name",
+        .rules = std::move(rules),
+        .bespoke = [](FieldReader& r, const toml::table& t, int64_t, StyleRecord& rec) { readStyleBase(r, t, rec); },
+        .checkOne = checkStyle,
+        .checkAll = checkStyles};
 }
 
 ListFormRules<ProductRecord> productForm() {
@@ -204,10 +215,11 @@ ListFormRules<ProductRecord> productForm() {
                         if (auto c = r.reference((*list)[i], "countries", fileCountry, 255))
                             rec.regionWeights[i] = static_cast<uint8_t>(*c);
                 },
-            .checkOne = [](FieldReader& r, const toml::table&, int64_t line, const ProductRecord& rec) {
-                if (rec.minControversy > rec.maxControversy)
-                    r.problemAt(line, "`minControversy` is above `maxControversy`");
-            }};
+            .checkOne =
+                [](FieldReader& r, const toml::table&, int64_t line, const ProductRecord& rec) {
+                    if (rec.minControversy > rec.maxControversy)
+                        r.problemAt(line, "`minControversy` is above `maxControversy`");
+                }};
 }
 
 // bounds = { charisma = [40, 100], ... }: a low and a high bound for each of the eight attributes.
@@ -363,17 +375,17 @@ std::vector<std::unique_ptr<TableForm>> referenceForms() {
     forms.push_back(listForm(assStyleForm()));
     forms.push_back(listForm(assLookForm()));
     forms.push_back(bankForm<NewBandRecord>({"newband", fileNewBand, 32, [](auto& r, const auto& name, uint8_t style) {
-        r.name = name;
-        r.style = style;
-    }}));
+                                                 r.name = name;
+                                                 r.style = style;
+                                             }}));
     forms.push_back(bankForm<NewSongRecord>({"newsong", fileNewSong, 50, [](auto& r, const auto& title, uint8_t style) {
-        r.title = title;
-        r.style = style;
-    }}));
+                                                 r.title = title;
+                                                 r.style = style;
+                                             }}));
     forms.push_back(bankForm<NewAlbumRecord>({"newalbum", fileNewAlbum, 50, [](auto& r, const auto& title, auto style) {
-        r.title = title;
-        r.style = style;
-    }}));
+                                                  r.title = title;
+                                                  r.style = style;
+                                              }}));
     forms.push_back(std::make_unique<FactForm>());
     return forms;
 }

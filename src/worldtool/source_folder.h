@@ -14,7 +14,7 @@
 namespace trovane::worldtool {
 
 struct SourceFile {
-    std::string name;   // file name within the folder, as problems name it
+    std::string name;  // file name within the folder, as problems name it
     toml::table root;
 };
 
@@ -26,8 +26,8 @@ struct Section {
 };
 
 struct SourceFolder {
-    std::vector<std::unique_ptr<SourceFile>> files;   // by file name
-    std::map<std::string, std::vector<Section>, std::less<>> sections;   // key -> sections, by file name
+    std::vector<std::unique_ptr<SourceFile>> files;                     // by file name
+    std::map<std::string, std::vector<Section>, std::less<>> sections;  // key -> sections, by file name
 };
 
 // Reads and parses the folder. A file that does not parse is reported at the

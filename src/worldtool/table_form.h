@@ -130,7 +130,7 @@ private:
         if (rules_.nameKey.empty()) return;
         const toml::table& t = *rec.node->as_table();
         auto name = t[rules_.nameKey].template value<std::string>();
-        if (!name || name->empty()) return;   // reported by the record's own checks
+        if (!name || name->empty()) return;  // reported by the record's own checks
         ctx.addName(rules_.file, rules_.identity ? rules_.identity(t, *name) : *name, rec, number);
     }
 
@@ -145,7 +145,7 @@ template <PackedRecord R>
 struct BankFormRules {
     std::string_view key{};
     FileNo file{};
-    std::size_t width{};   // of the name's field
+    std::size_t width{};  // of the name's field
     std::function<void(R&, const std::string& name, uint8_t style)> fill{};
 };
 
@@ -189,7 +189,8 @@ public:
             if (src.groupNode != lastGroup) {
                 lastGroup = src.groupNode;
                 style = ctx.find(FileNo::fileStyle, src.group);
-                if (!style) reader.problem(*src.groupNode, fmt::format("unknown style \"{}\"", src.group));
+                if (!style)
+                    reader.problem(*src.groupNode, fmt::format("unknown style \"{}\"", src.group));
                 else if (*style > 255)
                     reader.problem(*src.groupNode, fmt::format("style \"{}\" is record {}, out of range (1 to 255)",
                                                                src.group, *style));

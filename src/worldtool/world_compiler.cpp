@@ -48,7 +48,7 @@ BaseSet compileWorld(const fs::path& source, Diagnostics& diag) {
     BaseSet set;
     for (const auto& name : baseSetFileNames()) set.files[name] = {};
     SourceFolder folder = readSourceFolder(source, diag);
-    if (!diag.clean()) return set;   // a file that does not parse would only make its names unknown elsewhere
+    if (!diag.clean()) return set;  // a file that does not parse would only make its names unknown elsewhere
     CompileContext ctx(diag);
 
     auto forms = referenceForms();
@@ -106,7 +106,7 @@ std::vector<TableCount> countRecords(const fs::path& folder) {
     std::vector<TableCount> counts;
     for (const auto& name : baseSetFileNames()) {
         auto table = tableOfFile(name);
-        if (!table) continue;   // empty.gam is no table
+        if (!table) continue;  // empty.gam is no table
         const CatalogueEntry& entry = catalogueEntry(*table);
         std::error_code ec;
         auto size = fs::file_size(folder / name, ec);

@@ -36,7 +36,7 @@ std::vector<SourceProblem> buildWorld(const std::filesystem::path& source, const
 struct TableCount {
     std::string file;
     std::string table;
-    int64_t records;   // -1 for a file that is missing or not a whole number of records
+    int64_t records;  // -1 for a file that is missing or not a whole number of records
 };
 // The records in each file of the base set in a folder.
 std::vector<TableCount> countRecords(const std::filesystem::path& folder);

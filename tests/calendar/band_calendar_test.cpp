@@ -24,8 +24,8 @@ TEST(BandCalendar, OnlyWorkOfItsOwnMakesABandBusy) {
         int32_t id = file(g, static_cast<uint8_t>(type), kDay, band, type == 8 ? addGig(g, band, kDay) : 0);
         file(g, 255, kDay + 1, band);
         g.band.read(band);
-        bool busy = type == 5 || type == 7 || type == 8 || type == 10 || type == 11 || type == 15 || type == 17 ||
-                    type == 28;
+        bool busy =
+            type == 5 || type == 7 || type == 8 || type == 10 || type == 11 || type == 15 || type == 17 || type == 28;
         EXPECT_EQ(bandEngagement(g, 1, kDay), busy ? id : 0) << type;
         EXPECT_EQ(bandEngagement(g, 2, kDay), 0) << type;
         EXPECT_EQ(bandEngagement(g, 1, kDay + 1), 0) << "a cancelled entry never occupies";
@@ -83,8 +83,8 @@ TEST(BandCalendar, ActivityTexts) {
         const char* text;
     };
     for (Case c : {Case{5, "Signing for Big Noise"}, Case{7, "Recording Loud (single)"}, Case{8, "Playing The Hall"},
-                   Case{10, "Travelling"}, Case{11, "Resting"}, Case{17, "Promotion (Radio One)"},
-                   Case{28, "Retiring"}, Case{4, ""}, Case{255, ""}}) {
+                   Case{10, "Travelling"}, Case{11, "Resting"}, Case{17, "Promotion (Radio One)"}, Case{28, "Retiring"},
+                   Case{4, ""}, Case{255, ""}}) {
         ScheduleRecord e{};
         e.type = c.type;
         e.date = kDay;

@@ -11,10 +11,10 @@
 
 #include "calendar/daily_cycle.h"
 #include "session/news_post.h"
+#include "session/preferences.h"
 #include "support/empty_game.h"
 #include "support/temp_folder.h"
 #include "world/dates.h"
-#include "session/preferences.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -98,11 +98,9 @@ TEST_F(TwoYearsOfDays, PlaysConsecutiveDaysFromThursdayFifthOfAugust2004) {
 
 TEST_F(TwoYearsOfDays, WeekdayStepsRunOnlyOnTheirWeekday) {
     const std::map<std::string, weekday> weekly = {
-        {"computerCheckBands", Sunday},      {"calculateWeeklySales", Sunday},
-        {"updateSongs", Monday},             {"computerApproachBands", Monday},
-        {"computerCheckAlbumProgress", Monday}, {"computerRecordAlbum", Tuesday},
-        {"dropBandHype", Wednesday},         {"checkBandEnergy", Thursday},
-        {"takeLabelWages", Friday},
+        {"computerCheckBands", Sunday},    {"calculateWeeklySales", Sunday},       {"updateSongs", Monday},
+        {"computerApproachBands", Monday}, {"computerCheckAlbumProgress", Monday}, {"computerRecordAlbum", Tuesday},
+        {"dropBandHype", Wednesday},       {"checkBandEnergy", Thursday},          {"takeLabelWages", Friday},
     };
     for (const auto& d : *days_) {
         weekday wd{sys_days{d.date}};
@@ -149,9 +147,9 @@ TEST_F(TwoYearsOfDays, MonthlyStepsKeepTheirDates) {
 
 TEST_F(TwoYearsOfDays, TheFirstOfTheMonthOnASundayRunsTheWeekThenTheMonth) {
     const auto& d = on(year{2005} / May / 1);  // a Sunday
-    std::vector<std::string> expected = {"runRandomEvents", "computerCheckBands", "calculateWeeklySales",
+    std::vector<std::string> expected = {"runRandomEvents",         "computerCheckBands",     "calculateWeeklySales",
                                          "deliverMarketingReports", "deliverScoutingReports", "tidyShortlist",
-                                         "updateLabelFinances", "performDaysEvents", "updateHighScoreTable",
+                                         "updateLabelFinances",     "performDaysEvents",      "updateHighScoreTable",
                                          "increaseArtistEnergy"};
     EXPECT_EQ(d.steps, expected);
 }
@@ -162,10 +160,15 @@ TEST_F(TwoYearsOfDays, YearEndSchedulesTheYearAfterNextOnlyFromTheSecondYear) {
     EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleFestivals"), 1);
     EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleCeremonies"), 1);
     // Days that run no date step at all: 31 January, 30 December.
-    const std::vector<std::string> monthly = {"deliverMarketingReports", "updateLabelFinances",
-                                              "checkPlayerControlledBands", "subtractBusinessRunningCosts",
-                                              "bandPotentialCalculations", "updateBandTimeWithoutADeal",
-                                              "updateMonthsRemainingOnOption", "tidyCharts", "increaseBandAges"};
+    const std::vector<std::string> monthly = {"deliverMarketingReports",
+                                              "updateLabelFinances",
+                                              "checkPlayerControlledBands",
+                                              "subtractBusinessRunningCosts",
+                                              "bandPotentialCalculations",
+                                              "updateBandTimeWithoutADeal",
+                                              "updateMonthsRemainingOnOption",
+                                              "tidyCharts",
+                                              "increaseBandAges"};
     for (auto ymd : {year{2005} / January / 31, year{2005} / December / 30, year{2006} / January / 31})
         for (const auto& step : monthly) EXPECT_EQ(count(on(ymd), step), 0) << step;
 }

@@ -64,11 +64,19 @@ TEST(Dispatch, GuardsDecideWhetherTheHandlerRuns) {
     const std::vector<Case> cases = {
         {"offer", [](Game& g) { file(g, 4, kToday, addBand(g, {50})); }, "decideOffers"},
         {"offer to a retired band", [&](Game& g) { file(g, 4, kToday, retiredBand(g)); }, ""},
-        {"recording, a member resting", [](Game& g) { file(g, 7, kToday, addBand(g, {50, -3})); }, "extendBooking"},
+        {"recording, a member resting",
+         [](Game& g) {
+             file(g, 7, kToday, addBand(g, {50, -3}));
+         },
+         "extendBooking"},
         {"appearance", [](Game& g) { file(g, 17, kToday, addBand(g, {50})); }, "performAppearance"},
         {"appearance without a band", [](Game& g) { file(g, 17, kToday, 0); }, ""},
         {"gig", [&](Game& g) { gigOf(g, {50}); }, "performGig"},
-        {"gig with a resting member", [&](Game& g) { gigOf(g, {50, -2}); }, ""},
+        {"gig with a resting member",
+         [&](Game& g) {
+             gigOf(g, {50, -2});
+         },
+         ""},
         {"gig of a tour with neither band nor festival", [&](Game& g) { gigOf(g, {50}, 0); }, ""},
         {"gig with an empty first slot",
          [](Game& g) { file(g, 8, kToday, addBand(g, {50}), addGig(g, 0, kToday, {}, 1)); }, ""},
@@ -92,13 +100,38 @@ TEST(Dispatch, GuardsDecideWhetherTheHandlerRuns) {
 // Every type filed in a mixed order over nine days across the turn of the
 // year, and the days played through the daily cycle.
 TEST(ScheduleScenario, EachHandlerRunsOnceOnItsDateInFilingOrder) {
-    const std::vector<std::string> handlerOf = {
-        "", "decideStaffOffer", "hireStaff", "fireStaff", "decideOffers", "signBand", "bandReport",
-        "recordingDay", "performGig", "imageReport", "", "", "performStage", "finishCeremony",
-        "judgeCeremony", "releaseDay", "artistBirthday", "performAppearance", "contractPoint",
-        "offerSupportSlot", "rivalFollowUpSingle", "inviteToCeremony", "fillFestivalBill", "",
-        "openBusiness", "pressWeek", "distributorNeeded", "announceBandRetirement", "retireBand",
-        "announceArtistRetirement", "retireArtist", "memberLeaves"};
+    const std::vector<std::string> handlerOf = {"",
+                                                "decideStaffOffer",
+                                                "hireStaff",
+                                                "fireStaff",
+                                                "decideOffers",
+                                                "signBand",
+                                                "bandReport",
+                                                "recordingDay",
+                                                "performGig",
+                                                "imageReport",
+                                                "",
+                                                "",
+                                                "performStage",
+                                                "finishCeremony",
+                                                "judgeCeremony",
+                                                "releaseDay",
+                                                "artistBirthday",
+                                                "performAppearance",
+                                                "contractPoint",
+                                                "offerSupportSlot",
+                                                "rivalFollowUpSingle",
+                                                "inviteToCeremony",
+                                                "fillFestivalBill",
+                                                "",
+                                                "openBusiness",
+                                                "pressWeek",
+                                                "distributorNeeded",
+                                                "announceBandRetirement",
+                                                "retireBand",
+                                                "announceArtistRetirement",
+                                                "retireArtist",
+                                                "memberLeaves"};
     EmptyGame eg;
     Game& g = eg.g;
     const double first = day(2004, 12, 27);

@@ -71,9 +71,9 @@ TEST(NewsInbox, ButtonsDeleteAndSidebarFollowKindAndAnswer) {
         std::string buttons;  // per button: visible and enabled "E", visible only "v", hidden "-"
         bool mayLeave;
     };
-    for (const Case& c : {Case{0, false, false, "E--", true}, Case{1, true, false, "EE-", false},
-                          Case{1, true, true, "Ev-", true}, Case{4, false, false, "EEE", true},
-                          Case{2, true, false, "---", false}}) {
+    for (const Case& c :
+         {Case{0, false, false, "E--", true}, Case{1, true, false, "EE-", false}, Case{1, true, true, "Ev-", true},
+          Case{4, false, false, "EEE", true}, Case{2, true, false, "---", false}}) {
         SCOPED_TRACE(static_cast<int>(c.kind));
         EmptyGame eg;
         Game& g = eg.g;

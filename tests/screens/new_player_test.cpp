@@ -2,9 +2,9 @@
 // describe yourself, found a label, play three days, read and answer the
 // news, save, quit, and load the same game back.
 #include <QLabel>
-#include <QMessageBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QTableView>
 
 #include "screen_fixture.h"
@@ -60,7 +60,8 @@ TEST_F(ScreenTest, NewPlayerPlaysSavesQuitsAndLoadsTheSameGame) {
     EXPECT_EQ(saveName->text(), "Untitled");
     saveName->setText("Before the tour");
     click("cmdSave");
-    for (QWidget* w : QApplication::topLevelWidgets()) if (auto* m = qobject_cast<QMessageBox*>(w); m && m->isVisible()) qDebug() << m->text();
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* m = qobject_cast<QMessageBox*>(w); m && m->isVisible()) qDebug() << m->text();
     EXPECT_EQ(find<QListWidget>("lstSaves")->item(2)->text(), "2 : Before the tour");
     click("btnOk");
     ASSERT_EQ(screen(), Screen::frmNews);

@@ -1,9 +1,9 @@
 // Pictures of every screen at 1280x800 and 1920x1080, written under the
 // build folder (screenshots/) for a person to look at: nothing clipped,
 // nothing overlapping, text readable.
+#include <fmt/format.h>
 #include <QLineEdit>
 #include <QListWidget>
-#include <fmt/format.h>
 #include <QMessageBox>
 
 #include "screen_fixture.h"
@@ -74,7 +74,8 @@ TEST_F(ScreenTest, ScreenshotsOfEveryScreenAtBothSizes) {
         QApplication::processEvents();
         game->trace = [&, size](std::string_view) {
             if (qobject_cast<screens::frmLoading*>(window->currentScreenWidget()))
-                screenshotOf(window.get(), QStringLiteral("08_frmLoading_day_%1x%2").arg(size.width()).arg(size.height()));
+                screenshotOf(window.get(),
+                             QStringLiteral("08_frmLoading_day_%1x%2").arg(size.width()).arg(size.height()));
             game->trace = nullptr;
         };
         continueOneDay();
@@ -97,8 +98,9 @@ TEST_F(ScreenTest, ScreenshotsOfEveryScreenAtBothSizes) {
         QPushButton* button;
         const char* name;
     };
-    for (PanelShot p : {PanelShot{bar->btnFind, "13_frmFindOptions"}, PanelShot{bar->btnCharts, "14_frmChartOptions"},
-                        PanelShot{bar->btnGameOptions, "15_frmGameOptions"}, PanelShot{bar->btnQuit, "16_frmQuitOptions"}}) {
+    for (PanelShot p :
+         {PanelShot{bar->btnFind, "13_frmFindOptions"}, PanelShot{bar->btnCharts, "14_frmChartOptions"},
+          PanelShot{bar->btnGameOptions, "15_frmGameOptions"}, PanelShot{bar->btnQuit, "16_frmQuitOptions"}}) {
         click(p.button);
         screenshot(p.name);
         click(p.button);

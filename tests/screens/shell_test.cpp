@@ -10,8 +10,8 @@
 #include <QTableView>
 #include <fstream>
 
-#include "screen_fixture.h"
 #include "calendar/schedule.h"
+#include "screen_fixture.h"
 #include "screens/choose_date.h"
 #include "screens/game_option_screens.h"
 #include "screens/loading_screen.h"
@@ -95,8 +95,10 @@ TEST_F(ScreenTest, AnUnansweredQuestionHoldsTheDayAndTheSidebarUntilAnswered) {
              true, "Answer yes to put your act on the bill.");
     const double today = game->gameDate;
     for (int press = 0; press < 2; ++press) {  // a second press shows the same item again
-        if (press == 0) click(window->sideBar()->btnContinueGame);
-        else window->continueGame();
+        if (press == 0)
+            click(window->sideBar()->btnContinueGame);
+        else
+            window->continueGame();
         ASSERT_EQ(screen(), Screen::frmNewsFull);
         EXPECT_EQ(game->gameDate, today);
         EXPECT_EQ(find<QLabel>("lblHeadline")->text(), "Will you play the Harbour Festival?");

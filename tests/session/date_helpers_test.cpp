@@ -13,10 +13,10 @@ TEST(DateHelpers, DayAndWeekOfTheYear) {
         int16_t day, week;
     };
     // 2004 starts on a Thursday, 2005 on a Saturday, 2006 on a Sunday.
-    for (Case c : {Case{2004, 1, 1, 1, 1}, Case{2004, 1, 3, 3, 1}, Case{2004, 1, 4, 4, 2}, Case{2004, 3, 1, 61, 10},
-                   Case{2004, 8, 5, 218, 32}, Case{2004, 12, 31, 366, 53}, Case{2005, 1, 1, 1, 1},
-                   Case{2005, 1, 2, 2, 2}, Case{2005, 12, 31, 365, 53}, Case{2006, 1, 7, 7, 1},
-                   Case{2006, 1, 8, 8, 2}}) {
+    for (Case c :
+         {Case{2004, 1, 1, 1, 1}, Case{2004, 1, 3, 3, 1}, Case{2004, 1, 4, 4, 2}, Case{2004, 3, 1, 61, 10},
+          Case{2004, 8, 5, 218, 32}, Case{2004, 12, 31, 366, 53}, Case{2005, 1, 1, 1, 1}, Case{2005, 1, 2, 2, 2},
+          Case{2005, 12, 31, 365, 53}, Case{2006, 1, 7, 7, 1}, Case{2006, 1, 8, 8, 2}}) {
         double date = serialFromCivil(c.y, c.m, c.d);
         EXPECT_EQ(dayOfYear(date), c.day) << c.y << "-" << c.m << "-" << c.d;
         EXPECT_EQ(weekOfYear(date), c.week) << c.y << "-" << c.m << "-" << c.d;
@@ -41,8 +41,8 @@ TEST(RandomBirthDate, NeverDecemberAndTheRightAgeToday) {
                 monthSeen[born.month] = true;
                 bool birthdayToCome = now.month < born.month || (now.month == born.month && now.day < born.day);
                 int ageToday = now.year - born.year - (birthdayToCome ? 1 : 0);
-                ASSERT_EQ(ageToday, age) << born.year << "-" << born.month << "-" << born.day << " on "
-                                         << now.year << "-" << now.month << "-" << now.day;
+                ASSERT_EQ(ageToday, age) << born.year << "-" << born.month << "-" << born.day << " on " << now.year
+                                         << "-" << now.month << "-" << now.day;
             }
         }
     }

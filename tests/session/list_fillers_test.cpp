@@ -13,8 +13,8 @@ struct ListFixture : ::testing::Test {
 
     void SetUp() override {
         addCountry("England", "English", "E");  // 1
-        addCountry("Peru", "Peruvian", "S");     // 2, no city
-        addCountry(" France ", "French", "E");   // 3
+        addCountry("Peru", "Peruvian", "S");    // 2, no city
+        addCountry(" France ", "French", "E");  // 3
         addCity("London", 1);
         addCity("  Paris", 3);
         addCity("Leeds ", 1);

@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 
 TEST(Preferences, ADamagedFileIsReportedAndReplacedByTheDeliveredRecord) {
     struct Case {
-        std::string bytes;              // written as the whole file, when not empty
-        void (*spoil)(PrefsRecord&);    // else a sound record with one field spoilt
+        std::string bytes;            // written as the whole file, when not empty
+        void (*spoil)(PrefsRecord&);  // else a sound record with one field spoilt
         const char* reportNames;
     };
     for (const Case& c : {

@@ -147,19 +147,18 @@ TEST_P(BrokenSlot, IsRefusedAndTheRunningGameIsUntouched) {
 
 INSTANTIATE_TEST_SUITE_P(
     SaveSlots, BrokenSlot,
-    ::testing::Values(
-        Damage{"MissingTable", [](const fs::path& d) { fs::remove(d / "band.sg6"); }},
-        Damage{"MissingYear", [](const fs::path& d) { fs::remove(d / "2005.sg6"); }},
-        Damage{"TruncatedTable", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 649); }},
-        Damage{"ShortYear", [](const fs::path& d) { fs::resize_file(d / "2004.sg6", 4004 * 365); }},
-        Damage{"TruncatedSession", [](const fs::path& d) { fs::resize_file(d / "svar.sg6", 100); }},
-        Damage{"GarbledSession",
-               [](const fs::path& d) {
-                   std::fstream f(d / "svar.sg6", std::ios::in | std::ios::out | std::ios::binary);
-                   f.seekp(40);
-                   f.write("\xff\x7f\x00\x00", 4);  // years out of all reason
-               }},
-        Damage{"MissingSession", [](const fs::path& d) { fs::remove(d / "svar.sg6"); }}),
+    ::testing::Values(Damage{"MissingTable", [](const fs::path& d) { fs::remove(d / "band.sg6"); }},
+                      Damage{"MissingYear", [](const fs::path& d) { fs::remove(d / "2005.sg6"); }},
+                      Damage{"TruncatedTable", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 649); }},
+                      Damage{"ShortYear", [](const fs::path& d) { fs::resize_file(d / "2004.sg6", 4004 * 365); }},
+                      Damage{"TruncatedSession", [](const fs::path& d) { fs::resize_file(d / "svar.sg6", 100); }},
+                      Damage{"GarbledSession",
+                             [](const fs::path& d) {
+                                 std::fstream f(d / "svar.sg6", std::ios::in | std::ios::out | std::ios::binary);
+                                 f.seekp(40);
+                                 f.write("\xff\x7f\x00\x00", 4);  // years out of all reason
+                             }},
+                      Damage{"MissingSession", [](const fs::path& d) { fs::remove(d / "svar.sg6"); }}),
     [](const auto& info) { return std::string(info.param.what); });
 
 TEST_F(SaveSlots, AnInterruptedSaveLeavesTheOldGameLoadable) {

@@ -22,9 +22,12 @@ void writeTinyBaseWorld(const std::filesystem::path& dataDir) {
         const char* city;
     };
     const Country countries[] = {
-        {"England", "English", "E", "London"},       {"Scotland", "Scottish", "E", "Glasgow"},
-        {"France", "French", "E", "Paris"},          {"Canada", "Canadian", "N", "Toronto"},
-        {"New Zealand", "New Zealander", "O", "Auckland"}, {"Brazil", "Brazilian", "S", "Rio de Janeiro"},
+        {"England", "English", "E", "London"},
+        {"Scotland", "Scottish", "E", "Glasgow"},
+        {"France", "French", "E", "Paris"},
+        {"Canada", "Canadian", "N", "Toronto"},
+        {"New Zealand", "New Zealander", "O", "Auckland"},
+        {"Brazil", "Brazilian", "S", "Rio de Janeiro"},
     };
     for (const auto& c : countries) {
         g.country.rec = CountryRecord{};

@@ -48,8 +48,8 @@ TEST_F(NewArtists, AbilityFollowsTheTalentTheStyleAndTheAge) {
             setArtistStats(g, ceiling);
             const ArtistRecord& a = g.artist.rec;
             ASSERT_LE(std::abs(a.talentCeiling - ceiling), ceiling / 10);
-            double expected = std::nearbyint(a.talentCeiling / double(k)) +
-                              std::nearbyint(a.talentCeiling / double(lifeSpan)) + 28;
+            double expected =
+                std::nearbyint(a.talentCeiling / double(k)) + std::nearbyint(a.talentCeiling / double(lifeSpan)) + 28;
             ASSERT_EQ(a.ability, std::min(expected, 100.0)) << "life span " << lifeSpan;
             ASSERT_GE(a.charisma, 60);
             ASSERT_LE(a.angst, 100);
@@ -61,15 +61,19 @@ TEST_F(NewArtists, AbilityFollowsTheTalentTheStyleAndTheAge) {
 TEST_F(NewArtists, NamesFitTheCountryAndTheSexByTheirWeights) {
     enum : uint8_t { home = 1, abroad = 2, nowhere = 3 };
     using Links = std::array<uint8_t, 5>;
-    for (auto [name, male, links, weights] :
-         {std::tuple{"Ana", false, Links{home}, Links{100}}, {"Bo", true, {home}, {60}}, {"Carl", true, {abroad}, {100}},
-          {"Dev", true, {}, {}}, {"Eve", false, {}, {}}, {"Finn", true, {home}, {0}},
-          {"Gus", true, {abroad, home}, {50, 30}}}) {
+    for (auto [name, male, links, weights] : {std::tuple{"Ana", false, Links{home}, Links{100}},
+                                              {"Bo", true, {home}, {60}},
+                                              {"Carl", true, {abroad}, {100}},
+                                              {"Dev", true, {}, {}},
+                                              {"Eve", false, {}, {}},
+                                              {"Finn", true, {home}, {0}},
+                                              {"Gus", true, {abroad, home}, {50, 30}}}) {
         g.forename.rec = ForenameRecord{0, name, links, weights, boolean(male)};
         g.forename.append();
     }
-    for (auto [name, links, weights] :
-         {std::tuple{"Alder", Links{home}, Links{100}}, {"Birch", {abroad}, {100}}, {"Cobb", {abroad, home}, {100, 25}}}) {
+    for (auto [name, links, weights] : {std::tuple{"Alder", Links{home}, Links{100}},
+                                        {"Birch", {abroad}, {100}},
+                                        {"Cobb", {abroad, home}, {100, 25}}}) {
         g.surname.rec = SurnameRecord{0, name, links, weights};
         g.surname.append();
     }

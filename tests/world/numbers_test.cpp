@@ -37,7 +37,5 @@ TEST(Numbers, ValuesPastTheirFieldStopTheGame) {
     try {
         narrow<int16_t>(40000);
         FAIL() << "no error";
-    } catch (const FatalError& e) {
-        EXPECT_NE(std::string(e.what()).find("16-bit"), std::string::npos) << e.what();
-    }
+    } catch (const FatalError& e) { EXPECT_NE(std::string(e.what()).find("16-bit"), std::string::npos) << e.what(); }
 }

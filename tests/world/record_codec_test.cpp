@@ -18,14 +18,16 @@ namespace {
 constexpr uint8_t kAwkwardBytes[] = {' ', ' ', ' ', 0x00, 0x81, 0x8D, 0x8F, 0x90, 0x9D, 0x80, 0xE9, 0xFF, 'a', 0x7F};
 
 // Characters of one file byte each, as UTF-8.
-constexpr std::string_view kOneByteChars[] = {"a", "Z", " ", "0", "\"", "\\", "é", "€", "ß", "ÿ", "\xC2\x81",
-                                             "\xC2\x9D", std::string_view("\0", 1)};
+constexpr std::string_view kOneByteChars[] = {
+    "a", "Z", " ", "0", "\"", "\\", "é", "€", "ß", "ÿ", "\xC2\x81", "\xC2\x9D", std::string_view("\0", 1)};
 
 struct RandomFiller {
     std::mt19937& rng;
 
     template <class T>
-    void operator()(const char*, T& v) { fill(v); }
+    void operator()(const char*, T& v) {
+        fill(v);
+    }
 
     template <class T>
     void fill(T& v) {
@@ -33,7 +35,8 @@ struct RandomFiller {
             v.value.clear();
             auto n = std::uniform_int_distribution<std::size_t>(0, T::width)(rng);
             for (std::size_t i = 0; i < n; ++i)
-                v.value += kOneByteChars[std::uniform_int_distribution<std::size_t>(0, std::size(kOneByteChars) - 1)(rng)];
+                v.value +=
+                    kOneByteChars[std::uniform_int_distribution<std::size_t>(0, std::size(kOneByteChars) - 1)(rng)];
             while (!v.value.empty() && v.value.back() == ' ') v.value.pop_back();  // a read trims them
         } else if constexpr (IsStdArray<T>::value) {
             for (auto& e : v) fill(e);
@@ -100,7 +103,7 @@ TEST(TextField, IsStoredAsBlankPaddedWindows1252) {
         {"€uro", "\x80uro", "€uro"},
         {"  leading", "  leading", "  leading"},
         {"trailing   ", "trailing", "trailing"},
-        {"日本", "??", "??"},                                  // no byte in Windows-1252
+        {"日本", "??", "??"},                                                // no byte in Windows-1252
         {std::string(25, 'x'), std::string(20, 'x'), std::string(20, 'x')},  // cut to the width
         {"", "", ""},
     };
@@ -120,8 +123,8 @@ TEST(TextField, IsStoredAsBlankPaddedWindows1252) {
 TEST(RecordCodec, NumbersAreLittleEndianAndBooleansAllBitsSet) {
     ScheduleRecord s{};
     s.type = 7;
-    s.date = 38204;   // 5 August 2004
-    s.band = -1;      // a true boolean, or 65535
+    s.date = 38204;  // 5 August 2004
+    s.band = -1;     // a true boolean, or 65535
     s.id = 0x01020304;
     std::vector<uint8_t> b(ScheduleRecord::kLength);
     encodeRecord(s, b.data());

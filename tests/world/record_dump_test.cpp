@@ -151,9 +151,7 @@ TEST(RecordDump, TableFileDumpsEveryRecordAndRefusesADamagedFile) {
     try {
         dumpTableFile(file, FileNo::fileOffer, DumpFormat::text);
         FAIL() << "a file of 55 bytes was dumped as 27-byte records";
-    } catch (const FatalError& e) {
-        EXPECT_NE(std::string(e.what()).find("offer.sg2"), std::string::npos) << e.what();
-    }
+    } catch (const FatalError& e) { EXPECT_NE(std::string(e.what()).find("offer.sg2"), std::string::npos) << e.what(); }
 }
 
 TEST(RecordDump, FileNamesTellTheirTable) {

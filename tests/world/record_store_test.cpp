@@ -30,9 +30,7 @@ template <class F>
 std::string fatalMessage(F f) {
     try {
         f();
-    } catch (const FatalError& e) {
-        return e.what();
-    }
+    } catch (const FatalError& e) { return e.what(); }
     ADD_FAILURE() << "no FatalError";
     return {};
 }
@@ -121,10 +119,19 @@ TEST(FindRecordByName, EachTableSearchesItsOwnNameField) {
     Game& g = eg.g;
     addBand(g, "Other");
     addBand(g, "The Band");
-    add(g.country, [](CountryRecord& r) { r.name = "Spain"; r.adjective = "Spanish"; });
-    add(g.country, [](CountryRecord& r) { r.name = "France"; r.adjective = "French"; });
+    add(g.country, [](CountryRecord& r) {
+        r.name = "Spain";
+        r.adjective = "Spanish";
+    });
+    add(g.country, [](CountryRecord& r) {
+        r.name = "France";
+        r.adjective = "French";
+    });
     add(g.city, [](CityRecord& r) { r.name = "Café Town"; });
-    add(g.job, [](JobRecord& r) { r.title = "Drummer"; r.titleFemale = "Drummeress"; });
+    add(g.job, [](JobRecord& r) {
+        r.title = "Drummer";
+        r.titleFemale = "Drummeress";
+    });
     add(g.style, [](StyleRecord& r) { r.name = "  Punk"; });
     add(g.look, [](LookRecord& r) { r.name = "Goth"; });
     add(g.venue, [](VenueRecord& r) { r.name = "The Hall"; });
@@ -133,8 +140,14 @@ TEST(FindRecordByName, EachTableSearchesItsOwnNameField) {
     add(g.ceremony, [](CeremonyRecord& r) { r.name = "The Awards"; });
     add(g.newalbum, [](NewAlbumRecord& r) { r.title = "Debut"; });
     for (int i = 0; i < 3; ++i) {
-        add(g.artist, [&](ArtistRecord& r) { r.forename = i ? "Ann" : "Bob"; r.surname = "Lee"; });
-        add(g.staff, [&](StaffRecord& r) { r.forename = i ? "Ann" : "Bob"; r.surname = "Lee"; });
+        add(g.artist, [&](ArtistRecord& r) {
+            r.forename = i ? "Ann" : "Bob";
+            r.surname = "Lee";
+        });
+        add(g.staff, [&](StaffRecord& r) {
+            r.forename = i ? "Ann" : "Bob";
+            r.surname = "Lee";
+        });
     }
     const std::string padded = "Ann" + std::string(29, ' ') + " Lee" + std::string(29, ' ');
     const NameCase cases[] = {
@@ -161,7 +174,8 @@ TEST(FindRecordByName, EachTableSearchesItsOwnNameField) {
         {FileNo::fileStaff, "Bob Lee", 1},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(findRecordByName(g, c.file, c.name), c.expected) << catalogueEntry(c.file).table << " '" << c.name << "'";
+        EXPECT_EQ(findRecordByName(g, c.file, c.name), c.expected)
+            << catalogueEntry(c.file).table << " '" << c.name << "'";
     EXPECT_THROW(findRecordByName(g, FileNo::fileNews, "x"), FatalError);
 }
 
@@ -193,7 +207,10 @@ TEST(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
     test::EmptyGame eg;
     Game& g = eg.g;
     for (auto [band, label] : {std::pair{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
-        add(g.shortlist, [&](ShortlistRecord& r) { r.band = static_cast<int16_t>(band); r.label = static_cast<int16_t>(label); });
+        add(g.shortlist, [&](ShortlistRecord& r) {
+            r.band = static_cast<int16_t>(band);
+            r.label = static_cast<int16_t>(label);
+        });
     compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
     ASSERT_EQ(g.shortlist.recordCount(), 4);
     int16_t bands[] = {1, 5, 7};
@@ -216,7 +233,12 @@ TEST(CompactTable, KeepingNothingLeavesAnEmptyTableThatStillWorks) {
     EXPECT_TRUE(g.shortlist.isOpen());
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 0u);
     EXPECT_EQ(recordCount(g, FileNo::fileShortlist), 1);
-    EXPECT_EQ(add(g.shortlist, [](ShortlistRecord& r) { r.band = 4; r.label = 2; }), 1);
+    EXPECT_EQ(add(g.shortlist,
+                  [](ShortlistRecord& r) {
+                      r.band = 4;
+                      r.label = 2;
+                  }),
+              1);
     closeAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), ShortlistRecord::kLength);
 }

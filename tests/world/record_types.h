@@ -15,13 +15,13 @@ struct RecordList {
     static std::set<std::string_view> names() { return {R::kTypeName...}; }
 };
 
-using AllRecords = RecordList<
-    CountryRecord, CityRecord, VenueRecord, ForenameRecord, SurnameRecord, JobRecord, StyleRecord,
-    ArtistRecord, BandRecord, ProductRecord, LabelRecord, LedgerPeriod, Department, StaffRecord, LookRecord,
-    AssRecord, DayRecord, NewBandRecord, NewsRecord, ScheduleRecord, DiscRecord, SongRecord, OfferRecord,
-    BusinessRecord, NewSongRecord, PrefsRecord, SvarRecord, PlayerBlock, TourRecord, GigRecord,
-    FestivalRecord, EventRecord, EventCondition, CrimeRecord, AwardRecord, CeremonyRecord, ShortlistRecord,
-    ChartRow, ChartRecords, ChartHolder, MediaRecord, AchievementRecord, ThankRecord, FactRecord,
-    HighScoreRecord, NewAlbumRecord, Scratch4Record>;
+using AllRecords =
+    RecordList<CountryRecord, CityRecord, VenueRecord, ForenameRecord, SurnameRecord, JobRecord, StyleRecord,
+               ArtistRecord, BandRecord, ProductRecord, LabelRecord, LedgerPeriod, Department, StaffRecord, LookRecord,
+               AssRecord, DayRecord, NewBandRecord, NewsRecord, ScheduleRecord, DiscRecord, SongRecord, OfferRecord,
+               BusinessRecord, NewSongRecord, PrefsRecord, SvarRecord, PlayerBlock, TourRecord, GigRecord,
+               FestivalRecord, EventRecord, EventCondition, CrimeRecord, AwardRecord, CeremonyRecord, ShortlistRecord,
+               ChartRow, ChartRecords, ChartHolder, MediaRecord, AchievementRecord, ThankRecord, FactRecord,
+               HighScoreRecord, NewAlbumRecord, Scratch4Record>;
 
 }  // namespace trovane::test

@@ -20,9 +20,7 @@ template <class F>
 std::string fatalMessage(F f) {
     try {
         f();
-    } catch (const FatalError& e) {
-        return e.what();
-    }
+    } catch (const FatalError& e) { return e.what(); }
     ADD_FAILURE() << "no FatalError";
     return {};
 }

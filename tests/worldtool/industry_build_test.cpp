@@ -26,8 +26,10 @@ protected:
     R record(const std::string& file, std::size_t n) const {
         const auto& bytes = set.files.at(file);
         R rec{};
-        if (bytes.size() >= n * R::kLength) decodeRecord(bytes.data() + (n - 1) * R::kLength, rec);
-        else ADD_FAILURE() << file << " has no record " << n;
+        if (bytes.size() >= n * R::kLength)
+            decodeRecord(bytes.data() + (n - 1) * R::kLength, rec);
+        else
+            ADD_FAILURE() << file << " has no record " << n;
         return rec;
     }
     std::size_t count(const std::string& file, std::size_t length) const { return set.files.at(file).size() / length; }
@@ -80,7 +82,7 @@ TEST_F(IndustryBuild, DiscsAndSongsAreNumberedAndRated) {
     EXPECT_EQ(album.tracksRecorded, 2);
     EXPECT_EQ(album.tracks[0], 1);
     EXPECT_EQ(album.tracks[1], 2);
-    EXPECT_EQ(album.quality, 60);         // (70 + 51) / 2, half to even
+    EXPECT_EQ(album.quality, 60);  // (70 + 51) / 2, half to even
     EXPECT_EQ(album.commerciality, 66);
     EXPECT_EQ(album.lifetimeSales, album.totalSales);
     EXPECT_EQ(album.studio, 1);
@@ -90,9 +92,9 @@ TEST_F(IndustryBuild, DiscsAndSongsAreNumberedAndRated) {
 
     auto single = record<DiscRecord>("disc.gam", 2);
     EXPECT_EQ(single.isSingle, 1);
-    EXPECT_EQ(single.tracks[0], 1);       // the album's song, by title
-    EXPECT_EQ(single.tracks[1], 3);       // a song of the single's own
-    EXPECT_EQ(single.quality, 70);        // the lead song's figures
+    EXPECT_EQ(single.tracks[0], 1);  // the album's song, by title
+    EXPECT_EQ(single.tracks[1], 3);  // a song of the single's own
+    EXPECT_EQ(single.quality, 70);   // the lead song's figures
     EXPECT_EQ(single.commerciality, 62);
 
     auto lead = record<SongRecord>("song.gam", 1);
@@ -116,10 +118,10 @@ TEST_F(IndustryBuild, LabelsTakeTheirFiguresFromStaffAndActs) {
     auto halcyon = record<LabelRecord>("label.gam", 1);
     EXPECT_EQ(halcyon.boss, 1);
     EXPECT_EQ(halcyon.bandCount, 1);
-    EXPECT_EQ(halcyon.strengthClass, 44);   // 1950 squared / 87120
+    EXPECT_EQ(halcyon.strengthClass, 44);  // 1950 squared / 87120
     EXPECT_EQ(halcyon.hype, (std::array<int16_t, 5>{-75, -55, -65, -45, -40}));
     EXPECT_EQ(halcyon.department[0].head, 2);
-    EXPECT_EQ(halcyon.department[0].rating, 28);   // 39 weighted staff give 24, a head of 80 adds 4
+    EXPECT_EQ(halcyon.department[0].rating, 28);  // 39 weighted staff give 24, a head of 80 adds 4
     EXPECT_EQ(halcyon.department[1].rating, 0);
     // Staff by level 15,050 and 1,500, and the head's 900.
     EXPECT_EQ(halcyon.wageBill, moneyUnits(17450));
@@ -128,9 +130,9 @@ TEST_F(IndustryBuild, LabelsTakeTheirFiguresFromStaffAndActs) {
     EXPECT_EQ(kestrel.bandCount, 0);
 
     auto boss = record<StaffRecord>("staff.gam", 1);
-    EXPECT_EQ(boss.wage, moneyUnits(3367));   // the game's rate: standing 38, ability 72
+    EXPECT_EQ(boss.wage, moneyUnits(3367));  // the game's rate: standing 38, ability 72
     EXPECT_EQ(boss.aptitude[8], 60);
-    EXPECT_EQ(boss.aptitude[9], 2);           // the preferred style
+    EXPECT_EQ(boss.aptitude[9], 2);  // the preferred style
     EXPECT_EQ(record<StaffRecord>("staff.gam", 2).wage, moneyUnits(900));
 }
 

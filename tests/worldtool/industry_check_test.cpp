@@ -17,9 +17,9 @@ namespace {
 struct BrokenIndustry {
     std::string label;
     std::string file;
-    std::string find;      // replaced by `replace` in the tiny industry's file; empty: the whole file
+    std::string find;  // replaced by `replace` in the tiny industry's file; empty: the whole file
     std::string replace;
-    std::string at;        // "file:line" of the first problem
+    std::string at;  // "file:line" of the first problem
     std::string says;
     std::size_t problems = 1;
 };
@@ -48,32 +48,36 @@ std::vector<BrokenIndustry> brokenIndustries() {
          "`optionMonthsLeft` = 0: 1 to the optionLength of 12 months"},
         {"RoyaltySharesNotSeventy", "acts.toml", "royaltyShare = 30", "royaltyShare = 25", "acts.toml:1",
          "royaltyShare of \"The Paper Lanterns\" sum to 65; a signed act's shares sum to 70"},
-        {"ActWithoutMembers", "acts_indies.toml", "", "[[band]]\nname = \"Yuki Tanabe\"\nstyle = \"Legend\"\n"
-         "reputation = [2, 2, 2, 2, 30]\n", "acts_indies.toml:1", "an act has 1 to 10 members ([[band.member]]); \"Yuki Tanabe\" has 0"},
+        {"ActWithoutMembers", "acts_indies.toml", "",
+         "[[band]]\nname = \"Yuki Tanabe\"\nstyle = \"Legend\"\n"
+         "reputation = [2, 2, 2, 2, 30]\n",
+         "acts_indies.toml:1", "an act has 1 to 10 members ([[band.member]]); \"Yuki Tanabe\" has 0"},
         {"ReputationOfNothing", "acts_indies.toml", "[2, 2, 2, 2, 30]", "[0, 2, 2, 2, 30]", "acts_indies.toml:5",
          "`reputation` = 0 is out of range (2 to 100)"},
-        {"ActNameTwice", "acts_indies.toml", "name = \"Yuki Tanabe\"", "name = \"The Paper Lanterns\"", "acts_indies.toml:1",
-         "duplicate band \"The Paper Lanterns\" (first at acts.toml:1)"},
-        {"HomeCityInAnotherCountry", "acts.toml", "country = \"England\"\n  city", "country = \"Scotland\"\n  city", "acts.toml:23", "\"London\" is a city of England, not of Scotland"},
+        {"ActNameTwice", "acts_indies.toml", "name = \"Yuki Tanabe\"", "name = \"The Paper Lanterns\"",
+         "acts_indies.toml:1", "duplicate band \"The Paper Lanterns\" (first at acts.toml:1)"},
+        {"HomeCityInAnotherCountry", "acts.toml", "country = \"England\"\n  city", "country = \"Scotland\"\n  city",
+         "acts.toml:23", "\"London\" is a city of England, not of Scotland"},
         {"WriterNotAMember", "acts.toml", "writer = \"Jess Hartigan\", quality = 40",
          "writer = \"Jess Hartigam\", quality = 40", "acts.toml:69", "`writer` \"Jess Hartigam\" is not a member"},
-        {"SingleOfASongOnNoAlbum", "acts.toml", "tracks = [\"Streetlight Sermon\"", "tracks = [\"Streetlight Psalm\"", "acts.toml:69", "no song \"Streetlight Psalm\" on an album of \"The Paper Lanterns\""},
-        {"StudioThatPresses", "acts.toml", "studio = \"Abbey Mill Studios\"", "studio = \"Thames Pressing\"", "acts.toml:58",
-         "`studio` \"Thames Pressing\" is not a studio"},
+        {"SingleOfASongOnNoAlbum", "acts.toml", "tracks = [\"Streetlight Sermon\"", "tracks = [\"Streetlight Psalm\"",
+         "acts.toml:69", "no song \"Streetlight Psalm\" on an album of \"The Paper Lanterns\""},
+        {"StudioThatPresses", "acts.toml", "studio = \"Abbey Mill Studios\"", "studio = \"Thames Pressing\"",
+         "acts.toml:58", "`studio` \"Thames Pressing\" is not a studio"},
         {"HiddenActWithALabel", "hidden.toml", "style = \"Indie Rock\"\n",
          "style = \"Indie Rock\"\nlabel = \"Halcyon Records\"\n", "hidden.toml:4", "a hidden act has no label"},
         {"StaffNameTwice", "staff.toml", "forename = \"Oliver\"", "forename = \"Ian\"", "staff.toml:9",
          "duplicate staff \"Ian Thornbury\" (first at staff.toml:5)"},
-        {"ParentLabelsInACircle", "labels.toml", "city = \"London\"\n", "parentLabel = \"Kestrel Sound\"\n", "labels.toml:1",
-         "the parentLabel links of \"Halcyon Records\" go round in a circle", 2},
+        {"ParentLabelsInACircle", "labels.toml", "city = \"London\"\n", "parentLabel = \"Kestrel Sound\"\n",
+         "labels.toml:1", "the parentLabel links of \"Halcyon Records\" go round in a circle", 2},
         {"BossOfAnotherLabel", "staff.toml", "employer = \"Halcyon Records\", department = 3",
          "employer = \"Kestrel Sound\", department = 3", "labels.toml:7",
          "the boss of \"Halcyon Records\", \"Morag Dunbar\", works for \"Kestrel Sound\""},
         {"HeadOfAnotherDepartment", "staff.toml", "department = 0", "department = 2", "labels.toml:9",
          "the head of Artist and Repertoire at \"Halcyon Records\", \"Ian Thornbury\", has `department` = 2 "
          "(Hospitality)"},
-        {"InWorkWithoutAPost", "staff.toml", "ability = 40 }", "ability = 40, employer = \"Kestrel Sound\" }", "staff.toml:9",
-         "\"Oliver Thornbury\" works for \"Kestrel Sound\" but is neither its boss nor the head"},
+        {"InWorkWithoutAPost", "staff.toml", "ability = 40 }", "ability = 40, employer = \"Kestrel Sound\" }",
+         "staff.toml:9", "\"Oliver Thornbury\" works for \"Kestrel Sound\" but is neither its boss nor the head"},
         {"ThreeDepartments", "labels.toml", "[{}, {}, {}, {}, {}, {}]", "[{}, {}, {}]", "labels.toml:19",
          "`department` lists 3 departments; a label has all six"},
         {"MoreStaffAtALevelThanItsWagesHold", "labels.toml", "[1, 0, 0, 0, 0]", "[22, 0, 0, 0, 0]", "labels.toml:10",
@@ -86,11 +90,13 @@ std::vector<BrokenIndustry> brokenIndustries() {
          "`rollLow` and `rollHigh` both 0"},
         {"ReplyToNoEvent", "events.toml", "next = \"brawl-acquitted\"", "next = \"brawl-aquitted\"", "events.toml:19",
          "unknown event \"brawl-aquitted\""},
-        {"CrimeToNoEvent", "events.toml", "guiltyEvent = \"brawl-trial\"", "guiltyEvent = \"brawl-guilty\"", "events.toml:1",
-         "unknown event \"brawl-guilty\""},
-        {"CrimeStoryWithoutCrimes", "events.toml", "crime = [", "# crime = [", "events.toml:3", "there is no `crime` to draw"},
-        {"CrimesWrittenInsideTheLastEvent", "events.toml", "", test::tinyIndustrySources().at("events.toml") +
-         "crime = [ { crimeName = \"theft\", acquittalEvent = \"brawl-acquitted\", guiltyEvent = \"brawl-trial\" } ]\n",
+        {"CrimeToNoEvent", "events.toml", "guiltyEvent = \"brawl-trial\"", "guiltyEvent = \"brawl-guilty\"",
+         "events.toml:1", "unknown event \"brawl-guilty\""},
+        {"CrimeStoryWithoutCrimes", "events.toml", "crime = [", "# crime = [", "events.toml:3",
+         "there is no `crime` to draw"},
+        {"CrimesWrittenInsideTheLastEvent", "events.toml", "",
+         test::tinyIndustrySources().at("events.toml") + "crime = [ { crimeName = \"theft\", acquittalEvent = "
+                                                         "\"brawl-acquitted\", guiltyEvent = \"brawl-trial\" } ]\n",
          "events.toml:25", "put the crime list above the first [[event]]"},
         {"UnknownTag", "events.toml", "<abn1>", "<abn3>", "events.toml:8", "`body` has an unknown tag <abn3>"},
         {"TagNeverClosed", "events.toml", "\"<an1> cleared\"", "\"<an1 cleared\"", "events.toml:24",

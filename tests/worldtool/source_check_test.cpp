@@ -14,10 +14,10 @@ namespace {
 
 struct BrokenSource {
     const char* label;
-    const char* file;     // replaces the tiny world's file of that name, or is added to it
+    const char* file;  // replaces the tiny world's file of that name, or is added to it
     const char* text;
-    int64_t line;         // where the problem is expected
-    const char* says;     // a part of the expected message
+    int64_t line;      // where the problem is expected
+    const char* says;  // a part of the expected message
     std::size_t problems = 1;
 };
 

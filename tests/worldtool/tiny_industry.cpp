@@ -168,7 +168,8 @@ calendar = [6, 5, 8, 0, 0, 0]
   kind = 2
   originGroup = -3
 )";
-    files["events.toml"] = R"(crime = [ { crimeName = "assault", acquittalEvent = "brawl-acquitted", guiltyEvent = "brawl-trial", sentence = 6 } ]
+    files["events.toml"] =
+        R"(crime = [ { crimeName = "assault", acquittalEvent = "brawl-acquitted", guiltyEvent = "brawl-trial", sentence = 6 } ]
 
 [[event]]
 name = "arrest-for-brawl"

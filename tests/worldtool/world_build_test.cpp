@@ -75,8 +75,8 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
 
     auto look = recordOf<LookRecord>(set, "look.gam", 1);
     EXPECT_EQ(look.sex, 2);
-    EXPECT_EQ(look.bounds[2], 50);    // controversy low
-    EXPECT_EQ(look.bounds[15], 90);   // visual high
+    EXPECT_EQ(look.bounds[2], 50);   // controversy low
+    EXPECT_EQ(look.bounds[15], 90);  // visual high
 
     auto cola = recordOf<ProductRecord>(set, "product.gam", 1);
     EXPECT_EQ(cola.regionWeights, (std::array<uint8_t, 5>{6, 2, 0, 0, 0}));
