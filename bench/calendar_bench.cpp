@@ -5,11 +5,12 @@
 #include <filesystem>
 #include <string>
 
-#include "calendar/band_calendar.h"
-#include "calendar/news_inbox.h"
-#include "calendar/schedule.h"
+#include "day/dispatch.h"
+#include "day/news_inbox.h"
+#include "floor/news_post.h"
+#include "schedule/band_calendar.h"
+#include "schedule/schedule.h"
 #include "session/empty_world.h"
-#include "session/news_post.h"
 #include "world/dates.h"
 #include "world/record_store.h"
 

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "calendar/daily_cycle.h"
+#include "day/daily_cycle.h"
 #include "session/empty_world.h"
 #include "world/record_store.h"
 

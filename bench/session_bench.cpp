@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
-#include "calendar/daily_cycle.h"
+#include "day/daily_cycle.h"
+#include "floor/preferences.h"
 #include "session/new_game.h"
-#include "session/preferences.h"
 #include "session/save_load.h"
 #include "world/record_store.h"
 

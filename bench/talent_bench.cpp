@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
+#include "floor/preferences.h"
 #include "session/empty_world.h"
-#include "session/preferences.h"
 #include "talent/artist_names.h"
 #include "world/record_store.h"
 

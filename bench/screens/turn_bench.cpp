@@ -8,10 +8,10 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "calendar/daily_cycle.h"
+#include "day/daily_cycle.h"
+#include "floor/preferences.h"
 #include "screens/mdi_parent_form.h"
 #include "session/new_game.h"
-#include "session/preferences.h"
 #include "world/game.h"
 
 namespace fs = std::filesystem;

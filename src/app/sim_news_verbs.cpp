@@ -8,10 +8,10 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
-#include "calendar/dispatch.h"
-#include "calendar/news_inbox.h"
-#include "calendar/schedule.h"
-#include "session/formats.h"
+#include "day/dispatch.h"
+#include "day/news_inbox.h"
+#include "floor/formats.h"
+#include "schedule/schedule.h"
 #include "world/dates.h"
 #include "world/record_dump.h"
 #include "world/strings.h"

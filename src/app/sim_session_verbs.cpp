@@ -7,9 +7,9 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
-#include "session/formats.h"
+#include "floor/formats.h"
+#include "floor/preferences.h"
 #include "session/new_game.h"
-#include "session/preferences.h"
 #include "session/save_load.h"
 #include "session/session_record.h"
 #include "world/dates.h"

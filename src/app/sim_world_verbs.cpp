@@ -7,10 +7,10 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
-#include "calendar/daily_cycle.h"
+#include "day/daily_cycle.h"
+#include "floor/formats.h"
+#include "floor/preferences.h"
 #include "session/empty_world.h"
-#include "session/formats.h"
-#include "session/preferences.h"
 #include "session/session_record.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"

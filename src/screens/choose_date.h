@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <array>
 
-#include "calendar/band_calendar.h"
+#include "schedule/band_calendar.h"
 
 class QLabel;
 class QPushButton;

@@ -6,10 +6,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "floor/preferences.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
-#include "session/preferences.h"
 
 namespace trovane::screens {
 

@@ -12,7 +12,8 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include "calendar/daily_cycle.h"
+#include "day/daily_cycle.h"
+#include "floor/preferences.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/loading_screen.h"
@@ -23,7 +24,6 @@
 #include "screens/start_screens.h"
 #include "screens/status_bar.h"
 #include "screens/theme.h"
-#include "session/preferences.h"
 #include "session/save_load.h"
 #include "world/fatal_error.h"
 #include "world/record_store.h"

@@ -8,7 +8,7 @@
 #include <functional>
 #include <optional>
 
-#include "calendar/news_inbox.h"
+#include "day/news_inbox.h"
 #include "session/new_game.h"
 #include "world/game.h"
 

@@ -11,11 +11,11 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
+#include "floor/formats.h"
+#include "floor/list_fillers.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
-#include "session/formats.h"
-#include "session/list_fillers.h"
 
 namespace trovane::screens {
 

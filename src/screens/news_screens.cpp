@@ -8,11 +8,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "floor/formats.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/side_bar.h"
 #include "screens/theme.h"
-#include "session/formats.h"
 #include "world/strings.h"
 
 namespace trovane::screens {

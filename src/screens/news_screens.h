@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <vector>
 
-#include "calendar/news_inbox.h"
+#include "day/news_inbox.h"
 #include "screens/screen_page.h"
 
 class QLabel;

@@ -7,10 +7,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "floor/formats.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
-#include "session/formats.h"
 #include "session/save_load.h"
 
 namespace trovane::screens {

@@ -7,11 +7,11 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "floor/preferences.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/screen_page.h"
 #include "screens/theme.h"
-#include "session/preferences.h"
 
 namespace trovane::screens {
 

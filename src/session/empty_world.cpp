@@ -4,8 +4,8 @@
 
 #include <fmt/format.h>
 
-#include "calendar/schedule.h"
-#include "session/preferences.h"
+#include "floor/preferences.h"
+#include "schedule/schedule.h"
 #include "session/session_record.h"
 #include "world/dates.h"
 #include "world/record_store.h"

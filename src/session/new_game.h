@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "session/list_fillers.h"
+#include "floor/list_fillers.h"
 #include "world/records.h"
 
 namespace trovane {

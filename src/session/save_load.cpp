@@ -8,7 +8,7 @@
 
 #include <fmt/format.h>
 
-#include "session/preferences.h"
+#include "floor/preferences.h"
 #include "session/session_record.h"
 #include "world/dates.h"
 #include "world/record_store.h"

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "session/news_post.h"
+#include "floor/news_post.h"
 #include "world/game.h"
 #include "world/strings.h"
 

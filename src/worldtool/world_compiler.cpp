@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "session/preferences.h"
+#include "floor/preferences.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/record_dump.h"

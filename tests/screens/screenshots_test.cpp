@@ -6,12 +6,12 @@
 #include <QListWidget>
 #include <QMessageBox>
 
+#include "floor/news_post.h"
 #include "screen_fixture.h"
 #include "screens/game_option_screens.h"
 #include "screens/loading_screen.h"
 #include "screens/save_game_screen.h"
 #include "screens/side_bar.h"
-#include "session/news_post.h"
 
 namespace trovane::test {
 

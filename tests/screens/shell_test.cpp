@@ -10,7 +10,9 @@
 #include <QTableView>
 #include <fstream>
 
-#include "calendar/schedule.h"
+#include "floor/news_post.h"
+#include "floor/preferences.h"
+#include "schedule/schedule.h"
 #include "screen_fixture.h"
 #include "screens/choose_date.h"
 #include "screens/game_option_screens.h"
@@ -18,8 +20,6 @@
 #include "screens/option_panels.h"
 #include "screens/side_bar.h"
 #include "screens/status_bar.h"
-#include "session/news_post.h"
-#include "session/preferences.h"
 #include "world/dates.h"
 
 namespace trovane::test {

@@ -2,9 +2,9 @@
 // and a whole stretch of play with saves and loads in between.
 #include <gtest/gtest.h>
 
-#include "calendar/daily_cycle.h"
+#include "day/daily_cycle.h"
+#include "floor/preferences.h"
 #include "session/new_game.h"
-#include "session/preferences.h"
 #include "session/save_load.h"
 #include "support/temp_folder.h"
 #include "support/tiny_world.h"

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <map>
 
-#include "session/preferences.h"
+#include "floor/preferences.h"
 #include "session/save_load.h"
 #include "support/empty_game.h"
 #include "world/dates.h"

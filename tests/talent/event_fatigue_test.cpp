@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "calendar/calendar_world.h"
+#include "day/dispatch.h"
+#include "support/calendar_world.h"
 #include "support/empty_game.h"
 #include "talent/event_fatigue.h"
 #include "world/strings.h"

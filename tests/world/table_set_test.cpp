@@ -6,8 +6,8 @@
 #include <iterator>
 
 #include "events/scores.h"
+#include "floor/preferences.h"
 #include "production/charts.h"
-#include "session/preferences.h"
 #include "support/empty_game.h"
 #include "world/fatal_error.h"
 

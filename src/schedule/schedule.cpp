@@ -1,0 +1,80 @@
+#include "schedule/schedule.h"
+
+#include <filesystem>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "world/dates.h"
+#include "world/fatal_error.h"
+#include "world/game.h"
+#include "world/record_store.h"
+
+namespace trovane {
+
+int32_t dayNumberInYear(double date) {
+    int year = yearOf(date);
+    return static_cast<int32_t>(date - serialFromCivil(year, 1, 1)) + 1;
+}
+
+bool hasDayFile(const Game& g, int year) {
+    std::error_code ec;
+    return std::filesystem::exists(dataFile(g, std::to_string(year), "vel"), ec);
+}
+
+void addScheduleYear(Game& g, int year) {
+    // No year may be skipped: a date two years ahead makes both, in order.
+    if (g.lastScheduleYear != 0 && g.lastScheduleYear < year - 1) addScheduleYear(g, year - 1);
+    copyEmptyFile(g, dataFile(g, std::to_string(year), "vel"));
+    openDayFile(g, year);
+    g.dayIndex.rec = DayRecord{};
+    for (int32_t day = 1; day <= daysInYear(year); ++day) g.dayIndex.write(day);
+    closeDayFile(g);
+    g.lastScheduleYear = narrow<int16_t>(year);
+}
+
+int32_t addSchedule(Game& g, ScheduleRecord record) {
+    if (record.date < g.gameStartDate) return 0;
+    if (record.type != 17 || record.id == 0) record.id = g.schedule.recordCount();
+
+    ScheduleRecord kept = g.schedule.rec;
+    g.schedule.rec = record;
+    g.schedule.write(record.id);
+    g.schedule.rec = kept;
+
+    int year = yearOf(record.date);
+    if (year > g.lastScheduleYear) addScheduleYear(g, year);
+
+    int32_t day = dayNumberInYear(record.date);
+    openDayFile(g, year);
+    g.dayIndex.read(day);
+    DayRecord& d = g.dayIndex.rec;
+    if (d.count < 0 || d.count >= kMaxEntriesPerDay) {
+        closeDayFile(g);
+        throw FatalError(
+            fmt::format("Subscript out of range: day {} of {} already holds {} schedule entries", day, year, d.count));
+    }
+    d.entries[static_cast<std::size_t>(d.count)] = record.id;
+    d.count += 1;
+    g.dayIndex.write(day);
+    closeDayFile(g);
+    return record.id;
+}
+
+std::vector<int32_t> entriesOfDay(Game& g, double date) {
+    int year = yearOf(date);
+    if (!hasDayFile(g, year)) return {};
+    openDayFile(g, year);
+    g.dayIndex.read(dayNumberInYear(date));
+    const DayRecord& d = g.dayIndex.rec;
+    int32_t count = d.count;
+    if (count < 0 || count > kMaxEntriesPerDay) {
+        closeDayFile(g);
+        throw FatalError(fmt::format("The day index of {} is damaged: a day lists {} entries", year, count));
+    }
+    std::vector<int32_t> ids(d.entries.begin(), d.entries.begin() + count);
+    closeDayFile(g);
+    return ids;
+}
+
+}  // namespace trovane

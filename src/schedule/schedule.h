@@ -1,0 +1,39 @@
+#pragma once
+// The schedule: every later happening is a dated entry, listed in the day
+// index of its year and carried out on its day.
+#include <cstdint>
+#include <vector>
+
+#include "world/records.h"
+
+namespace trovane {
+
+class Game;
+
+// The most entries one day can hold.
+inline constexpr int32_t kMaxEntriesPerDay = 1000;
+
+// Files an entry: writes it to the schedule table and appends it to its day.
+// A record dated before the first day of the game (a blank one) is ignored.
+// A type 17 entry that already has an id is rewritten in place, so a rebooked
+// appearance keeps its number; every other entry gets the next free number.
+// Years without a day file up to the entry's year are made first. Returns
+// the entry's number, or 0 when nothing was filed. The schedule buffer is
+// left as it was.
+int32_t addSchedule(Game& g, ScheduleRecord record);
+
+// Makes the day file of a year, one blank day per day of the year, after
+// first making any year missing between lastScheduleYear and it.
+void addScheduleYear(Game& g, int year);
+
+// The record number of a date in its year's day file: 1 for 1 January.
+int32_t dayNumberInYear(double date);
+
+// True when the year has a day file.
+bool hasDayFile(const Game& g, int year);
+
+// The entries listed on a date, in the order they were filed; none for a
+// year that has no day file.
+std::vector<int32_t> entriesOfDay(Game& g, double date);
+
+}  // namespace trovane

@@ -1,0 +1,235 @@
+// The day's pipeline, checked against the calendar over two whole years of an
+// empty world played through trovane-sim, and the turn's hold on unanswered news.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdio>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "day/daily_cycle.h"
+#include "floor/news_post.h"
+#include "floor/preferences.h"
+#include "support/empty_game.h"
+#include "support/temp_folder.h"
+#include "world/dates.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using namespace std::chrono;
+
+namespace {
+
+struct TracedDay {
+    year_month_day date;
+    std::vector<std::string> steps;
+};
+
+std::string runCommand(const std::string& cmd) {
+    std::string out;
+    FILE* p = popen(cmd.c_str(), "r");
+    if (!p) return out;
+    char buf[4096];
+    while (std::fgets(buf, sizeof buf, p)) out += buf;
+    pclose(p);
+    return out;
+}
+
+// Parses "Weekday d/m/yyyy" lines followed by indented step names.
+std::vector<TracedDay> parseTrace(const std::string& text) {
+    std::vector<TracedDay> days;
+    std::istringstream in(text);
+    std::string line;
+    while (std::getline(in, line)) {
+        if (line.empty()) continue;
+        if (line.rfind("  ", 0) == 0) {
+            days.back().steps.push_back(line.substr(2));
+            continue;
+        }
+        unsigned d = 0, m = 0;
+        int y = 0;
+        auto space = line.find(' ');
+        std::sscanf(line.c_str() + space + 1, "%u/%u/%d", &d, &m, &y);
+        days.push_back({year{y} / month{m} / day{d}, {}});
+    }
+    return days;
+}
+
+class TwoYearsOfDays : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        folder_ = new test::TempFolder();
+        std::string sim = std::string(TROVANE_SIM_PATH) + " --seed 7 --data " + folder_->path().string();
+        runCommand(sim + " init");
+        days_ = new std::vector<TracedDay>(parseTrace(runCommand(sim + " advance 880 --trace")));
+    }
+    static void TearDownTestSuite() {
+        delete days_;
+        delete folder_;
+    }
+    static std::vector<TracedDay>* days_;
+    static test::TempFolder* folder_;
+
+    static int count(const TracedDay& d, const std::string& step) {
+        int n = 0;
+        for (const auto& s : d.steps) n += s == step;
+        return n;
+    }
+    static const TracedDay& on(year_month_day ymd) {
+        for (const auto& d : *days_)
+            if (d.date == ymd) return d;
+        throw std::runtime_error("day not played");
+    }
+};
+std::vector<TracedDay>* TwoYearsOfDays::days_ = nullptr;
+test::TempFolder* TwoYearsOfDays::folder_ = nullptr;
+
+TEST_F(TwoYearsOfDays, PlaysConsecutiveDaysFromThursdayFifthOfAugust2004) {
+    ASSERT_EQ(days_->size(), 880u);
+    EXPECT_EQ(days_->front().date, year{2004} / August / 5);
+    EXPECT_EQ(weekday{sys_days{days_->front().date}}, Thursday);
+    for (std::size_t i = 1; i < days_->size(); ++i)
+        ASSERT_EQ(sys_days{(*days_)[i].date} - sys_days{(*days_)[i - 1].date}, days{1});
+    // The first press is a Thursday: the weekly energy check runs on it.
+    EXPECT_EQ(count(days_->front(), "checkBandEnergy"), 1);
+}
+
+TEST_F(TwoYearsOfDays, WeekdayStepsRunOnlyOnTheirWeekday) {
+    const std::map<std::string, weekday> weekly = {
+        {"computerCheckBands", Sunday},    {"calculateWeeklySales", Sunday},       {"updateSongs", Monday},
+        {"computerApproachBands", Monday}, {"computerCheckAlbumProgress", Monday}, {"computerRecordAlbum", Tuesday},
+        {"dropBandHype", Wednesday},       {"checkBandEnergy", Thursday},          {"takeLabelWages", Friday},
+    };
+    for (const auto& d : *days_) {
+        weekday wd{sys_days{d.date}};
+        for (const auto& [step, when] : weekly) EXPECT_EQ(count(d, step), wd == when ? 1 : 0) << step;
+    }
+}
+
+TEST_F(TwoYearsOfDays, EveryDayRollsEventsRunsTheScheduleAndEndsWithScoresAndEnergy) {
+    for (const auto& d : *days_) {
+        ASSERT_GE(d.steps.size(), 4u);
+        EXPECT_EQ(d.steps.front(), "runRandomEvents");
+        auto n = d.steps.size();
+        EXPECT_EQ(d.steps[n - 3], "performDaysEvents");
+        EXPECT_EQ(d.steps[n - 2], "updateHighScoreTable");
+        EXPECT_EQ(d.steps[n - 1], "increaseArtistEnergy");
+    }
+}
+
+TEST_F(TwoYearsOfDays, MonthlyStepsKeepTheirDates) {
+    int financesIn2005 = 0, tidyChartsIn2005 = 0, controlledIn2005 = 0;
+    for (const auto& d : *days_) {
+        unsigned dd = static_cast<unsigned>(d.date.day());
+        unsigned mm = static_cast<unsigned>(d.date.month());
+        bool yearEnd = dd == 31 && mm == 12;
+        EXPECT_EQ(count(d, "updateLabelFinances"), (dd == 1 || yearEnd) ? 1 : 0);
+        EXPECT_EQ(count(d, "tidyShortlist"), dd == 1 ? 1 : 0);
+        EXPECT_EQ(count(d, "checkPlayerControlledBands"), (dd == 5 && mm % 2 == 1) ? 1 : 0);
+        EXPECT_EQ(count(d, "subtractBusinessRunningCosts"), dd == 10 ? 1 : 0);
+        EXPECT_EQ(count(d, "bandPotentialCalculations"), dd == 15 ? 1 : 0);
+        EXPECT_EQ(count(d, "updateBandTimeWithoutADeal"), dd == 20 ? 1 : 0);
+        EXPECT_EQ(count(d, "updateMonthsRemainingOnOption"), dd == 25 ? 1 : 0);
+        EXPECT_EQ(count(d, "tidyCharts"), (dd == 30 && (mm == 1 || mm == 4 || mm == 7 || mm == 10)) ? 1 : 0);
+        EXPECT_EQ(count(d, "increaseBandAges"), yearEnd ? 1 : 0);
+        if (d.date.year() == year{2005}) {
+            financesIn2005 += count(d, "updateLabelFinances");
+            tidyChartsIn2005 += count(d, "tidyCharts");
+            controlledIn2005 += count(d, "checkPlayerControlledBands");
+        }
+    }
+    EXPECT_EQ(financesIn2005, 13);
+    EXPECT_EQ(tidyChartsIn2005, 4);
+    EXPECT_EQ(controlledIn2005, 6);
+}
+
+TEST_F(TwoYearsOfDays, TheFirstOfTheMonthOnASundayRunsTheWeekThenTheMonth) {
+    const auto& d = on(year{2005} / May / 1);  // a Sunday
+    std::vector<std::string> expected = {"runRandomEvents",         "computerCheckBands",     "calculateWeeklySales",
+                                         "deliverMarketingReports", "deliverScoutingReports", "tidyShortlist",
+                                         "updateLabelFinances",     "performDaysEvents",      "updateHighScoreTable",
+                                         "increaseArtistEnergy"};
+    EXPECT_EQ(d.steps, expected);
+}
+
+TEST_F(TwoYearsOfDays, YearEndSchedulesTheYearAfterNextOnlyFromTheSecondYear) {
+    EXPECT_EQ(count(on(year{2004} / December / 31), "scheduleFestivals"), 0);
+    EXPECT_EQ(count(on(year{2004} / December / 31), "scheduleCeremonies"), 0);
+    EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleFestivals"), 1);
+    EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleCeremonies"), 1);
+    // Days that run no date step at all: 31 January, 30 December.
+    const std::vector<std::string> monthly = {"deliverMarketingReports",
+                                              "updateLabelFinances",
+                                              "checkPlayerControlledBands",
+                                              "subtractBusinessRunningCosts",
+                                              "bandPotentialCalculations",
+                                              "updateBandTimeWithoutADeal",
+                                              "updateMonthsRemainingOnOption",
+                                              "tidyCharts",
+                                              "increaseBandAges"};
+    for (auto ymd : {year{2005} / January / 31, year{2005} / December / 30, year{2006} / January / 31})
+        for (const auto& step : monthly) EXPECT_EQ(count(on(ymd), step), 0) << step;
+}
+
+TEST(TurnHold, UnansweredCompulsoryItemHoldsTheDayLowestNumberFirst) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    postNews(g, g.gameDate, "Answered", "", 1, 0, 0, false, "");
+    postNews(g, g.gameDate, "First question", "", 1, 0, 0, true, "");
+    postNews(g, g.gameDate, "Second question", "", 1, 0, 0, true, "");
+    EXPECT_FALSE(allRepliesGiven(g));
+    EXPECT_EQ(g.news->id, 2);
+    EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);
+    EXPECT_FALSE(allRepliesGiven(g));  // a second press shows the same item
+    EXPECT_EQ(g.news->id, 2);
+    g.news.read(2);
+    g.news->replied = kTrue;
+    g.news.write(2);
+    EXPECT_FALSE(allRepliesGiven(g));
+    EXPECT_EQ(g.news->id, 3);
+    g.news->replied = kTrue;
+    g.news.write(3);
+    EXPECT_TRUE(allRepliesGiven(g));
+}
+
+TEST(PlayTime, TheHourlyItemComesOnlyOnAWholeHour) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.prefs->minutesPlayed = 58;
+    writePrefs(g);
+    tickPlayMinute(g);
+    EXPECT_EQ(g.news.recordCount(), 1);
+    tickPlayMinute(g);
+    ASSERT_EQ(g.news.recordCount(), 2);
+    g.news.read(1);
+    EXPECT_EQ(trim(g.news->title.value), "You have been playing the game for 1 hour(s)");
+    EXPECT_EQ(g.news->text.value,
+              std::string("You have now been playing Trovane 3 for over 1 hour(s), this represents £1 worth of "
+                          "entertainment, to make a donation please visit ") +
+                  kDonationPage + " and click on the paypal button :o)");
+    EXPECT_EQ(g.news->date, g.gameDate + 1);
+    tickPlayMinute(g);
+    EXPECT_EQ(g.news.recordCount(), 2);
+    readPrefs(g);
+    EXPECT_EQ(g.prefs->minutesPlayed, 61);
+}
+
+TEST(StatusBar, ShowsDateCashInTheChosenCurrencyLabelAndPlayer) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.player.playerLabelCash = moneyUnits(-1234567);
+    g.player.playerLabelName = "Quarry Records";
+    g.player.playerForename = "Ann";
+    g.player.playerSurname = "Lee";
+    g.prefs->currencySymbol = "$";
+    g.prefs->exchangeRate = 1.77f;
+    StatusBarTexts s = statusBarTexts(g);
+    EXPECT_EQ(s.date, "Thursday 5/8/2004 ");
+    EXPECT_EQ(s.cash, "$-2,185,184");
+    EXPECT_EQ(s.company, "Quarry Records");
+    EXPECT_EQ(s.name, "Ann Lee");
+}
+
+}  // namespace

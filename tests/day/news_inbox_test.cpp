@@ -1,0 +1,202 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "floor/news_post.h"
+#include "support/calendar_world.h"
+#include "support/empty_game.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using namespace trovane::test;
+
+namespace {
+
+int32_t post(Game& g, const std::string& title, uint8_t kind = kNewsOk, int32_t link = 0, bool mustReply = false) {
+    return postNews(g, g.gameDate, title, "Body", kind, link, 0, mustReply, "");
+}
+
+NewsItemView open(Game& g, int32_t id) {
+    g.news.read(id);
+    return openNewsItem(g);
+}
+
+std::vector<int32_t> records(const std::vector<NewsRow>& rows) {
+    std::vector<int32_t> out;
+    for (const auto& r : rows) out.push_back(r.record);
+    return out;
+}
+
+int32_t fileLinked(Game& g, ScheduleRecord e) {
+    e.date = g.gameDate;
+    return addSchedule(g, e);
+}
+
+}  // namespace
+
+TEST(NewsInbox, ListIsNewestFirstWithoutDeletedItemsAndSorts) {
+    EmptyGame eg;
+    Game& g = eg.g;
+    EXPECT_TRUE(newsListRows(g).empty());
+    EXPECT_FALSE(clickNewsRow(g, {}, 0));
+    for (const char* t : {"b first", "A second", "c third"}) post(g, t);
+    post(g, std::string(300, 'x'));
+    open(g, 2);
+    ASSERT_TRUE(deleteNewsItem(g));
+    open(g, 3);
+    std::vector<NewsRow> rows = newsListRows(g);
+    EXPECT_EQ(records(rows), (std::vector<int32_t>{4, 3, 1}));
+    EXPECT_EQ(rows[0].title, std::string(256, 'x'));
+    EXPECT_EQ(rows[0].unread + "|" + rows[1].unread, "Unread|");
+    EXPECT_EQ(rows[2].date, "Thu 05/08/2004");
+
+    NewsSort sort;
+    for (auto [header, order] : {std::pair{2, std::vector<int32_t>{1, 3, 4}}, {2, {4, 3, 1}}, {1, {1, 3, 4}}}) {
+        clickNewsHeader(sort, header);
+        sortNewsRows(rows, sort);
+        EXPECT_EQ(records(rows), order) << header;
+    }
+    ASSERT_TRUE(clickNewsRow(g, rows, 1));
+    EXPECT_EQ(g.news->id, 3);
+    EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);
+}
+
+TEST(NewsInbox, ButtonsDeleteAndSidebarFollowKindAndAnswer) {
+    struct Case {
+        uint8_t kind;
+        bool mustReply, replied;
+        std::string buttons;  // per button: visible and enabled "E", visible only "v", hidden "-"
+        bool mayLeave;
+    };
+    for (const Case& c :
+         {Case{0, false, false, "E--", true}, Case{1, true, false, "EE-", false}, Case{1, true, true, "Ev-", true},
+          Case{4, false, false, "EEE", true}, Case{2, true, false, "---", false}}) {
+        SCOPED_TRACE(static_cast<int>(c.kind));
+        EmptyGame eg;
+        Game& g = eg.g;
+        int32_t id = postNews(g, g.gameDate, "Item", "Body", c.kind, 0, 0, c.mustReply, c.replied ? "Help" : "");
+        g.news->replied = boolean(c.replied);
+        g.news.write();
+        NewsItemView v = open(g, id);
+        std::string shown;
+        for (const auto& b : v.buttons) shown += !b.visible ? '-' : b.enabled ? 'E' : 'v';
+        EXPECT_EQ(shown, c.buttons);
+        EXPECT_EQ(v.sidebarEnabled, c.mayLeave);
+        EXPECT_EQ(v.helpVisible, c.replied);
+        EXPECT_EQ(deleteNewsItem(g), c.mayLeave);
+        g.news.read(id);
+        EXPECT_EQ(g.news->read, kTrue);
+    }
+}
+
+TEST(NewsInbox, UnansweredItemsHoldTheDayLowestFirst) {
+    EmptyGame eg;
+    Game& g = eg.g;
+    post(g, "Plain");
+    int32_t second = post(g, "Second", kNewsYesNo, 0, true);
+    int32_t third = post(g, "Third", kNewsYesNo, 0, true);
+    for (int32_t held : {second, third}) {
+        EXPECT_FALSE(allRepliesGiven(g));
+        EXPECT_EQ(g.news->id, held);
+        open(g, held);
+        pressNewsCmd2(g);
+        EXPECT_EQ(g.currentScreen, Screen::frmNews);
+    }
+    EXPECT_TRUE(allRepliesGiven(g));
+}
+
+TEST(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
+    EmptyGame eg;
+    Game& g = eg.g;
+    ScheduleRecord ended{};
+    ended.type = 18;
+    ended.band = addBand(g, {50});
+    int32_t id = post(g, "Option ended", kNewsOk, fileLinked(g, ended), true);
+    open(g, id);
+    pressNewsCmd1(g);
+    EXPECT_EQ(g.currentScreen, Screen::frmBandOptionDecision);
+    EXPECT_TRUE(allRepliesGiven(g));
+    open(g, id);
+    pressNewsCmd1(g);
+    EXPECT_EQ(g.currentScreen, Screen::frmNews);
+}
+
+TEST(NewsInbox, YesActsOnTheLinkedEntry) {
+    EmptyGame eg;
+    Game& g = eg.g;
+    g.player.playerLabel = 3;
+    g.gameDate = day(2004, 9, 1);
+    ScheduleRecord staff{};  // a staff member said yes: the start is filed for today
+    staff.type = 1;
+    staff.staff = 9;
+    staff.department = 4;
+    open(g, post(g, "Staff", kNewsYesNo, fileLinked(g, staff), true));
+    pressNewsCmd1(g);
+    std::vector<int32_t> today = entriesOfDay(g, g.gameDate);
+    ASSERT_EQ(today.size(), 2u);
+    g.schedule.read(today[1]);
+    EXPECT_EQ(std::vector<int>({g.schedule->type, g.schedule->staff, g.schedule->department, g.schedule->label}),
+              std::vector<int>({2, 9, 4, 3}));
+    EXPECT_TRUE(allRepliesGiven(g));
+
+    ScheduleRecord ask{};  // a rival's tour: the band takes the next support place
+    ask.type = 19;
+    ask.band = addBand(g, {50});
+    ask.gig = addGig(g, addBand(g, {50}), day(2004, 10, 1), {7});
+    open(g, post(g, "Support", kNewsYesNo, fileLinked(g, ask)));
+    pressNewsCmd1(g);
+    g.gig.read(ask.gig);
+    EXPECT_EQ(g.gig->bill[2], ask.band);
+    g.tour.read(g.gig->tour);
+    EXPECT_EQ(g.tour->supportCount, 2);
+}
+
+TEST(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
+    EmptyGame eg;
+    Game& g = eg.g;
+    g.gameDate = day(2004, 9, 1);
+    g.label.rec.name = "My Label";
+    g.label.append();
+    ScheduleRecord decision{};
+    decision.type = 4;
+    decision.band = addBand(g, {50}, 0, "The Hopefuls");
+    g.offer.rec.band = decision.band;
+    g.offer->label = 1;
+    decision.offer = g.offer.append();
+    int32_t question = post(g, "Agreed", kNewsYesNo, fileLinked(g, decision), true);
+    open(g, question);
+    pressNewsCmd2(g);
+    g.offer.read(1);
+    EXPECT_EQ(g.offer->band, -1);
+    EXPECT_EQ(entriesOfDay(g, g.gameDate).size(), 2u);
+    EXPECT_TRUE(allRepliesGiven(g));
+    g.news.read(question + 1);
+    EXPECT_EQ(trim(g.news->title.value), "The Hopefuls deal falls through.");
+    EXPECT_EQ(g.news->text.value,
+              "The Hopefuls's proposed move to My Label has fallen through after the label cancelled the deal.");
+    EXPECT_EQ(g.news->date, g.gameDate + 1);
+}
+
+TEST(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
+    EmptyGame eg;
+    Game& g = eg.g;
+    g.player.playerLabelName = "Loud Records ";
+    g.event.rec.replyText = {Text<256>("We stand by them."), Text<256>("We are appalled."), Text<256>("...")};
+    int32_t story = postNews(g, g.gameDate, "Scandal", "Text", kNewsMediaStory, 0, 1, false, "");
+    g.event.append();
+    open(g, story);
+    pressNewsCmd2(g);
+    g.news.read(story + 1);
+    EXPECT_EQ(trim(g.news->title.value), "Loud Records boss responds to media");
+    EXPECT_EQ(g.news->text.value, "We are appalled.");
+    EXPECT_EQ(g.news->replied, kTrue);
+    EXPECT_TRUE(open(g, story).buttons[1].enabled);
+    pressNewsCmd1(g);
+    pressNewsCmd3(g);
+    g.news.read(story + 2);
+    EXPECT_EQ(g.news->text.value, "We stand by them.");
+    EXPECT_EQ(g.news.recordCount(), story + 3);
+}

@@ -1,0 +1,70 @@
+#include <gtest/gtest.h>
+
+#include "floor/list_fillers.h"
+#include "support/empty_game.h"
+
+using namespace trovane;
+
+namespace {
+
+struct ListFixture : ::testing::Test {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+
+    void SetUp() override {
+        addCountry("England", "English", "E");  // 1
+        addCountry("Peru", "Peruvian", "S");    // 2, no city
+        addCountry(" France ", "French", "E");  // 3
+        addCity("London", 1);
+        addCity("  Paris", 3);
+        addCity("Leeds ", 1);
+        for (const char* name : {"Rock", " Pop "}) {
+            g.style.rec = StyleRecord{};
+            g.style->name = name;
+            g.style.append();
+        }
+        for (const char* name : {"Big Sound", "Lowlife "}) {
+            g.label.rec = LabelRecord{};
+            g.label->name = name;
+            g.label.append();
+        }
+    }
+    void addCountry(const char* name, const char* adjective, const char* region) {
+        g.country.rec = CountryRecord{};
+        g.country->name = name;
+        g.country->adjective = adjective;
+        g.country->region = region;
+        g.country.append();
+    }
+    void addCity(const char* name, uint8_t country) {
+        g.city.rec = CityRecord{};
+        g.city->name = name;
+        g.city->country = country;
+        g.city.append();
+    }
+};
+
+using Rows = std::vector<ListRow>;
+
+}  // namespace
+
+TEST_F(ListFixture, StylesAndLabels) {
+    EXPECT_EQ(listStyles(g, 1), (Rows{{"Rock", 1}, {"Pop", 2}}));
+    EXPECT_EQ(listStyles(g, 2), (Rows{{"All Styles", 0}, {"Rock", 1}, {"Pop", 2}}));
+    EXPECT_EQ(listStyles(g, 3), Rows{});
+    EXPECT_EQ(listLabels(g, 1), (Rows{{"Big Sound", 1}, {"Lowlife", 2}}));
+    EXPECT_EQ(listLabels(g, 2), Rows{});
+}
+
+TEST_F(ListFixture, CitiesAllOrOfOneCountry) {
+    EXPECT_EQ(listCities(g, 1, 0), (Rows{{"London", 1}, {"Paris", 2}, {"Leeds", 3}}));
+    EXPECT_EQ(listCities(g, 2, 1), (Rows{{"London", 1}, {"Leeds", 3}}));
+    EXPECT_EQ(listCities(g, 2, 2), Rows{});
+}
+
+TEST_F(ListFixture, CountriesByAdjectiveNameOrRegionWithCities) {
+    EXPECT_EQ(listCountries(g, 1, ""), (Rows{{"English", 1}, {"Peruvian", 2}, {"French", 3}}));
+    EXPECT_EQ(listCountries(g, 2, ""), (Rows{{"England", 1}, {"Peru", 2}, {"France", 3}}));
+    EXPECT_EQ(listCountries(g, 3, "E"), (Rows{{"England", 1}, {"France", 3}}));
+    EXPECT_EQ(listCountries(g, 3, "S"), Rows{}) << "Peru has no city";
+}
