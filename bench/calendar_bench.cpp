@@ -97,7 +97,7 @@ void BM_FillTheNewsListOf5000Items(benchmark::State& state) {
     createEmptyWorkingSet(g);
     std::string body(600, 'n');
     for (int i = 0; i < 5000; ++i)
-        postNews(g, g.gameDate + i / 10, "News item number " + std::to_string(i), body, 0, 0, 0, false, "");
+        postNews(g, {.date = g.gameDate + i / 10, .title = "News item number " + std::to_string(i), .text = body});
     for (auto _ : state) benchmark::DoNotOptimize(newsListRows(g));
     closeAllTables(g);
 }

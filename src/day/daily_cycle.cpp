@@ -147,7 +147,7 @@ void tickPlayMinute(Game& g) {
         "You have now been playing Trovane 3 for over {} hour(s), this represents {} worth of entertainment, "
         "to make a donation please visit {} and click on the paypal button :o) ",
         hours, formatMoneyValue(g, hours, "###,##0"), kDonationPage);
-    postNews(g, g.gameDate + 1, title, text, 0, 0, 0, false, "");
+    postNews(g, {.date = g.gameDate + 1, .title = title, .text = text});
 }
 
 }  // namespace trovane

@@ -173,10 +173,10 @@ void dealFallsThrough(Game& g, int32_t scheduleLink) {
 
     std::string band = trim(g.band->name.value);
     g.label.read(offeringLabel);
-    postNews(g, g.gameDate + 1, band + " deal falls through.",
-             band + "'s proposed move to " + trim(g.label->name.value) +
-                 " has fallen through after the label cancelled the deal.",
-             kNewsOk, 0, 0, false, "");
+    postNews(g, {.date = g.gameDate + 1,
+                 .title = band + " deal falls through.",
+                 .text = band + "'s proposed move to " + trim(g.label->name.value) +
+                         " has fallen through after the label cancelled the deal."});
     voidOffers(g, e.band);
 }
 
@@ -317,8 +317,9 @@ void answerMediaStory(Game& g, int choice) {
         throw FatalError(fmt::format("Subscript out of range: story reply {}", choice));
     std::string text = expandMacros(g, replies[static_cast<std::size_t>(choice)].value, first, second);
     applyStoryReply(g, choice);
-    postNews(g, g.gameDate, trim(g.player.playerLabelName.value) + " boss responds to media", text, kNewsOk, 0, 0,
-             false, "");
+    postNews(
+        g,
+        {.date = g.gameDate, .title = trim(g.player.playerLabelName.value) + " boss responds to media", .text = text});
 }
 
 bool deleteNewsItem(Game& g) {

@@ -7,14 +7,11 @@
 #include <string_view>
 #include <vector>
 
+#include "floor/news_post.h"
+
 namespace trovane {
 
 class Game;
-
-// Kinds of item, by the buttons they carry.
-inline constexpr uint8_t kNewsOk = 0;          // cmd1 ok
-inline constexpr uint8_t kNewsYesNo = 1;       // cmd1 yes, cmd2 no
-inline constexpr uint8_t kNewsMediaStory = 4;  // cmd1 defend, cmd2 condemn, cmd3 no comment
 
 // One row of the list: the "Unread" mark, the date, the title, the record number.
 struct NewsRow {

@@ -16,20 +16,19 @@ void setCut(Text<N>& field, std::string_view text) {
 
 }  // namespace
 
-int32_t postNews(Game& g, double date, std::string_view title, std::string_view text, uint8_t kind,
-                 int32_t scheduleLink, int16_t eventLink, bool mustReply, std::string_view extra) {
+int32_t postNews(Game& g, const NewsItem& item) {
     NewsRecord& n = g.news.rec;
     n = NewsRecord{};
-    n.date = date;
-    n.kind = kind;
-    setCut(n.title, title);
-    setCut(n.text, text);
-    n.scheduleLink = scheduleLink;
-    n.eventLink = eventLink;
+    n.date = item.date;
+    n.kind = item.kind;
+    setCut(n.title, item.title);
+    setCut(n.text, item.text);
+    n.scheduleLink = item.scheduleLink;
+    n.eventLink = item.eventLink;
     n.replied = kFalse;
     n.read = kFalse;
-    n.mustReply = boolean(mustReply);
-    setCut(n.extra, extra);
+    n.mustReply = boolean(item.mustReply);
+    setCut(n.extra, item.extra);
     n.deleted = kFalse;
     return g.news.append();
 }

@@ -10,8 +10,4 @@ void releaseDay(Game& g) { static_cast<void>(g); }
 void pressWeek(Game& g) { static_cast<void>(g); }
 void distributorNeeded(Game& g) { static_cast<void>(g); }
 
-std::string discReleaseText(Game& g) {
-    return "Releasing " + trim(g.disc->title.value) + (g.disc->isSingle == 1 ? " (single)" : " (album)");
-}
-
 }  // namespace trovane

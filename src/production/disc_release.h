@@ -12,7 +12,5 @@ void releaseDay(Game& g);
 void pressWeek(Game& g);
 // Schedule type 26: the entry's disc needs a distributor before it comes out.
 void distributorNeeded(Game& g);
-// How a band's calendar shows the release day of the disc in the disc buffer.
-std::string discReleaseText(Game& g);
 
 }  // namespace trovane

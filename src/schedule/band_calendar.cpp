@@ -150,7 +150,9 @@ std::string scheduleActivityText(Game& g, int32_t id) {
         return "Playing " + trim(g.venue->name.value);
     case 10: return "Travelling";
     case 11: return "Resting";
-    case 15: g.disc.read(e.disc); return discReleaseText(g);
+    case 15:
+        g.disc.read(e.disc);
+        return "Releasing " + trim(g.disc->title.value) + (g.disc->isSingle == 1 ? " (single)" : " (album)");
     case 17: g.media.read(e.media); return "Promotion (" + trim(g.media->mediaName.value) + ")";
     case 28: return "Retiring";
     default: return "";

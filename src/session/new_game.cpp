@@ -212,14 +212,15 @@ void foundLabel(Game& g, const NewPlayer& player, const LabelChoices& choice) {
 
     std::string forename = trim(player.choices.forename), surname = trim(player.choices.surname);
     std::string label = trim(choice.name);
-    postNews(
-        g, g.gameDate, fmt::format("New indie label founded by {} {}", forename, surname),
-        fmt::format("New independent record label {} opened the doors of their {} office for the first time "
-                    "today. New boss {} {} will have {} work cut out just trying to keep the label afloat in "
-                    "the current climate but with hard work, perseverence and luck one day maybe {} can join "
-                    "the hallowed ranks of the major labels. Only time will tell if {} is up to the challenge.",
-                    label, trim(choice.city), forename, surname, personWord(3, player.choices.male), label, forename),
-        0, 0, 0, false, "");
+    postNews(g,
+             {.date = g.gameDate,
+              .title = fmt::format("New indie label founded by {} {}", forename, surname),
+              .text = fmt::format(
+                  "New independent record label {} opened the doors of their {} office for the first time "
+                  "today. New boss {} {} will have {} work cut out just trying to keep the label afloat in "
+                  "the current climate but with hard work, perseverence and luck one day maybe {} can join "
+                  "the hallowed ranks of the major labels. Only time will tell if {} is up to the challenge.",
+                  label, trim(choice.city), forename, surname, personWord(3, player.choices.male), label, forename)});
 
     readPrefs(g);
     g.prefs->labelName = choice.name;
@@ -238,14 +239,15 @@ void takeOverLabel(Game& g, const NewPlayer& player, int16_t labelNumber) {
     std::string forename = trim(player.choices.forename), surname = trim(player.choices.surname);
     std::string label = trim(g.label->name.value);
     std::string his = personWord(3, player.choices.male);
-    postNews(g, g.gameDate, fmt::format("{} {} appointed as new boss of {}", forename, surname, label),
-             fmt::format("Assembled journalists were left somewhat surprised when unknown {} {} was unveiled as the "
-                         "new head of {} at a press conference today. Although the {} year old has no previous "
-                         "experience in the industry a spokesperson for the label was quick to defend their brave "
-                         "appointment, insisting that the label 'has the upmost confidence in {} abilities and the "
-                         "board fully backs the appointment.' Only time will tell if their gamble will pay off.",
-                         forename, surname, label, player.staff.age, his),
-             0, 0, 0, false, "");
+    postNews(g, {.date = g.gameDate,
+                 .title = fmt::format("{} {} appointed as new boss of {}", forename, surname, label),
+                 .text = fmt::format(
+                     "Assembled journalists were left somewhat surprised when unknown {} {} was unveiled as the "
+                     "new head of {} at a press conference today. Although the {} year old has no previous "
+                     "experience in the industry a spokesperson for the label was quick to defend their brave "
+                     "appointment, insisting that the label 'has the upmost confidence in {} abilities and the "
+                     "board fully backs the appointment.' Only time will tell if their gamble will pay off.",
+                     forename, surname, label, player.staff.age, his)});
     g.player.playerLabel = labelNumber;
     startNewGame(g, player.staff);
 }

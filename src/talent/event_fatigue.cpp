@@ -84,7 +84,7 @@ void askForABreak(Game& g) {
                        w.are + " currently unable to give 100% in " + w.their + " recent activities. As a result " +
                        w.they + " " + w.are + " requesting you incorporate a lengthy break into " + w.their +
                        " schedule as soon as possible.";
-    postNews(g, g.gameDate + 1, name + " demand" + w.s + " a break", text, 0, 0, 0, false, "");
+    postNews(g, {.date = g.gameDate + 1, .title = name + " demand" + w.s + " a break", .text = text});
 }
 
 }  // namespace

@@ -176,9 +176,9 @@ TEST_F(TwoYearsOfDays, YearEndSchedulesTheYearAfterNextOnlyFromTheSecondYear) {
 TEST(TurnHold, UnansweredCompulsoryItemHoldsTheDayLowestNumberFirst) {
     test::EmptyGame eg;
     Game& g = eg.g;
-    postNews(g, g.gameDate, "Answered", "", 1, 0, 0, false, "");
-    postNews(g, g.gameDate, "First question", "", 1, 0, 0, true, "");
-    postNews(g, g.gameDate, "Second question", "", 1, 0, 0, true, "");
+    postNews(g, {.date = g.gameDate, .title = "Answered", .text = "", .kind = 1});
+    postNews(g, {.date = g.gameDate, .title = "First question", .text = "", .kind = 1, .mustReply = true});
+    postNews(g, {.date = g.gameDate, .title = "Second question", .text = "", .kind = 1, .mustReply = true});
     EXPECT_FALSE(allRepliesGiven(g));
     EXPECT_EQ(g.news->id, 2);
     EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);

@@ -16,7 +16,12 @@ using namespace trovane::test;
 namespace {
 
 int32_t post(Game& g, const std::string& title, uint8_t kind = kNewsOk, int32_t link = 0, bool mustReply = false) {
-    return postNews(g, g.gameDate, title, "Body", kind, link, 0, mustReply, "");
+    return postNews(g, {.date = g.gameDate,
+                        .title = title,
+                        .text = "Body",
+                        .kind = kind,
+                        .scheduleLink = link,
+                        .mustReply = mustReply});
 }
 
 NewsItemView open(Game& g, int32_t id) {
@@ -77,7 +82,12 @@ TEST(NewsInbox, ButtonsDeleteAndSidebarFollowKindAndAnswer) {
         SCOPED_TRACE(static_cast<int>(c.kind));
         EmptyGame eg;
         Game& g = eg.g;
-        int32_t id = postNews(g, g.gameDate, "Item", "Body", c.kind, 0, 0, c.mustReply, c.replied ? "Help" : "");
+        int32_t id = postNews(g, {.date = g.gameDate,
+                                  .title = "Item",
+                                  .text = "Body",
+                                  .kind = c.kind,
+                                  .mustReply = c.mustReply,
+                                  .extra = c.replied ? "Help" : ""});
         g.news->replied = boolean(c.replied);
         g.news.write();
         NewsItemView v = open(g, id);
@@ -185,7 +195,8 @@ TEST(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
     Game& g = eg.g;
     g.player.playerLabelName = "Loud Records ";
     g.event.rec.replyText = {Text<256>("We stand by them."), Text<256>("We are appalled."), Text<256>("...")};
-    int32_t story = postNews(g, g.gameDate, "Scandal", "Text", kNewsMediaStory, 0, 1, false, "");
+    int32_t story =
+        postNews(g, {.date = g.gameDate, .title = "Scandal", .text = "Text", .kind = kNewsMediaStory, .eventLink = 1});
     g.event.append();
     open(g, story);
     pressNewsCmd2(g);

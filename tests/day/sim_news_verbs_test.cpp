@@ -31,7 +31,11 @@ TEST(SimNewsVerbs, AHeldDayIsAnsweredFromTheCommandLine) {
     {
         Game g(data.path(), 1);
         createEmptyWorkingSet(g);
-        postNews(g, g.gameDate, "Sign them?", "They want to sign.", kNewsYesNo, 0, 0, true, "");
+        postNews(g, {.date = g.gameDate,
+                     .title = "Sign them?",
+                     .text = "They want to sign.",
+                     .kind = kNewsYesNo,
+                     .mustReply = true});
         closeAllTables(g);
     }
     auto [held, heldOut] = sim(data, "advance 3");

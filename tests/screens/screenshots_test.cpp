@@ -62,13 +62,21 @@ TEST_F(ScreenTest, ScreenshotsOfEveryScreenAtBothSizes) {
 
     startNewGameAsPlayer();
     for (int i = 0; i < 30; ++i)
-        postNews(*game, game->gameDate + 1, fmt::format("Item {} of a busy week in the music business", i), kLongText,
-                 0, 0, 0, false, "");
-    postNews(*game, game->gameDate + 1,
+        postNews(*game, {.date = game->gameDate + 1,
+                         .title = fmt::format("Item {} of a busy week in the music business", i),
+                         .text = kLongText});
+    postNews(
+        *game,
+        {.date = game->gameDate + 1,
+         .title =
              "The Paper Lanterns' singer caught in a row with a photographer outside a London club late last night",
-             kLongText, 4, 0, 0, false, "");
-    postNews(*game, game->gameDate + 1, "Greystone Music want to sign Tess Calloway's support act",
-             "Will you let them go?", 1, 0, 0, false, "Saying yes lets the act leave your label at once.");
+         .text = kLongText,
+         .kind = 4});
+    postNews(*game, {.date = game->gameDate + 1,
+                     .title = "Greystone Music want to sign Tess Calloway's support act",
+                     .text = "Will you let them go?",
+                     .kind = 1,
+                     .extra = "Saying yes lets the act leave your label at once."});
     for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
         window->resize(size);
         QApplication::processEvents();

@@ -91,8 +91,12 @@ TEST_F(ScreenTest, ContinueHasKeysAndShowsTheLoadingScreenBeforeTheDayRuns) {
 
 TEST_F(ScreenTest, AnUnansweredQuestionHoldsTheDayAndTheSidebarUntilAnswered) {
     startNewGameAsPlayer();
-    postNews(*game, game->gameDate, "Will you play the Harbour Festival?", "The organisers need an answer.", 1, 0, 0,
-             true, "Answer yes to put your act on the bill.");
+    postNews(*game, {.date = game->gameDate,
+                     .title = "Will you play the Harbour Festival?",
+                     .text = "The organisers need an answer.",
+                     .kind = 1,
+                     .mustReply = true,
+                     .extra = "Answer yes to put your act on the bill."});
     const double today = game->gameDate;
     for (int press = 0; press < 2; ++press) {  // a second press shows the same item again
         if (press == 0)
@@ -121,8 +125,8 @@ TEST_F(ScreenTest, AnUnansweredQuestionHoldsTheDayAndTheSidebarUntilAnswered) {
 
 TEST_F(ScreenTest, NewsSortsByItsHeadersAndDeletedItemsLeaveTheList) {
     startNewGameAsPlayer();
-    postNews(*game, game->gameDate, "Zebra Crossing sign with Greystone", "", 0, 0, 0, false, "");
-    postNews(*game, game->gameDate, "Attic Lights split", "", 0, 0, 0, false, "");
+    postNews(*game, {.date = game->gameDate, .title = "Zebra Crossing sign with Greystone", .text = ""});
+    postNews(*game, {.date = game->gameDate, .title = "Attic Lights split", .text = ""});
     window->openScreen(Screen::frmNews);
     auto titles = [&] {
         auto* m = find<QTableView>("flxNews")->model();
