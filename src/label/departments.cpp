@@ -1,6 +1,7 @@
 #include "label/departments.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "world/game.h"
 
@@ -17,6 +18,14 @@ void setDepartmentRating(Game& g, int d) {
     } else {
         dep.rating = static_cast<uint8_t>(rating);
     }
+}
+
+int applyDepartmentError(Game& g, int value, int d) {
+    const int q = g.label->department[static_cast<std::size_t>(d)].rating;
+    const int e1 = static_cast<int>(std::floor(g.rng.draw() * (100 - q)));
+    const int e2 = static_cast<int>(std::floor(g.rng.draw() * (100 - q)));
+    const int moved = value + toInteger(value * e1 / 100.0) - toInteger(value * e2 / 100.0);
+    return std::clamp(moved, 0, 100);
 }
 
 void setStaffWage(Game& g) {
