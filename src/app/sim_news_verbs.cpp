@@ -228,8 +228,7 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
         for (std::size_t i = 0; i < ids.size(); ++i) {
             g.schedule.read(ids[i]);
             const ScheduleRecord& e = g.schedule.rec;
-            const ScheduleHandler* h = scheduleHandler(e.type);
-            std::string handler = h ? std::string(h->name) : "";
+            std::string handler(scheduleAction(e.type).name);
             if (ctx.json) {
                 std::string rec = recordToString(e, DumpFormat::json);
                 rec.insert(1, fmt::format("\"position\":{},\"handler\":{},", i + 1, jsonQuote(handler)));

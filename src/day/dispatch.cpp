@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "day/schedule_replies.h"
 #include "events/ceremonies.h"
 #include "events/scores.h"
 #include "events/story_events.h"
@@ -18,6 +19,7 @@
 #include "rivals/rival_bands.h"
 #include "rivals/rival_touring.h"
 #include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
 #include "talent/contract_progress.h"
 #include "talent/contracts.h"
 #include "talent/event_fatigue.h"
@@ -30,43 +32,45 @@ namespace {
 
 using G = ScheduleGuard;
 
-constexpr int kLastType = 31;
+constexpr ScheduleAction runs(std::string_view name, void (*run)(Game&)) { return {name, run, nullptr, nullptr}; }
 
-// Indexed by type. A row without a function is a type that runs nothing.
-constexpr std::array<ScheduleHandler, kLastType + 1> kHandlers = {{
-    {"", nullptr, G::none},                                             // 0: a blank entry
-    {"decideStaffOffer", decideStaffOffer, G::none},                    // 1
-    {"hireStaff", hireStaff, G::none},                                  // 2
-    {"fireStaff", fireStaff, G::none},                                  // 3
-    {"decideOffers", decideOffers, G::bandNotRetired},                  // 4
-    {"signBand", signBand, G::bandNotRetired},                          // 5
-    {"bandReport", bandReport, G::none},                                // 6
-    {"recordingDay", recordingDay, G::bandFitAndNotRetired},            // 7
-    {"performGig", performGig, G::gigCanGoAhead},                       // 8
-    {"imageReport", imageReport, G::none},                              // 9
-    {"", nullptr, G::none},                                             // 10: a travel day only occupies the band
-    {"", nullptr, G::none},                                             // 11: so does a rest day
-    {"performStage", performStage, G::none},                            // 12
-    {"finishCeremony", finishCeremony, G::none},                        // 13
-    {"judgeCeremony", judgeCeremony, G::none},                          // 14
-    {"releaseDay", releaseDay, G::none},                                // 15
-    {"artistBirthday", artistBirthday, G::none},                        // 16
-    {"performAppearance", performAppearance, G::appearanceCanGoAhead},  // 17
-    {"contractPoint", contractPoint, G::none},                          // 18
-    {"offerSupportSlot", offerSupportSlot, G::none},                    // 19
-    {"rivalFollowUpSingle", rivalFollowUpSingle, G::none},              // 20
-    {"inviteToCeremony", inviteToCeremony, G::none},                    // 21
-    {"fillFestivalBill", fillFestivalBill, G::none},                    // 22
-    {"", nullptr, G::none},                                             // 23: the link of a festival invitation
-    {"openBusiness", openBusiness, G::none},                            // 24
-    {"pressWeek", pressWeek, G::none},                                  // 25
-    {"distributorNeeded", distributorNeeded, G::none},                  // 26
-    {"announceBandRetirement", announceBandRetirement, G::none},        // 27
-    {"retireBand", [](Game& g) { retireBand(g, false); }, G::none},     // 28
-    {"announceArtistRetirement", announceArtistRetirement, G::none},    // 29
-    {"retireArtist", [](Game& g) { retireArtist(g, 1, g.schedule->artist); }, G::none},  // 30
-    {"memberLeaves", memberLeaves, G::none},                                             // 31
+// Indexed by type, beside the data of each type in scheduleTypeInfo.
+const std::array<ScheduleAction, kLastScheduleType + 1> kActions = {{
+    {},                                                                  // 0: a blank entry
+    {"decideStaffOffer", decideStaffOffer, startInThePost, nullptr},     // 1
+    runs("hireStaff", hireStaff),                                        // 2
+    runs("fireStaff", fireStaff),                                        // 3
+    {"decideOffers", decideOffers, confirmTheDeal, dealFallsThrough},    // 4
+    runs("signBand", signBand),                                          // 5
+    runs("bandReport", bandReport),                                      // 6
+    runs("recordingDay", recordingDay),                                  // 7
+    runs("performGig", performGig),                                      // 8
+    {"imageReport", imageReport, takeTheNewLook, nullptr},               // 9
+    {},                                                                  // 10: a travel day only occupies the band
+    {},                                                                  // 11: so does a rest day
+    runs("performStage", performStage),                                  // 12
+    runs("finishCeremony", finishCeremony),                              // 13
+    runs("judgeCeremony", judgeCeremony),                                // 14
+    runs("releaseDay", releaseDay),                                      // 15
+    runs("artistBirthday", artistBirthday),                              // 16
+    runs("performAppearance", performAppearance),                        // 17
+    runs("contractPoint", contractPoint),                                // 18
+    {"offerSupportSlot", offerSupportSlot, joinTourAsSupport, nullptr},  // 19
+    runs("rivalFollowUpSingle", rivalFollowUpSingle),                    // 20
+    {"inviteToCeremony", inviteToCeremony, attendTheCeremony, nullptr},  // 21
+    runs("fillFestivalBill", fillFestivalBill),                          // 22
+    {"", nullptr, playTheFestival, nullptr},                             // 23: the link of a festival invitation
+    runs("openBusiness", openBusiness),                                  // 24
+    runs("pressWeek", pressWeek),                                        // 25
+    runs("distributorNeeded", distributorNeeded),                        // 26
+    runs("announceBandRetirement", announceBandRetirement),              // 27
+    runs("retireBand", [](Game& g) { retireBand(g, false); }),           // 28
+    runs("announceArtistRetirement", announceArtistRetirement),          // 29
+    runs("retireArtist", [](Game& g) { retireArtist(g, 1, g.schedule->artist); }),  // 30
+    runs("memberLeaves", memberLeaves),                                             // 31
 }};
+
+constexpr ScheduleAction kNothing{};
 
 // Reads the entry's band into the band buffer, when the entry has one.
 void readEntryBand(Game& g, const ScheduleRecord& entry) {
@@ -95,21 +99,21 @@ void announce(Game& g, std::string_view handler, const ScheduleRecord& entry) {
 
 }  // namespace
 
-const ScheduleHandler* scheduleHandler(int type) {
-    if (type < 0 || type > kLastType) return nullptr;
-    const ScheduleHandler& h = kHandlers[static_cast<std::size_t>(type)];
-    return h.run ? &h : nullptr;
+const ScheduleAction& scheduleAction(int type) {
+    if (type < 0 || type > kLastScheduleType) return kNothing;
+    return kActions[static_cast<std::size_t>(type)];
 }
 
 void runScheduleEntry(Game& g) {
     // The handler may file, read or rewrite schedule entries; the energy step
     // is for the entry that was run.
     const ScheduleRecord entry = g.schedule.rec;
-    if (const ScheduleHandler* h = scheduleHandler(entry.type)) {
-        if (passes(g, h->guard, entry)) {
-            announce(g, h->name, entry);
-            h->run(g);
-        } else if (entry.type == 7) {
+    const ScheduleAction& action = scheduleAction(entry.type);
+    if (action.run != nullptr) {
+        if (passes(g, scheduleTypeInfo(entry.type).guard, entry)) {
+            announce(g, action.name, entry);
+            action.run(g);
+        } else if (isType(entry, ScheduleType::recordingDay)) {
             // The day lost to rest is booked again, so the recording still completes.
             announce(g, "extendBooking", entry);
             extendBooking(g);

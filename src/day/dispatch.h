@@ -4,28 +4,25 @@
 #include <cstdint>
 #include <string_view>
 
+#include "world/records.h"
+
 namespace trovane {
 
 class Game;
 
-// What an entry's band must be for its handler to run.
-enum class ScheduleGuard {
-    none,
-    bandNotRetired,        // signing and offers
-    bandFitAndNotRetired,  // a recording day
-    gigCanGoAhead,         // a gig
-    appearanceCanGoAhead,  // a promotion appearance: a band, fit and not retired
-};
-
-struct ScheduleHandler {
-    std::string_view name;
+// The day's half of a schedule type (its data half is scheduleTypeInfo): the
+// operation an entry of the type runs, and what a yes or a no to the news item
+// linked to the entry carries out. Each is nullptr where the type has none.
+struct ScheduleAction {
+    std::string_view name;  // the operation's name, as traces show it
     void (*run)(Game&);
-    ScheduleGuard guard;
+    void (*onYes)(Game&, const ScheduleRecord&);
+    void (*onNo)(Game&, const ScheduleRecord&);
 };
 
-// The handler of a type, or nullptr for a type that only occupies its band
-// (10 travel, 11 rest), marks something (23) or was called off (255).
-const ScheduleHandler* scheduleHandler(int type);
+// The action of a type; a type that runs nothing (10 travel, 11 rest, 23 a
+// festival invitation's link, 255 called off) has an empty one.
+const ScheduleAction& scheduleAction(int type);
 
 // Runs the entry in the schedule buffer: its guard, its handler, then the
 // energy its band spent. A recording day lost to rest extends the booking.

@@ -7,13 +7,12 @@
 
 #include <fmt/format.h>
 
+#include "day/dispatch.h"
 #include "events/story_text.h"
 #include "floor/formats.h"
 #include "floor/news_post.h"
-#include "label/image.h"
-#include "live/festivals.h"
 #include "schedule/schedule.h"
-#include "talent/contracts.h"
+#include "schedule/schedule_types.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -21,9 +20,6 @@
 namespace trovane {
 
 namespace {
-
-// A void offer names band 65535.
-constexpr int16_t kVoidOfferBand = -1;
 
 // The news record as the list reads it: the same layout, with the body and
 // the help left as raw bytes, which the list never shows.
@@ -71,41 +67,15 @@ bool okOpensDecision(Game& g) {
     g.schedule.read(n.scheduleLink);
     if (n.replied != kFalse) return false;
     const ScheduleRecord e = g.schedule.rec;
-    if (e.type == 18) {
-        n.replied = kTrue;
-        g.news.write();
-        g.currentScreen = Screen::frmBandOptionDecision;
-        return true;
-    }
-    if (e.type == 26) {
-        n.replied = kTrue;
-        g.news.write();
-        g.disc.read(e.disc);
-        g.band.read(e.band);
-        g.currentScreen = Screen::frmChooseDistributor;
-        return true;
-    }
-    return false;
-}
-
-// A yes to a rival's tour: the band takes the next support place on every gig.
-void joinTourAsSupport(Game& g, const ScheduleRecord& e) {
-    g.gig.read(e.gig);
-    g.tour.read(g.gig->tour);
-    g.tour->supportCount = narrow<uint8_t>(g.tour->supportCount + 1);
-    g.tour.write();
-    const TourRecord tour = g.tour.rec;
-    auto slot = static_cast<std::size_t>(tour.supportCount);
-    int gigs = std::min<int>(tour.gigCount, static_cast<int>(tour.gigs.size()));
-    for (int i = 0; i < gigs; ++i) {
-        int32_t gig = tour.gigs[static_cast<std::size_t>(i)];
-        if (gig < 1) continue;
-        g.gig.read(gig);
-        if (slot >= g.gig->bill.size())
-            throw FatalError(fmt::format("Subscript out of range: support place {} on gig {}", slot, gig));
-        g.gig->bill[slot] = e.band;
-        g.gig.write();
-    }
+    const ScheduleTypeInfo& type = scheduleTypeInfo(e.type);
+    if (type.reply != ScheduleReply::okOpensDecision) return false;
+    n.replied = kTrue;
+    g.news.write();
+    // The decision screen works on the entry's band and disc.
+    if (e.disc > 0) g.disc.read(e.disc);
+    if (e.band > 0) g.band.read(e.band);
+    g.currentScreen = type.decisionScreen;
+    return true;
 }
 
 void replyYes(Game& g) {
@@ -115,69 +85,7 @@ void replyYes(Game& g) {
     if (n.scheduleLink == 0) return;
     g.schedule.read(n.scheduleLink);
     const ScheduleRecord e = g.schedule.rec;
-    switch (e.type) {
-    case 1: {
-        // The new person starts with today's run of the schedule.
-        ScheduleRecord start{};
-        start.type = 2;
-        start.date = g.gameDate;
-        start.department = e.department;
-        start.staff = e.staff;
-        start.label = g.player.playerLabel;
-        addSchedule(g, start);
-        break;
-    }
-    case 4:
-        g.band.read(e.band);
-        g.offer.read(e.offer);
-        scheduleSigning(g);
-        break;
-    case 9:
-        g.artist.read(e.artist);
-        g.look.read(e.look);
-        changeLook(g);
-        break;
-    case 19: joinTourAsSupport(g, e); break;
-    case 21:
-        g.ceremony.read(e.ceremony);
-        g.ceremony->playerInvited = kTrue;
-        g.ceremony.write();
-        break;
-    case 23:
-        g.band.read(e.band);
-        g.gig.read(e.gig);
-        g.tour.read(g.gig->tour);
-        g.festival.read(g.tour->festival);
-        acceptFestivalSlot(g, e.value);
-        break;
-    default: break;
-    }
-}
-
-// A no to a deal the band has agreed: the offer is void, the band decides
-// again today among what is left, and the player hears of it.
-void dealFallsThrough(Game& g, int32_t scheduleLink) {
-    g.schedule.read(scheduleLink);
-    const ScheduleRecord e = g.schedule.rec;
-    g.band.read(e.band);
-    g.offer.read(e.offer);
-    int16_t offeringLabel = g.offer->label;
-    g.offer->band = kVoidOfferBand;
-    g.offer.write();
-
-    ScheduleRecord decideAgain{};
-    decideAgain.type = 4;
-    decideAgain.date = g.gameDate;
-    decideAgain.band = e.band;
-    addSchedule(g, decideAgain);
-
-    std::string band = trim(g.band->name.value);
-    g.label.read(offeringLabel);
-    postNews(g, {.date = g.gameDate + 1,
-                 .title = band + " deal falls through.",
-                 .text = band + "'s proposed move to " + trim(g.label->name.value) +
-                         " has fallen through after the label cancelled the deal."});
-    voidOffers(g, e.band);
+    if (const auto onYes = scheduleAction(e.type).onYes) onYes(g, e);
 }
 
 }  // namespace
@@ -285,7 +193,11 @@ void pressNewsCmd1(Game& g) {
 void pressNewsCmd2(Game& g) {
     const NewsRecord item = g.news.rec;
     if (item.kind == kNewsYesNo) {
-        if (item.scheduleLink > 0 && g.schedule->type == 4) dealFallsThrough(g, item.scheduleLink);
+        if (item.scheduleLink > 0) {
+            g.schedule.read(item.scheduleLink);
+            const ScheduleRecord e = g.schedule.rec;
+            if (const auto onNo = scheduleAction(e.type).onNo) onNo(g, e);
+        }
         // Posting the news above took the buffer: the answer belongs to the question.
         g.news.read(item.id);
         g.news->replied = kTrue;

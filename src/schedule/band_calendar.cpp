@@ -4,6 +4,7 @@
 
 #include "floor/formats.h"
 #include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/record_store.h"
@@ -12,22 +13,6 @@
 namespace trovane {
 
 namespace {
-
-bool occupiesOwnBand(uint8_t type) {
-    switch (type) {
-    case 5:
-    case 7:
-    case 8:
-    case 10:
-    case 11:
-    case 15:
-    case 17:
-    case 28: return true;
-    default: return false;
-    }
-}
-
-bool isTourDay(uint8_t type) { return type == 8 || type == 10 || type == 11; }
 
 // Keeps one year's day file open while a stretch of dates is tested, so a
 // stretch costs one opening per year and not one per day.
@@ -96,8 +81,8 @@ int32_t engagementOn(Game& g, const DayRecord* d) {
         g.schedule.read(d->entries[static_cast<std::size_t>(i)]);
         const ScheduleRecord e = g.schedule.rec;
         if (e.band == band) {
-            if (occupiesOwnBand(e.type)) return e.id;
-        } else if (isTourDay(e.type) && onTheBill(g, e, band)) {
+            if (scheduleTypeInfo(e.type).occupiesBand) return e.id;
+        } else if (scheduleTypeInfo(e.type).occupiesTheBill && onTheBill(g, e, band)) {
             supporting = e.id;
         }
     }
@@ -132,31 +117,8 @@ std::string scheduleActivityText(Game& g, int32_t id) {
     if (id == 0) return "None";
     g.schedule.read(id);
     const ScheduleRecord e = g.schedule.rec;
-    switch (e.type) {
-    case 5: g.label.read(e.label); return "Signing for " + trim(g.label->name.value);
-    case 7:
-        g.disc.read(e.disc);
-        return "Recording " + trim(g.disc->title.value) + " " + (g.disc->isSingle == 1 ? "(single)" : "(album)");
-    case 8:
-        g.gig.read(e.gig);
-        if (g.gig->tour > 0) {
-            g.tour.read(g.gig->tour);
-            if (g.tour->festival != 0) {
-                g.festival.read(g.tour->festival);
-                return "Playing " + trim(g.festival->festivalName.value);
-            }
-        }
-        g.venue.read(g.gig->venue);
-        return "Playing " + trim(g.venue->name.value);
-    case 10: return "Travelling";
-    case 11: return "Resting";
-    case 15:
-        g.disc.read(e.disc);
-        return "Releasing " + trim(g.disc->title.value) + (g.disc->isSingle == 1 ? " (single)" : " (album)");
-    case 17: g.media.read(e.media); return "Promotion (" + trim(g.media->mediaName.value) + ")";
-    case 28: return "Retiring";
-    default: return "";
-    }
+    const auto activity = scheduleTypeInfo(e.type).activity;
+    return activity != nullptr ? activity(g, e) : "";
 }
 
 std::string_view daySuffix(unsigned day) {

@@ -1,4 +1,5 @@
 #include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
 
 #include <filesystem>
 #include <string>
@@ -35,7 +36,7 @@ void addScheduleYear(Game& g, int year) {
 
 int32_t addSchedule(Game& g, ScheduleRecord record) {
     if (record.date < g.gameStartDate) return 0;
-    if (record.type != 17 || record.id == 0) record.id = g.schedule.recordCount();
+    if (!scheduleTypeInfo(record.type).keepsItsNumber || record.id == 0) record.id = g.schedule.recordCount();
 
     ScheduleRecord kept = g.schedule.rec;
     g.schedule.rec = record;

@@ -1,10 +1,10 @@
 #include "talent/event_fatigue.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 
 #include "floor/news_post.h"
+#include "schedule/schedule_types.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -14,41 +14,6 @@ namespace {
 
 // Complaint code of a band that has asked for time off.
 constexpr uint8_t kWantsABreak = 1;
-
-struct Wear {
-    int energy;  // taken from each member's energy
-    int morale;  // added to each member's morale
-};
-
-std::optional<Wear> wearOf(Game& g, const ScheduleRecord& e) {
-    switch (e.type) {
-    case 7: {
-        int comfort = 0;
-        if (e.business > 0) {
-            g.business.read(e.business);
-            comfort = g.business->quality;
-        }
-        return Wear{toInteger((100 - comfort) * 3 / 100.0) + 3, -4};
-    }
-    case 8: {
-        int energy = 7;
-        if (e.gig > 0) {
-            g.gig.read(e.gig);
-            if (g.gig->tour > 0) {
-                // The tour's levels run from 0 (lavish) to 4 (basic): a lavish tour tires less.
-                g.tour.read(g.gig->tour);
-                int levels = g.tour->hospitalityLevel + g.tour->accommodationLevel;
-                energy -= toInteger((3 - levels) / 2.0);
-            }
-        }
-        return Wear{energy, -5};
-    }
-    case 10: return Wear{4, 3};
-    case 11: return Wear{-2, 5};
-    case 17: return Wear{6, -10};
-    default: return std::nullopt;
-    }
-}
 
 int heldPercent(int v) { return std::clamp(v, 0, 100); }
 
@@ -91,8 +56,9 @@ void askForABreak(Game& g) {
 
 void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
     if (entry.band < 1) return;
-    std::optional<Wear> wear = wearOf(g, entry);
-    if (!wear) return;
+    const auto wearOf = scheduleTypeInfo(entry.type).wear;
+    if (wearOf == nullptr) return;
+    const Wear wear = wearOf(g, entry);
     g.band.read(entry.band);
     int members = std::min<int>(g.band->memberCount, static_cast<int>(g.band->members.size()));
     int energySum = 0;
@@ -103,9 +69,9 @@ void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
         ArtistRecord& a = g.artist.rec;
         // A member away resting is not at work: the rest runs its course.
         if (a.energy >= 0) {
-            a.energy = static_cast<int16_t>(heldPercent(a.energy - wear->energy));
-            if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(heldPercent(a.writingFocus - wear->energy));
-            a.morale = static_cast<uint8_t>(heldPercent(a.morale + wear->morale));
+            a.energy = static_cast<int16_t>(heldPercent(a.energy - wear.energy));
+            if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(heldPercent(a.writingFocus - wear.energy));
+            a.morale = static_cast<uint8_t>(heldPercent(a.morale + wear.morale));
             g.artist.write(who);
         }
         energySum += a.energy;

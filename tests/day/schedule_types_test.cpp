@@ -1,0 +1,48 @@
+// The two halves of a schedule type, its data and its operation, never disagree.
+#include <gtest/gtest.h>
+
+#include "day/dispatch.h"
+#include "schedule/schedule_types.h"
+
+namespace trovane {
+namespace {
+
+TEST(ScheduleTypes, EachRowStandsAtItsOwnNumber) {
+    for (int t = 0; t <= kLastScheduleType; ++t) EXPECT_EQ(static_cast<int>(scheduleTypeInfo(t).type), t) << t;
+}
+
+TEST(ScheduleTypes, ANumberWithNoRowIsACalledOffEntry) {
+    for (int t : {-1, 32, 200, 255}) {
+        const ScheduleTypeInfo& info = scheduleTypeInfo(t);
+        EXPECT_EQ(info.type, ScheduleType::calledOff) << t;
+        EXPECT_FALSE(info.occupiesBand) << t;
+        EXPECT_EQ(info.wear, nullptr) << t;
+        EXPECT_EQ(scheduleAction(t).run, nullptr) << t;
+    }
+}
+
+TEST(ScheduleTypes, EveryReplyTheNewsOffersHasAnAction) {
+    for (int t = 0; t <= kLastScheduleType; ++t) {
+        const ScheduleTypeInfo& info = scheduleTypeInfo(t);
+        const ScheduleAction& action = scheduleAction(t);
+        const bool yes = info.reply == ScheduleReply::yes || info.reply == ScheduleReply::yesOrNo;
+        EXPECT_EQ(yes, action.onYes != nullptr) << t;
+        EXPECT_EQ(info.reply == ScheduleReply::yesOrNo, action.onNo != nullptr) << t;
+        EXPECT_EQ(info.reply == ScheduleReply::okOpensDecision, info.decisionScreen != Screen::none) << t;
+    }
+}
+
+TEST(ScheduleTypes, AGuardedTypeRunsAnOperation) {
+    for (int t = 0; t <= kLastScheduleType; ++t)
+        if (scheduleTypeInfo(t).guard != ScheduleGuard::none) EXPECT_NE(scheduleAction(t).run, nullptr) << t;
+}
+
+TEST(ScheduleTypes, TourDaysKeepTheWholeBillBusyAndNothingElseDoes) {
+    for (int t = 0; t <= kLastScheduleType; ++t) {
+        const bool tourDay = t == 8 || t == 10 || t == 11;
+        EXPECT_EQ(scheduleTypeInfo(t).occupiesTheBill, tourDay) << t;
+    }
+}
+
+}  // namespace
+}  // namespace trovane
