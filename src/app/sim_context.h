@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -12,8 +13,28 @@
 
 namespace trovane::sim {
 
-// Exit status of a run of days held by a news item that must be answered first.
-inline constexpr int kExitHeld = 3;
+// The exit statuses, one table for every verb (the README and --help print it too).
+inline constexpr int kExitDone = 0;
+inline constexpr int kExitRefused = 1;    // the game refused, in its own words; nothing changed
+inline constexpr int kExitBadArgs = 2;    // a bad command line or argument
+inline constexpr int kExitHeld = 3;       // a run of days held by a news item that must be answered first
+inline constexpr int kExitInvariant = 4;  // an invariant broke
+inline constexpr int kExitBroken = 5;     // broken data or a broken slot, file named
+
+// The table as --help shows it.
+std::string exitStatusTable();
+
+// A verb that cannot go on: the status to exit with and the sentence to print.
+class SimError : public std::runtime_error {
+public:
+    SimError(int status, const std::string& what) : std::runtime_error(what), status_(status) {}
+    int status() const { return status_; }
+
+private:
+    int status_;
+};
+
+inline constexpr const char* kNoGame = "No game in progress: start one with new, or load a slot.";
 
 struct SimContext {
     std::filesystem::path dataDir = "Data";
@@ -21,21 +42,38 @@ struct SimContext {
     bool json = false;
     int exitCode = 0;
 
-    // The working game, opened from the data folder with its session.
+    // True when the data folder holds a working set (its session record).
+    bool gameInProgress() const;
+    // The working game, opened from the data folder with its session; refused
+    // (status 1) when there is none.
     Game& openGame();
     // A game object on the data folder with nothing opened yet.
     Game& freshGame();
+    // A game object on the folder of the base set (the data folder's, else the one
+    // beside the program), for reading the base tables with no game in progress.
+    Game& baseSetGame();
     // Writes back the tables and the session record.
     void closeGame();
+    // Reports a refusal by the game (status 1), as text or as JSON.
+    void refuse(const std::string& why);
 
 private:
     std::unique_ptr<Game> game_;
 };
 
+// The folder that holds the base set for a data folder: the folder itself when it
+// has one, else Data beside the program; a missing one is broken data (status 5).
+std::filesystem::path baseSetFolder(const std::filesystem::path& dataDir);
+
+// Prints an error as the run's last words: "trovane-sim: TEXT" on stderr, or with
+// --json {"error": TEXT, "status": N} on stdout.
+void printError(bool json, const std::string& text, int status);
+
 // Each group of verbs adds its subcommands here.
 void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
 void addNewsVerbs(CLI::App& app, SimContext& ctx);     // news, show, reply, delete, schedule
+void addListVerbs(CLI::App& app, SimContext& ctx);     // list
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

@@ -1,17 +1,46 @@
 // trovane-sim: the game with no window, for scripts, tests and benchmarks.
 #include <cstdio>
+#include <cstring>
 #include <exception>
+#include <string>
 
+#include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
 #include "app/sim_context.h"
 #include "session/save_load.h"
 #include "world/fatal_error.h"
 
+namespace {
+
+// The verbs, for a command line that names none or one that does not exist.
+std::string verbList(const CLI::App& app) {
+    std::string out;
+    for (const CLI::App* sub : app.get_subcommands([](const CLI::App*) { return true; }))
+        out += (out.empty() ? "" : ", ") + sub->get_name();
+    return out;
+}
+
+// The first word of the command line that is not an option or an option's value.
+std::string firstWord(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        std::string_view a = argv[i];
+        if (a == "--data" || a == "--seed") {
+            ++i;
+        } else if (!a.starts_with("-")) {
+            return std::string(a);
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     using namespace trovane::sim;
     CLI::App app{"Trovane 3 without a window: play, inspect and script a game on a data folder"};
     app.require_subcommand(1);
+    app.footer(exitStatusTable());
     SimContext ctx;
     app.add_option("--data", ctx.dataDir, "The data folder of the game")->capture_default_str();
     app.add_option("--seed", ctx.seed, "Seed of the random source; a run with the same seed repeats exactly");
@@ -20,17 +49,39 @@ int main(int argc, char** argv) {
     addWorldVerbs(app, ctx);
     addSessionVerbs(app, ctx);
     addNewsVerbs(app, ctx);
+    addListVerbs(app, ctx);
+    // --json is seen even when the command line fails before the parser reaches it.
+    bool json = false;
+    for (int i = 1; i < argc; ++i) json = json || std::strcmp(argv[i], "--json") == 0;
     try {
         app.parse(argc, argv);
-    } catch (const CLI::ParseError& e) { return app.exit(e); } catch (const trovane::SlotError& e) {
-        std::fprintf(stderr, "trovane-sim: %s\n", e.what());
-        return 2;
+    } catch (const CLI::CallForHelp& e) {
+        return app.exit(e) == 0 ? kExitDone : kExitBadArgs;
+    } catch (const CLI::CallForAllHelp& e) {
+        return app.exit(e) == 0 ? kExitDone : kExitBadArgs;
+    } catch (const CLI::ParseError& e) {
+        std::string text = e.what();
+        if (app.get_subcommands().empty()) {
+            std::string verb = firstWord(argc, argv);
+            text = (verb.empty() ? std::string("Give a verb.") : "There is no verb " + verb + ".") +
+                   " The verbs are: " + verbList(app) + ".";
+        } else {
+            text += fmt::format(". See trovane-sim {} --help.", app.get_subcommands().front()->get_name());
+        }
+        printError(json, text, kExitBadArgs);
+        return kExitBadArgs;
+    } catch (const SimError& e) {
+        printError(json, e.what(), e.status());
+        return e.status();
+    } catch (const trovane::SlotError& e) {
+        printError(json, e.what(), kExitBroken);
+        return kExitBroken;
     } catch (const trovane::FatalError& e) {
-        std::fprintf(stderr, "trovane-sim: %s\n", e.what());
-        return 2;
+        printError(json, e.what(), kExitBroken);
+        return kExitBroken;
     } catch (const std::exception& e) {
-        std::fprintf(stderr, "trovane-sim: unexpected failure: %s\n", e.what());
-        return 2;
+        printError(json, std::string("unexpected failure: ") + e.what(), kExitBroken);
+        return kExitBroken;
     }
     return ctx.exitCode;
 }

@@ -1,6 +1,7 @@
 // The verbs of the inbox and the schedule: news, show, reply, delete, schedule.
 #include <chrono>
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,11 +21,30 @@ namespace trovane::sim {
 
 namespace {
 
-// Exit status of a verb refused by the game's rules (no such button, a compulsory item).
-constexpr int kExitRefused = 1;
-
 std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
 
+// The options of each verb, held by the verb's callback.
+struct ItemOptions {
+    int id = 0;
+    std::string reply;
+};
+struct DateOptions {
+    std::string date;
+};
+
+// Where the game stands after a reply, in the player's words, for plain output.
+std::string_view whereNow(Screen s) {
+    switch (s) {
+    case Screen::frmNews: return "back at the news";
+    case Screen::frmNewsFull: return "the item stays open";
+    case Screen::frmAwardCeremony: return "on to the award ceremony";
+    case Screen::frmBandOptionDecision: return "on to the band's option decision";
+    case Screen::frmChooseDistributor: return "on to choosing a distributor";
+    default: return "";
+    }
+}
+
+// The screen's name, for JSON readers that follow the game's screens.
 std::string_view screenName(Screen s) {
     switch (s) {
     case Screen::none: return "none";
@@ -56,15 +76,10 @@ std::vector<std::string_view> buttonWords(uint8_t kind) {
     }
 }
 
-void refuse(SimContext& ctx, const std::string& why) {
-    std::fprintf(stderr, "trovane-sim: %s\n", why.c_str());
-    ctx.exitCode = kExitRefused;
-}
-
 // Reads news item `id` into the buffer; false (and a refusal) when there is none.
 bool readItem(SimContext& ctx, Game& g, int id) {
     if (id < 1 || id >= g.news.recordCount()) {
-        refuse(ctx, fmt::format("There is no news item {}", id));
+        ctx.refuse(fmt::format("There is no news item {}", id));
         return false;
     }
     g.news.read(id);
@@ -144,10 +159,11 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
         ctx.closeGame();
     });
 
-    static int showId = 0;
+    auto showOpts = std::make_shared<ItemOptions>();
     auto* show = app.add_subcommand("show", "Open a news item (it is then read)");
-    show->add_option("ID", showId, "The news item's number")->required();
-    show->callback([&ctx] {
+    show->add_option("ID", showOpts->id, "The news item's number")->required();
+    show->callback([&ctx, showOpts] {
+        const int showId = showOpts->id;
         Game& g = ctx.openGame();
         if (readItem(ctx, g, showId)) {
             NewsItemView view = openNewsItem(g);
@@ -159,14 +175,15 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
         ctx.closeGame();
     });
 
-    static int replyId = 0;
-    static std::string replyWord;
+    auto replyOpts = std::make_shared<ItemOptions>();
     auto* reply = app.add_subcommand("reply", "Answer a news item");
-    reply->add_option("ID", replyId, "The news item's number")->required();
-    reply->add_option("REPLY", replyWord, "ok, yes, no, defend or condemn")
+    reply->add_option("ID", replyOpts->id, "The news item's number")->required();
+    reply->add_option("REPLY", replyOpts->reply, "ok, yes, no, defend or condemn")
         ->required()
         ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn"}));
-    reply->callback([&ctx] {
+    reply->callback([&ctx, replyOpts] {
+        const int replyId = replyOpts->id;
+        const std::string& replyWord = replyOpts->reply;
         Game& g = ctx.openGame();
         if (readItem(ctx, g, replyId)) {
             NewsItemView view = openNewsItem(g);
@@ -174,9 +191,9 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             std::size_t button = 0;
             while (button < words.size() && words[button] != replyWord) ++button;
             if (button == words.size()) {
-                refuse(ctx, fmt::format("News item {} has no {} button", replyId, replyWord));
+                ctx.refuse(fmt::format("News item {} has no {} button", replyId, replyWord));
             } else if (!view.buttons[button].enabled) {
-                refuse(ctx, fmt::format("News item {} has already been answered", replyId));
+                ctx.refuse(fmt::format("News item {} has already been answered", replyId));
             } else {
                 if (button == 0)
                     pressNewsCmd1(g);
@@ -185,23 +202,26 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
                 if (ctx.json)
                     std::printf("{\"id\":%d,\"reply\":\"%s\",\"screen\":\"%s\"}\n", replyId, replyWord.c_str(),
                                 std::string(screenName(g.currentScreen)).c_str());
+                else if (std::string_view next = whereNow(g.currentScreen); !next.empty())
+                    std::printf("Answered news item %d: %s; %s.\n", replyId, replyWord.c_str(),
+                                std::string(next).c_str());
                 else
-                    std::printf("Answered news item %d: %s (now on %s)\n", replyId, replyWord.c_str(),
-                                std::string(screenName(g.currentScreen)).c_str());
+                    std::printf("Answered news item %d: %s.\n", replyId, replyWord.c_str());
             }
         }
         ctx.closeGame();
     });
 
-    static int deleteId = 0;
+    auto deleteOpts = std::make_shared<ItemOptions>();
     auto* del = app.add_subcommand("delete", "Delete a news item from the list");
-    del->add_option("ID", deleteId, "The news item's number")->required();
-    del->callback([&ctx] {
+    del->add_option("ID", deleteOpts->id, "The news item's number")->required();
+    del->callback([&ctx, deleteOpts] {
+        const int deleteId = deleteOpts->id;
         Game& g = ctx.openGame();
         if (readItem(ctx, g, deleteId)) {
             openNewsItem(g);
             if (!deleteNewsItem(g)) {
-                refuse(ctx, fmt::format("News item {} must be answered before it can be deleted", deleteId));
+                ctx.refuse(fmt::format("News item {} must be answered before it can be deleted", deleteId));
             } else if (ctx.json) {
                 std::printf("{\"id\":%d,\"deleted\":true}\n", deleteId);
             } else {
@@ -211,15 +231,13 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
         ctx.closeGame();
     });
 
-    static std::string scheduleDate;
+    auto scheduleOpts = std::make_shared<DateOptions>();
     auto* schedule = app.add_subcommand("schedule", "List the schedule entries of a date, in the order they run");
-    schedule->add_option("DATE", scheduleDate, "The date, YYYY-MM-DD")->required();
-    schedule->callback([&ctx] {
+    schedule->add_option("DATE", scheduleOpts->date, "The date, YYYY-MM-DD")->required();
+    schedule->callback([&ctx, scheduleOpts] {
+        const std::string& scheduleDate = scheduleOpts->date;
         std::optional<double> date = parseIsoDate(scheduleDate);
-        if (!date) {
-            refuse(ctx, fmt::format("{} is not a date of the form YYYY-MM-DD", scheduleDate));
-            return;
-        }
+        if (!date) throw SimError(kExitBadArgs, fmt::format("{} is not a date of the form YYYY-MM-DD", scheduleDate));
         Game& g = ctx.openGame();
         std::vector<int32_t> ids = entriesOfDay(g, *date);
         std::string out = "[";

@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <memory>
 #include <string>
 
 #include <fmt/format.h>
@@ -9,7 +10,9 @@
 #include "app/sim_context.h"
 #include "floor/formats.h"
 #include "floor/preferences.h"
+#include "floor/text_rules.h"
 #include "session/new_game.h"
+#include "session/new_game_checks.h"
 #include "session/save_load.h"
 #include "session/session_record.h"
 #include "world/dates.h"
@@ -23,36 +26,58 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The base world beside the program, copied into a data folder that has none.
+// The base set copied into a data folder that has none of its own.
 void ensureBaseSet(const fs::path& dataDir) {
-    if (fs::exists(dataDir / "country.gam")) return;
+    fs::path base = baseSetFolder(dataDir);
+    if (base == dataDir) return;
     std::error_code ec;
-    fs::path exe = fs::read_symlink("/proc/self/exe", ec);
-    fs::path base = exe.parent_path() / "Data";
-    if (ec || !fs::exists(base / "country.gam"))
-        throw FatalError(
-            fmt::format("{} holds no base world (country.gam and the rest), and none was found beside "
-                        "the program",
-                        dataDir.string()));
     fs::create_directories(dataDir, ec);
     for (const auto& e : fs::directory_iterator(base))
         if (e.path().extension() == ".gam" && !fs::exists(dataDir / e.path().filename()))
             fs::copy_file(e.path(), dataDir / e.path().filename(), ec);
 }
 
-int parseDate(const std::string& text, int& y, unsigned& m, unsigned& d) {
-    return std::sscanf(text.c_str(), "%d-%u-%u", &y, &m, &d);
+// The list verb that shows the valid words of a field.
+std::string_view listFor(NewGameField f) {
+    switch (f) {
+    case NewGameField::nationality: return "nationalities";
+    case NewGameField::country: return "countries";
+    case NewGameField::city: return "cities";
+    case NewGameField::style: return "styles";
+    case NewGameField::label: return "labels";
+    default: return "";
+    }
 }
+
+// A refused choice of the new-game forms: status 2, the form's sentence, and the
+// valid words where they are few.
+[[noreturn]] void refuseChoice(const InputRefusal& r) {
+    std::string text = r.text;
+    if (!r.choices.empty() && r.choices.size() <= 40) {
+        text += " Choose one of: ";
+        for (std::size_t i = 0; i < r.choices.size(); ++i) text += (i ? ", " : "") + r.choices[i];
+        text += ".";
+    } else if (std::string_view list = listFor(r.field); !list.empty()) {
+        text += fmt::format(" See trovane-sim list {}.", list);
+    }
+    throw SimError(kExitBadArgs, text);
+}
+
+struct NewOptions {
+    std::string forename, surname, born, sex = "male", nationality;
+    std::string found, continent, country, city, style = "All Styles", takeOver;
+};
+struct SlotOptions {
+    int slot = 0;
+    std::string name = "Untitled";
+};
 
 }  // namespace
 
 void addSessionVerbs(CLI::App& app, SimContext& ctx) {
     auto* newGame = app.add_subcommand("new", "Start a new game: the player, then a new label or one taken over");
-    struct NewArgs {
-        std::string forename, surname, born, sex = "male", nationality;
-        std::string found, continent, country, city, style = "All Styles", takeOver;
-    };
-    static NewArgs a;
+    auto opts = std::make_shared<NewOptions>();
+    NewOptions& a = *opts;
     newGame->add_option("--forename", a.forename)->required();
     newGame->add_option("--surname", a.surname)->required();
     newGame->add_option("--born", a.born, "YYYY-MM-DD")->required();
@@ -65,43 +90,50 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
     newGame->add_option("--style", a.style)->needs(found);
     auto* take = newGame->add_option("--take-over", a.takeOver, "The name of an existing label");
     found->excludes(take);
-    newGame->callback([&ctx] {
+    newGame->callback([&ctx, opts] {
+        const NewOptions& a = *opts;
         if (a.found.empty() == a.takeOver.empty())
-            throw FatalError(
-                "Give either --found NAME (with --continent, --country, --city, --style) or --take-over LABEL");
+            throw SimError(kExitBadArgs,
+                           "Give either --found NAME (with --continent, --country, --city, --style) or --take-over "
+                           "LABEL");
         PlayerChoices p;
         p.forename = a.forename;
         p.surname = a.surname;
         unsigned bornDay = 0;
-        int fields = parseDate(a.born, p.birthYear, p.birthMonth, bornDay);
-        p.birthDay = static_cast<int>(bornDay);
-        if (fields != 3 || p.birthMonth < 1 || p.birthMonth > 12 || p.birthYear < 1880 || p.birthYear > 2003 ||
-            p.birthDay < 1 || p.birthDay > daysInBirthMonth(p.birthYear, p.birthMonth))
-            throw FatalError(fmt::format("--born {}: give a real date from 1880 to 2003 as YYYY-MM-DD", a.born));
+        char tail = 0;
+        if (std::sscanf(a.born.c_str(), "%d-%u-%u%c", &p.birthYear, &p.birthMonth, &bornDay, &tail) != 3)
+            throw SimError(kExitBadArgs, fmt::format("--born {}: give the date of birth as YYYY-MM-DD", a.born));
+        p.birthDay = bornDay > 31 ? 0 : static_cast<int>(bornDay);
         p.male = a.sex == "male";
         p.nationality = a.nationality;
         p.createNewLabel = !a.found.empty();
+        LabelChoices l;
+        l.name = a.found;
+        l.continent = a.continent;
+        l.country = a.country;
+        l.city = a.city;
+        l.style = a.style;
+        // The choices are checked against the base set before the working set is touched.
+        int16_t label = 0;
+        {
+            Game& base = ctx.baseSetGame();
+            for (FileNo f : {FileNo::fileCountry, FileNo::fileCity, FileNo::fileStyle, FileNo::fileLabel})
+                openTable(base, f, "gam");
+            InputRefusal r = checkPlayerChoices(base, p);
+            if (!r) r = p.createNewLabel ? checkLabelChoices(base, l) : checkTakeOver(base, a.takeOver, label);
+            closeAllTables(base);
+            if (r) refuseChoice(r);
+        }
         ensureBaseSet(ctx.dataDir);
         Game& g = ctx.freshGame();
         readPrefs(g);
         beginNewGame(g);
         try {
-            if (findRecordByName(g, FileNo::fileCountry, p.nationality) == 0)
-                throw FatalError(fmt::format("There is no nationality {}", p.nationality));
             NewPlayer player = confirmPlayer(g, p);
-            if (p.createNewLabel) {
-                LabelChoices l;
-                l.name = a.found;
-                l.continent = a.continent;
-                l.country = a.country;
-                l.city = a.city;
-                l.style = a.style;
+            if (p.createNewLabel)
                 foundLabel(g, player, l);
-            } else {
-                int32_t label = findRecordByName(g, FileNo::fileLabel, a.takeOver);
-                if (label == 0) throw FatalError(fmt::format("There is no label called {}", a.takeOver));
-                takeOverLabel(g, player, narrow<int16_t>(label));
-            }
+            else
+                takeOverLabel(g, player, label);
         } catch (...) {
             discardWorkingSet(g);
             throw;
@@ -117,11 +149,13 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
     });
 
     auto* save = app.add_subcommand("save", "Save the game into a slot (0 to 9)");
-    static int slot = 0;
-    static std::string name = "Untitled";
-    save->add_option("SLOT", slot)->required()->check(CLI::Range(0, 9));
-    save->add_option("--name", name, "The save's name")->capture_default_str();
-    save->callback([&ctx] {
+    auto saveOpts = std::make_shared<SlotOptions>();
+    save->add_option("SLOT", saveOpts->slot)->required()->check(CLI::Range(0, 9));
+    save->add_option("--name", saveOpts->name, "The save's name, at most 32 characters")->capture_default_str();
+    save->callback([&ctx, saveOpts] {
+        const int slot = saveOpts->slot;
+        const std::string& name = saveOpts->name;
+        if (std::string why = saveNameRefusal(name); !why.empty()) throw SimError(kExitBadArgs, why);
         Game& g = ctx.openGame();
         saveGame(g, slot, name);
         ctx.closeGame();
@@ -132,12 +166,14 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
     });
 
     auto* load = app.add_subcommand("load", "Load the game of a slot (0 to 9)");
-    load->add_option("SLOT", slot)->required()->check(CLI::Range(0, 9));
-    load->callback([&ctx] {
+    auto loadOpts = std::make_shared<SlotOptions>();
+    load->add_option("SLOT", loadOpts->slot)->required()->check(CLI::Range(0, 9));
+    load->callback([&ctx, loadOpts] {
+        const int slot = loadOpts->slot;
         Game& g = ctx.freshGame();
         readPrefs(g);
         if (g.prefs->slotUsed[static_cast<std::size_t>(slot)] == kFalse)
-            throw SlotError(fmt::format("Slot {} holds no game", slot));
+            throw SimError(kExitRefused, fmt::format("Slot {} holds no game", slot));
         loadGame(g, slot);
         ctx.closeGame();
         if (ctx.json)
@@ -173,6 +209,7 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
 
     auto* quit = app.add_subcommand("quit", "End the game: the working set is deleted, what was not saved is gone");
     quit->callback([&ctx] {
+        if (!ctx.gameInProgress()) throw SimError(kExitRefused, kNoGame);
         Game& g = ctx.freshGame();
         discardWorkingSet(g);
         if (!ctx.json)

@@ -1,6 +1,6 @@
 // The verbs that make, run and inspect a working set: init, status, advance, dump.
-#include <chrono>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -20,30 +20,18 @@ namespace trovane::sim {
 
 namespace {
 
-uint64_t clockSeed() { return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()); }
+// The options of each verb, held by the verb's callback.
+struct AdvanceOptions {
+    int days = 1;
+    bool trace = false;
+};
+struct DumpOptions {
+    std::string table;
+};
 
 std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
 
 }  // namespace
-
-Game& SimContext::freshGame() {
-    game_ = std::make_unique<Game>(dataDir, seed.value_or(clockSeed()));
-    return *game_;
-}
-
-Game& SimContext::openGame() {
-    Game& g = freshGame();
-    readPrefs(g);
-    readSessionFile(g, workingSessionFile(g));
-    openAllTables(g, "vel");
-    return g;
-}
-
-void SimContext::closeGame() {
-    if (!game_) return;
-    if (game_->news.isOpen()) writeSessionFile(*game_, workingSessionFile(*game_));
-    closeAllTables(*game_);
-}
 
 void addWorldVerbs(CLI::App& app, SimContext& ctx) {
     auto* init = app.add_subcommand("init", "Make an empty working set in the data folder, on 5 August 2004");
@@ -74,11 +62,12 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
     });
 
     auto* advance = app.add_subcommand("advance", "Run days of the game");
-    static int days = 1;
-    static bool trace = false;
-    advance->add_option("N", days, "How many days")->required()->check(CLI::Range(0, 100000));
-    advance->add_flag("--trace", trace, "Show each step each day runs");
-    advance->callback([&ctx] {
+    auto adv = std::make_shared<AdvanceOptions>();
+    advance->add_option("N", adv->days, "How many days")->required()->check(CLI::Range(0, 100000));
+    advance->add_flag("--trace", adv->trace, "Show each step each day runs");
+    advance->callback([&ctx, adv] {
+        const int days = adv->days;
+        const bool trace = adv->trace;
         Game& g = ctx.openGame();
         std::vector<std::string> steps;
         if (trace) g.trace = [&steps](std::string_view step) { steps.emplace_back(step); };
@@ -118,11 +107,14 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
         ctx.closeGame();
     });
 
-    auto* dump = app.add_subcommand("dump", "Show the records of a table of the working set");
-    static std::string table;
-    dump->add_option("TABLE", table, "A table name (band, news, ...), chart0 to chart9, or a year's day index")
+    auto* dump = app.add_subcommand(
+        "dump", "Show the records of a table: of the working set, or of the base set when no game is in progress");
+    auto dumpOpts = std::make_shared<DumpOptions>();
+    dump->add_option("TABLE", dumpOpts->table,
+                     "A table name (band, news, ...), chart0 to chart9, or a year's day index")
         ->required();
-    dump->callback([&ctx] {
+    dump->callback([&ctx, dumpOpts] {
+        const std::string& table = dumpOpts->table;
         std::filesystem::path file;
         std::optional<FileNo> n = fileNoByTableName(table);
         if (n && catalogueEntry(*n).kind == FileKind::perUse) {
@@ -130,11 +122,15 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
                 file = ctx.dataDir / "svar.vel";
             else
                 file = ctx.dataDir / (table + ".gam");
+        } else if (!ctx.gameInProgress()) {
+            file = baseSetFolder(ctx.dataDir) / (table + ".gam");
+            if (!n || !std::filesystem::exists(file))
+                throw SimError(kExitBadArgs, fmt::format("The base set has no table called {}", table));
         } else {
             file = ctx.dataDir / (table + ".vel");
             n = tableOfFile(file);
         }
-        if (!n) throw FatalError(fmt::format("There is no table called {}", table));
+        if (!n) throw SimError(kExitBadArgs, fmt::format("There is no table called {}", table));
         std::string out = dumpTableFile(file, *n, ctx.json ? DumpFormat::json : DumpFormat::text);
         std::fwrite(out.data(), 1, out.size(), stdout);
     });

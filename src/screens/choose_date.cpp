@@ -10,6 +10,7 @@
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
+#include "world/dates.h"
 
 namespace trovane::screens {
 
@@ -56,6 +57,15 @@ frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), ma
 
     auto* grid = new QGridLayout;
     grid->setSpacing(8);
+    grid_ = grid;
+    // Weeks run Monday to Sunday; the day cells are placed under their weekday by updateSchedule.
+    const char* weekdays[7] = {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
+    for (int w = 0; w < 7; ++w) {
+        QLabel* head = makeCaption(tr(weekdays[w]), this);
+        head->setObjectName(QStringLiteral("lblWeekday%1").arg(w));
+        head->setAlignment(Qt::AlignCenter);
+        grid->addWidget(head, 0, w);
+    }
     for (unsigned d = 1; d <= 31; ++d) {
         auto* cell = new QPushButton(this);
         cell->setObjectName(QStringLiteral("lblDayOfMonth%1").arg(d));
@@ -77,7 +87,7 @@ frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), ma
         lblDayOfMonth[i] = cell;
         lblEvent[i] = event;
         dayText_[i] = day;
-        grid->addWidget(cell, static_cast<int>(i / 7), static_cast<int>(i % 7));
+        grid->addWidget(cell, 1 + static_cast<int>(i / 7), static_cast<int>(i % 7));
         connect(cell, &QPushButton::clicked, this, [this, d] { choose(d); });
     }
     l->addLayout(grid);
@@ -117,6 +127,13 @@ void frmChooseDate::updateSchedule() {
     if (!main_.guarded([this] { view_ = monthCalendar(main_.game(), month_); })) return;
     lblMonth->setText(QString::fromStdString(view_.monthText));
     lblYear->setText(QString::fromStdString(view_.yearText));
+    // Sunday is weekday 1: Monday-first columns put it last.
+    int lead = (weekdayOf(view_.cells[0].date) + 5) % 7;
+    for (std::size_t i = 0; i < 31; ++i) {
+        int at = lead + static_cast<int>(i);
+        grid_->removeWidget(lblDayOfMonth[i]);
+        grid_->addWidget(lblDayOfMonth[i], 1 + at / 7, at % 7);
+    }
     for (std::size_t i = 0; i < 31; ++i) {
         const CalendarCell& c = view_.cells[i];
         QString activity = QString::fromStdString(c.activity);

@@ -6,6 +6,7 @@
 
 #include "schedule/band_calendar.h"
 
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -43,6 +44,7 @@ private:
     CalendarMonth month_;
     MonthCalendarView view_;
     std::array<QLabel*, 31> dayText_{};
+    QGridLayout* grid_ = nullptr;
 };
 
 }  // namespace trovane::screens

@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "day/daily_cycle.h"
+#include "floor/formats.h"
 #include "floor/preferences.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
@@ -48,7 +49,7 @@ void retire(QWidget* screen) {
 mdiParentForm::mdiParentForm(Game& g, QWidget* parent) : QMainWindow(parent), g_(g) {
     setObjectName(QStringLiteral("mdiParentForm"));
     setWindowTitle(QStringLiteral("Trovane 3"));
-    setMinimumSize(1024, 700);
+    setMinimumSize(1100, 700);
     endProgram = [](int code) { QCoreApplication::exit(code); };
 
     pages_ = new QStackedWidget(this);
@@ -210,6 +211,7 @@ void mdiParentForm::enterShell() {
     // The news list's sort lasts as long as the shell: a load in game keeps it.
     if (!gameRunning_) newsSort_ = NewsSort{};
     gameRunning_ = true;
+    markSaved();
     sideBar_->CloseOtherWindows();
     sideBar_->enableSidebar(true);
     statusBar_->initialise();
@@ -308,6 +310,7 @@ void mdiParentForm::runDay() {
     });
     turnUnderWay_ = false;
     if (!ok) return;
+    playedSinceSave_ = true;
     statusBar_->display();
     showCurrentScreen();  // the news, which gives the sidebar back
     lastTurnMs_ = static_cast<double>(clock.nsecsElapsed()) / 1e6;
@@ -321,6 +324,22 @@ void mdiParentForm::quitGame() {
     gameRunning_ = false;
     if (!guarded([this] { discardWorkingSet(g_); })) return;
     showStartForm();
+}
+
+void mdiParentForm::askAbandon(std::function<void()> then) {
+    if (!gameRunning_ || !playedSinceSave_) {
+        then();
+        return;
+    }
+    askSure(this, QStringLiteral("abandon"),
+            tr("Abandon this game? What you played since %1 will be lost.")
+                .arg(QString::fromStdString(formatDate(savedOn_, "d/m/yyyy"))),
+            std::move(then));
+}
+
+void mdiParentForm::markSaved() {
+    playedSinceSave_ = false;
+    savedOn_ = g_.gameDate;
 }
 
 void mdiParentForm::refreshStatusBar() {
@@ -377,7 +396,7 @@ void mdiParentForm::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
-    askSure(this, QStringLiteral("leave"), tr("Leave Trovane 3? Whatever has not been saved will be lost."), [this] {
+    askAbandon([this] {
         leaving_ = true;
         quitGame();
         close();

@@ -64,6 +64,12 @@ public:
     void continueGame();
     // lblQuit: the game is dropped and the start form returns.
     void quitGame();
+    // Runs `then` at once when nothing was played since the last save, load or
+    // new game; otherwise only once the player agrees to lose those days.
+    void askAbandon(std::function<void()> then);
+    // The game as it stands is safe in a slot (a save, a load, a new game).
+    void markSaved();
+    bool playedSinceSave() const { return playedSinceSave_; }
     void refreshStatusBar();
 
     // Runs game logic. A fatal error shows its message, ends the program and returns false.
@@ -121,6 +127,8 @@ private:
     bool saveScreenLoads_ = false;
     bool ended_ = false;
     bool leaving_ = false;
+    bool playedSinceSave_ = false;
+    double savedOn_ = 0;  // the game's date at the last save, load or new game
     double lastTurnMs_ = 0;
 };
 

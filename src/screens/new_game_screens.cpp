@@ -65,7 +65,37 @@ void addButtons(FormPage* page, QPushButton*& ok, QPushButton*& cancel, const QS
     page->buttons()->addWidget(ok);
 }
 
+// The longest text a name box takes: room enough that the check, not the box, tells a player the field's width.
+constexpr int kTypingRoom = 80;
+
 }  // namespace
+
+// ---------------------------------------------------------------- refusals at the field
+
+void FieldRefusals::attach(QWidget* captionedBox, NewGameField field, QWidget* control, const QString& objectSuffix) {
+    auto* line = new QLabel(captionedBox);
+    line->setObjectName(QStringLiteral("lblRefusal") + objectSuffix);
+    line->setProperty("role", "refusal");
+    line->setWordWrap(true);
+    line->hide();
+    captionedBox->layout()->addWidget(line);
+    lines_[field] = {line, control};
+}
+
+bool FieldRefusals::show(const InputRefusal& r) {
+    clear();
+    if (!r) return false;
+    auto at = lines_.find(r.field);
+    if (at == lines_.end()) return true;
+    at->second.label->setText(qs(r.text));
+    at->second.label->show();
+    at->second.control->setFocus();
+    return true;
+}
+
+void FieldRefusals::clear() {
+    for (auto& [field, line] : lines_) line.label->hide();
+}
 
 // ---------------------------------------------------------------- the player
 
@@ -80,12 +110,16 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
 
-    txtName = lineEdit("txtName", 32, this);
-    txtSurname = lineEdit("txtSurname", 32, this);
+    txtName = lineEdit("txtName", kTypingRoom, this);
+    txtSurname = lineEdit("txtSurname", kTypingRoom, this);
     txtName->setPlaceholderText(tr("First name"));
     txtSurname->setPlaceholderText(tr("Surname"));
-    grid->addWidget(captioned(tr("First name"), txtName), 0, 0, Qt::AlignTop);
-    grid->addWidget(captioned(tr("Surname"), txtSurname), 0, 1, Qt::AlignTop);
+    QWidget* nameBox = captioned(tr("First name"), txtName);
+    QWidget* surnameBox = captioned(tr("Surname"), txtSurname);
+    refusals_.attach(nameBox, NewGameField::forename, txtName, QStringLiteral("Name"));
+    refusals_.attach(surnameBox, NewGameField::surname, txtSurname, QStringLiteral("Surname"));
+    grid->addWidget(nameBox, 0, 0, Qt::AlignTop);
+    grid->addWidget(surnameBox, 0, 1, Qt::AlignTop);
 
     auto* born = new QWidget(this);
     auto* bornRow = new QHBoxLayout(born);
@@ -100,7 +134,9 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     bornRow->addWidget(cmbDay);
     bornRow->addWidget(cmbMonth, 1);
     bornRow->addWidget(cmbYear);
-    grid->addWidget(captioned(tr("Date of birth"), born), 1, 0, Qt::AlignTop);
+    QWidget* bornBox = captioned(tr("Date of birth"), born);
+    refusals_.attach(bornBox, NewGameField::birthDate, cmbDay, QStringLiteral("Born"));
+    grid->addWidget(bornBox, 1, 0, Qt::AlignTop);
 
     auto* genders = new QButtonGroup(this);
     auto* genderBox = new QWidget(this);
@@ -115,7 +151,9 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     grid->addWidget(captioned(tr("Gender"), genderBox), 1, 1, Qt::AlignTop);
 
     cmbNationality = combo("cmbNationality", this);
-    grid->addWidget(captioned(tr("Nationality"), cmbNationality), 2, 0, Qt::AlignTop);
+    QWidget* nationalityBox = captioned(tr("Nationality"), cmbNationality);
+    refusals_.attach(nationalityBox, NewGameField::nationality, cmbNationality, QStringLiteral("Nationality"));
+    grid->addWidget(nationalityBox, 2, 0, Qt::AlignTop);
 
     auto* ways = new QButtonGroup(this);
     auto* wayBox = new QWidget(this);
@@ -155,6 +193,9 @@ frmStartNewGame::frmStartNewGame(mdiParentForm& main, QWidget* parent)
     connect(cmdOk, &QPushButton::clicked, this, [this] {
         NewPlayer player;
         PlayerChoices chosen = choices();
+        InputRefusal refused;
+        if (!main_.guarded([&] { refused = checkPlayerChoices(main_.game(), chosen); })) return;
+        if (refusals_.show(refused)) return;
         if (!main_.guarded([&] { player = confirmPlayer(main_.game(), chosen); })) return;
         main_.showLabelForm(std::move(player));
     });
@@ -197,17 +238,29 @@ frmCreateNewLabel::frmCreateNewLabel(mdiParentForm& main, NewPlayer player, QWid
     grid->setVerticalSpacing(14);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
-    txtName = lineEdit("txtName", 32, this);
+    txtName = lineEdit("txtName", kTypingRoom, this);
     txtName->setPlaceholderText(tr("The name of your label"));
-    grid->addWidget(captioned(tr("Label name"), txtName), 0, 0, 1, 2);
     cmbContinent = combo("cmbContinent", this);
     cmbNationality = combo("cmbNationality", this);
     cmbCity = combo("cmbCity", this);
     cmbStyle = combo("cmbStyle", this);
-    grid->addWidget(captioned(tr("Continent"), cmbContinent), 1, 0, Qt::AlignTop);
-    grid->addWidget(captioned(tr("Country"), cmbNationality), 1, 1, Qt::AlignTop);
-    grid->addWidget(captioned(tr("Home city"), cmbCity), 2, 0, Qt::AlignTop);
-    grid->addWidget(captioned(tr("Style of music"), cmbStyle), 2, 1, Qt::AlignTop);
+    struct Field {
+        QString caption;
+        QWidget* control;
+        NewGameField field;
+        QString suffix;
+        int row, column, span;
+    };
+    for (const Field& f :
+         {Field{tr("Label name"), txtName, NewGameField::labelName, QStringLiteral("Name"), 0, 0, 2},
+          Field{tr("Continent"), cmbContinent, NewGameField::continent, QStringLiteral("Continent"), 1, 0, 1},
+          Field{tr("Country"), cmbNationality, NewGameField::country, QStringLiteral("Country"), 1, 1, 1},
+          Field{tr("Home city"), cmbCity, NewGameField::city, QStringLiteral("City"), 2, 0, 1},
+          Field{tr("Style of music"), cmbStyle, NewGameField::style, QStringLiteral("Style"), 2, 1, 1}}) {
+        QWidget* box = captioned(f.caption, f.control);
+        refusals_.attach(box, f.field, f.control, f.suffix);
+        grid->addWidget(box, f.row, f.column, 1, f.span, Qt::AlignTop);
+    }
     content()->addLayout(grid);
     addButtons(this, cmdOk, cmdCancel, tr("Start the Game"));
 
@@ -233,6 +286,9 @@ frmCreateNewLabel::frmCreateNewLabel(mdiParentForm& main, NewPlayer player, QWid
     connect(cmdOk, &QPushButton::clicked, this, [this, player] {
         LabelChoices chosen = choices();
         Game& game = main_.game();
+        InputRefusal refused;
+        if (!main_.guarded([&] { refused = checkLabelChoices(game, chosen); })) return;
+        if (refusals_.show(refused)) return;
         main_.startGame([&game, player, chosen] { foundLabel(game, player, chosen); });
     });
     setFocusProxy(txtName);

@@ -1,9 +1,11 @@
 #pragma once
 // A new game: who the player is, then a label of their own or one taken over.
+#include <map>
 #include <vector>
 
 #include "screens/screen_page.h"
 #include "session/new_game.h"
+#include "session/new_game_checks.h"
 
 class QComboBox;
 class QLabel;
@@ -16,6 +18,24 @@ class QTableWidget;
 namespace trovane::screens {
 
 class mdiParentForm;
+
+// The sentences a form shows under its fields when a choice is refused. The
+// field keeps what was typed and takes the focus, so the player can mend it.
+class FieldRefusals {
+public:
+    // Adds a hidden line under a captioned field, named "lblRefusal" + objectSuffix.
+    void attach(QWidget* captionedBox, NewGameField field, QWidget* control, const QString& objectSuffix);
+    // Shows the refusal at its field, hides the others; false when nothing was refused.
+    bool show(const InputRefusal& r);
+    void clear();
+
+private:
+    struct Line {
+        QLabel* label;
+        QWidget* control;
+    };
+    std::map<NewGameField, Line> lines_;
+};
 
 class frmStartNewGame : public FormPage {
     Q_OBJECT
@@ -38,6 +58,7 @@ public:
 private:
     void refillDays();
     mdiParentForm& main_;
+    FieldRefusals refusals_;
 };
 
 class frmCreateNewLabel : public FormPage {
@@ -59,6 +80,7 @@ private:
     void refillCountries(const QString& wanted);
     void refillCities(const QString& wanted);
     mdiParentForm& main_;
+    FieldRefusals refusals_;
 };
 
 class frmManageExistingLabel : public FormPage {

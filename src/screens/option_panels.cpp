@@ -135,8 +135,8 @@ frmGameOptions::frmGameOptions(mdiParentForm& main, QWidget* parent)
 
 frmQuitOptions::frmQuitOptions(mdiParentForm& main, QWidget* parent)
     : OptionPanel(QStringLiteral("frmQuitOptions"), tr("Quit"), parent) {
-    QPushButton* quit =
-        addEntry(QStringLiteral("lblQuit"), tr("Quit to the Start Screen"), Glyph::power, [&main] { main.quitGame(); });
+    QPushButton* quit = addEntry(QStringLiteral("lblQuit"), tr("Quit to the Start Screen"), Glyph::power,
+                                 [&main] { main.askAbandon([&main] { main.quitGame(); }); });
     quit->setToolTip(tr("Whatever has not been saved will be lost"));
 }
 

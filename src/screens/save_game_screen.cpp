@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "floor/formats.h"
+#include "floor/text_rules.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
@@ -82,8 +83,15 @@ frmSaveGame::frmSaveGame(mdiParentForm& main, bool loading, QWidget* parent)
     nameRow->setContentsMargins(0, 0, 0, 0);
     txtSaveName = new QLineEdit(nameBox_);
     txtSaveName->setObjectName(QStringLiteral("txtSaveName"));
-    txtSaveName->setMaxLength(32);
+    // Room past the slot's 32 characters, so that the name's check, not the box, says how long it may be.
+    txtSaveName->setMaxLength(80);
     nameRow->addWidget(captioned(tr("Name of the save"), txtSaveName));
+    lblRefusalName_ = new QLabel(nameBox_);
+    lblRefusalName_->setObjectName(QStringLiteral("lblRefusalSaveName"));
+    lblRefusalName_->setProperty("role", "refusal");
+    lblRefusalName_->setWordWrap(true);
+    lblRefusalName_->hide();
+    nameRow->addWidget(lblRefusalName_);
     d->addWidget(nameBox_);
     d->addStretch(1);
 
@@ -175,6 +183,7 @@ void frmSaveGame::showSlot(int row) {
 
     // Saving: a free slot takes a name and Save; a used one may be overwritten under a new name.
     nameBox_->setVisible(!loading_ && row >= 0);
+    lblRefusalName_->hide();
     if (!loading_) txtSaveName->setText(showDetails ? qs(details.name) : QStringLiteral("Untitled"));
     cmdSave->setVisible(!loading_ && row >= 0 && !used);
     cmdOverwrite->setVisible(used && (showDetails || !loading_));
@@ -185,8 +194,16 @@ void frmSaveGame::save() {
     int row = lstSaves->currentRow();
     if (row < 0) return;
     std::string name = txtSaveName->text().toStdString();
+    // A name the slot cannot hold is refused at the field, as typed; nothing is saved.
+    if (std::string why = saveNameRefusal(name); !why.empty()) {
+        lblRefusalName_->setText(qs(why));
+        lblRefusalName_->show();
+        txtSaveName->setFocus();
+        return;
+    }
     try {
         if (!main_.guarded([&] { saveGame(main_.game(), row, name); })) return;
+        main_.markSaved();
     } catch (const SlotError& e) { main_.showRefusal(tr("Save Game"), qs(e.what())); }
     fillList(row);
 }
@@ -203,9 +220,7 @@ void frmSaveGame::overwrite() {
         main.loadSavedGame(row);
         return;
     }
-    askSure(this, QStringLiteral("load"),
-            tr("Load this saved game? Whatever has happened since your last save will be lost."),
-            [&main, row] { main.loadSavedGame(row); });
+    main.askAbandon([&main, row] { main.loadSavedGame(row); });
 }
 
 void frmSaveGame::remove() {

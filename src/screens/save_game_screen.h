@@ -41,6 +41,7 @@ private:
     bool loading_;
     QWidget* detailBox_;
     QWidget* nameBox_;
+    QLabel* lblRefusalName_;
     QLabel* freeNote_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 #include "day/daily_cycle.h"
 #include "screens/glyphs.h"
@@ -13,9 +14,9 @@ namespace trovane::screens {
 namespace {
 
 // A figure with its glyph in front.
-QLabel* field(QHBoxLayout* row, QWidget* parent, const char* name, Glyph glyph, const QColor& tint) {
+QLabel* field(QHBoxLayout* row, QWidget* parent, const char* name, Glyph glyph, const QColor& tint, int size = 20) {
     auto* icon = new QLabel(parent);
-    icon->setPixmap(glyphPixmap(glyph, tint, 20, parent->devicePixelRatioF()));
+    icon->setPixmap(glyphPixmap(glyph, tint, size, parent->devicePixelRatioF()));
     auto* text = new QLabel(parent);
     text->setObjectName(QString::fromLatin1(name));
     text->setProperty("role", "figure");
@@ -32,15 +33,28 @@ frmStatusBar::frmStatusBar(mdiParentForm& main, QWidget* parent) : QFrame(parent
     setObjectName(QStringLiteral("frmStatusBar"));
     setFixedHeight(56);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(28, 0, 28, 0);
+    row->setContentsMargins(20, 0, 20, 0);
     row->setSpacing(8);
     lblDate = field(row, this, "lblDate", Glyph::calendar, palette::teal);
-    row->addSpacing(28);
+    row->addSpacing(20);
     lblCash = field(row, this, "lblCash", Glyph::coins, palette::accent);
     row->addStretch(1);
-    lblCompany = field(row, this, "lblCompany", Glyph::label, palette::mutedText);
-    row->addSpacing(28);
-    lblName = field(row, this, "lblName", Glyph::person, palette::mutedText);
+    // The label and the player stand one over the other, so that long names fit a narrow window.
+    auto* who = new QVBoxLayout;
+    who->setSpacing(0);
+    who->setContentsMargins(0, 4, 0, 4);
+    auto* companyRow = new QHBoxLayout;
+    auto* nameRow = new QHBoxLayout;
+    for (QHBoxLayout* r : {companyRow, nameRow}) {
+        r->setSpacing(6);
+        r->addStretch(1);
+        who->addLayout(r);
+    }
+    lblCompany = field(companyRow, this, "lblCompany", Glyph::label, palette::mutedText, 16);
+    lblName = field(nameRow, this, "lblName", Glyph::person, palette::mutedText, 16);
+    lblCompany->setProperty("role", "figureSmall");
+    lblName->setProperty("role", "captionFigure");
+    row->addLayout(who);
 }
 
 void frmStatusBar::initialise() {

@@ -27,6 +27,9 @@ QLabel[role="subtitle"] { font-size: 13pt; font-weight: 600; color: %text; }
 QLabel[role="caption"] { color: %muted; font-size: 9.5pt; font-weight: 600; }
 QLabel[role="body"] { font-size: 11.5pt; }
 QLabel[role="figure"] { font-size: 12pt; font-weight: 600; }
+QLabel[role="figureSmall"] { font-size: 10.5pt; font-weight: 600; }
+QLabel[role="captionFigure"] { font-size: 10pt; color: %muted; }
+QLabel[role="refusal"] { color: %danger; font-size: 10pt; font-weight: 600; }
 
 QFrame[role="card"] { background: %surface; border: 1px solid %border; border-radius: 10px; }
 QFrame[role="panel"] { background: %raised; border: 1px solid #56607e; border-radius: 10px; }

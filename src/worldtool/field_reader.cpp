@@ -139,6 +139,16 @@ bool FieldReader::isBespoke(std::string_view key) const {
     return std::find(rules_.bespokeKeys.begin(), rules_.bespokeKeys.end(), key) != rules_.bespokeKeys.end();
 }
 
+bool FieldReader::isRequired(std::string_view path) const {
+    return std::find(rules_.required.begin(), rules_.required.end(), path) != rules_.required.end();
+}
+
+bool FieldReader::refusedBlank(const toml::node& n, std::string_view path, std::string_view value) {
+    if (!isRequired(path) || value.find_first_not_of(' ') != std::string_view::npos) return false;
+    problem(n, fmt::format("`{}` is blank; the game needs one", path));
+    return true;
+}
+
 bool FieldReader::isHidden(std::string_view path) const {
     return std::find(rules_.hidden.begin(), rules_.hidden.end(), path) != rules_.hidden.end();
 }

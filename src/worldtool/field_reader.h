@@ -101,6 +101,9 @@ private:
     const LetterRule* lettersFor(std::string_view path) const;
     std::string_view keyFor(std::string_view path) const;
     bool isBespoke(std::string_view key) const;
+    // A key every record must have: a name, a title, a text or a side of a pair, which may not be blank either.
+    bool isRequired(std::string_view path) const;
+    bool refusedBlank(const toml::node& n, std::string_view path, std::string_view value);
     bool isHidden(std::string_view path) const;
     void money(const toml::node& n, const std::string& path, Money& out);
 
@@ -143,7 +146,7 @@ template <class T>
 void FieldReader::decode(const toml::node& n, const std::string& path, T& out) {
     if constexpr (IsText<T>::value) {
         auto s = text(n, path, T::width);
-        if (!s) return;
+        if (!s || refusedBlank(n, path, *s)) return;
         if (const LetterRule* rule = lettersFor(path);
             rule && (s->size() != 1 || rule->allowed.find(*s) == std::string_view::npos)) {
             problem(n, fmt::format("`{}` = \"{}\" is not one of the letters {}", path, *s, rule->allowed));
@@ -186,6 +189,7 @@ void FieldReader::decode(const toml::node& n, const std::string& path, T& out) {
 template <std::integral T>
 void FieldReader::decodeInteger(const toml::node& n, const std::string& path, T& out) {
     if (const RefRule* ref = refFor(path)) {
+        if (const auto* name = n.as_string(); name && refusedBlank(n, path, name->get())) return;
         if (auto v = reference(n, path, ref->table, std::numeric_limits<T>::max())) out = static_cast<T>(*v);
         return;
     }

@@ -60,8 +60,6 @@ TEST_F(ScreenTest, NewPlayerPlaysSavesQuitsAndLoadsTheSameGame) {
     EXPECT_EQ(saveName->text(), "Untitled");
     saveName->setText("Before the tour");
     click("cmdSave");
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (auto* m = qobject_cast<QMessageBox*>(w); m && m->isVisible()) qDebug() << m->text();
     EXPECT_EQ(find<QListWidget>("lstSaves")->item(2)->text(), "2 : Before the tour");
     click("btnOk");
     ASSERT_EQ(screen(), Screen::frmNews);

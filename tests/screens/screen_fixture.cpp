@@ -78,12 +78,31 @@ void ScreenTest::continueOneDay() {
     ASSERT_TRUE(waitFor([&] { return game->gameDate == before + 1 && !window->turnUnderWay(); }));
 }
 
-void ScreenTest::screenshot(const QString& name) {
+QWidget* ScreenTest::findShown(const char* name) const {
+    QList<QWidget*> all = window->findChildren<QWidget*>(QString::fromLatin1(name));
+    for (QWidget* w : all)
+        if (w->isVisible()) return w;
+    ADD_FAILURE() << "no control named " << name << " is shown";
+    return all.isEmpty() ? nullptr : all.front();
+}
+
+void ScreenTest::expectWhole(QWidget* w, const QString& where) {
+    ASSERT_NE(w, nullptr) << where.toStdString();
+    std::string what = (where + QStringLiteral(": ") + w->objectName()).toStdString();
+    EXPECT_TRUE(w->isVisible()) << what << " is hidden";
+    EXPECT_EQ(w->visibleRegion().boundingRect(), w->rect()) << what << " is cut off";
+}
+
+void ScreenTest::screenshot(const QString& name, std::initializer_list<const char*> controls) {
     QSize was = window->size();
-    for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
+    for (QSize size : {window->minimumSize(), QSize(1920, 1080)}) {
         window->resize(size);
         QApplication::processEvents();
-        screenshotOf(window.get(), QStringLiteral("%1_%2x%3").arg(name).arg(size.width()).arg(size.height()));
+        QString shot = QStringLiteral("%1_%2x%3").arg(name).arg(size.width()).arg(size.height());
+        EXPECT_EQ(window->size(), size) << shot.toStdString();
+        EXPECT_EQ(window->grab().deviceIndependentSize().toSize(), size) << shot.toStdString();
+        for (const char* c : controls) expectWhole(findShown(c), shot);
+        screenshotOf(window.get(), shot);
     }
     window->resize(was);
     QApplication::processEvents();

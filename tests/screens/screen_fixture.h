@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <initializer_list>
 #include <memory>
 
 #include "screens/mdi_parent_form.h"
@@ -49,8 +50,13 @@ protected:
     void startNewGameAsPlayer();
     // One press of Continue, until the next screen is up.
     void continueOneDay();
-    // PNGs of the window at 1280x800 and 1920x1080, for a person to look at.
-    void screenshot(const QString& name);
+    // PNGs of the window at its minimum size and at 1920x1080, for a person to look
+    // at; at each size the picture is the size claimed and every named control is
+    // shown whole (nothing of it cut off by the window or a parent).
+    void screenshot(const QString& name, std::initializer_list<const char*> controls = {});
+    void expectWhole(QWidget* w, const QString& where);
+    // The control of that name that is on screen (hidden pages keep controls of the same names).
+    QWidget* findShown(const char* name) const;
     void screenshotOf(QWidget* w, const QString& name);
 };
 

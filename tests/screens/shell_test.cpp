@@ -271,6 +271,21 @@ TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     EXPECT_EQ(calendar->lblYear->text(), "2004");
     EXPECT_EQ(calendar->lblEvent[13]->text(), "Resting");
     EXPECT_FALSE(calendar->lblDayOfMonth[30]->isVisible());  // no 31 September
+    // 1 September 2004 was a Wednesday, the 5th a Sunday and the 6th a Monday: each stands under its weekday.
+    QApplication::processEvents();
+    auto under = [&](int day, const char* weekday) {
+        QWidget* cell = calendar->lblDayOfMonth[static_cast<std::size_t>(day - 1)];
+        for (QLabel* head : calendar->findChildren<QLabel*>())
+            if (head->objectName().startsWith("lblWeekday") && head->text() == weekday)
+                return head->geometry().center().x() > cell->geometry().left() &&
+                       head->geometry().center().x() < cell->geometry().right() &&
+                       head->geometry().bottom() < cell->geometry().top();
+        return false;
+    };
+    EXPECT_TRUE(under(1, "WED"));
+    EXPECT_TRUE(under(5, "SUN"));
+    EXPECT_TRUE(under(6, "MON"));
+    EXPECT_FALSE(under(1, "MON"));
     screenshotOf(calendar.data(), "24_frmChooseDate");
     click(calendar->lblDayOfMonth[13]);
     EXPECT_EQ(chosen, 0);  // a busy day cannot be chosen

@@ -1,0 +1,156 @@
+// The checks of the new-game forms, on the tiny world: England, Scotland and
+// France in Europe with one city each, Canada, New Zealand, Brazil; the styles
+// Indie Rock and Legend; the label Greystone Music.
+#include "session/new_game_checks.h"
+
+#include <gtest/gtest.h>
+
+#include "floor/preferences.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/record_store.h"
+
+using namespace trovane;
+
+namespace {
+
+class NewGameChecks : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    Game g{folder.path(), 5};
+
+    void SetUp() override {
+        test::writeTinyBaseWorld(folder.path());
+        beginNewGame(g);
+    }
+    void TearDown() override { closeAllTables(g); }
+
+    static PlayerChoices player() {
+        PlayerChoices p;
+        p.forename = "Ann";
+        p.surname = "Lee";
+        p.nationality = "Scottish";
+        return p;
+    }
+    static LabelChoices label() {
+        LabelChoices l;
+        l.name = "Quarry Records";
+        l.continent = "Europe";
+        l.country = "England";
+        l.city = "London";
+        l.style = "Indie Rock";
+        return l;
+    }
+};
+
+}  // namespace
+
+TEST_F(NewGameChecks, APlayerAsTypedIsTaken) { EXPECT_FALSE(checkPlayerChoices(g, player())); }
+
+TEST_F(NewGameChecks, TheFirstNameRuleBrokenIsNamedWithItsField) {
+    PlayerChoices p = player();
+    p.forename = " ";
+    p.surname = "Ω";
+    InputRefusal r = checkPlayerChoices(g, p);
+    EXPECT_EQ(r.field, NewGameField::forename);
+    EXPECT_EQ(r.text, "The forename cannot be blank.");
+    p.forename = "Ann";
+    r = checkPlayerChoices(g, p);
+    EXPECT_EQ(r.field, NewGameField::surname);
+    EXPECT_EQ(r.text, "The surname holds \"Ω\", a character the game cannot store.");
+}
+
+TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
+    struct Case {
+        int y;
+        unsigned m;
+        int d;
+        bool taken;
+    };
+    for (Case c : {Case{1880, 1, 1, true}, Case{1879, 12, 31, false}, Case{2003, 12, 31, true}, Case{2004, 1, 1, false},
+                   Case{2000, 2, 29, true}, Case{1900, 2, 29, false}, Case{2003, 4, 31, false},
+                   Case{2003, 13, 1, false}, Case{2003, 1, 0, false}}) {
+        PlayerChoices p = player();
+        p.birthYear = c.y;
+        p.birthMonth = c.m;
+        p.birthDay = c.d;
+        InputRefusal r = checkPlayerChoices(g, p);
+        EXPECT_EQ(!r, c.taken) << c.y << "-" << c.m << "-" << c.d;
+        if (r) EXPECT_EQ(r.text, "The date of birth must be a real date from 1 January 1880 to 31 December 2003.");
+    }
+}
+
+TEST_F(NewGameChecks, ANationalityIsACountrysAdjective) {
+    PlayerChoices p = player();
+    p.nationality = "British";
+    InputRefusal r = checkPlayerChoices(g, p);
+    EXPECT_EQ(r.field, NewGameField::nationality);
+    EXPECT_EQ(r.text, "There is no nationality \"British\".");
+    p.nationality = "New Zealander";
+    EXPECT_FALSE(checkPlayerChoices(g, p));
+}
+
+TEST_F(NewGameChecks, AnotherLabelsNameIsRefusedInAnyCapitalsAndWithBlanksAround) {
+    LabelChoices l = label();
+    l.name = "  gREYSTONE music ";
+    InputRefusal r = checkLabelChoices(g, l);
+    EXPECT_EQ(r.field, NewGameField::labelName);
+    EXPECT_EQ(r.text, "There is already a label called Greystone Music.");
+    l.name = "Greystone Musics";
+    EXPECT_FALSE(checkLabelChoices(g, l));
+}
+
+TEST_F(NewGameChecks, AnUnknownContinentListsTheSix) {
+    LabelChoices l = label();
+    l.continent = "Europa";
+    InputRefusal r = checkLabelChoices(g, l);
+    EXPECT_EQ(r.field, NewGameField::continent);
+    EXPECT_EQ(r.text, "There is no continent \"Europa\".");
+    EXPECT_EQ(r.choices,
+              (std::vector<std::string>{"Africa", "Asia", "Europe", "North America", "Oceania", "South America"}));
+}
+
+TEST_F(NewGameChecks, ACountryMustExistAndLieInTheContinent) {
+    LabelChoices l = label();
+    l.country = "Wales";
+    EXPECT_EQ(checkLabelChoices(g, l).text, "There is no country \"Wales\".");
+    l.country = "Canada";
+    l.city = "Toronto";
+    InputRefusal r = checkLabelChoices(g, l);
+    EXPECT_EQ(r.field, NewGameField::country);
+    EXPECT_EQ(r.text, "Canada is not a country of Europe with a city for a label.");
+    EXPECT_EQ(r.choices, (std::vector<std::string>{"England", "Scotland", "France"}));
+    l.continent = "North America";
+    EXPECT_FALSE(checkLabelChoices(g, l));
+}
+
+TEST_F(NewGameChecks, ACityMustExistAndLieInTheCountry) {
+    LabelChoices l = label();
+    l.city = "Glasgow";
+    InputRefusal r = checkLabelChoices(g, l);
+    EXPECT_EQ(r.field, NewGameField::city);
+    EXPECT_EQ(r.text, "Glasgow is not a city of England.");
+    EXPECT_EQ(r.choices, std::vector<std::string>{"London"});
+    l.city = "Atlantis";
+    EXPECT_EQ(checkLabelChoices(g, l).text, "There is no city \"Atlantis\".");
+}
+
+TEST_F(NewGameChecks, AStyleMustExistOrBeAllStyles) {
+    LabelChoices l = label();
+    l.style = "All Styles";
+    EXPECT_FALSE(checkLabelChoices(g, l));
+    l.style = "Polka";
+    InputRefusal r = checkLabelChoices(g, l);
+    EXPECT_EQ(r.field, NewGameField::style);
+    EXPECT_EQ(r.text, "There is no style \"Polka\".");
+    EXPECT_EQ(r.choices, (std::vector<std::string>{"All Styles", "Indie Rock", "Legend"}));
+}
+
+TEST_F(NewGameChecks, TakingOverNamesTheLabelByItsExactName) {
+    int16_t label = 0;
+    EXPECT_FALSE(checkTakeOver(g, "Greystone Music", label));
+    EXPECT_EQ(label, 1);
+    InputRefusal r = checkTakeOver(g, "Greystone", label);
+    EXPECT_EQ(r.field, NewGameField::label);
+    EXPECT_EQ(r.text, "There is no label called \"Greystone\".");
+}
