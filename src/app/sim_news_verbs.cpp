@@ -163,9 +163,9 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
     static std::string replyWord;
     auto* reply = app.add_subcommand("reply", "Answer a news item");
     reply->add_option("ID", replyId, "The news item's number")->required();
-    reply->add_option("REPLY", replyWord, "ok, yes, no, defend or condemn")
+    reply->add_option("REPLY", replyWord, "ok, yes, no, defend, condemn, or extend or release for an ended option")
         ->required()
-        ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn"}));
+        ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn", "extend", "release"}));
     reply->callback([&ctx] {
         Game& g = ctx.openGame();
         if (readItem(ctx, g, replyId)) {
@@ -173,7 +173,9 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             auto words = buttonWords(g.news->kind);
             std::size_t button = 0;
             while (button < words.size() && words[button] != replyWord) ++button;
-            if (button == words.size()) {
+            if (replyToOption(ctx, g, replyWord)) {
+                // answered (or refused) as an option decision
+            } else if (button == words.size()) {
                 refuse(ctx, fmt::format("News item {} has no {} button", replyId, replyWord));
             } else if (!view.buttons[button].enabled) {
                 refuse(ctx, fmt::format("News item {} has already been answered", replyId));
