@@ -244,7 +244,7 @@ void briefNewPlayerOnAlbums(Game& g) {
                  " to appear on a future album.";
     }
     if (lines.empty()) return;
-    postNews(g, {.date = g.gameDate + 1,
+    postNews(g, {.date = g.gameDate,
                  .title = "Introductory album progress briefing",
                  .text = "In one of your introductory meetings today you were briefed on how the bands on signed to "
                          "your new label are progressing on forthcoming albums, the report can be seen below :-" +
