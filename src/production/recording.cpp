@@ -140,6 +140,8 @@ std::string albumProgressText(Game& g, int16_t band) {
 
 std::string checkFinaliseAlbum(Game& g, int16_t band, const std::vector<int32_t>& tracks) {
     if (!g.band.readIfPresent(band)) return "There is no such band.";
+    if (!isPlayers(g)) return bandName(g) + " " + word(g, 0) + " not signed to your label.";
+    g.band.read(band);
     if (g.band->albumStatus >= 2 || discAwaitingStudio(g, band) > 0)
         return "The album of " + trim(g.band->name.value) + " has already been finalised.";
     if (tracks.empty()) return "Please choose at least one song for the album.";

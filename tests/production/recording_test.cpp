@@ -92,8 +92,10 @@ TEST(Recording, ATracklistIsRefusedOutsideOneToTwentySongsInHand) {
     EXPECT_EQ(checkFinaliseAlbum(g, w.band, twenty), "");
     EXPECT_EQ(checkFinaliseAlbum(g, w.band, twentyOne), "An album can have at most 20 tracks.");
     EXPECT_EQ(checkFinaliseAlbum(g, w.band, {}), "Please choose at least one song for the album.");
-    int32_t other = w.addSong(w.addBand("Others", AlbumWorld::kPlayer), 50, 50);
+    const int16_t others = w.addBand("Others", AlbumWorld::kRival);
+    int32_t other = w.addSong(others, 50, 50);
     EXPECT_NE(checkFinaliseAlbum(g, w.band, {w.songs[0], other}), "");
+    EXPECT_EQ(checkFinaliseAlbum(g, others, {other}), "Others are not signed to your label.");
     EXPECT_NE(checkFinaliseAlbum(g, w.band, {w.songs[0], w.songs[0]}), "");
     g.band.read(w.band);
     g.band->albumStatus = 2;
