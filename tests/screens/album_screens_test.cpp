@@ -11,6 +11,8 @@
 #include "screen_fixture.h"
 #include "screens/album_screens.h"
 #include "screens/business_screens.h"
+#include "screens/side_bar.h"
+#include "talent/contract_progress.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -193,8 +195,13 @@ TEST_F(ScreenTest, AnEndedOptionIsDecidedOnItsOwnScreen) {
     entry.band = band;
     entry.date = g.gameDate;
     g.schedule.rec = entry;
-    g.schedule.append();  // the decision screen reads the entry in the schedule buffer, as the item's ok leaves it
-    window->openScreen(Screen::frmBandOptionDecision);
+    g.schedule.append();
+    contractPoint(g);  // the band asks for a decision: an item that holds the calendar
+    click(window->sideBar()->btnContinueGame);
+    ASSERT_EQ(screen(), Screen::frmNewsFull);
+    EXPECT_EQ(find<QLabel>("lblHeadline")->text().toStdString(), "The Hartbeats request decision on contract.");
+    click("cmd1");
+    ASSERT_EQ(screen(), Screen::frmBandOptionDecision);
     auto* text = find<QLabel>("lblText");
     ASSERT_NE(text, nullptr);
     EXPECT_EQ(text->text().toStdString(),
