@@ -79,21 +79,6 @@ TEST(SimAlbumVerbs, AlbumFinalisesTitlesAndBooksOrRefusesWithNothingChanged) {
               "completed recording on 0 of a total of 2 tracks.\n");
 }
 
-TEST(SimAlbumVerbs, FirmsListOnlyOpenFirmsAndBuildPlansOne) {
-    SimWorld w;
-    w.save();
-    EXPECT_EQ(w.sim("firms shops").first, 2);
-    EXPECT_EQ(w.sim("build studio --name Home --quality 101 --city London").first, 2);
-    EXPECT_EQ(w.sim("build studio --name Home --quality 45 --city Atlantis").first, 2);
-    auto [built, json] = w.sim("--json build studio --name Home --quality 45 --city London");
-    EXPECT_EQ(built, 0) << json;
-    EXPECT_EQ(json, "{\"id\":3,\"cost\":9900000000,\"runningCost\":202500000}\n");
-    auto [listed, firms] = w.sim("--json firms studio");
-    EXPECT_EQ(listed, 0);
-    EXPECT_NE(firms.find("\"name\":\"Rooms\""), std::string::npos);
-    EXPECT_EQ(firms.find("\"name\":\"Home\""), std::string::npos) << "still being built";
-}
-
 TEST(SimAlbumVerbs, AnEndedOptionIsAnsweredWithExtendOrRelease) {
     SimWorld w;
     Game& g = w.g;
