@@ -139,19 +139,31 @@ void addAlbumVerb(CLI::App& app, SimContext& ctx) {
     static std::optional<std::string> title;
     auto* v = app.add_subcommand("album", "Finalise a band's album, title it and book the studio");
     v->add_option("BAND", band, "The band, by number or exact name")->required();
-    v->add_option("--tracks", tracks, "The songs, by number: ID,ID,...")->required();
+    v->add_option("--tracks", tracks,
+                  "The songs, by number: ID,ID,... (left out, an album already finalised is booked)");
     v->add_option("--studio", studio, "The studio, by number or exact name")->required();
     v->add_option("--title", title, "The album's title (default: the assistants' suggestion)");
     v->callback([&ctx] {
-        auto ids = trackList(tracks);
-        if (!ids) return badArgument(ctx, "--tracks takes song numbers separated by commas");
+        std::optional<std::vector<int32_t>> ids;
+        if (!tracks.empty()) {
+            ids = trackList(tracks);
+            if (!ids) return badArgument(ctx, "--tracks takes song numbers separated by commas");
+        }
         Game& g = ctx.openGame();
         int16_t b = findBand(ctx, g, band);
         auto firm = b ? findRecord(g.business, studio, [](const BusinessRecord& r) { return trim(r.name.value); }) : 0;
         if (b && firm == 0) badArgument(ctx, "There is no firm " + studio);
+        // A tracklist fixed on the screens without a studio is booked as it stands.
+        int16_t waiting = b && !ids ? discAwaitingStudio(g, b) : 0;
         std::string why;
         if (b && firm) {
-            why = checkFinaliseAlbum(g, b, *ids);
+            if (!waiting) why = checkFinaliseAlbum(g, b, ids.value_or(std::vector<int32_t>{}));
+            if (waiting) {
+                g.band.read(b);
+                if (g.band->label != g.player.playerLabel)
+                    why = trim(g.band->name.value) + " are not signed to your label.";
+            }
+            if (why.empty() && waiting) why = checkBookStudio(g, waiting, static_cast<int16_t>(firm));
             if (why.empty()) {
                 g.business.read(firm);
                 if (g.business->kind != kStudio || g.business->open != kFirmOpen)
@@ -161,9 +173,14 @@ void addAlbumVerb(CLI::App& app, SimContext& ctx) {
             if (!why.empty()) refuse(ctx, why);
         }
         if (b && firm && why.empty()) {
-            int16_t disc = finaliseAlbum(g, b, *ids);
+            int16_t disc = waiting ? waiting : finaliseAlbum(g, b, *ids);
+            g.disc.read(disc);
+            std::string name = trim(g.disc->title.value);
             g.band.read(b);
-            std::string name = title ? trim(*title) : pickAlbumTitle(g);
+            if (title)
+                name = trim(*title);
+            else if (name.empty())
+                name = pickAlbumTitle(g);
             setDiscTitle(g, disc, name);
             StudioBooking k = bookStudio(g, disc, static_cast<int16_t>(firm));
             if (ctx.json)

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "production/businesses.h"
+#include "production/recording.h"
 #include "session/session_record.h"
 #include "support/album_world.h"
 #include "talent/contract_progress.h"
@@ -102,4 +103,18 @@ TEST(SimAlbumVerbs, AnEndedOptionIsAnsweredWithExtendOrRelease) {
     EXPECT_EQ(after.band->optionsRemaining, 1);
     EXPECT_EQ(after.band->label, AlbumWorld::kPlayer);
     closeAllTables(after);
+}
+
+TEST(SimAlbumVerbs, AnAlbumFinalisedWithoutAStudioIsBookedOnceWithoutTracks) {
+    SimWorld w;
+    w.save();
+    EXPECT_EQ(w.sim("album Tapes --studio Rooms").first, 1) << "no tracks and nothing finalised";
+    openAllTables(w.g, "vel");
+    finaliseAlbum(w.g, w.band, {2, 3});
+    setDiscTitle(w.g, 1, "Kept");
+    w.save();
+    auto [ok, json] = w.sim("--json album Tapes --studio Rooms");
+    EXPECT_EQ(ok, 0) << json;
+    EXPECT_EQ(json.rfind("{\"disc\":1,\"title\":\"Kept\",\"sessions\":4,", 0), 0u) << json;
+    EXPECT_EQ(w.sim("album Tapes --studio Rooms").first, 1) << "charged once";
 }
