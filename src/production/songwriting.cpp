@@ -138,10 +138,10 @@ void writeSong(Game& g, bool fromArtist, bool silent) {
         s.writerSurname = std::string();
         s.writer = 0;
         const int b = budgetLevel(g.band->materialBudget);
-        g.style.read(writer.style);
+        const int base = g.style.readIfPresent(writer.style) ? g.style->commerciality : 0;
         const double r1 = g.rng.draw();
         const double r2 = g.rng.draw();
-        s.commerciality = percent(intFloor(r1 * 10) + g.style->commerciality - intFloor(r2 * (b * 10 + 10)));
+        s.commerciality = percent(intFloor(r1 * 10) + base - intFloor(r2 * (b * 10 + 10)));
         const double r3 = g.rng.draw();
         const double r4 = g.rng.draw();
         s.quality = percent(intFloor(r3 * 10) + kQualityBase[static_cast<std::size_t>(b)] - intFloor(r4 * 10));
