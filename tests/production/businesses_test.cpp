@@ -12,7 +12,7 @@ using test::AlbumWorld;
 
 struct FirmFigures {
     int quality;
-    int32_t distributor, plant, studioDay, studioRunning, plantRunning;
+    int32_t distributor, plant, studioDay, studioRunning, plantRunning, distributorRunning;
     int64_t studioBuild;
 };
 
@@ -28,6 +28,7 @@ TEST_P(FirmsByQuality, CapacitiesPricesAndCosts) {
     EXPECT_EQ(studioDayCost(g), f.studioDay);
     EXPECT_EQ(runningCostFor(g, f.quality, kStudio), f.studioRunning);
     EXPECT_EQ(runningCostFor(g, f.quality, kPlant), f.plantRunning);
+    EXPECT_EQ(runningCostFor(g, f.quality, kDistributor), f.distributorRunning);
     EXPECT_EQ(buildCost(f.quality, kStudio), f.studioBuild);
     EXPECT_EQ(buildCost(f.quality, kDistributor), f.studioBuild * 10);
     EXPECT_EQ(g.business->quality, f.quality) << "the buffer's quality is put back";
@@ -37,13 +38,16 @@ INSTANTIATE_TEST_SUITE_P(
     Qualities, FirmsByQuality,
     ::testing::Values(
         // 2 x 1 = 2 steps (5) to 0; 1 to 0; round(1.5) = 2; round(10) = 10; 0 x 7.5; round(0.5) = 0 x 1 x 1000.
-        FirmFigures{1, 0, 0, 2, 10, 0, 0},
+        FirmFigures{1, 0, 0, 2, 10, 0, 0, 0},
         // 2 x 91,125 = 182,250 steps (10,000) to 180,000; 91,125 steps (5,000) to 90,000, twice 180,000;
         // 45 x 45 x 1.5 = 3,037.5 to the even 3,038; 45 x 45 x 10 = 20,250; 180,000 x 7.5 = 1,350,000;
         // round(22.5) = 22 x 45 x 1000 = 990,000.
-        FirmFigures{45, 180000, 180000, 3038, 20250, 1350000, 990000},
+        FirmFigures{45, 180000, 180000, 3038, 20250, 1350000, 1350000, 990000},
+        // 250,000 (step 25,000); 125,000 steps (10,000) 12.5 to the even 12, twice 120,000; 3,750; 25,000;
+        // 240,000 x 7.5 = 1,800,000; 250,000 x 7.5 = 1,875,000; 25 x 50 x 1000.
+        FirmFigures{50, 250000, 240000, 3750, 25000, 1800000, 1875000, 1250000},
         // 2,000,000 (step 100,000); 1,000,000 twice; 15,000; 100,000; 15,000,000; 50 x 100 x 1000.
-        FirmFigures{100, 2000000, 2000000, 15000, 100000, 15000000, 5000000}));
+        FirmFigures{100, 2000000, 2000000, 15000, 100000, 15000000, 15000000, 5000000}));
 
 TEST(Businesses, RunningCostsAreChargedOnlyForOpenOwnedFirms) {
     AlbumWorld w;

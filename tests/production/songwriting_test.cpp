@@ -61,16 +61,22 @@ TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
     EXPECT_EQ(weeksWritten(g, band, 1, 2000), 0) << "c = 0 is never above a draw";
 }
 
-TEST(Songwriting, ANonWriterNeverWritesNorBuysIn) {
+TEST(Songwriting, ANonWriterOrARetiredArtistNeverWritesNorBuysIn) {
     AlbumWorld w;
     Game& g = w.g;
     // The leader can't write; writing album time, every chance at its highest.
     int16_t band = w.addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);
-    g.band.read(band);
-    g.band->albumStatus = 1;
-    g.band.write();
+    int16_t retired = w.addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);
+    for (int16_t b : {band, retired}) {
+        g.band.read(b);
+        g.band->albumStatus = 1;
+        g.band.write();
+    }
+    g.artist.read(3);
+    g.artist->retired = -1;
+    g.artist.write();
     for (int week = 0; week < 30; ++week) updateSongs(g);
-    EXPECT_EQ(songsOf(g, band), 0);
+    EXPECT_EQ(g.song.recordCount(), 1);
 }
 
 TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromTheLeaderAtStatusOne) {
