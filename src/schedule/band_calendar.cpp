@@ -48,10 +48,9 @@ public:
         if (year != year_) {
             year_ = year;
             present_ = hasDayFile(g_, year);
-            if (present_)
-                openDayFile(g_, year);
-            else
-                closeDayFile(g_);
+            // A walk may cross the year's end: the old year's file is closed first.
+            closeDayFile(g_);
+            if (present_) openDayFile(g_, year);
         }
         if (!present_) return nullptr;
         g_.dayIndex.read(dayNumberInYear(date));

@@ -275,3 +275,20 @@ TEST(Recording, AFinishedSingleLeavesTheAlbumAndTheAdvanceAlone) {
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), 0);
     EXPECT_EQ(trim(w.lastNews().title.value), "Tapes complete the recording of their new single.");
 }
+
+TEST(Recording, SessionsRunOnOverTheYearsEnd) {
+    Studio w(2);
+    Game& g = w.g;
+    g.gameDate = serialFromCivil(2004, 12, 16);
+    const double eve = serialFromCivil(2004, 12, 31);
+    ScheduleRecord rest{};
+    rest.type = 11;
+    rest.date = eve;
+    rest.band = w.band;
+    addSchedule(g, rest);
+    int16_t studio = w.addFirm("Rooms", kStudio, 10, 0);
+    int16_t disc = finaliseAlbum(g, w.band, w.tracks());
+    bookStudio(g, disc, studio);
+    // 4 sessions from 30 December (16 + 14), New Year's Eve taken.
+    EXPECT_EQ(w.studioDays(eve - 5, eve + 10), (std::vector<double>{eve - 1, eve + 1, eve + 2, eve + 3}));
+}
