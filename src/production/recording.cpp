@@ -258,16 +258,14 @@ StudioBooking bookStudio(Game& g, int16_t disc, int16_t studio) {
     g.band.read(g.disc->band);
     const int16_t band = g.band->id;
     const int16_t label = g.band->label;
-    double day = g.gameDate + 14;
-    for (int s = 0; s < b.sessions; ++s) {
-        g.band.read(band);
-        day = nextFreeDate(g, day);
-        if (s == 0) b.firstDay = day;
-        g.disc.read(disc);
-        g.band.read(band);
-        addSchedule(g, recordingEntry(g, day));
-        day += 1;
-    }
+    g.band.read(band);
+    const std::vector<double> days = nextFreeDates(g, g.gameDate + 14, b.sessions);
+    if (!days.empty()) b.firstDay = days.front();
+    g.disc.read(disc);
+    g.band.read(band);
+    std::vector<ScheduleRecord> entries;
+    for (double day : days) entries.push_back(recordingEntry(g, day));
+    addSchedules(g, entries);
     b.recordingDue = g.gameDate + 13 + b.sessions;
     g.disc.read(disc);
     g.disc->recordingDue = b.recordingDue;

@@ -127,6 +127,14 @@ double nextFreeDate(Game& g, double from) {
     return d;
 }
 
+std::vector<double> nextFreeDates(Game& g, double from, int count) {
+    DayReader reader(g);
+    std::vector<double> dates;
+    for (double d = from; static_cast<int>(dates.size()) < count; d += 1)
+        if (engagementOn(g, reader.day(d)) == 0) dates.push_back(d);
+    return dates;
+}
+
 std::string scheduleActivityText(Game& g, int32_t id) {
     if (id == 0) return "None";
     g.schedule.read(id);
