@@ -95,8 +95,12 @@ void frmBandOptionsSigned::openAlbumProgress() {
     if (g.band->albumStatus == 2) {
         (new frmRecordingProgress(main_, static_cast<int16_t>(g.band->songsWritten)))->open();
     } else if (int16_t disc = discAwaitingStudio(g, band_)) {
-        // A tracklist fixed without a studio: the studio choice again, charged once it is made.
-        (new frmChooseStudio(main_, disc))->open();
+        // A tracklist fixed without a title or a studio: those steps again, charged once the studio is chosen.
+        g.disc.read(disc);
+        if (trim(g.disc->title.value).empty())
+            (new frmFinaliseAlbum(main_, disc))->open();
+        else
+            (new frmChooseStudio(main_, disc))->open();
     } else {
         (new frmAlbumProgress(main_, band_))->open();
     }
