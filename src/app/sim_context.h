@@ -74,6 +74,11 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance,
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
 void addNewsVerbs(CLI::App& app, SimContext& ctx);     // news, show, reply, delete, schedule
 void addListVerbs(CLI::App& app, SimContext& ctx);     // list
+void addAlbumVerbs(CLI::App& app, SimContext& ctx);    // work, songs, album, progress, firms, build
+
+// The answer to an opened item about an ended option (extend or release; a
+// plain ok is refused there). False, doing nothing, for any other item and word.
+bool replyToOption(SimContext& ctx, Game& g, const std::string& word);
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

@@ -178,9 +178,9 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
     auto replyOpts = std::make_shared<ItemOptions>();
     auto* reply = app.add_subcommand("reply", "Answer a news item");
     reply->add_option("ID", replyOpts->id, "The news item's number")->required();
-    reply->add_option("REPLY", replyOpts->reply, "ok, yes, no, defend or condemn")
+    reply->add_option("REPLY", replyOpts->reply, "ok, yes, no, defend, condemn, or extend or release for an ended option")
         ->required()
-        ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn"}));
+        ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn", "extend", "release"}));
     reply->callback([&ctx, replyOpts] {
         const int replyId = replyOpts->id;
         const std::string& replyWord = replyOpts->reply;
@@ -190,7 +190,9 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             auto words = buttonWords(g.news->kind);
             std::size_t button = 0;
             while (button < words.size() && words[button] != replyWord) ++button;
-            if (button == words.size()) {
+            if (replyToOption(ctx, g, replyWord)) {
+                // answered (or refused) as an option decision
+            } else if (button == words.size()) {
                 ctx.refuse(fmt::format("News item {} has no {} button", replyId, replyWord));
             } else if (!view.buttons[button].enabled) {
                 ctx.refuse(fmt::format("News item {} has already been answered", replyId));

@@ -8,4 +8,7 @@ namespace trovane {
 void computerCheckAlbumProgress(Game& g) { static_cast<void>(g); }
 void computerRecordAlbum(Game& g) { static_cast<void>(g); }
 
+// Not built yet: a rival does nothing with a finished recording until its rules are written.
+void rivalRecordingComplete(Game& g) { static_cast<void>(g); }
+
 }  // namespace trovane

@@ -8,4 +8,7 @@ class Game;
 void computerCheckAlbumProgress(Game& g);
 void computerRecordAlbum(Game& g);
 
+// A rival's disc (disc and band buffers) has finished recording.
+void rivalRecordingComplete(Game& g);
+
 }  // namespace trovane

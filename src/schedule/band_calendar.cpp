@@ -33,10 +33,9 @@ public:
         if (year != year_) {
             year_ = year;
             present_ = hasDayFile(g_, year);
-            if (present_)
-                openDayFile(g_, year);
-            else
-                closeDayFile(g_);
+            // A walk may cross the year's end: the old year's file is closed first.
+            closeDayFile(g_);
+            if (present_) openDayFile(g_, year);
         }
         if (!present_) return nullptr;
         g_.dayIndex.read(dayNumberInYear(date));
@@ -111,6 +110,14 @@ double nextFreeDate(Game& g, double from) {
     double d = from;
     while (engagementOn(g, reader.day(d)) != 0) d += 1;
     return d;
+}
+
+std::vector<double> nextFreeDates(Game& g, double from, int count) {
+    DayReader reader(g);
+    std::vector<double> dates;
+    for (double d = from; static_cast<int>(dates.size()) < count; d += 1)
+        if (engagementOn(g, reader.day(d)) == 0) dates.push_back(d);
+    return dates;
 }
 
 std::string scheduleActivityText(Game& g, int32_t id) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace trovane {
 
@@ -25,6 +26,9 @@ int32_t countFreeDays(Game& g, double from, double to);
 
 // The first date on or after `from` on which the current band is free.
 double nextFreeDate(Game& g, double from);
+
+// The first `count` dates on or after `from` on which the current band is free, in order.
+std::vector<double> nextFreeDates(Game& g, double from, int count);
 
 // What the calendar shows for an entry: "None" for 0, an empty text for a
 // type that doesn't occupy a band.

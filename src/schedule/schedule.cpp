@@ -62,6 +62,45 @@ int32_t addSchedule(Game& g, ScheduleRecord record) {
     return record.id;
 }
 
+std::vector<int32_t> addSchedules(Game& g, const std::vector<ScheduleRecord>& records) {
+    std::vector<int32_t> ids;
+    ids.reserve(records.size());
+    const ScheduleRecord kept = g.schedule.rec;
+    int openYear = 0;
+    for (ScheduleRecord record : records) {
+        if (record.date < g.gameStartDate) {
+            ids.push_back(0);
+            continue;
+        }
+        if (record.type != 17 || record.id == 0) record.id = g.schedule.recordCount();
+        g.schedule.rec = record;
+        g.schedule.write(record.id);
+        const int year = yearOf(record.date);
+        if (year != openYear) {
+            closeDayFile(g);
+            if (year > g.lastScheduleYear) addScheduleYear(g, year);
+            openDayFile(g, year);
+            openYear = year;
+        }
+        const int32_t day = dayNumberInYear(record.date);
+        g.dayIndex.read(day);
+        DayRecord& d = g.dayIndex.rec;
+        if (d.count < 0 || d.count >= kMaxEntriesPerDay) {
+            closeDayFile(g);
+            g.schedule.rec = kept;
+            throw FatalError(fmt::format("Subscript out of range: day {} of {} already holds {} schedule entries", day,
+                                         year, d.count));
+        }
+        d.entries[static_cast<std::size_t>(d.count)] = record.id;
+        d.count += 1;
+        g.dayIndex.write(day);
+        ids.push_back(record.id);
+    }
+    closeDayFile(g);
+    g.schedule.rec = kept;
+    return ids;
+}
+
 std::vector<int32_t> entriesOfDay(Game& g, double date) {
     int year = yearOf(date);
     if (!hasDayFile(g, year)) return {};

@@ -22,6 +22,10 @@ inline constexpr int32_t kMaxEntriesPerDay = 1000;
 // left as it was.
 int32_t addSchedule(Game& g, ScheduleRecord record);
 
+// Files several entries as addSchedule files each, in order, opening a year's
+// day file once for all its entries. Returns their numbers (0 for one not filed).
+std::vector<int32_t> addSchedules(Game& g, const std::vector<ScheduleRecord>& records);
+
 // Makes the day file of a year, one blank day per day of the year, after
 // first making any year missing between lastScheduleYear and it.
 void addScheduleYear(Game& g, int year);

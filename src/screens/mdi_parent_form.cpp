@@ -20,6 +20,7 @@
 #include "screens/loading_screen.h"
 #include "screens/new_game_screens.h"
 #include "screens/news_screens.h"
+#include "screens/option_decision_screen.h"
 #include "screens/save_game_screen.h"
 #include "screens/side_bar.h"
 #include "screens/start_screens.h"
@@ -228,6 +229,7 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmSaveGame: return new frmSaveGame(*this, saveScreenLoads_);
     case Screen::frmCredits: return new frmCredits(*this);
     case Screen::frmDisclaimer: return new frmDisclaimer(*this);
+    case Screen::frmBandOptionDecision: return new frmBandOptionDecision(*this);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.

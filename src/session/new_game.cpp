@@ -353,7 +353,7 @@ void startNewGame(Game& g, StaffRecord player) {
     }
     seedCharts(g);
     unlockHiddenBand(g);
-    briefPlayerAlbums(g);
+    briefNewPlayerOnAlbums(g);
     report(g, 85);
 
     int year = yearOf(g.gameDate);

@@ -4,6 +4,7 @@
 
 #include "day/daily_cycle.h"
 #include "floor/preferences.h"
+#include "label/finances.h"
 #include "session/new_game.h"
 #include "session/save_load.h"
 #include "support/temp_folder.h"
@@ -142,7 +143,11 @@ TEST_F(NewGame, TakingOverALabelKeepsItsCashAndBands) {
     NewPlayer p = confirmPlayer(g, player());
     takeOverLabel(g, p, 1);
     EXPECT_EQ(g.player.playerLabel, 1);
-    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(4500000));
+    // The album plan of its band may buy songs in: the cash is the data's less what the books show.
+    g.label.read(1);
+    Money booked = 0;
+    for (int c = ledgerWages; c <= ledgerOtherIncome; ++c) booked += ledgerEntry(g.label.rec, 0, c);
+    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(4500000) + booked);
     EXPECT_EQ(trim(g.player.playerLabelName.value), "Greystone Music");
     g.label.read(1);
     EXPECT_EQ(g.label->boss, p.staff.id);

@@ -1,0 +1,120 @@
+// The album verbs of trovane-sim: the same checks and actions as the screens,
+// refusals in the game's words (status 1) and bad arguments (status 2).
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <string>
+
+#include "production/businesses.h"
+#include "production/recording.h"
+#include "session/session_record.h"
+#include "support/album_world.h"
+#include "talent/contract_progress.h"
+
+using namespace trovane;
+using test::AlbumWorld;
+
+namespace {
+
+struct SimWorld : AlbumWorld {
+    int16_t band = addBand("Tapes", kPlayer, 2);
+    SimWorld() {
+        addBand("Theirs", kRival);
+        for (int i = 0; i < 3; ++i) addSong(band, 50, 50);
+        addFirm("Rooms", kStudio, 10, 0);  // 150 a day
+        addFirm("Press", kPlant, 50, 0);
+    }
+    // Writes the world out for trovane-sim.
+    void save() {
+        writeSessionFile(g, workingSessionFile(g));
+        closeAllTables(g);
+    }
+    std::pair<int, std::string> sim(const std::string& args) {
+        std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + eg.folder.path().string() + " " + args + " 2>&1";
+        std::string out;
+        FILE* p = popen(cmd.c_str(), "r");
+        char buf[4096];
+        while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
+        int status = pclose(p);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+    }
+};
+
+}  // namespace
+
+TEST(SimAlbumVerbs, WorkAsksThePlayersBandOnceAndRefusesOthers) {
+    SimWorld w;
+    w.save();
+    EXPECT_EQ(w.sim("work Tapes --budget 5").first, 2);
+    EXPECT_EQ(w.sim("work Nobody --budget 1").first, 2);
+    auto [theirs, why] = w.sim("work Theirs --budget 1");
+    EXPECT_EQ(theirs, 1);
+    EXPECT_NE(why.find("Theirs are not signed to your label."), std::string::npos) << why;
+    auto [ok, json] = w.sim("--json work 1 --budget 4");
+    EXPECT_EQ(ok, 0);
+    EXPECT_EQ(json, "{\"band\":1,\"albumStatus\":1,\"materialBudget\":4}\n");
+    EXPECT_EQ(w.sim("work Tapes --budget 4").first, 1) << "an album in hand";
+}
+
+TEST(SimAlbumVerbs, AlbumFinalisesTitlesAndBooksOrRefusesWithNothingChanged) {
+    SimWorld w;
+    w.save();
+    EXPECT_EQ(w.sim("album Tapes --tracks 1,x --studio Rooms").first, 2);
+    EXPECT_EQ(w.sim("album Tapes --tracks 1,2 --studio Nowhere").first, 2);
+    EXPECT_EQ(w.sim("album Tapes --tracks 1,9 --studio Rooms").first, 1);
+    EXPECT_EQ(w.sim("album Tapes --tracks 1,2 --studio Press").first, 1);
+    EXPECT_EQ(w.sim("album Tapes --tracks 1,2 --studio Rooms --title ' '").first, 1);
+    auto [ok, json] = w.sim("--json album Tapes --tracks 1,2 --studio Rooms --title 'First Light'");
+    ASSERT_EQ(ok, 0) << json;
+    // 2 tracks: 4 sessions from 19 August (5 + 14); due 5 + 13 + 4 = 22 August; 4 x 150.
+    EXPECT_EQ(json,
+              "{\"disc\":1,\"title\":\"First Light\",\"sessions\":4,\"firstStudioDay\":\"2004-08-19\","
+              "\"recordingDue\":\"2004-08-22\",\"cost\":6000000}\n");
+    EXPECT_EQ(w.sim("album Tapes --tracks 3 --studio Rooms").first, 1) << "recording";
+    EXPECT_EQ(w.sim("--json songs Tapes").second, "[]\n");
+    auto [shown, progress] = w.sim("progress Tapes");
+    EXPECT_EQ(progress,
+              "Album Progress\nTapes are currently in Rooms recording their forthcoming album. So far they have "
+              "completed recording on 0 of a total of 2 tracks.\n");
+}
+
+TEST(SimAlbumVerbs, AnEndedOptionIsAnsweredWithExtendOrRelease) {
+    SimWorld w;
+    Game& g = w.g;
+    g.band.read(w.band);
+    g.band->optionsRemaining = 2;
+    g.band.write();
+    ScheduleRecord e{};
+    e.type = 18;
+    e.band = w.band;
+    e.date = g.gameDate;
+    g.schedule.rec = e;
+    g.schedule.append();
+    contractPoint(g);
+    w.save();
+    EXPECT_EQ(w.sim("reply 1 ok").first, 1) << "a plain ok decides nothing";
+    EXPECT_EQ(w.sim("reply 1 extend").first, 0);
+    EXPECT_EQ(w.sim("reply 1 release").first, 1) << "answered once";
+    Game after(w.eg.folder.path(), 1);
+    openAllTables(after, "vel");
+    after.band.read(w.band);
+    EXPECT_EQ(after.band->optionsRemaining, 1);
+    EXPECT_EQ(after.band->label, AlbumWorld::kPlayer);
+    closeAllTables(after);
+}
+
+TEST(SimAlbumVerbs, AnAlbumFinalisedWithoutAStudioIsBookedOnceWithoutTracks) {
+    SimWorld w;
+    w.save();
+    EXPECT_EQ(w.sim("album Tapes --studio Rooms").first, 1) << "no tracks and nothing finalised";
+    openAllTables(w.g, "vel");
+    finaliseAlbum(w.g, w.band, {2, 3});
+    setDiscTitle(w.g, 1, "Kept");
+    w.save();
+    auto [ok, json] = w.sim("--json album Tapes --studio Rooms");
+    EXPECT_EQ(ok, 0) << json;
+    EXPECT_EQ(json.rfind("{\"disc\":1,\"title\":\"Kept\",\"sessions\":4,", 0), 0u) << json;
+    EXPECT_EQ(w.sim("album Tapes --studio Rooms").first, 1) << "charged once";
+}

@@ -1,0 +1,345 @@
+// Songs written week by week: who writes, how often, what the figures come
+// to, bought-in material and its price, titles, and the news along the way.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <tuple>
+
+#include "production/songwriting.h"
+#include "support/album_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::AlbumWorld;
+
+namespace {
+
+// Runs writesThisWeek n times on artist a of band b; how many weeks it wrote.
+int weeksWritten(Game& g, int16_t band, int16_t artist, int n) {
+    int wrote = 0;
+    for (int i = 0; i < n; ++i) {
+        g.band.read(band);
+        g.artist.read(artist);
+        wrote += writesThisWeek(g) ? 1 : 0;
+    }
+    return wrote;
+}
+
+int songsOf(Game& g, int16_t band) {
+    int n = 0;
+    for (int32_t s = 1; s < g.song.recordCount(); ++s) {
+        g.song.read(s);
+        n += g.song->band == band ? 1 : 0;
+    }
+    return n;
+}
+
+}  // namespace
+
+TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Full Time", AlbumWorld::kRival, 1, 50, 100);
+    g.band.read(band);
+    g.band->albumStatus = 1;  // the album takes all their time: focus 100 whatever writingFocus says
+    g.band.write();
+    // c = round(100 x 7 x 100 / 100) = 700 against 0..899: 700 of 900 weeks.
+    EXPECT_NEAR(weeksWritten(g, band, 1, 18000) / 18000.0, 700.0 / 900, 0.012);
+
+    g.band.read(band);
+    g.band->albumStatus = 0;
+    g.band.write();
+    g.artist.read(1);
+    g.artist->writingFocus = 50;
+    g.artist.write();
+    // c = round(100 x 7 x 50 / 100) = 350: 350 of 900.
+    EXPECT_NEAR(weeksWritten(g, band, 1, 18000) / 18000.0, 350.0 / 900, 0.012);
+
+    g.artist.read(1);
+    g.artist->writingFocus = 0;
+    g.artist.write();
+    EXPECT_EQ(weeksWritten(g, band, 1, 2000), 0) << "c = 0 is never above a draw";
+}
+
+TEST(Songwriting, ANonWriterOrARetiredArtistNeverWritesNorBuysIn) {
+    AlbumWorld w;
+    Game& g = w.g;
+    // The leader can't write; writing album time, every chance at its highest.
+    int16_t band = w.addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);
+    int16_t retired = w.addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);
+    for (int16_t b : {band, retired}) {
+        g.band.read(b);
+        g.band->albumStatus = 1;
+        g.band.write();
+    }
+    g.artist.read(3);
+    g.artist->retired = -1;
+    g.artist.write();
+    for (int week = 0; week < 30; ++week) updateSongs(g);
+    EXPECT_EQ(g.song.recordCount(), 1);
+}
+
+TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromTheLeaderAtStatusOne) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t recording = w.addBand("Recording", AlbumWorld::kRival, 2, 60, 100);  // artists 1, 2
+    int16_t ending = w.addBand("Ending", AlbumWorld::kRival, 2, 60, 100);        // 3, 4
+    int16_t writing = w.addBand("Writing", AlbumWorld::kRival, 2, 60, 100);      // 5, 6
+    int16_t idle = w.addBand("Idle", AlbumWorld::kRival, 2, 60, 100);            // 7, 8
+    int16_t follower = w.addBand("Follower", AlbumWorld::kRival, 2, 60, 100);    // 9, 10
+    for (int16_t b : {recording, ending, writing, idle, follower}) {
+        g.band.read(b);
+        g.band->albumStatus = b == recording ? 2 : b == idle ? 0 : 1;
+        if (b == ending) g.band->contractEnd = g.gameDate + 100;
+        g.band.write();
+    }
+    g.artist.read(7);  // Idle's leader gives writing all his time; the rest of Idle none
+    g.artist->writingFocus = 100;
+    g.artist.write();
+    g.artist.read(9);  // Follower's leader never writes nor buys
+    g.artist->writingRate = 0;
+    g.artist.write();
+    for (int week = 0; week < 40; ++week) updateSongs(g);
+
+    std::map<int16_t, std::pair<int, int>> ownAndBought;
+    for (int32_t s = 1; s < g.song.recordCount(); ++s) {
+        g.song.read(s);
+        auto& [own, bought] = ownAndBought[g.song->band];
+        (g.song->writer == 0 ? bought : own) += 1;
+    }
+    EXPECT_EQ(ownAndBought.count(recording), 0u) << "recording: nothing of their own";
+    EXPECT_EQ(ownAndBought.count(ending), 0u) << "an announced end: nothing at all";
+    EXPECT_GT(ownAndBought[writing].first, 0);
+    EXPECT_GT(ownAndBought[writing].second, 0) << "the leader buys in on weeks without a song";
+    EXPECT_GT(ownAndBought[idle].first, 0);
+    EXPECT_EQ(ownAndBought[idle].second, 0) << "no buying without an album under way";
+    EXPECT_GT(ownAndBought[follower].first, 0);
+    EXPECT_EQ(ownAndBought[follower].second, 0) << "only the first member buys";
+}
+
+TEST(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Spread", AlbumWorld::kRival, 1, 50, 40);
+    g.artist.read(1);
+    g.artist->songCommerciality = 100;
+    g.artist.write();
+    int lowQ = 100, highQ = 0, lowC = 100, highC = 0;
+    for (int i = 0; i < 400; ++i) {
+        g.band.read(band);
+        g.artist.read(1);
+        writeSong(g, true, true);
+        g.song.read(g.song.recordCount() - 1);
+        lowQ = std::min<int>(lowQ, g.song->quality);
+        highQ = std::max<int>(highQ, g.song->quality);
+        lowC = std::min<int>(lowC, g.song->commerciality);
+        highC = std::max<int>(highC, g.song->commerciality);
+    }
+    // quality 50 + Int(5 r1) - Int(5 r2): 46 to 54.
+    EXPECT_EQ(lowQ, 46);
+    EXPECT_EQ(highQ, 54);
+    // commerciality 100 + Int(10 r1) - Int(10 r2): 91 to 109, held at 100.
+    EXPECT_EQ(lowC, 91);
+    EXPECT_EQ(highC, 100);
+    g.song.read(1);
+    EXPECT_EQ(trim(g.song->writerForename.value), "Member1");
+    EXPECT_EQ(g.song->writer, 1);
+    EXPECT_EQ(g.song->disc, 65535);
+    EXPECT_EQ(trim(g.song->title.value), "Untitled") << "a rival's songs take no bank title";
+}
+
+class BoughtMaterial : public ::testing::TestWithParam<int> {};
+
+TEST_P(BoughtMaterial, EachBudgetHasItsQualityCommercialityAndPrice) {
+    const int level = GetParam();
+    struct Level {
+        int quality;
+        int64_t price;
+        int lowestCommerciality;
+    };
+    // quality base + Int(10 r3) - Int(10 r4); commerciality 60 + Int(10 r1) - Int(r2 (10 b + 10)).
+    const Level levels[] = {{90, 50000, 51}, {80, 20000, 41}, {65, 5000, 31}, {50, 2500, 21}, {40, 500, 11}};
+    const Level want = levels[level];
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Buyers", AlbumWorld::kRival, 1, 50, 40);
+    g.band.read(band);
+    g.band->materialBudget = static_cast<uint8_t>(level);
+    g.band.write();
+    int lowQ = 100, highQ = 0, lowC = 100, highC = 0;
+    const int songs = 600;
+    for (int i = 0; i < songs; ++i) {
+        g.band.read(band);
+        g.artist.read(1);
+        writeSong(g, false, true);
+        g.song.read(g.song.recordCount() - 1);
+        lowQ = std::min<int>(lowQ, g.song->quality);
+        highQ = std::max<int>(highQ, g.song->quality);
+        lowC = std::min<int>(lowC, g.song->commerciality);
+        highC = std::max<int>(highC, g.song->commerciality);
+    }
+    EXPECT_EQ(lowQ, want.quality - 9);
+    EXPECT_EQ(highQ, want.quality + 9);
+    EXPECT_EQ(lowC, want.lowestCommerciality);
+    EXPECT_EQ(highC, 69);
+    g.song.read(1);
+    EXPECT_EQ(trim(g.song->writerForename.value), "Unknown");
+    EXPECT_EQ(g.song->writer, 0);
+    EXPECT_EQ(w.ledger(AlbumWorld::kRival, ledgerOtherExpense), -moneyUnits(want.price * songs));
+}
+
+INSTANTIATE_TEST_SUITE_P(Levels, BoughtMaterial, ::testing::Values(0, 1, 2, 3, 4));
+
+TEST(Songwriting, SongTitlesComeFromTheBankForThePlayersBands) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Ours", AlbumWorld::kPlayer);
+    g.newsong->title = std::string("Other Style");
+    g.newsong->style = 2;
+    g.newsong.append();
+    g.newsong->title = std::string("Worn Out");
+    g.newsong->style = 1;
+    g.newsong->uses = 100;
+    g.newsong.append();
+    g.band.read(band);
+    // Neither fits (one is another style, the other used 100 times against 0..99):
+    // after 50 tries the last one drawn is taken, and no use is counted.
+    std::string title = pickSongTitle(g);
+    EXPECT_TRUE(title == "Other Style" || title == "Worn Out") << title;
+    g.newsong.read(2);
+    EXPECT_EQ(g.newsong->uses, 100);
+
+    g.newsong->uses = 0;
+    g.newsong.write();
+    g.artist.read(1);
+    g.band.read(band);
+    writeSong(g, true, true);
+    g.song.read(1);
+    EXPECT_EQ(trim(g.song->title.value), "Worn Out");
+    g.newsong.read(2);
+    EXPECT_EQ(g.newsong->uses, 1);
+}
+
+TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Paid", AlbumWorld::kPlayer, 2);
+    g.band.read(band);
+    g.band->advanceToPay = moneyUnits(30000);
+    g.band->firstInstallmentDue = 1;
+    g.band.write();
+    g.artist.read(1);
+    writeSong(g, true, true);
+    // 30,000 / 3 = 10,000 to the advances; 5,000 to each of two members.
+    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(10000));
+    g.artist.read(2);
+    EXPECT_EQ(g.artist->wealth, 5000);
+    g.band.read(band);
+    EXPECT_EQ(g.band->firstInstallmentDue, 0);
+    EXPECT_EQ(g.band->songsWritten, 1);
+    const NewsRecord& n = w.lastNews();
+    EXPECT_EQ(trim(n.title.value), "Paid paid the first installment of their advance.");
+    EXPECT_EQ(trim(n.text.value),
+              "The first installment of Paid's advance (£10,000) has been paid from your accounts.");
+
+    g.artist.read(1);
+    g.band.read(band);
+    writeSong(g, true, true);
+    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(10000)) << "once a term";
+}
+
+TEST(Songwriting, ProgressNewsFromTheTenthToTheFiftiethSong) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Prolific", AlbumWorld::kPlayer, 2);
+    auto writeAt = [&](int32_t before, uint8_t status) {
+        g.band.read(band);
+        g.band->songsWritten = before;
+        g.band->albumStatus = status;
+        g.band.write();
+        g.artist.read(1);
+        int32_t news = w.newsCount();
+        writeSong(g, true, false);
+        return w.newsCount() - news;
+    };
+    EXPECT_EQ(writeAt(8, 0), 0) << "the ninth song";
+    EXPECT_EQ(writeAt(9, 0), 1);
+    EXPECT_EQ(trim(w.lastNews().text.value),
+              "In a progress meeting today Prolific informed you that they have now written 10 tracks  ready to "
+              "appear on a future album.");
+    EXPECT_EQ(trim(w.lastNews().title.value), "Prolific album update.");
+    EXPECT_EQ(writeAt(49, 1), 1);
+    EXPECT_EQ(trim(w.lastNews().text.value),
+              "In a progress meeting today Prolific informed you that they have now written 50 tracks  for their "
+              "forthcoming album.");
+    EXPECT_EQ(writeAt(50, 1), 0) << "the 51st song";
+}
+
+TEST(Songwriting, SongFiguresAndSingles) {
+    SongRecord s{};
+    s.quality = 45;
+    s.commerciality = 50;
+    EXPECT_EQ(songMean(s), 48);  // 47.5 to the even 48
+    s.commerciality = 48;
+    EXPECT_EQ(songMean(s), 46);  // 46.5 to the even 46
+    EXPECT_FALSE(isAlreadySingle(s));
+    s.singleDisc = {0, 0, 0, 0, 1};
+    EXPECT_TRUE(isAlreadySingle(s)) << "any of the five, Oceania stored last";
+    s.singleDisc = {0, -1, 0, 0, 0};
+    EXPECT_FALSE(isAlreadySingle(s));
+}
+
+TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t recent = w.addBand("Recent", AlbumWorld::kRival, 2, 50, 100);
+    int16_t older = w.addBand("Older", AlbumWorld::kRival, 2, 0, 100);  // no writers
+    for (auto [band, daysAgo] : {std::pair{recent, 180}, std::pair{older, 181}}) {
+        g.disc.rec = DiscRecord{};
+        g.disc->band = band;
+        g.disc->releaseDate = {g.gameDate - daysAgo, g.gameDate - daysAgo + 30, kNoDate, kNoDate, kNoDate};
+        g.disc.append();
+    }
+    int most = 0, total = 0;
+    for (int round = 0; round < 40; ++round) {
+        for (int16_t band : {recent, older}) {
+            g.band.read(band);
+            g.band->songsWritten = 0;
+            g.band.write();
+            seedAlbumPlan(g);
+            EXPECT_EQ(g.band->id, band) << "the band is left in the buffer";
+        }
+        g.band.read(older);
+        most = std::max(most, g.band->songsWritten);
+        total += g.band->songsWritten;
+    }
+    EXPECT_EQ(songsOf(g, recent), 0) << "released 180 days before the start";
+    EXPECT_EQ(most, 5) << "at most 5 without writers";
+    EXPECT_EQ(songsOf(g, older), total);
+    g.song.read(1);
+    EXPECT_EQ(g.song->writer, 0) << "no member can write: bought in";
+}
+
+TEST(Songwriting, TheNewPlayerIsBriefedOnBandsWithTracksAndNoAlbumInTheStudio) {
+    AlbumWorld w;
+    Game& g = w.g;
+    for (auto [name, songs, status] :
+         {std::tuple{"One", 1, 0}, std::tuple{"Many", 12, 1}, std::tuple{"Busy", 9, 2}, std::tuple{"None", 0, 0}}) {
+        int16_t b = w.addBand(name, AlbumWorld::kPlayer);
+        g.band.read(b);
+        g.band->songsWritten = songs;
+        g.band->albumStatus = static_cast<uint8_t>(status);
+        g.band.write();
+    }
+    w.addBand("Theirs", AlbumWorld::kRival);
+    g.band.read(5);
+    g.band->songsWritten = 3;
+    g.band.write();
+    briefNewPlayerOnAlbums(g);
+    ASSERT_EQ(w.newsCount(), 1);
+    EXPECT_EQ(trim(w.lastNews().title.value), "Introductory album progress briefing");
+    EXPECT_EQ(trim(w.lastNews().text.value),
+              "In one of your introductory meetings today you were briefed on how the bands on signed to your new "
+              "label are progressing on forthcoming albums, the report can be seen below :-\n- One : written 1 track "
+              "to appear on a future album.\n- Many : written 12 tracks to appear on a future album.");
+}

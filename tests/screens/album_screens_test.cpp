@@ -1,0 +1,202 @@
+// The road of an album on screen: from the signed band's panel through the
+// request, the budget, the tracks, the title and the studio to the recording
+// progress; and building a studio from the label's facilities.
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTableWidget>
+
+#include "production/businesses.h"
+#include "screen_fixture.h"
+#include "screens/album_screens.h"
+#include "screens/business_screens.h"
+#include "screens/side_bar.h"
+#include "talent/contract_progress.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::ScreenTest;
+
+namespace {
+
+// A writer's act signed to the player, and an open independent studio.
+int16_t addSignedBand(Game& g) {
+    g.artist.rec = ArtistRecord{};
+    g.artist->forename = std::string("Nia");
+    g.artist->surname = std::string("Hart");
+    g.artist->male = -1;
+    g.artist->energy = 100;
+    const auto artist = static_cast<int16_t>(g.artist.append());
+    g.band.rec = BandRecord{};
+    g.band->name = std::string("The Hartbeats");
+    g.band->label = g.player.playerLabel;
+    g.band->memberCount = 2;
+    g.band->members = {artist, artist};
+    const auto band = static_cast<int16_t>(g.band.append());
+    g.business.rec = BusinessRecord{};
+    g.business->name = std::string("Harbour Studios");
+    g.business->city = 1;
+    g.business->quality = 40;
+    g.business->open = -1;
+    g.business.append();
+    return band;
+}
+
+void clickRow(QTableWidget* t, int row) {
+    QRect r = t->visualItemRect(t->item(row, 0));
+    QTest::mouseClick(t->viewport(), Qt::LeftButton, {}, r.center());
+    QApplication::processEvents();
+}
+
+}  // namespace
+
+TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    const int16_t band = addSignedBand(g);
+    auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());
+    panel->move(260, 120);
+    panel->show();
+    EXPECT_FALSE(panel->lblAlbumProgress->isEnabled()) << "no songs yet";
+    EXPECT_FALSE(panel->lblTour->isEnabled());
+    screenshot("30_frmBandOptionsSigned");
+    click(panel->lblAlbum);
+
+    auto* work = dialog<screens::frmWorkOnAlbum>("frmWorkOnAlbum");
+    ASSERT_NE(work, nullptr);
+    screenshotOf(work, "31_frmWorkOnAlbum");
+    click(work->cmdYes);
+    EXPECT_EQ(work->optBudget[0]->text().toStdString(), "Quality 90%, £50,000 a song");
+    screenshotOf(work, "32_frmWorkOnAlbum_budget");
+    click(work->optBudget[3]);
+    click(work->cmdConfirm);
+    g.band.read(band);
+    EXPECT_EQ(g.band->albumStatus, 1);
+    EXPECT_EQ(g.band->materialBudget, 3);
+
+    std::vector<int32_t> songs;
+    for (const char* title : {"Low Tide", "Night Bus", "Glass Roof"}) {
+        g.song.rec = SongRecord{};
+        g.song->title = std::string(title);
+        g.song->band = band;
+        g.song->quality = 60;
+        g.song->commerciality = 40;
+        g.song->disc = 65535;
+        g.song->written = g.gameDate;
+        songs.push_back(g.song.append());
+    }
+    g.band.read(band);
+    g.band->songsWritten = 3;
+    g.band.write();
+    panel = new screens::frmBandOptionsSigned(*window, band, window.get());
+    panel->show();
+    EXPECT_FALSE(panel->lblAlbum->isEnabled()) << "an album in hand";
+    click(panel->lblAlbumProgress);
+
+    auto* progress = dialog<screens::frmAlbumProgress>("frmAlbumProgress");
+    ASSERT_NE(progress, nullptr);
+    EXPECT_FALSE(progress->cmdFinalise->isEnabled());
+    clickRow(progress->flxSongs, 0);
+    clickRow(progress->flxSongs, 1);
+    clickRow(progress->flxSongs, 1);  // unmarked again
+    clickRow(progress->flxSongs, 2);
+    EXPECT_EQ(progress->marked().size(), 2u);
+    EXPECT_EQ(progress->flxSongs->item(0, 5)->text().toStdString(), "Added");
+    screenshotOf(progress, "33_frmAlbumProgress");
+    click(progress->cmdFinalise);
+
+    auto* title = dialog<screens::frmFinaliseAlbum>("frmFinaliseAlbum");
+    ASSERT_NE(title, nullptr);
+    title->txtTitle->clear();
+    click(title->cmdConfirm);
+    EXPECT_EQ(title->findChild<QLabel*>("lblRefusal")->text().toStdString(), "Please enter a title for the album.");
+    QTest::keyClicks(title->txtTitle, "Harbour Lights");
+    screenshotOf(title, "34_frmFinaliseAlbum");
+    click(title->cmdConfirm);
+
+    auto* studio = dialog<screens::frmChooseStudio>("frmChooseStudio");
+    ASSERT_NE(studio, nullptr);
+    EXPECT_FALSE(studio->cmdChoose->isEnabled());
+    clickRow(studio->flxBusinesses, 0);
+    // 2 tracks, 4 sessions at 40 x 40 x 1.5 = 2,400.
+    EXPECT_EQ(studio->details->lblCost->text().toStdString(), "Estimated Cost : £9,600");
+    EXPECT_EQ(studio->details->lblOwner->text().toStdString(), "Independent Company");
+    screenshotOf(studio, "35_frmChooseStudio");
+    const Money cash = g.player.playerLabelCash;
+    click(studio->cmdChoose);
+    EXPECT_EQ(g.player.playerLabelCash, cash - moneyUnits(9600));
+
+    auto* recording = dialog<screens::frmRecordingProgress>("frmRecordingProgress");
+    ASSERT_NE(recording, nullptr);
+    EXPECT_EQ(recording->windowTitle().toStdString(), "Album Progress");
+    screenshotOf(recording, "36_frmRecordingProgress");
+    click(recording->cmdOk);
+    g.band.read(band);
+    EXPECT_EQ(g.band->albumStatus, 2);
+    g.disc.read(g.band->songsWritten);
+    EXPECT_EQ(trim(g.disc->title.value), "Harbour Lights");
+}
+
+TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    auto* facilities = new screens::LabelFacilities(*window);
+    facilities->resize(700, 360);
+    facilities->show();
+    EXPECT_EQ(facilities->flxBusinesses->rowCount(), 0);
+    click(facilities->cmdBuild);
+    auto* build = dialog<screens::frmBuildNewFacility>("frmBuildNewFacility");
+    ASSERT_NE(build, nullptr);
+    EXPECT_EQ(build->windowTitle().toStdString(), "Build New Studio");
+    EXPECT_EQ(build->cmbCountry->currentText().toStdString(), "England");
+    click(build->cmdConfirm);
+    EXPECT_TRUE(build->isVisible()) << "no name: refused";
+    QTest::keyClicks(build->txtName, "Nightjar Rooms");
+    for (int i = 0; i < 5; ++i) click(build->cmdQualityDown);  // 50 down to 45
+    EXPECT_EQ(build->lblQuality->text().toStdString(), "45%");
+    EXPECT_EQ(build->lblCost->text().toStdString(), "£990,000");
+    EXPECT_EQ(build->lblRunningCost->text().toStdString(), "£20,250 per month");
+    screenshotOf(build, "37_frmBuildNewFacility");
+    click(build->cmdConfirm);
+    ASSERT_EQ(facilities->flxBusinesses->rowCount(), 1);
+    EXPECT_EQ(facilities->flxBusinesses->item(0, 3)->text().toStdString(), "Under Construction");
+    g.business.read(g.business.recordCount() - 1);
+    EXPECT_EQ(trim(g.business->name.value), "Nightjar Rooms");
+    EXPECT_EQ(g.business->open, 0);
+    screenshotOf(facilities, "38_LabelFacilities");
+    delete facilities;
+}
+
+TEST_F(ScreenTest, AnEndedOptionIsDecidedOnItsOwnScreen) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    const int16_t band = addSignedBand(g);
+    g.band.read(band);
+    g.band->offerStage = 1;
+    g.band->additionalAdvanceCount = 2;
+    g.band->optionsRemaining = 2;  // the second term has ended
+    g.band->additionalAdvance = moneyUnits(30000);
+    g.band.write();
+    ScheduleRecord entry{};
+    entry.type = 18;
+    entry.band = band;
+    entry.date = g.gameDate;
+    g.schedule.rec = entry;
+    g.schedule.append();
+    contractPoint(g);  // the band asks for a decision: an item that holds the calendar
+    click(window->sideBar()->btnContinueGame);
+    ASSERT_EQ(screen(), Screen::frmNewsFull);
+    EXPECT_EQ(find<QLabel>("lblHeadline")->text().toStdString(), "The Hartbeats request decision on contract.");
+    click("cmd1");
+    ASSERT_EQ(screen(), Screen::frmBandOptionDecision);
+    auto* text = find<QLabel>("lblText");
+    ASSERT_NE(text, nullptr);
+    EXPECT_TRUE(text->text().startsWith("You must choose whether to extend The Hartbeats's contract"));
+    screenshot("39_frmBandOptionDecision");
+    click("cmdYes");
+    g.band.read(band);
+    EXPECT_EQ(g.band->optionsRemaining, 1);
+    EXPECT_EQ(g.band->advanceToPay, moneyUnits(30000));
+    EXPECT_EQ(screen(), Screen::frmNews);
+}

@@ -1,0 +1,215 @@
+// A contract's course: the first option's deadline and the breach, the
+// decision at the end of an option, taking an option up and letting go.
+#include <gtest/gtest.h>
+
+#include "schedule/schedule.h"
+#include "support/album_world.h"
+#include "talent/contract_progress.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::AlbumWorld;
+
+namespace {
+
+void setBand(Game& g, int16_t band, auto change) {
+    g.band.read(band);
+    change(g.band.rec);
+    g.band.write();
+}
+
+}  // namespace
+
+TEST(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t first = w.addBand("First", AlbumWorld::kPlayer);  // 3 options = 2 further + stage 1
+    int16_t second = w.addBand("Second", AlbumWorld::kPlayer);
+    int16_t released = w.addBand("Released", AlbumWorld::kPlayer);
+    setBand(g, first, [](BandRecord& b) { b.optionMonthsLeft = 7; });
+    setBand(g, second, [](BandRecord& b) { b.optionsRemaining = 2; });
+    setBand(g, released, [](BandRecord& b) { b.optionMonthsLeft = 100; });
+    updateMonthsRemainingOnOption(g);
+    g.band.read(first);
+    EXPECT_EQ(g.band->optionMonthsLeft, 6);
+    g.band.read(second);
+    EXPECT_EQ(g.band->optionMonthsLeft, 12);
+    g.band.read(released);
+    EXPECT_EQ(g.band->optionMonthsLeft, 100);
+    ASSERT_EQ(w.newsCount(), 1) << "the warning at exactly 6";
+    EXPECT_EQ(trim(w.lastNews().title.value), "6 months remain on First's option");
+    EXPECT_EQ(trim(w.lastNews().text.value),
+              "One of your assistants has informed you that there is now only 6 months left on First's initial "
+              "option - if you do not release an album within this time then you will be in breach of your contract "
+              "agreement.");
+    updateMonthsRemainingOnOption(g);
+    EXPECT_EQ(w.newsCount(), 1) << "no warning at 5";
+}
+
+TEST(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Sued", AlbumWorld::kRival, 2);
+    setBand(g, band, [](BandRecord& b) {
+        b.optionMonthsLeft = 1;
+        b.initialAdvance = moneyUnits(130000);
+        b.costs = moneyUnits(5);
+    });
+    updateMonthsRemainingOnOption(g);
+    // 130,000 x 0.75 = 97,500, in steps of 5,000: 19.5 to the even 20, so 100,000.
+    EXPECT_EQ(w.ledger(AlbumWorld::kRival, ledgerOtherExpense), -moneyUnits(100000));
+    g.artist.read(1);
+    EXPECT_EQ(g.artist->wealth, 50000);
+    g.band.read(band);
+    EXPECT_EQ(g.band->label, 0);
+    EXPECT_EQ(g.band->costs, 0);
+    EXPECT_EQ(g.band->advanceToPay, moneyUnits(130000));
+    g.label.read(AlbumWorld::kRival);
+    EXPECT_EQ(g.label->bandCount, 0);
+    EXPECT_EQ(w.newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
+}
+
+TEST(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Angry", AlbumWorld::kPlayer, 2);
+    setBand(g, band, [](BandRecord& b) {
+        b.optionMonthsLeft = 1;
+        b.initialAdvance = moneyUnits(90000);
+    });
+    updateMonthsRemainingOnOption(g);
+    // 90,000 x 0.75 = 67,500: 13.5 steps of 5,000 to the even 14, 70,000.
+    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerOtherExpense), -moneyUnits(70000));
+    g.news.read(1);
+    EXPECT_EQ(trim(g.news->title.value), "Angry sued for breach of contract");
+    EXPECT_EQ(trim(g.news->text.value),
+              "Due to your label not fulfilling contract obligations with Angry they have successfully sued you for "
+              "breach of contract. They are now released from their contract. You have also been forced to pay "
+              "£70,000 in damages.");
+}
+
+TEST(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Term", AlbumWorld::kPlayer);
+    setBand(g, band, [](BandRecord& b) {
+        b.additionalAdvance = moneyUnits(40000);
+        b.advanceToPay = moneyUnits(10);
+        b.albumStatus = 3;
+        b.songsWritten = 7;
+    });
+    g.band.read(band);
+    scheduleContractPoint(g, g.gameDate);
+    g.band.read(band);
+    EXPECT_EQ(g.band->optionsRemaining, 2);
+    EXPECT_EQ(g.band->advanceToPay, moneyUnits(40000));
+    EXPECT_EQ(g.band->firstInstallmentDue, 1);
+    EXPECT_EQ(g.band->albumStatus, 0);
+    EXPECT_EQ(g.band->songsWritten, 0);
+    EXPECT_EQ(g.schedule.recordCount(), 1) << "nothing filed";
+
+    for (uint8_t options : {2, 0}) {
+        setBand(g, band, [&](BandRecord& b) { b.optionsRemaining = options; });
+        g.band.read(band);
+        scheduleContractPoint(g, serialFromCivil(2004, 11, 30));
+        g.band.read(band);
+        EXPECT_EQ(g.band->optionsRemaining, options) << "no take-up";
+    }
+    // 30 November + three months: the end of February.
+    std::vector<int32_t> due = entriesOfDay(g, serialFromCivil(2005, 2, 28));
+    ASSERT_EQ(due.size(), 2u);
+    g.schedule.read(due[0]);
+    EXPECT_EQ(g.schedule->type, 18);
+    EXPECT_EQ(g.schedule->band, band);
+    EXPECT_EQ(g.schedule->label, AlbumWorld::kPlayer);
+}
+
+TEST(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilently) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t asks = w.addBand("Asks", AlbumWorld::kPlayer);
+    int16_t done = w.addBand("Done", AlbumWorld::kPlayer);
+    int16_t rival = w.addBand("Rivals", AlbumWorld::kRival);
+    setBand(g, asks, [](BandRecord& b) { b.optionsRemaining = 2; });
+    setBand(g, done, [](BandRecord& b) {
+        b.optionsRemaining = 0;
+        b.initialAdvance = moneyUnits(25000);
+        b.reputation = {90, 90, 90, 90, 90};  // big enough for release news, which stays silent here
+    });
+    setBand(g, rival, [](BandRecord& b) { b.optionsRemaining = 1; });
+    for (int16_t b : {asks, done, rival}) {
+        ScheduleRecord e{};
+        e.type = 18;
+        e.date = g.gameDate;
+        e.band = b;
+        g.schedule.rec = e;
+        g.schedule.append();
+        contractPoint(g);
+    }
+    ASSERT_EQ(w.newsCount(), 2);
+    g.news.read(1);
+    EXPECT_EQ(trim(g.news->title.value), "Asks request decision on contract.");
+    EXPECT_EQ(trim(g.news->text.value),
+              "Asks have finished their option, as a result they request you make a decision regarding their future "
+              "options.");
+    EXPECT_EQ(g.news->kind, 0);
+    EXPECT_NE(g.news->mustReply, 0);
+    EXPECT_EQ(g.news->scheduleLink, 1);
+    g.news.read(2);
+    EXPECT_EQ(trim(g.news->title.value), "Done complete contractual obligations with Home Label.");
+    EXPECT_EQ(trim(g.news->text.value),
+              "Done today announced that they have now fulfilled their contractual obligation with label Home Label. "
+              "As a result they are on the lookout for a new deal. Insiders claim the act will hold out for a deal "
+              "carrying advances in the region of £25,000.");
+    g.band.read(done);
+    EXPECT_EQ(g.band->label, 0);
+    g.band.read(rival);
+    EXPECT_EQ(g.band->label, AlbumWorld::kRival) << "a rival decides for itself";
+}
+
+TEST(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Choice", AlbumWorld::kPlayer);
+    setBand(g, band, [](BandRecord& b) {
+        b.optionsRemaining = 1;
+        b.initialAdvance = moneyUnits(80000);
+        b.additionalAdvance = moneyUnits(45000);
+    });
+    g.band.read(band);
+    EXPECT_EQ(optionDecisionTitle(g), "Choice Option Decision");
+    EXPECT_EQ(optionDecisionText(g),
+              "You must choose whether to extend Choice's contract or terminate it. If you choose to extend the "
+              "contract you will be committed to producing 1 futher album. They will be paid £45,000 for this "
+              "album. Do you wish to extend the contract?");
+    setBand(g, band, [](BandRecord& b) { b.optionsRemaining = 2; });
+    g.band.read(band);
+    EXPECT_EQ(optionDecisionText(g),
+              "You must choose whether to extend Choice's contract or terminate it. If you choose to extend the "
+              "contract you will be committed to producing 2 futher albums. They will be paid £45,000 for each of "
+              "these albums. Do you wish to extend the contract?");
+}
+
+TEST(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t famous = w.addBand("Famous", AlbumWorld::kPlayer);
+    int16_t small = w.addBand("Small", AlbumWorld::kPlayer);
+    setBand(g, famous, [](BandRecord& b) { b.reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51
+    setBand(g, small, [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 50}; });
+    g.label.read(AlbumWorld::kPlayer);
+    g.label->bandCount = 2;
+    g.label.write();
+    g.band.read(small);
+    releaseBand(g, 1);
+    EXPECT_EQ(w.newsCount(), 0) << "rating 50, not shortlisted";
+    g.band.read(famous);
+    releaseBand(g, 1);
+    ASSERT_EQ(w.newsCount(), 1);
+    EXPECT_EQ(trim(w.lastNews().title.value), "Famous released by Home Label");
+    EXPECT_EQ(trim(w.lastNews().text.value),
+              "Home Label have announced they are releasing Famous from their contract with them. As a result, "
+              "Famous will be looking for a new label to represent them.");
+    g.label.read(AlbumWorld::kPlayer);
+    EXPECT_EQ(g.label->bandCount, 0);
+}
