@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "floor/grammar.h"
 #include "floor/news_post.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -52,22 +53,15 @@ std::optional<Wear> wearOf(Game& g, const ScheduleRecord& e) {
 
 int heldPercent(int v) { return std::clamp(v, 0, 100); }
 
-// The words the break request needs for a solo artist or a band; the first
-// member's sex is read through the artist buffer.
+// The words the break request needs for a solo artist or a band (the first
+// member may be read into the artist buffer).
 struct ActWords {
     std::string they, They, are, their, s;
 };
 
 ActWords actWords(Game& g) {
-    const BandRecord& b = g.band.rec;
-    if (b.memberCount > 1) return {"they", "They", "are", "their", ""};
-    bool male = true;
-    if (b.members[0] > 0) {
-        g.artist.read(b.members[0]);
-        male = g.artist->male != 0;
-    }
-    std::string s = b.memberCount == 1 ? "s" : "";
-    return male ? ActWords{"he", "He", "is", "his", s} : ActWords{"she", "She", "is", "her", s};
+    return {grammarWord(g, 1, false), grammarWord(g, 1, true), grammarWord(g, 0, false), grammarWord(g, 5, false),
+            grammarWord(g, 2, false)};
 }
 
 void askForABreak(Game& g) {
