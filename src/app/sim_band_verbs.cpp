@@ -139,13 +139,19 @@ void addBandVerbs(CLI::App& app, SimContext& ctx) {
     static std::optional<int32_t> initial, additional;
     static std::optional<int> options, months, royalty;
     offer->add_option("BAND", which, "A band by number or exact name")->required();
-    offer->add_option("--initial", initial, "Initial advance, in the display currency")->check(CLI::NonNegativeNumber);
-    offer->add_option("--additional", additional, "Advance of each later option, in the display currency")
-        ->check(CLI::NonNegativeNumber);
-    offer->add_option("--options", options, "Further options, 1 to 5")->check(CLI::Range(1, 5));
-    offer->add_option("--months", months, "Months of an option, 12 or 18")->check(CLI::IsMember({12, 18}));
-    offer->add_option("--royalty", royalty, "Royalty percent, 5 to 30")->check(CLI::Range(5, 30));
+    offer->add_option("--initial", initial, "Initial advance, in the display currency");
+    offer->add_option("--additional", additional, "Advance of each later option, in the display currency");
+    offer->add_option("--options", options, "Further options, 1 to 5");
+    offer->add_option("--months", months, "Months of an option, 12 or 18");
+    offer->add_option("--royalty", royalty, "Royalty percent, 5 to 30");
     offer->callback([&ctx] {
+        // The form's spinners cannot go past these; a script that does is told so.
+        std::string bad;
+        if (initial.value_or(0) < 0 || additional.value_or(0) < 0) bad = "An advance cannot be below 0";
+        if (options && (*options < 1 || *options > 5)) bad = "--options is 1 to 5";
+        if (months && *months != 12 && *months != 18) bad = "--months is 12 or 18";
+        if (royalty && (*royalty < 5 || *royalty > 30)) bad = "--royalty is 5 to 30";
+        if (!bad.empty()) return fail(ctx, kExitBadArgument, bad);
         Game& g = ctx.openGame();
         if (int16_t b = bandNamed(ctx, g, which)) {
             OfferTerms t = offerFormStart(g, b);

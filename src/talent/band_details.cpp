@@ -25,12 +25,15 @@ BandDetails bandDetails(Game& g, int16_t band) {
         g.label.read(b.label);
         d.label = trim(g.label->name.value);
     }
-    if (b.formedInCity > 0 && b.formedInCity < g.city.recordCount()) {
-        g.city.read(b.formedInCity);
+    // formedIn is a city when formedInCity is set, else a country.
+    int country = b.formedInCity != 0 ? 0 : b.formedIn;
+    if (b.formedInCity != 0 && b.formedIn > 0 && b.formedIn < g.city.recordCount()) {
+        g.city.read(b.formedIn);
         d.formed = trim(g.city->name.value);
+        country = g.city->country;
     }
-    if (b.formedIn > 0 && b.formedIn < g.country.recordCount()) {
-        g.country.read(b.formedIn);
+    if (country > 0 && country < g.country.recordCount()) {
+        g.country.read(country);
         d.formed += (d.formed.empty() ? "" : ", ") + trim(g.country->name.value);
     }
     d.age = b.age;
