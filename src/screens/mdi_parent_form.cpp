@@ -14,6 +14,8 @@
 
 #include "day/daily_cycle.h"
 #include "floor/preferences.h"
+#include "screens/band_contract_screens.h"
+#include "screens/band_details_screen.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/loading_screen.h"
@@ -226,6 +228,9 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmSaveGame: return new frmSaveGame(*this, saveScreenLoads_);
     case Screen::frmCredits: return new frmCredits(*this);
     case Screen::frmDisclaimer: return new frmDisclaimer(*this);
+    case Screen::frmBandDetails: return new frmBandDetails(*this, bandOnScreen);
+    case Screen::frmBandList: return new frmBandList(*this, bandListIsShortlist);
+    case Screen::frmBandContract: return new frmBandContract(*this, bandOnScreen);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.
@@ -257,6 +262,16 @@ void mdiParentForm::openScreen(Screen s) {
     if (g_.currentScreen != s) g_.previousScreen = g_.currentScreen;
     g_.currentScreen = s;
     showCurrentScreen();
+}
+
+void mdiParentForm::openBand(int16_t band) {
+    bandOnScreen = band;
+    if (g_.currentScreen == Screen::frmBandDetails) {
+        sideBar_->CloseOtherWindows();
+        showCurrentScreen();
+        return;
+    }
+    openScreen(Screen::frmBandDetails);
 }
 
 void mdiParentForm::openSaveScreen(bool loading) {

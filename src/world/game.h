@@ -32,6 +32,9 @@ enum class Screen {
     frmSaveGame,
     frmCredits,
     frmDisclaimer,
+    frmBandDetails,
+    frmBandList,
+    frmBandContract,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
