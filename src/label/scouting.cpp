@@ -216,7 +216,8 @@ void bandReport(Game& g) {
 std::string checkBandPanel(Game& g, int16_t band) {
     const int16_t player = g.player.playerLabel;
     g.band.read(band);
-    if (player > 0 && g.band->label == player) return trim(g.band->name.value) + " are already signed to your label.";
+    if (player > 0 && g.band->label == player)
+        return trim(g.band->name.value) + " " + grammarWord(g, 0, false) + " already signed to your label.";
     if (hasOfferFrom(g, player, band) != 0)
         return "Your offer to " + trim(g.band->name.value) + " is still being considered.";
     return {};

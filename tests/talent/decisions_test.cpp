@@ -266,6 +266,14 @@ TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
     g.band.read(solo);
     g.label.read(rival);
     shortlistAdd(g);
+    g.newsong.rec = NewSongRecord{};
+    g.newsong->title = "Harbour Lights";
+    g.newsong->style = static_cast<uint8_t>(style);
+    g.newsong.append();
+    g.song.rec = SongRecord{};
+    g.song->title = "Untitled";
+    g.song->band = solo;
+    g.song.append();
     OfferMade m = makeOffer(g, solo, asked);
     g.gameDate = m.decisionDate;
     g.offer.read(m.offer);
@@ -281,6 +289,10 @@ TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
     g.artist.read(g.band->members[0]);
     EXPECT_EQ(g.artist->royaltyShare, 70);
     EXPECT_EQ(trim(lastNews().title.value), "Jo Testa signs for Home Records.");
+    g.song.read(1);
+    EXPECT_EQ(trim(g.song->title.value), "Harbour Lights") << "the player's new act's songs get titles";
+    g.newsong.read(1);
+    EXPECT_EQ(g.newsong->uses, 1);
     EXPECT_TRUE(playerShortlist(g).empty()) << "a band signed to the player leaves every shortlist";
     g.band.read(solo);
     g.label.read(rival);
