@@ -128,6 +128,23 @@ TEST_F(Scouting, AFullDepartmentTakesTwentyFiveAndNoneNothing) {
     EXPECT_EQ(g.news.recordCount(), 1) << "no player, no report";
 }
 
+TEST_F(Scouting, OnlyAnEstimateAboveSeventyFiveIsListed) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Full", 100);  // a full department reads true
+    addStars(2);
+    for (int16_t b : {1, 2}) {
+        g.band.read(b);
+        g.band->ability = static_cast<uint8_t>(74 + b);  // P = ability when ability = potential
+        g.band.write();
+        g.artist.read(g.band->members[0]);
+        g.artist->potential = g.band->ability;
+        g.artist.write();
+    }
+    deliverScoutingReports(g);
+    ASSERT_EQ(listedBy(label), 1);
+    g.shortlist.read(1);
+    EXPECT_EQ(g.shortlist->band, 2);
+}
+
 TEST_F(Scouting, NoMoreSamplesThanUnsignedBands) {
     g.player.playerLabel = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
     addStars(3);

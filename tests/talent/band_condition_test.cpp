@@ -112,7 +112,7 @@ TEST_F(Condition, ARestedPlayerBandSaysThanksOnce) {
         }
     };
     complain(ours, 50, 49);   // round(49.5) = 50: above 49
-    complain(tired, 49, 48);  // round(48.5) = 48
+    complain(tired, 49, 49);  // 49: not above 49
     complain(rival, 90, 90);
     checkBandEnergy(g);
     g.band.read(ours);

@@ -210,6 +210,55 @@ TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDay) {
     EXPECT_EQ(g.offer->band, kVoidOffer);
 }
 
+TEST_F(Deals, ARivalsDealWithABandThePlayerWatchesIsTold) {
+    int16_t rival = addLabel(g, {26, 60, 0, 0, 0}, "Rival Records");
+    g.band.read(band);
+    g.label.read(home);
+    shortlistAdd(g);
+    double date = g.gameDate + 3;
+    rivalOffer(rival, date, true);
+    playDay(date);
+    NewsRecord n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "The Testers agree terms with Rival Records.");
+    EXPECT_EQ(n.kind, kNewsOk) << "only the player confirms a deal";
+    EXPECT_EQ(entriesOn(date + 1).size(), 1u);
+    playDay(date + 1);
+    EXPECT_EQ(trim(lastNews().title.value), "The Testers sign for Rival Records.");
+    EXPECT_EQ(playerShortlist(g), std::vector<int16_t>{band}) << "the player's row stays for a band signed elsewhere";
+}
+
+TEST_F(Deals, ThePlayersRejectedOfferIsWeighedWithTheWinnersLabel) {
+    int16_t rival = addLabel(g, {25, 60, 0, 0, 0}, "Rival Records");  // standing 5: the asked terms score 90
+    double date = g.gameDate + 3;
+    rivalOffer(rival, date, true);
+    g.label.read(home);
+    g.label->reputation = {0, 0, 0, 0, 0};  // standing -200
+    g.label.write();
+    // Royalty 11: royaltyScore 110, mean round(round(310 / 3) x 0.9) = 93; at home round(93 - 18.6) = 74,
+    // below the rival's 90. Weighed with the rival's standing of 5: round(93.47) = 93, above 90: no verdict.
+    OfferMade m = makeOffer(g, band, {60'000, 60'000, 3, 18, 11});
+    EXPECT_TRUE(m.joined);
+    playDay(date);
+    NewsRecord n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "The Testers reject Rival Records deal.");
+    EXPECT_EQ(trim(n.text.value),
+              "The Testers have rejected your contract offer as  They are concerned about under-representation in "
+              "their main market, however it is believed an improved contract would do much to ease the problem.");
+}
+
+TEST_F(Deals, AVoidOfferSignsNobody) {
+    int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
+    int32_t offer = rivalOffer(rival, g.gameDate, false);
+    g.offer.read(offer);
+    g.band.read(band);
+    scheduleSigning(g);
+    voidOffers(g, band);
+    playDay(g.gameDate + 1);
+    EXPECT_EQ(labelOf(band), 0);
+    g.label.read(rival);
+    EXPECT_EQ(g.label->bandCount, 0);
+}
+
 TEST_F(Deals, OfEqualBestScoresTheLaterOfferWins) {
     int16_t first = addLabel(g, {26, 60, 0, 0, 0});
     int16_t second = addLabel(g, {26, 60, 0, 0, 0});
