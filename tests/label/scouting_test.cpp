@@ -171,6 +171,26 @@ TEST_F(Scouting, TheReportReadsThePresentAndTheFuture) {
               "world.  They add in their report that they see no reason for this to change in the near future.");
 }
 
+TEST_F(Scouting, AStyleThatLeansOnImageAddsMarketingsView) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
+    addStars(1);
+    g.style.read(rock);
+    g.style->abilityWeight = 69;
+    g.style.write();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->band = 1;
+    g.schedule->label = label;
+    bandReport(g);
+    g.news.read(1);
+    const std::string text = g.news->text.value;
+    EXPECT_NE(text.find("near future.\r\n\r\nGiven the style of music he produces the department felt it was also "
+                        "important to ensure he has the correct image."),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find("Marketing report that they \r\n\r\n- Member 1: they are very pleased with Member 1's image"),
+              std::string::npos);
+}
+
 TEST_F(Scouting, AnEstimateWeighsPotentialByCareerAndTalentByCommerciality) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
     int16_t pop = addStyle(g, 20, 60);
