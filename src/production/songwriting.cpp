@@ -161,21 +161,6 @@ void writeSong(Game& g, bool fromArtist, bool silent) {
     g.artist.read(writer.id);
 }
 
-std::string pickSongTitle(Game& g) {
-    const int32_t count = g.newsong.recordCount();
-    if (count < 2) return "Untitled";
-    const uint8_t style = g.band->style;
-    for (int attempt = 0; attempt < 50; ++attempt) {
-        g.newsong.read(g.rng.between(1, count - 1));
-        if (g.newsong->style == style && g.rng.between(0, 99) >= g.newsong->uses) {
-            if (g.newsong->uses < 255) ++g.newsong->uses;
-            g.newsong.write();
-            return trim(g.newsong->title.value);
-        }
-    }
-    return trim(g.newsong->title.value);
-}
-
 std::string pickAlbumTitle(Game& g) {
     const int32_t count = g.newalbum.recordCount();
     if (count < 2) return "Untitled";
@@ -249,6 +234,24 @@ void briefNewPlayerOnAlbums(Game& g) {
                  .text = "In one of your introductory meetings today you were briefed on how the bands on signed to "
                          "your new label are progressing on forthcoming albums, the report can be seen below :-" +
                          lines});
+}
+
+std::string pickSongTitle(Game& g) {
+    constexpr int kTries = 50;
+    const int32_t titles = g.newsong.recordCount() - 1;
+    if (titles < 1) return "Untitled";
+    const uint8_t style = g.band->style;
+    for (int tries = 0; tries < kTries; ++tries) {
+        const int32_t n = g.rng.between(1, titles);
+        g.newsong.read(n);
+        if (g.newsong->style == style && g.rng.between(0, 99) >= g.newsong->uses) {
+            if (g.newsong->uses < 255) g.newsong->uses = static_cast<uint8_t>(g.newsong->uses + 1);
+            g.newsong.write(n);
+            return trim(g.newsong->title.value);
+        }
+    }
+    // After the last try the last title drawn is used whatever its fit, and no use is counted.
+    return trim(g.newsong->title.value);
 }
 
 }  // namespace trovane

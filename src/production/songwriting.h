@@ -23,8 +23,6 @@ bool writesThisWeek(Game& g);
 // One song for the current band: the current artist's own when fromArtist,
 // bought-in material otherwise. silent keeps the progress news back.
 void writeSong(Game& g, bool fromArtist, bool silent);
-// A title from the bank for the current band's style.
-std::string pickSongTitle(Game& g);
 // An album title from the bank for the current band's style that no disc bears.
 std::string pickAlbumTitle(Game& g);
 bool isAlreadySingle(const SongRecord& song);
@@ -36,5 +34,9 @@ void holdBandSongs(Game& g, int16_t band);
 void seedAlbumPlan(Game& g);
 // The player's acts are briefed about their next album when a game starts.
 void briefNewPlayerOnAlbums(Game& g);
+// A title from the bank for the current band's style: up to 50 draws, each
+// title taken less often the more it has been used, and its use counted; after
+// 50 the last drawn, uncounted. "Untitled" when the bank is empty.
+std::string pickSongTitle(Game& g);
 
 }  // namespace trovane

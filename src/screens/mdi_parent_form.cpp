@@ -15,6 +15,8 @@
 #include "day/daily_cycle.h"
 #include "floor/formats.h"
 #include "floor/preferences.h"
+#include "screens/band_contract_screens.h"
+#include "screens/band_details_screen.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/loading_screen.h"
@@ -230,6 +232,9 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmCredits: return new frmCredits(*this);
     case Screen::frmDisclaimer: return new frmDisclaimer(*this);
     case Screen::frmBandOptionDecision: return new frmBandOptionDecision(*this);
+    case Screen::frmBandDetails: return new frmBandDetails(*this, bandOnScreen);
+    case Screen::frmBandList: return new frmBandList(*this, bandListIsShortlist);
+    case Screen::frmBandContract: return new frmBandContract(*this, bandOnScreen);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.
@@ -261,6 +266,16 @@ void mdiParentForm::openScreen(Screen s) {
     if (g_.currentScreen != s) g_.previousScreen = g_.currentScreen;
     g_.currentScreen = s;
     showCurrentScreen();
+}
+
+void mdiParentForm::openBand(int16_t band) {
+    bandOnScreen = band;
+    if (g_.currentScreen == Screen::frmBandDetails) {
+        sideBar_->CloseOtherWindows();
+        showCurrentScreen();
+        return;
+    }
+    openScreen(Screen::frmBandDetails);
 }
 
 void mdiParentForm::openSaveScreen(bool loading) {

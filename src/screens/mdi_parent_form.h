@@ -84,6 +84,11 @@ public:
     NewsSort& newsSort() { return newsSort_; }
     // The news item frmNewsFull shows (its record number), so it can come back to it.
     int32_t newsItemOnScreen = 0;
+    // The act frmBandDetails and frmBandContract show, and which list frmBandList is.
+    int16_t bandOnScreen = 0;
+    bool bandListIsShortlist = false;
+    // Band Details of an act, from a list or a panel.
+    void openBand(int16_t band);
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

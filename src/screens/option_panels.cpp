@@ -90,10 +90,13 @@ void OptionPanel::keyPressEvent(QKeyEvent* event) {
     QFrame::keyPressEvent(event);
 }
 
-frmFindOptions::frmFindOptions(mdiParentForm&, QWidget* parent)
+frmFindOptions::frmFindOptions(mdiParentForm& main, QWidget* parent)
     : OptionPanel(QStringLiteral("frmFindOptions"), tr("Find"), parent) {
     addEntry(QStringLiteral("lblArtists"), tr("Artists"), Glyph::person);
-    addEntry(QStringLiteral("lblBands"), tr("Bands"), Glyph::record);
+    addEntry(QStringLiteral("lblBands"), tr("Bands"), Glyph::record, [&main] {
+        main.bandListIsShortlist = false;
+        main.openScreen(Screen::frmBandList);
+    });
     addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person);
     addEntry(QStringLiteral("lblLabels"), tr("Labels"), Glyph::label);
     addEntry(QStringLiteral("lblVenues"), tr("Venues"), Glyph::label);
@@ -101,7 +104,10 @@ frmFindOptions::frmFindOptions(mdiParentForm&, QWidget* parent)
     addEntry(QStringLiteral("lblAwards"), tr("Awards"), Glyph::star);
     addEntry(QStringLiteral("lblFestivals"), tr("Festivals"), Glyph::calendar);
     addEntry(QStringLiteral("lblRichList"), tr("Rich List"), Glyph::coins);
-    addEntry(QStringLiteral("lblShortlist"), tr("Shortlist"), Glyph::find);
+    addEntry(QStringLiteral("lblShortlist"), tr("Shortlist"), Glyph::find, [&main] {
+        main.bandListIsShortlist = true;
+        main.openScreen(Screen::frmBandList);
+    });
 }
 
 frmChartOptions::frmChartOptions(mdiParentForm&, QWidget* parent)

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "screens/band_contract_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/option_panels.h"
@@ -77,8 +78,9 @@ void frmSideBar::enableSidebar(bool on) {
 void frmSideBar::CloseOtherWindows() {
     bool hadFocus = false;
     for (OptionPanel* p : {static_cast<OptionPanel*>(findOptions_), static_cast<OptionPanel*>(chartOptions_),
-                           static_cast<OptionPanel*>(gameOptions_), static_cast<OptionPanel*>(quitOptions_)}) {
-        if (!p->isVisible()) continue;
+                           static_cast<OptionPanel*>(gameOptions_), static_cast<OptionPanel*>(quitOptions_),
+                           static_cast<OptionPanel*>(extraPanel_)}) {
+        if (!p || !p->isVisible()) continue;
         hadFocus = hadFocus || p->isAncestorOf(QApplication::focusWidget());
         p->hide();
     }
@@ -94,8 +96,9 @@ void frmSideBar::loadQuitOptions() { togglePanel(quitOptions_, btnQuit); }
 
 OptionPanel* frmSideBar::openPanel() const {
     for (OptionPanel* p : {static_cast<OptionPanel*>(findOptions_), static_cast<OptionPanel*>(chartOptions_),
-                           static_cast<OptionPanel*>(gameOptions_), static_cast<OptionPanel*>(quitOptions_)})
-        if (p->isVisible()) return p;
+                           static_cast<OptionPanel*>(gameOptions_), static_cast<OptionPanel*>(quitOptions_),
+                           static_cast<OptionPanel*>(extraPanel_)})
+        if (p && p->isVisible()) return p;
     return nullptr;
 }
 
@@ -138,9 +141,18 @@ bool frmSideBar::eventFilter(QObject* watched, QEvent* event) {
     return QFrame::eventFilter(watched, event);
 }
 
-// The options of what is on screen: a band, an artist, a disc or a member of
-// staff. None of those screens is in this version, so on every screen there
-// is (the news, the save screen, the credits...) the button does nothing.
-void frmSideBar::extraOptions() {}
+// The options of what is on screen: for now a band's (Band Details). On a
+// screen with no options (the news, the save screen...) the button does nothing.
+void frmSideBar::extraOptions() {
+    if (extraPanel_ && extraPanel_->isVisible()) {
+        CloseOtherWindows();
+        return;
+    }
+    CloseOtherWindows();
+    delete extraPanel_;
+    if (main_.game().currentScreen == Screen::frmBandDetails)
+        extraPanel_ = makeBandOptions(main_, panelHost_, main_.bandOnScreen);
+    if (extraPanel_) togglePanel(extraPanel_, cmdExtra);
+}
 
 }  // namespace trovane::screens

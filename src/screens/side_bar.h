@@ -2,6 +2,9 @@
 // The sidebar: the turn key, the way to the news and the label, and the
 // buttons that open the option panels.
 #include <QFrame>
+#include <QPointer>
+
+#include "screens/option_panels.h"
 
 class QPushButton;
 
@@ -44,6 +47,8 @@ public:
     frmChartOptions* chartOptions() const { return chartOptions_; }
     frmGameOptions* gameOptions() const { return gameOptions_; }
     frmQuitOptions* quitOptions() const { return quitOptions_; }
+    // The options of what is on screen (cmdExtra), while open.
+    OptionPanel* extraPanel() const { return extraPanel_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -61,6 +66,7 @@ private:
     frmGameOptions* gameOptions_;
     frmQuitOptions* quitOptions_;
     QPushButton* anchorOfOpenPanel_ = nullptr;
+    QPointer<OptionPanel> extraPanel_;
 };
 
 }  // namespace trovane::screens

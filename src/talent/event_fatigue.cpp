@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "floor/grammar.h"
 #include "floor/news_post.h"
 #include "schedule/schedule_types.h"
 #include "world/game.h"
@@ -17,22 +18,15 @@ constexpr uint8_t kWantsABreak = 1;
 
 int heldPercent(int v) { return std::clamp(v, 0, 100); }
 
-// The words the break request needs for a solo artist or a band; the first
-// member's sex is read through the artist buffer.
+// The words the break request needs for a solo artist or a band (the first
+// member may be read into the artist buffer).
 struct ActWords {
     std::string they, They, are, their, s;
 };
 
 ActWords actWords(Game& g) {
-    const BandRecord& b = g.band.rec;
-    if (b.memberCount > 1) return {"they", "They", "are", "their", ""};
-    bool male = true;
-    if (b.members[0] > 0) {
-        g.artist.read(b.members[0]);
-        male = g.artist->male != 0;
-    }
-    std::string s = b.memberCount == 1 ? "s" : "";
-    return male ? ActWords{"he", "He", "is", "his", s} : ActWords{"she", "She", "is", "her", s};
+    return {grammarWord(g, 1, false), grammarWord(g, 1, true), grammarWord(g, 0, false), grammarWord(g, 5, false),
+            grammarWord(g, 2, false)};
 }
 
 void askForABreak(Game& g) {

@@ -10,6 +10,7 @@
 
 #include "world/random.h"
 #include "world/records.h"
+#include "world/side_index.h"
 #include "world/table.h"
 
 namespace trovane {
@@ -31,6 +32,9 @@ enum class Screen {
     frmSaveGame,
     frmCredits,
     frmDisclaimer,
+    frmBandDetails,
+    frmBandList,
+    frmBandContract,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
@@ -116,6 +120,9 @@ public:
     std::function<void(int percent)> progress;
     // Told each schedule handler by name, with its entry, just before it runs.
     std::function<void(std::string_view handler, const ScheduleRecord& entry)> onScheduleHandler;
+
+    // The offers of each band, by record number (see offersOnBand).
+    SideIndex offersByBand;
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)

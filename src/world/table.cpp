@@ -30,6 +30,7 @@ std::string TableBase::displayName() const {
 
 void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     close();
+    ++generation_;
     int flags = O_RDWR | O_CLOEXEC;
     if (ifMissing == IfMissing::createEmpty) flags |= O_CREAT;
     int fd = ::open(path.c_str(), flags, 0644);
@@ -133,6 +134,7 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
 
 void TableBase::clearAll() {
     requireOpen("clear");
+    ++generation_;
     image_.clear();
     dirtyFrom_ = SIZE_MAX;
     dirtyTo_ = 0;

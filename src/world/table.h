@@ -54,6 +54,9 @@ public:
     // The number of records plus one: the next free record number, and where a walk stops.
     int32_t recordCount() const;
     int32_t records() const { return static_cast<int32_t>(image_.size() / length_); }
+    // Goes up each time the file is opened or emptied, so a side index built
+    // over the records can tell that what it covered is gone.
+    uint64_t generation() const { return generation_; }
 
     // The bytes of record n (1-based); a record that does not exist is a fatal error.
     std::span<const uint8_t> bytesOf(int32_t n) const;
@@ -77,6 +80,7 @@ private:
     std::size_t dirtyFrom_ = SIZE_MAX;
     std::size_t dirtyTo_ = 0;
     bool truncated_ = false;
+    uint64_t generation_ = 0;
 };
 
 template <PackedRecord R>

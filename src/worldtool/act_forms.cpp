@@ -8,6 +8,7 @@
 #include <fmt/ranges.h>
 
 #include "talent/band_functions.h"
+#include "talent/contract_terms.h"
 #include "worldtool/act_catalogue.h"
 #include "worldtool/industry_book.h"
 #include "worldtool/rule_bench.h"
@@ -122,7 +123,7 @@ public:
             if (!hidden_) compileActDiscs(ctx, src, band.id, band, members, catalogue);
             bands.push_back(Compiled<BandRecord>{std::move(band), &src});
         }
-        deriveFigures(bands, artists);
+        deriveFigures(bands, artists, hidden_);
         CompiledFiles files;
         files.emplace_back(file(), packRecords<BandRecord>(ctx, bands));
         files.emplace_back(hidden_ ? fileCa : fileArtist, packRecords<ArtistRecord>(ctx, artists));
@@ -247,9 +248,11 @@ private:
         if (band.monthsUnsigned != 0) r.problemAt(at("monthsUnsigned"), "a signed act has no `monthsUnsigned`");
     }
 
-    // The act's figures from its members, by the game's own rule.
+    // The act's figures from its members, by the game's own rule. An act of the
+    // world that no label holds asks its terms from its worth, as it would after
+    // a release (what it has to pay back is its initial advance).
     static void deriveFigures(std::vector<Compiled<BandRecord>>& bands,
-                              const std::vector<Compiled<ArtistRecord>>& artists) {
+                              const std::vector<Compiled<ArtistRecord>>& artists, bool hidden) {
         RuleBench bench;
         std::vector<ArtistRecord> plain;
         plain.reserve(artists.size());
@@ -259,6 +262,10 @@ private:
             if (b.rec.memberCount == 0) continue;
             bench.g.band.rec = b.rec;
             setBandStats(bench.g);
+            if (!hidden && bench.g.band->label == 0) {
+                setAskingTerms(bench.g);
+                bench.g.band->advanceToPay = bench.g.band->initialAdvance;
+            }
             b.rec = bench.g.band.rec;
         }
     }

@@ -1,0 +1,189 @@
+#include "screens/band_details_screen.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "floor/formats.h"
+#include "label/scouting.h"
+#include "screens/glyphs.h"
+#include "screens/mdi_parent_form.h"
+#include "screens/theme.h"
+#include "talent/band_details.h"
+#include "world/strings.h"
+
+namespace trovane::screens {
+
+namespace {
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
+QTableWidget* plainTable(const QStringList& headers, QWidget* parent) {
+    auto* t = new QTableWidget(0, static_cast<int>(headers.size()), parent);
+    t->setHorizontalHeaderLabels(headers);
+    t->verticalHeader()->hide();
+    t->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    t->setSelectionBehavior(QAbstractItemView::SelectRows);
+    t->setSelectionMode(QAbstractItemView::SingleSelection);
+    t->horizontalHeader()->setStretchLastSection(true);
+    return t;
+}
+
+// A figure with its caption, in a grid of two columns.
+void addFigure(QGridLayout* grid, int row, const QString& caption, const QString& objectName, const QString& value,
+               QWidget* parent) {
+    grid->addWidget(makeCaption(caption, parent), row, 0, Qt::AlignLeft | Qt::AlignTop);
+    QLabel* v = makeBody(value, parent);
+    v->setObjectName(objectName);
+    v->setWordWrap(true);
+    grid->addWidget(v, row, 1);
+}
+
+// A number cell that sorts by its value, not its text.
+class NumberItem : public QTableWidgetItem {
+public:
+    NumberItem(const QString& text, double value) : QTableWidgetItem(text) {
+        setData(Qt::UserRole, value);
+        setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    bool operator<(const QTableWidgetItem& other) const override {
+        return data(Qt::UserRole).toDouble() < other.data(Qt::UserRole).toDouble();
+    }
+};
+
+}  // namespace
+
+frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* parent)
+    : ScreenPage(main, QStringLiteral("frmBandDetails"), tr("Band Details"), parent) {
+    Game& g = main.game();
+    BandDetails d{};
+    main.guarded([&] { d = bandDetails(g, band); });
+    setSubtitle(qs(d.name));
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(16);
+    auto* about = new Card(this);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(18);
+    grid->setVerticalSpacing(8);
+    int r = 0;
+    addFigure(grid, r++, tr("Name"), QStringLiteral("lblName"), qs(d.name), about);
+    addFigure(grid, r++, tr("Style"), QStringLiteral("lblStyle"), qs(d.style), about);
+    addFigure(grid, r++, tr("Label"), QStringLiteral("lblLabel"), qs(d.label) + (d.retired ? tr(" (retired)") : ""),
+              about);
+    addFigure(grid, r++, tr("Formed"), QStringLiteral("lblFormed"), qs(d.formed), about);
+    addFigure(grid, r++, tr("Age"), QStringLiteral("lblAge"), QString::number(d.age), about);
+    const char* markets[] = {"UK", "US", "Europe", "Oceania", "Rest of the world"};
+    QString reps;
+    for (std::size_t m = 0; m < 5; ++m)
+        reps += QStringLiteral("%1%2 %3").arg(m ? "   " : "").arg(tr(markets[m])).arg(d.reputation[m]);
+    addFigure(grid, r++, tr("Reputation"), QStringLiteral("lblReputation"), reps, about);
+    if (d.players) {
+        addFigure(grid, r++, tr("Ability"), QStringLiteral("lblAbility"), QString::number(d.ability), about);
+        addFigure(grid, r++, tr("Energy"), QStringLiteral("lblEnergy"), QString::number(d.energy), about);
+        QString feelings;
+        for (const auto& c : d.complaints) feelings += (feelings.isEmpty() ? "" : "\n") + qs(c);
+        addFigure(grid, r++, tr("Complaints"), QStringLiteral("lblComplaints"), feelings, about);
+    }
+    if (d.asked) addFigure(grid, r++, tr("Asks"), QStringLiteral("lblDemands"), qs(d.asked->demands), about);
+    grid->setColumnStretch(1, 1);
+    about->content()->addLayout(grid);
+    about->content()->addStretch(1);
+    row->addWidget(about, 3);
+
+    auto* side = new QVBoxLayout;
+    auto* members = new Card(this);
+    members->content()->addWidget(makeCaption(tr("Members"), members));
+    flxArtists = plainTable({tr("Name"), tr("Job"), tr("Age")}, members);
+    flxArtists->setObjectName(QStringLiteral("flxArtists"));
+    flxArtists->setRowCount(static_cast<int>(d.members.size()));
+    for (std::size_t i = 0; i < d.members.size(); ++i) {
+        const int at = static_cast<int>(i);
+        flxArtists->setItem(at, 0, new QTableWidgetItem(qs(d.members[i].name)));
+        flxArtists->setItem(at, 1, new QTableWidgetItem(qs(d.members[i].job)));
+        flxArtists->setItem(at, 2, new NumberItem(QString::number(d.members[i].age), d.members[i].age));
+    }
+    flxArtists->resizeColumnsToContents();
+    flxArtists->horizontalHeader()->setStretchLastSection(true);
+    members->content()->addWidget(flxArtists);
+    side->addWidget(members, 2);
+
+    auto* interest = new Card(this);
+    interest->content()->addWidget(makeCaption(tr("Interested labels"), interest));
+    lstInterested = new QListWidget(interest);
+    lstInterested->setObjectName(QStringLiteral("lstInterested"));
+    for (const auto& name : d.interested) lstInterested->addItem(qs(name));
+    interest->content()->addWidget(lstInterested);
+    side->addWidget(interest, 1);
+    row->addLayout(side, 2);
+    body()->addLayout(row, 1);
+
+    QPushButton* back = makeButton(QStringLiteral("cmdBack"), tr("Back"), Glyph::back, ButtonRole::secondary, this);
+    headingExtras()->addWidget(back, 0, Qt::AlignTop);
+    connect(back, &QPushButton::clicked, this, [&main] { main.returnToPreviousScreen(); });
+}
+
+frmBandList::frmBandList(mdiParentForm& main, bool shortlist, QWidget* parent)
+    : ScreenPage(main, shortlist ? QStringLiteral("frmShortlist") : QStringLiteral("frmBandSearch"),
+                 shortlist ? tr("Shortlisted Bands") : tr("Band Search"), parent) {
+    Game& g = main.game();
+    auto* card = new Card(this);
+    flxBands = plainTable({tr("Name"), tr("Style"), tr("Advance"), tr("Label")}, card);
+    flxBands->setObjectName(QStringLiteral("flxBands"));
+    main.guarded([&] {
+        std::vector<int16_t> bands;
+        if (shortlist) {
+            bands = playerShortlist(g);
+        } else {
+            for (int32_t b = 1; b < g.band.recordCount(); ++b) {
+                g.band.read(b);
+                if (g.band->retired == kFalse) bands.push_back(static_cast<int16_t>(b));
+            }
+        }
+        flxBands->setRowCount(static_cast<int>(bands.size()));
+        for (std::size_t i = 0; i < bands.size(); ++i) {
+            g.band.read(bands[i]);
+            const BandRecord b = g.band.rec;
+            QString style, label = tr("Unsigned");
+            if (b.style > 0 && b.style < g.style.recordCount()) {
+                g.style.read(b.style);
+                style = qs(trim(g.style->name.value));
+            }
+            if (b.label > 0) {
+                g.label.read(b.label);
+                label = qs(trim(g.label->name.value));
+            }
+            const int at = static_cast<int>(i);
+            auto* name = new QTableWidgetItem(qs(trim(b.name.value)));
+            name->setData(Qt::UserRole, bands[i]);
+            flxBands->setItem(at, 0, name);
+            flxBands->setItem(at, 1, new QTableWidgetItem(style));
+            flxBands->setItem(
+                at, 2,
+                new NumberItem(qs(formatMoney(g, b.initialAdvance, "###,###,##0")), moneyToDouble(b.initialAdvance)));
+            flxBands->setItem(at, 3, new QTableWidgetItem(label));
+        }
+    });
+    flxBands->setSortingEnabled(true);
+    flxBands->resizeColumnsToContents();
+    flxBands->horizontalHeader()->setStretchLastSection(true);
+    if (flxBands->rowCount() > 0) flxBands->selectRow(0);
+    // Enter or a double click on a row.
+    connect(flxBands, &QTableWidget::activated, this, [this, &main](const QModelIndex& index) {
+        if (!index.isValid()) return;
+        QTableWidgetItem* name = flxBands->item(index.row(), 0);
+        main.openBand(static_cast<int16_t>(name->data(Qt::UserRole).toInt()));
+    });
+    card->content()->addWidget(flxBands);
+    body()->addWidget(card, 1);
+    QPushButton* back = makeButton(QStringLiteral("cmdBack"), tr("Back"), Glyph::back, ButtonRole::secondary, this);
+    headingExtras()->addWidget(back, 0, Qt::AlignTop);
+    connect(back, &QPushButton::clicked, this, [&main] { main.returnToPreviousScreen(); });
+}
+
+}  // namespace trovane::screens

@@ -1,0 +1,215 @@
+// How labels notice acts: the shortlist, the monthly findings and the report on one band.
+#include <gtest/gtest.h>
+
+#include "label/scouting.h"
+#include "support/empty_game.h"
+#include "support/signing_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using namespace trovane::test;
+
+namespace {
+
+class Scouting : public ::testing::Test {
+protected:
+    EmptyGame eg;
+    Game& g = eg.g;
+    int16_t rock = addStyle(g, 10);
+
+    // Unsigned acts whose every figure reads 100: an estimate well above 75.
+    void addStars(int count) {
+        for (int i = 0; i < count; ++i) {
+            int16_t b = addAct(g, {.style = static_cast<uint8_t>(rock), .name = "Star " + std::to_string(i + 1)});
+            g.band.read(b);
+            g.band->ability = 100;
+            g.band.write();
+            g.artist.read(g.band->members[0]);
+            g.artist->potential = 100;
+            g.artist->imageRating = 100;
+            g.artist.write();
+        }
+    }
+    int listedBy(int16_t label) {
+        int n = 0;
+        for (int32_t r = 1; r < g.shortlist.recordCount(); ++r) {
+            g.shortlist.read(r);
+            n += g.shortlist->label == label;
+        }
+        return n;
+    }
+};
+
+TEST_F(Scouting, APairIsListedOnceAndFreedOnRemoval) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1});
+    int16_t band = addAct(g, {});
+    g.band.read(band);
+    g.label.read(label);
+    EXPECT_FALSE(isShortlisted(g));
+    shortlistAdd(g);
+    shortlistAdd(g);
+    EXPECT_TRUE(isShortlisted(g));
+    EXPECT_EQ(g.shortlist.recordCount(), 2);
+    EXPECT_EQ(fillInterestedList(g), std::vector<std::string>{"Rival Records"});
+    shortlistRemove(g);
+    EXPECT_FALSE(isShortlisted(g));
+    EXPECT_EQ(fillInterestedList(g), std::vector<std::string>{"None"});
+}
+
+TEST_F(Scouting, AStyleTakesItsDescendantsButNotItsParent) {
+    int16_t indie = addStyle(g, 10, 100, static_cast<uint8_t>(rock), "Indie");
+    int16_t britpop = addStyle(g, 10, 100, static_cast<uint8_t>(indie), "Britpop");
+    EXPECT_TRUE(stylesAssociated(g, rock, britpop));
+    EXPECT_TRUE(stylesAssociated(g, indie, indie));
+    EXPECT_FALSE(stylesAssociated(g, britpop, rock));
+    EXPECT_FALSE(stylesAssociated(g, britpop, indie));
+}
+
+TEST_F(Scouting, ARivalLooksFromHalfItsTargetToJustBelowIt) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1});
+    g.label.read(label);
+    g.label->reputationTarget = {40, 0, 0, 0, 0};
+    g.label.write();
+    auto qualifies = [&](uint8_t r) {
+        int16_t b = addAct(g, {.reputation = {r, 0, 0, 0, 0}});
+        g.band.read(b);
+        g.label.read(label);
+        return considerForShortlist(g, 0);
+    };
+    EXPECT_FALSE(qualifies(40));
+    EXPECT_TRUE(qualifies(39));
+    EXPECT_TRUE(qualifies(20));
+    EXPECT_FALSE(qualifies(19));
+    // Forced, the window is skipped and the band listed.
+    int16_t big = addAct(g, {.reputation = {90, 0, 0, 0, 0}});
+    g.band.read(big);
+    g.label.read(label);
+    EXPECT_TRUE(considerForShortlist(g, -1));
+    EXPECT_TRUE(isShortlisted(g));
+}
+
+TEST_F(Scouting, ASignedBandOrOneOutsideTheControversyBoundsIsNotTaken) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1});
+    int16_t b = addAct(g, {.label = label});
+    g.band.read(b);
+    g.label.read(label);
+    EXPECT_FALSE(considerForShortlist(g, -1));
+    g.band->label = 0;
+    g.band->controversy = 50;
+    g.label->maxControversy = 49;
+    EXPECT_FALSE(considerForShortlist(g, -1));
+    g.player.playerLabel = label;
+    EXPECT_TRUE(considerForShortlist(g, -1)) << "the player's label has no bounds";
+}
+
+TEST_F(Scouting, TheMonthlyFindingsSampleAQuarterOfTheRating) {
+    g.player.playerLabel = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 98);
+    addStars(30);
+    deliverScoutingReports(g);
+    EXPECT_EQ(listedBy(g.player.playerLabel), 24) << "round(98 / 4) = round(24.5) = 24";
+    ASSERT_EQ(g.news.recordCount(), 2);
+    g.news.read(1);
+    EXPECT_EQ(trim(g.news->title.value), "A&R Department present their monthly findings");
+    std::string text = g.news->text.value;
+    EXPECT_EQ(text.find("Your Artist and Repertoire department have presented you with their monthly finding this "
+                        "morning, they have added the following band(s) to your shortlist as they feel they are "
+                        "worth investigating further with a view to offering a contract :-\r\n\r\n- Star "),
+              0u);
+    EXPECT_NE(text.find(" (Rock)\r\n"), std::string::npos);
+}
+
+TEST_F(Scouting, AFullDepartmentTakesTwentyFiveAndNoneNothing) {
+    int16_t full = addLabel(g, {1, 1, 1, 1, 1}, "Full", 100);
+    int16_t none = addLabel(g, {1, 1, 1, 1, 1}, "None", 0);
+    addStars(30);
+    deliverScoutingReports(g);
+    EXPECT_EQ(listedBy(full), 25);
+    EXPECT_EQ(listedBy(none), 0);
+    EXPECT_EQ(g.news.recordCount(), 1) << "no player, no report";
+}
+
+TEST_F(Scouting, OnlyAnEstimateAboveSeventyFiveIsListed) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Full", 100);  // a full department reads true
+    addStars(2);
+    for (int16_t b : {1, 2}) {
+        g.band.read(b);
+        g.band->ability = static_cast<uint8_t>(74 + b);  // P = ability when ability = potential
+        g.band.write();
+        g.artist.read(g.band->members[0]);
+        g.artist->potential = g.band->ability;
+        g.artist.write();
+    }
+    deliverScoutingReports(g);
+    ASSERT_EQ(listedBy(label), 1);
+    g.shortlist.read(1);
+    EXPECT_EQ(g.shortlist->band, 2);
+}
+
+TEST_F(Scouting, NoMoreSamplesThanUnsignedBands) {
+    g.player.playerLabel = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
+    addStars(3);
+    addAct(g, {.label = g.player.playerLabel});
+    deliverScoutingReports(g);
+    EXPECT_EQ(listedBy(g.player.playerLabel), 3);
+}
+
+TEST_F(Scouting, TheReportReadsThePresentAndTheFuture) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
+    addStars(1);
+    ScheduleRecord e{};
+    e.type = 6;
+    e.band = 1;
+    e.label = label;
+    g.schedule.rec = e;
+    bandReport(g);
+    g.news.read(1);
+    EXPECT_EQ(trim(g.news->title.value), "A&R Department present Star 1 scouting report");
+    // P = F = 100 for a solo act.
+    EXPECT_EQ(trim(g.news->text.value),
+              "Your Artist and Repertoire Department have been monitoring Star 1 for the last week and have compiled "
+              "a comprehensive report on him. They feel that he is currently amongst the most talented artists in the "
+              "world.  They add in their report that they see no reason for this to change in the near future.");
+}
+
+TEST_F(Scouting, AStyleThatLeansOnImageAddsMarketingsView) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
+    addStars(1);
+    g.style.read(rock);
+    g.style->abilityWeight = 69;
+    g.style.write();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->band = 1;
+    g.schedule->label = label;
+    bandReport(g);
+    g.news.read(1);
+    const std::string text = g.news->text.value;
+    EXPECT_NE(text.find("near future.\r\n\r\nGiven the style of music he produces the department felt it was also "
+                        "important to ensure he has the correct image."),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find("Marketing report that they \r\n\r\n- Member 1: they are very pleased with Member 1's image"),
+              std::string::npos);
+}
+
+TEST_F(Scouting, AnEstimateWeighsPotentialByCareerAndTalentByCommerciality) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
+    int16_t pop = addStyle(g, 20, 60);
+    // careerAge round(5 x 100 / 10) = 50: weight 50: now round((50 x 80 + 50 x 40) / 100) = 60,
+    // x 60 / 100 = 36; P = 36 + round(40 x 70 / 100) = 64; F = 80.
+    int16_t b = addAct(g, {.style = static_cast<uint8_t>(pop), .age = 5});
+    g.band.read(b);
+    g.band->ability = 40;
+    g.band.write();
+    g.artist.read(g.band->members[0]);
+    g.artist->potential = 80;
+    g.artist->imageRating = 70;
+    g.artist.write();
+    g.band.read(b);
+    g.label.read(label);
+    BandEstimate e = estimateBand(g);
+    EXPECT_EQ(e.present, 64);
+    EXPECT_EQ(e.potential, 80);
+    EXPECT_EQ(e.talent, 70);
+}
+
+}  // namespace

@@ -1,0 +1,161 @@
+// Find's band lists, "Band Details", its options and the offer form.
+#include <QLabel>
+#include <QListWidget>
+#include <QTableWidget>
+
+#include "label/scouting.h"
+#include "schedule/schedule.h"
+#include "screen_fixture.h"
+#include "screens/side_bar.h"
+#include "talent/contracts.h"
+#include "world/strings.h"
+
+namespace trovane::test {
+
+namespace {
+
+// An unsigned act of two, asking 60,000 and three 18-month options at 10 percent.
+int16_t addFreeBand(Game& g, const std::string& name) {
+    std::array<int16_t, 10> members{};
+    for (int i = 0; i < 2; ++i) {
+        g.artist.rec = ArtistRecord{};
+        g.artist->forename = i == 0 ? "Rae" : "Sol";
+        g.artist->surname = "Marsh";
+        g.artist->age = static_cast<uint8_t>(20 + i);
+        g.artist->male = kTrue;
+        g.artist->energy = 100;
+        members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
+    }
+    g.band.rec = BandRecord{};
+    g.band->name = name;
+    g.band->style = 1;
+    g.band->memberCount = 2;
+    g.band->members = members;
+    g.band->reputation = {12, 3, 4, 2, 2};
+    g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
+    g.band->additionalAdvanceCount = 3;
+    g.band->optionLength = 18;
+    g.band->royaltyRate = 10;
+    return static_cast<int16_t>(g.band.append());
+}
+
+}  // namespace
+
+class BandScreens : public ScreenTest {
+protected:
+    int16_t band = 0;
+
+    void SetUp() override {
+        ScreenTest::SetUp();
+        startNewGameAsPlayer();
+        band = addFreeBand(*game, "The Marsh Lights");
+    }
+    void openFromSearch(const QString& name) {
+        click(window->sideBar()->btnFind);
+        click(window->sideBar()->findOptions()->entry("lblBands"));
+        ASSERT_EQ(screen(), Screen::frmBandList);
+        auto* list = find<QTableWidget>("flxBands");
+        auto rows = list->findItems(name, Qt::MatchExactly);
+        ASSERT_EQ(rows.size(), 1);
+        list->setCurrentItem(rows[0]);
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Return);
+        ASSERT_EQ(screen(), Screen::frmBandDetails);
+    }
+    QPushButton* extraEntry(const char* name) {
+        click(window->sideBar()->cmdExtra);
+        screens::OptionPanel* panel = window->sideBar()->extraPanel();
+        EXPECT_NE(panel, nullptr);
+        return panel ? panel->entry(QString::fromLatin1(name)) : nullptr;
+    }
+    void closeDialog() {
+        if (QWidget* d = dialog("refusalDialog")) d->close();
+    }
+};
+
+TEST_F(BandScreens, TheBandSearchOpensBandDetails) {
+    click(window->sideBar()->btnFind);
+    click("lblBands");
+    auto* list = find<QTableWidget>("flxBands");
+    EXPECT_EQ(list->horizontalHeaderItem(2)->text(), "Advance");
+    screenshot("band_01_band_search");
+    openFromSearch("The Marsh Lights");
+    EXPECT_EQ(find<QLabel>("lblLabel")->text(), "Unsigned");
+    EXPECT_EQ(find<QTableWidget>("flxArtists")->rowCount(), 2);
+    EXPECT_EQ(find<QListWidget>("lstInterested")->item(0)->text(), "None");
+    EXPECT_TRUE(find<QLabel>("lblDemands")->text().startsWith("The Marsh Lights are demanding"));
+    EXPECT_EQ(window->findChild<QLabel*>("lblAbility"), nullptr) << "ability is shown for the player's acts only";
+    screenshot("band_02_band_details");
+}
+
+TEST_F(BandScreens, TheShortlistEntrySaysWhetherItAddsOrRemoves) {
+    openFromSearch("The Marsh Lights");
+    QPushButton* entry = extraEntry("lblShortlist");
+    EXPECT_EQ(entry->text(), "Add to Shortlist");
+    screenshot("band_03_options_unsigned");
+    click(entry);
+    EXPECT_EQ(playerShortlist(*game), std::vector<int16_t>{band});
+    EXPECT_EQ(find<QListWidget>("lstInterested")->item(0)->text(), "Nightjar Records");
+    EXPECT_EQ(extraEntry("lblShortlist")->text(), "Remove from Shortlist");
+    click(window->sideBar()->cmdExtra);  // closes
+    click(window->sideBar()->btnFind);
+    click(window->sideBar()->findOptions()->entry("lblShortlist"));
+    EXPECT_EQ(find<QTableWidget>("flxBands")->rowCount(), 1);
+    screenshot("band_04_shortlisted_bands");
+}
+
+TEST_F(BandScreens, ScoutFilesTheReportWithinAWeek) {
+    openFromSearch("The Marsh Lights");
+    click(extraEntry("lblScout"));
+    bool filed = false;
+    for (int d = 5; d <= 7; ++d)
+        for (int32_t id : entriesOfDay(*game, game->gameDate + d)) {
+            game->schedule.read(id);
+            filed = filed || (game->schedule->type == 6 && game->schedule->band == band);
+        }
+    EXPECT_TRUE(filed);
+    closeDialog();
+}
+
+TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
+    openFromSearch("The Marsh Lights");
+    click(extraEntry("lblApproach"));
+    ASSERT_EQ(screen(), Screen::frmBandContract);
+    EXPECT_EQ(find<QLabel>("lblTitle")->text(), "Offer The Marsh Lights Contract");
+    EXPECT_EQ(find<QLabel>("lblDemands")->text(),
+              "The Marsh Lights are demanding £60,000 as an initial advance with a further 3 options all carrying "
+              "advances of £60,000 being negotiable in no more than 18 months time. They also expect a royalty rate "
+              "of 10 percent.");
+    click("cmdRoyaltyInc");
+    click("cmdOptionLengthDec");
+    click("cmdOptionLengthDec");    // 12 stays 12
+    click("cmdInitialAdvanceInc");  // 60,000 + its step of 5,000
+    EXPECT_EQ(find<QLabel>("lblRoyalty")->text(), "11 percent");
+    EXPECT_EQ(find<QLabel>("lblOptionLength")->text(), "12 months");
+    screenshot("band_05_band_contract");
+    click("cmdOk");
+    closeDialog();
+    int32_t offer = hasOfferFrom(*game, game->player.playerLabel, band);
+    ASSERT_NE(offer, 0);
+    game->offer.read(offer);
+    EXPECT_EQ(game->offer->initialAdvance, 65'000);
+    EXPECT_EQ(game->offer->royalty, 11);
+    EXPECT_EQ(game->offer->optionLength, 12);
+    ASSERT_EQ(screen(), Screen::frmBandDetails);
+
+    click(extraEntry("lblChange"));
+    EXPECT_EQ(find<QLabel>("lblRoyalty")->text(), "11 percent") << "the form opens on the pending offer";
+    click("cmdCancel");
+    QPushButton* withdraw = extraEntry("lblWithdraw");
+    screenshot("band_06_options_approached");
+    click(withdraw);
+    EXPECT_EQ(hasOfferFrom(*game, game->player.playerLabel, band), 0);
+}
+
+TEST_F(BandScreens, AnActSignedElsewhereCannotBeApproached) {
+    openFromSearch("Tess Calloway");
+    EXPECT_FALSE(extraEntry("lblApproach")->isEnabled());
+    EXPECT_TRUE(window->sideBar()->extraPanel()->entry("lblScout")->isEnabled());
+}
+
+}  // namespace trovane::test

@@ -1,0 +1,351 @@
+// Offers filed, decided and signed.
+#include <gtest/gtest.h>
+
+#include "day/dispatch.h"
+#include "floor/news_post.h"
+#include "label/scouting.h"
+#include "support/empty_game.h"
+#include "support/signing_world.h"
+#include "talent/band_offers.h"
+#include "talent/contracts.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using namespace trovane::test;
+
+namespace {
+
+// A band of US 100 asking 60,000, three options of 18 months and 10 percent.
+// A label of UK x and US 60 stands at x - 20 against it.
+class Deals : public ::testing::Test {
+protected:
+    EmptyGame eg;
+    Game& g = eg.g;
+    int16_t style = addStyle(g, 10);
+    int16_t home = 0;
+    int16_t band = 0;
+    OfferTerms asked{60'000, 60'000, 3, 18, 10};
+
+    void SetUp() override {
+        home = addLabel(g, {26, 60, 0, 0, 0}, "Home Records");  // standing 6
+        g.player.playerLabel = home;
+        band = addBand({1, 1});
+    }
+    int16_t addBand(std::initializer_list<int16_t> ranks, const std::string& name = "The Testers") {
+        int16_t b = addAct(
+            g, {.reputation = {0, 100, 0, 0, 0}, .ranks = ranks, .style = static_cast<uint8_t>(style), .name = name});
+        g.band.read(b);
+        g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
+        g.band->additionalAdvanceCount = 3;
+        g.band->optionLength = 18;
+        g.band->royaltyRate = 10;
+        g.band.write();
+        return b;
+    }
+    void setStanding(int16_t label, int standing) {
+        g.label.read(label);
+        g.label->reputation[0] = static_cast<uint8_t>(standing + 20);
+        g.label.write();
+    }
+    // A rival's offer of the asked terms, with its own decision entry when asked.
+    int32_t rivalOffer(int16_t label, double date, bool ownEntry) {
+        g.offer.rec = OfferRecord{};
+        g.offer->decisionDate = date;
+        g.offer->label = label;
+        g.offer->band = band;
+        g.offer->initialAdvance = g.offer->additionalAdvance = 60'000;
+        g.offer->additionalAdvanceCount = 3;
+        g.offer->optionLength = 18;
+        g.offer->royalty = 10;
+        int32_t n = g.offer.append();
+        if (ownEntry) {
+            ScheduleRecord e{};
+            e.type = 4;
+            e.date = date;
+            e.band = band;
+            e.label = label;
+            e.offer = n;
+            addSchedule(g, e);
+        }
+        return n;
+    }
+    void playDay(double date) {
+        g.gameDate = date;
+        performDaysEvents(g);
+    }
+    std::vector<ScheduleRecord> entriesOn(double date) {
+        std::vector<ScheduleRecord> out;
+        for (int32_t id : entriesOfDay(g, date)) {
+            g.schedule.read(id);
+            out.push_back(g.schedule.rec);
+        }
+        return out;
+    }
+    NewsRecord lastNews() {
+        g.news.read(g.news.recordCount() - 1);
+        return g.news.rec;
+    }
+    int16_t labelOf(int16_t b) {
+        g.band.read(b);
+        return g.band->label;
+    }
+};
+
+TEST_F(Deals, AnOfferIsDecidedInAWeekAndTheBandIsShortlisted) {
+    OfferMade m = makeOffer(g, band, asked);
+    EXPECT_EQ(m.decisionDate, g.gameDate + 7);
+    EXPECT_FALSE(m.joined);
+    auto entries = entriesOn(m.decisionDate);
+    ASSERT_EQ(entries.size(), 1u);
+    EXPECT_EQ(entries[0].type, 4);
+    EXPECT_EQ(entries[0].offer, m.offer);
+    EXPECT_EQ(entries[0].label, home);
+    EXPECT_EQ(playerShortlist(g), std::vector<int16_t>{band});
+}
+
+TEST_F(Deals, AChangedOfferKeepsItsNumberDateAndEntry) {
+    OfferMade first = makeOffer(g, band, asked);
+    g.gameDate += 2;
+    OfferTerms better = asked;
+    better.royalty = 12;
+    OfferMade second = makeOffer(g, band, better);
+    EXPECT_EQ(second.offer, first.offer);
+    EXPECT_EQ(second.decisionDate, first.decisionDate);
+    EXPECT_EQ(entriesOn(first.decisionDate).size(), 1u);
+    g.offer.read(first.offer);
+    EXPECT_EQ(g.offer->royalty, 12);
+    EXPECT_EQ(offerFormStart(g, band).royalty, 12) << "the form opens on the pending offer";
+}
+
+TEST_F(Deals, AmountsTypedAreTakenBackThroughTheExchangeRate) {
+    g.prefs.rec.exchangeRate = 2;
+    OfferTerms typed = asked;
+    typed.initialAdvance = 120'001;    // / 2 = 60,000.5 -> 60,000 (half to even)
+    typed.additionalAdvance = 90'003;  // 45,001.5 -> 45,002
+    makeOffer(g, band, typed);
+    g.offer.read(1);
+    EXPECT_EQ(g.offer->initialAdvance, 60'000);
+    EXPECT_EQ(g.offer->additionalAdvance, 45'002);
+}
+
+TEST_F(Deals, AnOfferJoinsTheDateOfAnotherLabelsDecision) {
+    int16_t rival = addLabel(g, {0, 0, 0, 0, 0});
+    double date = g.gameDate + 1;  // filed six days ago
+    rivalOffer(rival, date, true);
+    OfferMade m = makeOffer(g, band, asked);
+    EXPECT_TRUE(m.joined);
+    EXPECT_EQ(m.decisionDate, date);
+    EXPECT_EQ(entriesOn(date).size(), 1u) << "the first entry decides for all";
+    EXPECT_TRUE(entriesOn(g.gameDate + 7).empty());
+}
+
+TEST_F(Deals, AtNinetyOneThePlayerIsAskedToConfirm) {
+    OfferMade m = makeOffer(g, band, asked);
+    playDay(m.decisionDate);
+    auto entries = entriesOn(m.decisionDate);
+    ASSERT_EQ(entries.size(), 1u) << "nothing is signed before the player says yes";
+    EXPECT_EQ(entries[0].offer, m.offer);
+    NewsRecord n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "The Testers agree terms with Home Records.");
+    EXPECT_EQ(trim(n.text.value),
+              "The Testers today announed they are delighted to have agreed to Home Records's contract terms and they "
+              "are due to sign a 4 album deal with them tomorrow morning. They added the clincher was the "
+              "particularly good advances they stand to receive after their initial album is completed. Confirm the "
+              "deal?");
+    EXPECT_EQ(n.kind, kNewsYesNo);
+    EXPECT_EQ(n.mustReply, kTrue);
+    EXPECT_EQ(n.scheduleLink, entries[0].id);
+}
+
+TEST_F(Deals, AtNinetyTheBandRejectsWithoutAVerdict) {
+    setStanding(home, 5);
+    OfferMade m = makeOffer(g, band, asked);
+    playDay(m.decisionDate);
+    NewsRecord n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "The Testers reject Home Records deal.");
+    // Worst reason 5: the standing of 5 is below the high of 100 and the gap is 80.
+    EXPECT_EQ(trim(n.text.value),
+              "The Testers have rejected your contract offer as  They are concerned about under-representation in "
+              "their main market, however it is believed an improved contract would do much to ease the problem.");
+    g.offer.read(m.offer);
+    EXPECT_EQ(g.offer->band, kVoidOffer);
+    EXPECT_EQ(hasOfferFrom(g, home, band), 0) << "a rejected player may file again at once";
+}
+
+TEST_F(Deals, APoorOfferGetsTheHarshWords) {
+    // No advances at the asked royalty: mean round(round(200 / 3) x 0.9) = 30, standing 6: 30.
+    // The worst reason is the standing (below the high of 100; gap 80).
+    OfferMade m = makeOffer(g, band, {0, 0, 3, 18, 10});
+    playDay(m.decisionDate);
+    EXPECT_EQ(trim(lastNews().text.value),
+              "The Testers have rejected your contract offer as way short of what they were hoping for.  They have "
+              "indicated them would require a much better deal to consider representing a label of your size.");
+}
+
+TEST_F(Deals, ALaughableOfferIsToldSo) {
+    // Half the royalty as well: royaltyScore 0, score 0. Initial and options tie at 0 and the
+    // standing of 6 is above them: the worst stays the initial advance.
+    OfferMade m = makeOffer(g, band, {0, 0, 3, 18, 5});
+    playDay(m.decisionDate);
+    EXPECT_EQ(trim(lastNews().text.value),
+              "The Testers have rejected your contract offer as laughable.  The initial advance offered has been "
+              "singled out by the band as being particularly disappointing.");
+}
+
+TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDay) {
+    int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
+    double date = g.gameDate + 3;
+    int32_t offer = rivalOffer(rival, date, true);
+    playDay(date);
+    EXPECT_EQ(g.news.recordCount(), 1) << "nobody is told";
+    auto tomorrow = entriesOn(date + 1);
+    ASSERT_EQ(tomorrow.size(), 1u);
+    EXPECT_EQ(tomorrow[0].type, 5);
+    EXPECT_EQ(tomorrow[0].offer, offer);
+    playDay(date + 1);
+    EXPECT_EQ(labelOf(band), rival);
+    g.label.read(rival);
+    EXPECT_EQ(g.label->bandCount, 1);
+    g.offer.read(offer);
+    EXPECT_EQ(g.offer->band, kVoidOffer);
+}
+
+TEST_F(Deals, ARivalsDealWithABandThePlayerWatchesIsTold) {
+    int16_t rival = addLabel(g, {26, 60, 0, 0, 0}, "Rival Records");
+    g.band.read(band);
+    g.label.read(home);
+    shortlistAdd(g);
+    double date = g.gameDate + 3;
+    rivalOffer(rival, date, true);
+    playDay(date);
+    NewsRecord n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "The Testers agree terms with Rival Records.");
+    EXPECT_EQ(n.kind, kNewsOk) << "only the player confirms a deal";
+    EXPECT_EQ(entriesOn(date + 1).size(), 1u);
+    playDay(date + 1);
+    EXPECT_EQ(trim(lastNews().title.value), "The Testers sign for Rival Records.");
+    EXPECT_EQ(playerShortlist(g), std::vector<int16_t>{band}) << "the player's row stays for a band signed elsewhere";
+}
+
+TEST_F(Deals, ThePlayersRejectedOfferIsWeighedWithTheWinnersLabel) {
+    int16_t rival = addLabel(g, {25, 60, 0, 0, 0}, "Rival Records");  // standing 5: the asked terms score 90
+    double date = g.gameDate + 3;
+    rivalOffer(rival, date, true);
+    g.label.read(home);
+    g.label->reputation = {0, 0, 0, 0, 0};  // standing -200
+    g.label.write();
+    // Royalty 11: royaltyScore 110, mean round(round(310 / 3) x 0.9) = 93; at home round(93 - 18.6) = 74,
+    // below the rival's 90. Weighed with the rival's standing of 5: round(93.47) = 93, above 90: no verdict.
+    OfferMade m = makeOffer(g, band, {60'000, 60'000, 3, 18, 11});
+    EXPECT_TRUE(m.joined);
+    playDay(date);
+    NewsRecord n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "The Testers reject Rival Records deal.");
+    EXPECT_EQ(trim(n.text.value),
+              "The Testers have rejected your contract offer as  They are concerned about under-representation in "
+              "their main market, however it is believed an improved contract would do much to ease the problem.");
+}
+
+TEST_F(Deals, AVoidOfferSignsNobody) {
+    int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
+    int32_t offer = rivalOffer(rival, g.gameDate, false);
+    g.offer.read(offer);
+    g.band.read(band);
+    scheduleSigning(g);
+    voidOffers(g, band);
+    playDay(g.gameDate + 1);
+    EXPECT_EQ(labelOf(band), 0);
+    g.label.read(rival);
+    EXPECT_EQ(g.label->bandCount, 0);
+}
+
+TEST_F(Deals, OfEqualBestScoresTheLaterOfferWins) {
+    int16_t first = addLabel(g, {26, 60, 0, 0, 0});
+    int16_t second = addLabel(g, {26, 60, 0, 0, 0});
+    double date = g.gameDate + 3;
+    rivalOffer(first, date, true);
+    int32_t later = rivalOffer(second, date, false);
+    playDay(date);
+    EXPECT_EQ(entriesOn(date)[0].offer, later);
+}
+
+TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithIt) {
+    OfferMade m = makeOffer(g, band, asked);
+    int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
+    int32_t joiner = rivalOffer(rival, m.decisionDate, false);
+    g.gameDate += 1;
+    EXPECT_EQ(checkWithdraw(g, band), "");
+    withdrawOffer(g, band);
+    EXPECT_EQ(entriesOn(m.decisionDate)[0].type, 255);
+    g.offer.read(m.offer);
+    EXPECT_EQ(g.offer->band, kVoidOffer);
+    playDay(m.decisionDate);
+    EXPECT_EQ(labelOf(band), 0);
+    g.offer.read(joiner);
+    EXPECT_EQ(g.offer->band, band) << "the joiner stays on file, undecided";
+    EXPECT_TRUE(entriesOn(m.decisionDate + 1).empty());
+}
+
+TEST_F(Deals, NoWithdrawalOnTheDecisionDay) {
+    OfferMade m = makeOffer(g, band, asked);
+    g.gameDate = m.decisionDate - 1;
+    EXPECT_EQ(checkWithdraw(g, band), "");
+    g.gameDate = m.decisionDate;
+    EXPECT_NE(checkWithdraw(g, band), "");
+}
+
+TEST_F(Deals, ASignedOrRetiredBandTakesNoOffer) {
+    EXPECT_EQ(checkOffer(g, band, asked), "");
+    g.band.read(band);
+    g.band->label = addLabel(g, {1, 1, 1, 1, 1}, "Other Records");
+    g.band.write();
+    EXPECT_EQ(checkOffer(g, band, asked), "The Testers have already signed for Other Records.");
+    g.band.read(band);
+    g.band->label = 0;
+    g.band->retired = kTrue;
+    g.band.write();
+    EXPECT_NE(checkOffer(g, band, asked), "");
+    EXPECT_EQ(hasOfferFrom(g, home, band), 0) << "a refused offer files nothing";
+}
+
+TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
+    int16_t solo = addBand({2}, "Jo Testa");
+    band = solo;
+    int16_t rival = addLabel(g, {0, 0, 0, 0, 0});
+    g.band.read(solo);
+    g.label.read(rival);
+    shortlistAdd(g);
+    g.newsong.rec = NewSongRecord{};
+    g.newsong->title = "Harbour Lights";
+    g.newsong->style = static_cast<uint8_t>(style);
+    g.newsong.append();
+    g.song.rec = SongRecord{};
+    g.song->title = "Untitled";
+    g.song->band = solo;
+    g.song.append();
+    OfferMade m = makeOffer(g, solo, asked);
+    g.gameDate = m.decisionDate;
+    g.offer.read(m.offer);
+    g.band.read(solo);
+    scheduleSigning(g);  // the player's yes
+    performDaysEvents(g);
+    g.band.read(solo);
+    EXPECT_EQ(g.band->label, home);
+    EXPECT_EQ(g.band->optionsRemaining, 4);
+    EXPECT_EQ(g.band->optionMonthsLeft, 18);
+    EXPECT_EQ(g.band->advanceToPay, moneyUnits(60'000));
+    EXPECT_EQ(g.band->signedOn, m.decisionDate);
+    g.artist.read(g.band->members[0]);
+    EXPECT_EQ(g.artist->royaltyShare, 70);
+    EXPECT_EQ(trim(lastNews().title.value), "Jo Testa signs for Home Records.");
+    g.song.read(1);
+    EXPECT_EQ(trim(g.song->title.value), "Harbour Lights") << "the player's new act's songs get titles";
+    g.newsong.read(1);
+    EXPECT_EQ(g.newsong->uses, 1);
+    EXPECT_TRUE(playerShortlist(g).empty()) << "a band signed to the player leaves every shortlist";
+    g.band.read(solo);
+    g.label.read(rival);
+    EXPECT_FALSE(isShortlisted(g));
+}
+
+}  // namespace
