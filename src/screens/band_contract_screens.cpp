@@ -1,5 +1,7 @@
 #include "screens/band_contract_screens.h"
 
+#include "screens/album_screens.h"
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -34,7 +36,8 @@ OptionPanel* makeBandOptions(mdiParentForm& main, QWidget* host, int16_t band) {
     Game& g = main.game();
     if (band < 1) return nullptr;
     g.band.read(band);
-    if (g.player.playerLabel > 0 && g.band->label == g.player.playerLabel) return nullptr;
+    if (g.player.playerLabel > 0 && g.band->label == g.player.playerLabel)
+        return new frmBandOptionsSigned(main, band, host);
     if (hasOfferFrom(g, g.player.playerLabel, band) != 0) return new frmBandOptionsApproached(main, host, band);
     return new frmBandOptionsUnsigned(main, host, band);
 }

@@ -159,3 +159,18 @@ TEST_F(BandScreens, AnActSignedElsewhereCannotBeApproached) {
 }
 
 }  // namespace trovane::test
+
+namespace trovane::test {
+
+TEST_F(BandScreens, ThePlayersOwnBandOpensTheSignedPanel) {
+    game->band.read(band);
+    game->band->label = game->player.playerLabel;
+    game->band.write();
+    openFromSearch("The Marsh Lights");
+    QPushButton* album = extraEntry("lblAlbum");
+    ASSERT_NE(album, nullptr);
+    EXPECT_TRUE(album->isEnabled()) << "no album is in hand";
+    EXPECT_EQ(window->sideBar()->extraPanel()->objectName(), "frmBandOptionsSigned");
+}
+
+}  // namespace trovane::test
