@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdint>
 // Studios, pressing plants and distributors.
 
 namespace trovane {
@@ -11,5 +12,13 @@ void setBusinessCharge(Game& g);
 
 // Schedule type 24: the entry's new facility opens.
 void openBusiness(Game& g);
+
+}  // namespace trovane
+
+namespace trovane {
+
+// On the current business: copies a distributor can ship a day, and a plant press.
+int32_t distributorDailyCapacity(const Game& g);
+int32_t plantDailyCapacity(const Game& g);
 
 }  // namespace trovane
