@@ -11,6 +11,7 @@
 #include "floor/number_helpers.h"
 #include "label/finances.h"
 #include "production/businesses.h"
+#include "production/chart_history.h"
 #include "production/charts.h"
 #include "talent/band_functions.h"
 #include "world/record_store.h"
@@ -313,6 +314,7 @@ void calculateWeeklySales(Game& g) {
         }
         sortChartBySales(g);
         awardChartPoints(g, chart);
+        recordChartWeek(g, chart);
         closeChart(g);
     }
     updateBestSellers(g);
