@@ -36,6 +36,10 @@ private:
 void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
 void addNewsVerbs(CLI::App& app, SimContext& ctx);     // news, show, reply, delete, schedule
+void addDiscVerbs(CLI::App& app, SimContext& ctx);     // release, forecast, press, distribute, single, disc, chart, run
+
+// A "Distributor required" item answered with ok: the form is confirmed at once.
+void confirmDistributorForm(Game& g);
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

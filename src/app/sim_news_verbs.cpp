@@ -178,9 +178,10 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             } else if (!view.buttons[button].enabled) {
                 refuse(ctx, fmt::format("News item {} has already been answered", replyId));
             } else {
-                if (button == 0)
+                if (button == 0) {
                     pressNewsCmd1(g);
-                else
+                    confirmDistributorForm(g);
+                } else
                     pressNewsCmd2(g);
                 if (ctx.json)
                     std::printf("{\"id\":%d,\"reply\":\"%s\",\"screen\":\"%s\"}\n", replyId, replyWord.c_str(),

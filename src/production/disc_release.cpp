@@ -129,14 +129,19 @@ bool dateAllowed(Game& g, int t, double date, double earliest) {
 
 }  // namespace
 
+double firstOfferedReleaseDate(Game& g, int t) {
+    double earliest = earliestReleaseDate(g, t);
+    double first = std::ceil(earliest);
+    while (weekdayOf(first) != 2) first += 1;
+    for (int week = 0; week < 104; ++week)
+        if (dateAllowed(g, t, first + week * 7, earliest)) return first + week * 7;
+    return 0;
+}
+
 std::string releaseDateRefusal(Game& g, int t, double date) {
     double earliest = earliestReleaseDate(g, t);
     if (dateAllowed(g, t, date, earliest)) return "";
-    double first = std::ceil(earliest);
-    while (weekdayOf(first) != 2) first += 1;
-    double offered = 0;
-    for (int week = 0; week < 104 && offered == 0; ++week)
-        if (dateAllowed(g, t, first + week * 7, earliest)) offered = first + week * 7;
+    double offered = firstOfferedReleaseDate(g, t);
     std::string where = std::string(kTerritoryKeys[at(t)]);
     if (offered == 0) return "There is no date on which the disc can be released in " + where + ".";
     return formatDate(date, "dd/mm/yyyy") + " is not a release date that can be chosen in " + where +

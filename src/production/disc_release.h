@@ -24,6 +24,8 @@ int releaseHype(Game& g, int reputation);
 // For the current disc and band: today + 42, pushed to 180 days (45 for a
 // single) after each other disc of the band of the same kind dated in t.
 double earliestReleaseDate(Game& g, int t);
+// The first Monday the form offers for the current disc and band in t, or 0.
+double firstOfferedReleaseDate(Game& g, int t);
 // Why the current disc of the current band cannot come out in t on date, in
 // the game's words, or "" when it can. Changes nothing but buffers.
 std::string releaseDateRefusal(Game& g, int t, double date);

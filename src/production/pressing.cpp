@@ -110,6 +110,16 @@ std::string pressDiscsRefusal(Game& g, int16_t disc, int16_t plant, const std::a
 
 void pressDiscs(Game& g, int16_t disc, int16_t plant, const std::array<int32_t, 5>& copies) {
     g.disc.read(disc);
+    g.band.read(g.disc->band);
+    // The press form set the territories' hype and promotion as it opened.
+    for (int t = 0; t < 5; ++t) {
+        if (g.disc->releaseDate[at(t)] <= kNoDate) continue;
+        const DiscRecord before = g.disc.rec;
+        auto hype = static_cast<uint8_t>(releaseHype(g, g.band->reputation[at(t)]));
+        g.disc.rec = before;
+        g.disc->hype[at(t)] = hype;
+        g.disc->promotion[at(t)] = hype;
+    }
     int64_t total = 0;
     for (int t = 0; t < 5; ++t) {
         if (copies[at(t)] <= 0) continue;
