@@ -110,13 +110,6 @@ std::string firmName(Game& g, int16_t firm) {
     return trim(g.business->name.value);
 }
 
-std::string csvField(const std::string& s) {
-    if (s.find_first_of(",\"\n") == std::string::npos) return s;
-    std::string out = "\"";
-    for (char c : s) out += c == '"' ? std::string("\"\"") : std::string(1, c);
-    return out + "\"";
-}
-
 // --- release ---------------------------------------------------------------
 
 struct ReleaseArgs {
@@ -380,33 +373,6 @@ void runDisc(SimContext& ctx, const std::string& key) {
 
 // --- chart and run ---------------------------------------------------------
 
-// The chart as the file holds it now, before any week has been recorded.
-std::vector<ChartEntry> liveChart(Game& g, int chart) {
-    std::vector<ChartEntry> rows;
-    openChart(g, chart);
-    int32_t last = std::min<int32_t>(g.chart.recordCount() - 1, publishedLength(chart));
-    std::vector<ChartRow> file;
-    for (int32_t i = 1; i <= last; ++i) {
-        g.chart.read(i);
-        file.push_back(g.chart.rec);
-    }
-    closeChart(g);
-    int t = chart % 5;
-    for (std::size_t i = 0; i < file.size(); ++i) {
-        g.disc.read(file[i].disc);
-        ChartEntry e;
-        e.position = static_cast<int>(i + 1);
-        e.disc = file[i].disc;
-        e.sales = g.disc->weekSales[at(t)];
-        e.lastWeek = file[i].previousPosition;
-        e.peak = g.disc->bestPosition[at(t)];
-        e.weeks = t < 4 ? g.disc->weeksOnChart[at(t)] : 0;
-        e.movement = e.lastWeek == 0 ? "NE" : e.lastWeek == e.position ? "-" : std::to_string(e.lastWeek);
-        rows.push_back(e);
-    }
-    return rows;
-}
-
 void runChart(SimContext& ctx, int chart, const std::string& weekText, bool csv) {
     if (chart < 0 || chart > 9) return badArgument(ctx, "chart takes 0 to 9");
     std::optional<double> week;
@@ -415,45 +381,23 @@ void runChart(SimContext& ctx, int chart, const std::string& weekText, bool csv)
         if (!week) return badArgument(ctx, weekText + " is not a date of the form YYYY-MM-DD");
     }
     Game& g = ctx.openGame();
-    std::vector<double> weeks = chartWeeks(g, chart);
-    std::vector<ChartEntry> rows;
-    double shown = 0;
     if (week) {
+        std::vector<double> weeks = chartWeeks(g, chart);
         if (std::find(weeks.begin(), weeks.end(), *week) == weeks.end()) {
             ctx.closeGame();
             return refuse(ctx, fmt::format("No {} was published on {}", chartTitle(chart), weekText));
         }
-        shown = *week;
-        rows = chartWeek(g, chart, shown);
-    } else if (!weeks.empty()) {
-        shown = weeks.back();
-        rows = chartWeek(g, chart, shown);
-    } else {
-        rows = liveChart(g, chart);
     }
-    int t = chart % 5;
-    struct Line {
-        ChartEntry e;
-        std::string title, band, label, award;
-    };
-    std::vector<Line> lines;
-    for (const ChartEntry& e : rows) {
-        g.disc.read(e.disc);
-        const DiscRecord d = g.disc.rec;
-        lines.push_back(
-            {e, trim(d.title.value), bandName(g, d.band), labelName(g, d.label), awardLetter(t, d.totalSales[at(t)])});
-    }
+    double shown = 0;
+    std::vector<ChartLine> lines = publishedChart(g, chart, week.value_or(0), shown);
     if (csv) {
-        std::printf("position,movement,lastWeek,peak,weeks,entry,disc,title,band,label,sales,award\n");
-        for (const Line& l : lines)
-            std::printf("%d,%s,%d,%d,%d,%s,%d,%s,%s,%s,%d,%s\n", l.e.position, l.e.movement.c_str(), l.e.lastWeek,
-                        l.e.peak, l.e.weeks, l.e.entry.c_str(), l.e.disc, csvField(l.title).c_str(),
-                        csvField(l.band).c_str(), csvField(l.label).c_str(), l.e.sales, l.award.c_str());
+        std::string out = chartCsv(lines);
+        std::fwrite(out.data(), 1, out.size(), stdout);
     } else if (ctx.json) {
         std::string out = fmt::format("{{\"chart\":{},\"title\":{},\"week\":\"{}\",\"size\":{},\"rows\":[", chart,
                                       jsonQuote(chartTitle(chart)), iso(shown), publishedLength(chart));
         for (std::size_t i = 0; i < lines.size(); ++i) {
-            const Line& l = lines[i];
+            const ChartLine& l = lines[i];
             out += fmt::format(
                 "{}{{\"position\":{},\"movement\":\"{}\",\"lastWeek\":{},\"peak\":{},\"weeks\":{},"
                 "\"entry\":\"{}\",\"disc\":{},\"title\":{},\"band\":{},\"label\":{},\"sales\":{},"
@@ -465,7 +409,7 @@ void runChart(SimContext& ctx, int chart, const std::string& weekText, bool csv)
     } else {
         std::printf("%s, Top %d%s\n", chartTitle(chart), publishedLength(chart),
                     shown > 0 ? (", week of " + formatDate(shown, "d/m/yyyy")).c_str() : "");
-        for (const Line& l : lines)
+        for (const ChartLine& l : lines)
             std::printf("%3d %4s %-8s %-40s %-30s %10d %s\n", l.e.position, l.e.movement.c_str(), l.e.entry.c_str(),
                         l.title.c_str(), l.band.c_str(), l.e.sales, l.award.c_str());
     }

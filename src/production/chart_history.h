@@ -27,6 +27,21 @@ std::vector<ChartEntry> chartWeek(Game& g, int chart, double week);
 // The Sundays on which chart N was published, oldest first.
 std::vector<double> chartWeeks(Game& g, int chart);
 
+// The published chart N as the file holds it now, before any week is recorded.
+std::vector<ChartEntry> liveChart(Game& g, int chart);
+
+// A published row with the names a chart shows.
+struct ChartLine {
+    ChartEntry e;
+    std::string title, band, label, award;
+    int16_t style = 0;
+};
+// The published chart N of the week, or of the latest recorded week when week
+// is 0 (the live file when none is recorded yet); shown is the week given.
+std::vector<ChartLine> publishedChart(Game& g, int chart, double week, double& shown);
+// The lines as comma-separated values under a header line.
+std::string chartCsv(const std::vector<ChartLine>& lines);
+
 struct RunWeek {
     double week = 0;
     int chart = 0;
