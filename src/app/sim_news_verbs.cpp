@@ -35,6 +35,7 @@ std::string_view screenName(Screen s) {
     case Screen::frmLoading: return "frmLoading";
     case Screen::frmBandOptionDecision: return "frmBandOptionDecision";
     case Screen::frmChooseDistributor: return "frmChooseDistributor";
+    case Screen::frmChartForm: return "frmChartForm";
     case Screen::frmQuellmarkGames: return "frmQuellmarkGames";
     case Screen::frmStartNewGame: return "frmStartNewGame";
     case Screen::frmCreateNewLabel: return "frmCreateNewLabel";

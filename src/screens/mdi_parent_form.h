@@ -78,6 +78,8 @@ public:
     NewsSort& newsSort() { return newsSort_; }
     // The news item frmNewsFull shows (its record number), so it can come back to it.
     int32_t newsItemOnScreen = 0;
+    // The chart frmChartForm opens on (0 to 9).
+    int chartShown = 0;
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

@@ -28,6 +28,7 @@ enum class Screen {
     frmLoading,
     frmBandOptionDecision,
     frmChooseDistributor,
+    frmChartForm,
     frmSaveGame,
     frmCredits,
     frmDisclaimer,

@@ -105,3 +105,13 @@ TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
 }
 
 }  // namespace
+
+TEST_F(ChartScreen, TheChartsPanelOpensTheChosenChart) {
+    startNewGameAsPlayer();
+    click("btnCharts");
+    click("lblUSSingleChart");
+    EXPECT_EQ(screen(), Screen::frmChartForm);
+    auto* form = find<screens::frmChartForm>("frmChartForm");
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->chart(), 6);
+}
