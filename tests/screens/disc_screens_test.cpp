@@ -2,11 +2,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
 
 #include "screen_fixture.h"
 #include "screens/disc_screens.h"
+#include "screens/single_screens.h"
 #include "world/dates.h"
 #include "world/strings.h"
 
@@ -125,6 +127,47 @@ TEST_F(DiscForms, DiscDetailsShowsEachTerritory) {
     EXPECT_EQ(details.flxTerritories->item(0, 5)->text(), QStringLiteral("S"));
     EXPECT_TRUE(details.cmdExtra->isEnabled());
     screenshotOf(&details, QStringLiteral("35_frmDiscDetails"));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
+    Game& g = *game;
+    game->disc.read(disc);
+    int16_t band = g.disc->band;
+    std::array<int32_t, 4> songs{};
+    // Means of quality and commerciality: 80, 30, 50, 40.
+    const std::array<std::pair<uint8_t, uint8_t>, 4> marks = {{{80, 80}, {20, 40}, {50, 50}, {40, 40}}};
+    for (std::size_t i = 0; i < 4; ++i) {
+        g.song.rec = SongRecord{};
+        g.song->title = "Song " + std::to_string(i + 1);
+        g.song->band = band;
+        g.song->quality = marks[i].first;
+        g.song->commerciality = marks[i].second;
+        if (i == 3) g.song->singleDisc[2] = 99;  // already a single in Europe
+        songs[i] = g.song.append();
+    }
+    g.disc.read(disc);
+    g.disc->trackCount = 4;
+    g.disc->tracksRecorded = 4;
+    for (std::size_t i = 0; i < 4; ++i) g.disc->tracks[i] = songs[i];
+    g.disc.write();
+    screens::frmReleaseSingle pick(g, disc);
+    EXPECT_EQ(pick.lstSongs->count(), 3);  // song 4 has been a single
+    screens::frmChooseBSides sides(g, disc, songs[0]);
+    sides.show();
+    EXPECT_EQ(sides.cmbBSide[0]->currentData().toInt(), songs[1]);
+    EXPECT_EQ(sides.cmbBSide[1]->currentData().toInt(), songs[3]);
+    click(sides.cmdConfirm);
+    ASSERT_GT(sides.single, 0);
+    g.disc.read(sides.single);
+    EXPECT_EQ(g.disc->isSingle, 1);
+    EXPECT_EQ(trim(g.disc->title.value), "Song 1");
+    EXPECT_EQ(g.disc->quality, 80);
+    EXPECT_EQ(g.disc->tracks[1], songs[1]);
+    EXPECT_EQ(g.disc->totalSales[0], 0);
 }
 
 }  // namespace
