@@ -206,8 +206,14 @@ void setReleaseDates(Game& g, int16_t disc, const std::array<double, 5>& dates) 
     scheduleRelease(g);
 }
 
+// An entry whose disc is not in the table (a damaged schedule) does nothing.
+namespace {
+bool entryDiscExists(Game& g, int32_t disc) { return disc >= 1 && disc < g.disc.recordCount(); }
+}  // namespace
+
 void releaseDay(Game& g) {
     const ScheduleRecord entry = g.schedule.rec;
+    if (!entryDiscExists(g, entry.disc)) return;
     g.disc.read(entry.disc);
     g.band.read(g.disc->band);
     if (g.band->additionalAdvanceCount + g.band->offerStage == g.band->optionsRemaining) {
@@ -319,6 +325,7 @@ void distributorNeeded(Game& g) {
     g.schedule->date += 7;
     g.schedule.write();
     const ScheduleRecord entry = g.schedule.rec;
+    if (!entryDiscExists(g, entry.disc)) return;
     g.disc.read(entry.disc);
     g.band.read(g.disc->band);
     bool players = g.player.playerLabel > 0 && g.disc->label == g.player.playerLabel;

@@ -161,10 +161,12 @@ void pressDiscs(Game& g, int16_t disc, int16_t plant, const std::array<int32_t, 
 
 void pressWeek(Game& g) {
     const ScheduleRecord entry = g.schedule.rec;
+    if (entry.disc < 1 || entry.disc >= g.disc.recordCount()) return;
     g.disc.read(entry.disc);
     int open = static_cast<int>(
         std::count_if(g.disc->pressingOrder.begin(), g.disc->pressingOrder.end(), [](int32_t o) { return o > 0; }));
     if (open == 0) return;
+    if (entry.business < 1 || entry.business >= g.business.recordCount()) return;
     g.business.read(entry.business);
     double output = 7.0 * plantDailyCapacity(g);
     double share = roundHalfEven(output / open);
