@@ -185,7 +185,8 @@ void limitAndCertify(Game& g, int32_t sales, int chart) {
     int64_t oldTotal = before.totalSales[ti];
     int64_t newTotal = oldTotal + sales;
     Thresholds th = kThresholds[ti];
-    auto reaches = [&](int64_t level) { return oldTotal < level && newTotal >= level; };
+    // 50000000 marks a level the territory never awards.
+    auto reaches = [&](int64_t level) { return level < 50000000 && oldTotal < level && newTotal >= level; };
     if (reaches(th.silver)) certify(g, t, " silver certification ", 100);
     if (reaches(th.gold)) certify(g, t, " gold certification ", 250);
     if (newTotal >= th.platinum) {

@@ -94,6 +94,12 @@ TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGive) {
     }
 }
 
+TEST_F(WeeklySales, TheUnawardedLevelIsNeverGivenEvenWhenReached) {
+    int16_t d = addDisc("Huge");
+    // Europe: 49999999 -> 50000000 crosses only platinum level 50.
+    EXPECT_EQ(sellIn(d, 2, 49999999, 1), 500);
+}
+
 TEST_F(WeeklySales, AWeekAcrossTwoPlatinumMultiplesGivesTwoAwards) {
     int16_t d = addDisc("Big");
     int32_t newsBefore = g.news.recordCount();
