@@ -80,6 +80,10 @@ void addAlbumVerbs(CLI::App& app, SimContext& ctx);    // work, songs, album, pr
 // plain ok is refused there). False, doing nothing, for any other item and word.
 bool replyToOption(SimContext& ctx, Game& g, const std::string& word);
 void addBandVerbs(CLI::App& app, SimContext& ctx);     // band, terms, offer, withdraw, scout, shortlist
+void addDiscVerbs(CLI::App& app, SimContext& ctx);     // release, forecast, press, distribute, single, disc, chart, run
+
+// A "Distributor required" item answered with ok: the form is confirmed at once.
+void confirmDistributorForm(Game& g);
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

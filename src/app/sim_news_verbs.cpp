@@ -55,6 +55,7 @@ std::string_view screenName(Screen s) {
     case Screen::frmLoading: return "frmLoading";
     case Screen::frmBandOptionDecision: return "frmBandOptionDecision";
     case Screen::frmChooseDistributor: return "frmChooseDistributor";
+    case Screen::frmChartForm: return "frmChartForm";
     case Screen::frmQuellmarkGames: return "frmQuellmarkGames";
     case Screen::frmStartNewGame: return "frmStartNewGame";
     case Screen::frmCreateNewLabel: return "frmCreateNewLabel";
@@ -197,9 +198,10 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             } else if (!view.buttons[button].enabled) {
                 ctx.refuse(fmt::format("News item {} has already been answered", replyId));
             } else {
-                if (button == 0)
+                if (button == 0) {
                     pressNewsCmd1(g);
-                else
+                    confirmDistributorForm(g);
+                } else
                     pressNewsCmd2(g);
                 if (ctx.json)
                     std::printf("{\"id\":%d,\"reply\":\"%s\",\"screen\":\"%s\"}\n", replyId, replyWord.c_str(),

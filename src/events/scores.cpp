@@ -38,3 +38,40 @@ void updateHighScoreTable(Game& g) {
 void artistBirthday(Game& g) { static_cast<void>(g); }
 
 }  // namespace trovane
+
+namespace trovane {
+
+namespace {
+
+int16_t currentOf(Game& g, int kind) {
+    switch (kind) {
+    case 0: return g.band->id;
+    case 1: return g.artist->id;
+    case 2: return g.label->id;
+    default: return g.staff->id;
+    }
+}
+
+void appendAchievement(Game& g, int kind, int16_t who, const std::string& text) {
+    g.achieve.rec = AchievementRecord{};
+    g.achieve->kind = narrow<uint8_t>(kind);
+    g.achieve->text = text;
+    g.achieve->date = g.gameDate;
+    g.achieve->who = who;
+    g.achieve.append();
+}
+
+}  // namespace
+
+void addAchievement(Game& g, int kind, const std::string& text) {
+    appendAchievement(g, kind, currentOf(g, kind), text);
+    if (kind != 0) return;
+    const BandRecord band = g.band.rec;
+    int members = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
+    for (int i = 0; i < members; ++i) {
+        int16_t who = band.members[static_cast<std::size_t>(i)];
+        if (who > 0) appendAchievement(g, 1, who, "(" + trim(band.name.value) + ") " + text);
+    }
+}
+
+}  // namespace trovane

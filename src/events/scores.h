@@ -14,3 +14,14 @@ void updateHighScoreTable(Game& g);
 void artistBirthday(Game& g);
 
 }  // namespace trovane
+
+#include <string>
+
+namespace trovane {
+
+// A row of the achievements table for the current record of the kind (0 band,
+// 1 artist, 2 label, 3 staff), dated today; a band's is also written for each
+// member as the artist's, headed by the band's name in brackets.
+void addAchievement(Game& g, int kind, const std::string& text);
+
+}  // namespace trovane

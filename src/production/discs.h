@@ -1,5 +1,9 @@
 #pragma once
-// Discs: release, pressing and the single drawn from an album.
+// Discs: the starting world's discs, and the single drawn from an album.
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
 
 namespace trovane {
 
@@ -9,5 +13,16 @@ class Game;
 void setUpReleasedDisc(Game& g);
 // The discs of the current band, signed in the starting world, made ready with it.
 void setUpBandDiscs(Game& g);
+
+// The album's tracks that can still lead a single: none of their five
+// singleDisc numbers is set.
+std::vector<int32_t> freeSingleTracks(Game& g, int16_t album);
+// The two other tracks of the album of lowest mean quality and commerciality.
+std::array<int32_t, 2> defaultBSides(Game& g, int16_t album, int32_t lead);
+// A single of the player's album: the check and the action. The new disc
+// takes the next record number, copies the album, and starts with no sales,
+// stock, chart fields, dates or income; its quality is its lead song's.
+std::string makeSingleRefusal(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides);
+int16_t makeSingle(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides);
 
 }  // namespace trovane

@@ -17,6 +17,8 @@
 #include "floor/preferences.h"
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
+#include "screens/chart_screens.h"
+#include "screens/disc_screens.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/loading_screen.h"
@@ -235,6 +237,21 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmBandDetails: return new frmBandDetails(*this, bandOnScreen);
     case Screen::frmBandList: return new frmBandList(*this, bandListIsShortlist);
     case Screen::frmBandContract: return new frmBandContract(*this, bandOnScreen);
+    case Screen::frmChartForm: {
+        auto* form = new frmChartForm(*this);
+        form->showChart(chartShown);
+        return form;
+    }
+    case Screen::frmChooseDistributor: {
+        // The form opens over the news, for the disc the item named.
+        int16_t disc = g_.disc->id;
+        g_.currentScreen = Screen::frmNews;
+        QTimer::singleShot(0, this, [this, disc] {
+            frmChooseDistributor form(g_, disc, this);
+            form.exec();
+        });
+        return new frmNews(*this);
+    }
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.

@@ -89,6 +89,8 @@ public:
     bool bandListIsShortlist = false;
     // Band Details of an act, from a list or a panel.
     void openBand(int16_t band);
+    // The chart frmChartForm opens on (0 to 9).
+    int chartShown = 0;
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

@@ -110,16 +110,22 @@ frmFindOptions::frmFindOptions(mdiParentForm& main, QWidget* parent)
     });
 }
 
-frmChartOptions::frmChartOptions(mdiParentForm&, QWidget* parent)
+frmChartOptions::frmChartOptions(mdiParentForm& main, QWidget* parent)
     : OptionPanel(QStringLiteral("frmChartOptions"), tr("Charts"), parent) {
-    addEntry(QStringLiteral("lblUKAlbumChart"), tr("UK Album Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblUkSingleChart"), tr("UK Single Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblUSAlbumChart"), tr("US Album Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblUSSingleChart"), tr("US Single Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblEuroAlbumChart"), tr("European Album Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblEuroSingleChart"), tr("European Single Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblOceanicAlbumChart"), tr("Oceanic Album Chart"), Glyph::charts);
-    addEntry(QStringLiteral("lblOceanicSingleChart"), tr("Oceanic Single Chart"), Glyph::charts);
+    auto open = [&main](int chart) {
+        return [&main, chart] {
+            main.chartShown = chart;
+            main.openScreen(Screen::frmChartForm);
+        };
+    };
+    addEntry(QStringLiteral("lblUKAlbumChart"), tr("UK Album Chart"), Glyph::charts, open(0));
+    addEntry(QStringLiteral("lblUkSingleChart"), tr("UK Single Chart"), Glyph::charts, open(5));
+    addEntry(QStringLiteral("lblUSAlbumChart"), tr("US Album Chart"), Glyph::charts, open(1));
+    addEntry(QStringLiteral("lblUSSingleChart"), tr("US Single Chart"), Glyph::charts, open(6));
+    addEntry(QStringLiteral("lblEuroAlbumChart"), tr("European Album Chart"), Glyph::charts, open(2));
+    addEntry(QStringLiteral("lblEuroSingleChart"), tr("European Single Chart"), Glyph::charts, open(7));
+    addEntry(QStringLiteral("lblOceanicAlbumChart"), tr("Oceanic Album Chart"), Glyph::charts, open(3));
+    addEntry(QStringLiteral("lblOceanicSingleChart"), tr("Oceanic Single Chart"), Glyph::charts, open(8));
 }
 
 frmGameOptions::frmGameOptions(mdiParentForm& main, QWidget* parent)

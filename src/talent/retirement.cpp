@@ -19,3 +19,10 @@ void retireArtist(Game& g, int mode, int16_t artist) {
 void memberLeaves(Game& g) { static_cast<void>(g); }
 
 }  // namespace trovane
+
+namespace trovane {
+
+// Not built yet: no band retires after an album until the lifecycle rules are written.
+void considerRetirement(Game& g) { static_cast<void>(g); }
+
+}  // namespace trovane

@@ -18,3 +18,10 @@ void retireArtist(Game& g, int mode, int16_t artist);
 void memberLeaves(Game& g);
 
 }  // namespace trovane
+
+namespace trovane {
+
+// After an album comes out: an ageing current band may decide to call it a day.
+void considerRetirement(Game& g);
+
+}  // namespace trovane

@@ -29,6 +29,7 @@ enum class Screen {
     frmLoading,
     frmBandOptionDecision,
     frmChooseDistributor,
+    frmChartForm,
     frmSaveGame,
     frmCredits,
     frmDisclaimer,
@@ -75,7 +76,8 @@ enum class Screen {
     X(media, MediaRecord, fileMedia)             \
     X(achieve, AchievementRecord, fileAchieve)   \
     X(newalbum, NewAlbumRecord, fileNewAlbum)    \
-    X(thank, ThankRecord, fileThank)
+    X(thank, ThankRecord, fileThank)             \
+    X(chartrun, ChartRunRecord, fileChartRun)
 
 // Tables opened by the operation that needs them and closed right after.
 #define TROVANE_PER_USE_TABLES(X)                \

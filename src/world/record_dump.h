@@ -145,6 +145,7 @@ decltype(auto) withRecordType(FileNo n, F&& f) {
     case fileFact: return f(std::type_identity<FactRecord>{});
     case fileHighScore: return f(std::type_identity<HighScoreRecord>{});
     case fileNewAlbum: return f(std::type_identity<NewAlbumRecord>{});
+    case fileChartRun: return f(std::type_identity<ChartRunRecord>{});
     case fileTemp2: return f(std::type_identity<Scratch4Record>{});
     case fileTemp: break;
     }

@@ -1,6 +1,7 @@
 #pragma once
 // Every record format of the game.
 #include "world/records/calendar_records.h"
+#include "world/records/chartrun_records.h"
 #include "world/records/events_records.h"
 #include "world/records/label_records.h"
 #include "world/records/live_records.h"

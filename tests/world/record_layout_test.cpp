@@ -264,6 +264,7 @@ const std::map<std::string_view, std::vector<FieldAt>>& fileOffsets() {
         {"FactRecord", {{"id", 0}, {"text", 2}}},
         {"HighScoreRecord", {{"id", 0}, {"score", 2}, {"player", 6}, {"labelName", 71}, {"game", 103}}},
         {"NewAlbumRecord", {{"id", 0}, {"style", 2}, {"title", 3}}},
+        {"ChartRunRecord", {{"id", 0}, {"week", 4}, {"chart", 12}, {"position", 13}, {"disc", 15}, {"sales", 17}}},
         {"Scratch4Record", {{"value", 0}}},
     };
     return offsets;

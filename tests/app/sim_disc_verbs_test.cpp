@@ -1,0 +1,75 @@
+// The disc and chart verbs of trovane-sim: what they refuse, with which
+// status, and the shapes of their output.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <string>
+
+#include "session/session_record.h"
+#include "support/disc_world.h"
+
+using namespace trovane;
+
+namespace {
+
+class SimDiscVerbs : public test::DiscWorld, public ::testing::Test {
+protected:
+    int16_t theirs = 0, ours = 0;
+    void SetUp() override {
+        ours = addDisc("Ours", 0);
+        g.disc.read(ours);
+        g.disc->releaseDate = {};
+        g.disc.write();
+        theirs = addDisc("Theirs", 1000000, addBand("Others", rival));
+        g.disc.read(theirs);
+        g.disc->label = rival;
+        g.disc.write();
+        addRow(0, theirs);
+        writeSessionFile(g, workingSessionFile(g));
+        closeAllTables(g);
+    }
+    std::pair<int, std::string> sim(const std::string& args) {
+        std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + g.dataDir.string() + " " + args + " 2>&1";
+        std::string out;
+        FILE* p = popen(cmd.c_str(), "r");
+        char buf[4096];
+        while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
+        int status = pclose(p);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+    }
+};
+
+TEST_F(SimDiscVerbs, BadArgumentsExitTwoAndRefusalsOne) {
+    EXPECT_EQ(sim("chart 10").first, 2);
+    EXPECT_EQ(sim("chart -1").first, 2);
+    EXPECT_EQ(sim("press Ours --plant 5 --copies 1500").first, 2);  // not a listed quantity
+    EXPECT_EQ(sim("release Ours --date 2004-13-01").first, 2);
+    auto [status, out] = sim("release Theirs --date 2004-09-20");
+    EXPECT_EQ(status, 1);
+    EXPECT_NE(out.find("Theirs is not a disc of your label."), std::string::npos) << out;
+    // Undated: pressing is refused.
+    EXPECT_EQ(sim("press Ours --plant " + std::to_string(plant) + " --copies 1000").first, 1);
+    auto [dated, when] = sim("release Ours --date 2004-09-13");
+    EXPECT_EQ(dated, 1);
+    EXPECT_NE(when.find("The earliest date offered is 20/09/2004."), std::string::npos) << when;
+    EXPECT_EQ(sim("release Ours --date 2004-09-20 --in uk").first, 0);
+    EXPECT_EQ(sim("press Ours --plant " + std::to_string(plant) + " --us 1000").first, 1);  // no US date
+    EXPECT_EQ(sim("press Ours --plant " + std::to_string(plant) + " --copies 1000").first, 0);
+}
+
+TEST_F(SimDiscVerbs, TheChartPrintsAsJsonAndAsCsv) {
+    auto [status, json] = sim("--json chart 0");
+    EXPECT_EQ(status, 0);
+    EXPECT_NE(json.find("\"title\":\"UK Album Chart\""), std::string::npos) << json;
+    EXPECT_NE(json.find("\"size\":40"), std::string::npos) << json;
+    EXPECT_NE(json.find("\"position\":1,\"movement\":\"NE\""), std::string::npos) << json;
+    auto [csvStatus, csv] = sim("chart 0 --csv");
+    EXPECT_EQ(csvStatus, 0);
+    EXPECT_EQ(csv.substr(0, csv.find('\n')),
+              "position,movement,lastWeek,peak,weeks,entry,disc,title,band,label,sales,award");
+    EXPECT_NE(csv.find(",Theirs,"), std::string::npos) << csv;
+}
+
+}  // namespace

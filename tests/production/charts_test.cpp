@@ -1,0 +1,227 @@
+// Chart points, weeks, hit counters, the spread of a rise in reputation, the
+// quarterly tidy and the first week's charts.
+#include <gtest/gtest.h>
+
+#include "production/chart_hype.h"
+#include "production/charts.h"
+#include "production/weekly_sales.h"
+#include "support/disc_world.h"
+#include "talent/reputation.h"
+
+using namespace trovane;
+
+namespace {
+
+class Charts : public test::DiscWorld, public ::testing::Test {
+protected:
+    // A chart of n discs of the band in row order; returns them.
+    std::vector<int16_t> fill(int chart, int n) {
+        std::vector<int16_t> out;
+        for (int i = 0; i < n; ++i) {
+            out.push_back(addDisc("Hit", 1000, 0, chart >= 5 ? 1 : 0));
+            addRow(chart, out.back());
+        }
+        return out;
+    }
+    void award(int chart) {
+        openChart(g, chart);
+        awardChartPoints(g, chart);
+        closeChart(g);
+    }
+    void setBest(int16_t d, uint8_t best) {
+        g.disc.read(d);
+        g.disc->bestPosition[0] = best;
+        g.disc.write();
+    }
+    std::array<uint8_t, 4> ukPeaks() {
+        BandRecord b = bandRec(band);
+        return {b.chartPeaks[0], b.chartPeaks[1], b.chartPeaks[2], b.chartPeaks[3]};
+    }
+};
+
+TEST_F(Charts, PositionValuesFallAsTheTableSays) {
+    EXPECT_EQ(positionValue(1), 100);
+    EXPECT_EQ(positionValue(2), 78);
+    EXPECT_EQ(positionValue(3), 59);
+    EXPECT_EQ(positionValue(4), 48);
+    EXPECT_EQ(positionValue(5), 42);
+}
+
+TEST_F(Charts, TheChartsKeepTheirTitlesAndLengths) {
+    EXPECT_STREQ(chartTitle(9), "Global Single Chart");
+    EXPECT_STREQ(chartTitle(3), "Oceanic Album Chart");
+    EXPECT_EQ(publishedLength(6), 100);
+    EXPECT_EQ(publishedLength(9), 20);
+}
+
+TEST_F(Charts, ANewEntryAtFiveIsATop10HitOnly) {
+    auto discs = fill(0, 5);
+    for (int i = 0; i < 4; ++i) setBest(discs[static_cast<std::size_t>(i)], 1);
+    award(0);
+    EXPECT_EQ(ukPeaks(), (std::array<uint8_t, 4>{0, 1, 0, 0}));
+    EXPECT_EQ(labelRec(label).chartPeaks[1], 1);
+    EXPECT_EQ(disc(discs[4]).bestPosition[0], 5);
+}
+
+TEST_F(Charts, ASecondNumberOneIsNotCounted) {
+    auto discs = fill(0, 1);
+    award(0);
+    EXPECT_EQ(ukPeaks()[0], 1);
+    award(0);
+    EXPECT_EQ(ukPeaks()[0], 1);
+}
+
+TEST_F(Charts, ClimbingIntoTheTop10MovesTheHitFromTheTop20) {
+    auto discs = fill(0, 10);
+    for (int i = 0; i < 9; ++i) setBest(discs[static_cast<std::size_t>(i)], 1);
+    g.band.read(band);
+    g.band->chartPeaks[2] = 1;  // the disc's earlier Top 20 hit
+    g.band.write();
+    setBest(discs[9], 11);
+    award(0);
+    EXPECT_EQ(ukPeaks(), (std::array<uint8_t, 4>{0, 1, 0, 0}));
+    setBest(discs[9], 10);  // 10 to 10 again: no improvement
+    award(0);
+    EXPECT_EQ(ukPeaks()[1], 1);
+}
+
+TEST_F(Charts, TheGlobalChartsKeepNeitherWeeksNorHits) {
+    auto discs = fill(4, 1);
+    award(4);
+    EXPECT_EQ(disc(discs[0]).bestPosition[4], 0);
+    EXPECT_EQ(bandRec(band).chartCounts, (std::array<int16_t, 8>{}));
+    EXPECT_EQ(disc(discs[0]).chartPoints[4], 100);
+}
+
+TEST_F(Charts, ANumberOneInItsFirstWeekRaisesTheBandAndItsLabelsDiscs) {
+    int16_t ours = addDisc("Ours");
+    int16_t theirs = addDisc("Theirs", 1000, addBand("Others", rival));
+    g.disc.read(theirs);
+    g.disc->label = rival;
+    g.disc.write();
+    addRow(0, ours);
+    addRow(0, theirs);
+    award(0);
+    // Position 1, week 1: p 100, d 0, f 50; doubled to 100 against R 50, H 0:
+    // gain round(100 / 50) = 2, R 52, H 48.
+    BandRecord b = bandRec(band);
+    EXPECT_EQ(b.reputation[0], 52);
+    EXPECT_EQ(b.hype[0], 48);
+    EXPECT_EQ(disc(ours).hype[0], 52);  // the rise reaches the label's charting discs
+    EXPECT_EQ(disc(ours).chartPoints[0], 100);
+    EXPECT_EQ(disc(theirs).chartPoints[0], 99);
+    EXPECT_EQ(b.bandPoints[0], 100);
+    EXPECT_EQ(labelRec(label).points[0], 100);
+    EXPECT_EQ(disc(ours).weeksOnChart[0], 1);
+}
+
+TEST_F(Charts, ARiseSpreadsOverTheDiscsItNames) {
+    int16_t other = addBand("Others", label);
+    int16_t ours = addDisc("Ours"), theirs = addDisc("Theirs", 1000, other), single = addDisc("S", 0, 0, 1);
+    int16_t elsewhere = addDisc("Away", 1000, addBand("Away", rival));
+    g.disc.read(elsewhere);
+    g.disc->label = rival;
+    g.disc.write();
+    for (int16_t d : {ours, theirs, elsewhere}) addRow(0, d);
+    addRow(5, single);
+    g.band.read(band);
+    spreadHypeRise(g, 1, 0, band, 7);
+    EXPECT_EQ(disc(ours).hype[0], 57);
+    EXPECT_EQ(disc(single).hype[0], 57);
+    EXPECT_EQ(disc(theirs).hype[0], 50);
+    g.band.read(band);
+    spreadHypeRise(g, 0, 0, label, 60);
+    EXPECT_EQ(disc(ours).hype[0], 100);
+    EXPECT_EQ(disc(theirs).hype[0], 100);
+    EXPECT_EQ(disc(elsewhere).hype[0], 50);
+}
+
+TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelow) {
+    int16_t sold = addDisc("Sold"), unsold = addDisc("Unsold");
+    g.disc.read(sold);
+    g.disc->totalSales[0] = 1;
+    g.disc.write();
+    for (int i = 0; i < 199; ++i) addRow(0, sold);
+    for (int i = 0; i < 6; ++i) addRow(0, i % 2 ? unsold : sold);
+    tidyCharts(g);
+    auto rows = chartDiscs(0);
+    ASSERT_EQ(rows.size(), 202u);
+    EXPECT_EQ(rows[199], unsold);
+    EXPECT_EQ(rows[201], unsold);
+}
+
+TEST_F(Charts, SeedingDerivesWeeksHypeAndTheEntryPosition) {
+    g.label.read(label);
+    g.label->department[3].rating = 100;  // a perfect marketing department adds 25
+    g.label.write();
+    int16_t d = addDisc("Old");
+    g.disc.read(d);
+    g.disc->releaseDate = {g.gameDate - 21, g.gameDate - 21, 0, g.gameDate + 14, g.gameDate - 21};
+    g.disc->peakPosition = {7, 3, 0, 0};
+    g.disc.write();
+    seedCharts(g);
+    DiscRecord r = disc(d);
+    EXPECT_EQ(r.weeksOnChart[0], 3);
+    EXPECT_EQ(r.hype[0], 48);  // 75, then x 0.8 twice: 60, 48
+    openChart(g, 0);
+    g.chart.read(1);
+    EXPECT_EQ(g.chart->previousPosition, 7);
+    EXPECT_EQ(g.chart->lastHype, 48);
+    closeChart(g);
+    openChart(g, 4);
+    g.chart.read(1);
+    EXPECT_EQ(g.chart->previousPosition, 0);
+    closeChart(g);
+    EXPECT_TRUE(chartDiscs(2).empty());
+    EXPECT_TRUE(chartDiscs(3).empty());  // Oceania's date is still to come
+}
+
+class Reputation : public test::DiscWorld, public ::testing::Test {
+protected:
+    BandRecord change(uint8_t rep, int16_t hype, int16_t amount) {
+        g.band.read(band);
+        g.band->reputation[0] = rep;
+        g.band->hype[0] = hype;
+        g.band.write();
+        changeHype(g, amount, 0, -1);
+        return bandRec(band);
+    }
+};
+
+TEST_F(Reputation, ABoostFirstRecoversTheWholeSlump) {
+    BandRecord b = change(50, -70, 10);  // -70 -> -50, + 20
+    EXPECT_EQ(b.hype[0], -30);
+    EXPECT_EQ(b.reputation[0], 50);
+}
+
+TEST_F(Reputation, AMeterPastMinus100CostsAPoint) {
+    BandRecord b = change(50, -98, -1);  // -100: not below
+    EXPECT_EQ(b.reputation[0], 50);
+    b = change(50, -99, -1);  // -101
+    EXPECT_EQ(b.reputation[0], 49);
+    EXPECT_EQ(b.hype[0], -49);
+    b = change(2, -99, -1);  // already at the floor of 2
+    EXPECT_EQ(b.reputation[0], 2);
+    EXPECT_EQ(b.hype[0], -2);
+}
+
+TEST_F(Reputation, MembersMoveByTheirRankAndTheLabelTakesTheRise) {
+    g.job.rec = JobRecord{};
+    g.job->rank = 2;
+    auto job = static_cast<uint8_t>(g.job.append());
+    g.artist.read(bandRec(band).members[0]);
+    g.artist->job = job;
+    g.artist->reputation[0] = 10;
+    g.artist.write();
+    g.label.read(label);
+    g.label->reputation[0] = 50;
+    g.label.write();
+    g.band.read(band);
+    applyReputationChange(g, {2, 0, 0, 0, 0});
+    EXPECT_EQ(bandRec(band).reputation[0], 52);
+    g.artist.read(bandRec(band).members[0]);
+    EXPECT_EQ(g.artist->reputation[0], 13);  // 2 x 3 / 2
+    EXPECT_EQ(labelRec(label).hype[0], 2);
+}
+
+}  // namespace

@@ -1,0 +1,218 @@
+// Release dates, pressing, distribution and the day a disc comes out.
+#include <gtest/gtest.h>
+
+#include "label/finances.h"
+#include "production/disc_release.h"
+#include "schedule/schedule.h"
+#include "support/disc_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class Release : public test::DiscWorld, public ::testing::Test {
+protected:
+    // An album recorded but not yet dated.
+    int16_t recorded(const char* title = "New") {
+        int16_t d = addDisc(title, 0);
+        g.disc.read(d);
+        g.disc->releaseDate = {};
+        g.disc->distributor = {};
+        g.disc.write();
+        return d;
+    }
+    std::vector<ScheduleRecord> entriesOfType(uint8_t type) {
+        std::vector<ScheduleRecord> out;
+        for (int32_t n = 1; n < g.schedule.recordCount(); ++n) {
+            g.schedule.read(n);
+            if (g.schedule->type == type) out.push_back(g.schedule.rec);
+        }
+        return out;
+    }
+    Money ledger(int16_t who, int category) {
+        LabelRecord l = labelRec(who);
+        return ledgerEntry(l, 0, category);
+    }
+};
+
+TEST_F(Release, AnotherAlbumPushesTheEarliestDateInItsTerritoryOnly) {
+    int16_t first = recorded("First");
+    g.disc.read(first);
+    g.disc->releaseDate[0] = g.gameDate + 10;
+    g.disc.write();
+    int16_t second = recorded("Second");
+    g.disc.read(second);
+    EXPECT_EQ(earliestReleaseDate(g, 0), g.gameDate + 190);
+    EXPECT_EQ(earliestReleaseDate(g, 1), g.gameDate + 42);
+    g.disc->isSingle = 1;  // a single is not held back by an album
+    EXPECT_EQ(earliestReleaseDate(g, 0), g.gameDate + 42);
+}
+
+TEST_F(Release, ADateMustBeAMondayOnOrAfterTheEarliest) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    g.band.read(band);
+    // The game starts on Thursday 5 August 2004: + 42 is Thursday 16
+    // September; the first Monday offered is 20 September.
+    double monday = serialFromCivil(2004, 9, 20);
+    EXPECT_EQ(releaseDateRefusal(g, 0, monday), "");
+    EXPECT_EQ(releaseDateRefusal(g, 0, monday - 7),
+              "13/09/2004 is not a release date that can be chosen in uk. The earliest date offered is 20/09/2004.");
+    EXPECT_NE(releaseDateRefusal(g, 0, monday + 1), "");
+    g.band->contractEnd = monday - 1;
+    EXPECT_NE(releaseDateRefusal(g, 0, monday), "");
+    g.band->contractEnd = monday;
+    EXPECT_EQ(releaseDateRefusal(g, 0, monday), "");
+}
+
+TEST_F(Release, DatingAgainCancelsTheEarlierEntries) {
+    int16_t d = recorded();
+    double monday = serialFromCivil(2004, 9, 20);
+    std::array<double, 5> dates{monday, monday, 0, 0, monday + 7};
+    ASSERT_EQ(setReleaseDatesRefusal(g, d, dates), "");
+    setReleaseDates(g, d, dates);
+    // Two dates: a release and a distributor entry a week before each.
+    ASSERT_EQ(entriesOfType(15).size(), 2u);
+    EXPECT_EQ(entriesOfType(26).front().date, monday - 7);
+    dates = {monday + 14, 0, 0, 0, 0};
+    setReleaseDates(g, d, dates);
+    EXPECT_EQ(entriesOfType(15).size(), 1u);
+    EXPECT_EQ(entriesOfType(255).size(), 4u);
+    EXPECT_EQ(disc(d).releaseDate[1], 0.0);
+}
+
+TEST_F(Release, OnlyThePlayersRecordedDiscCanBeDated) {
+    int16_t d = recorded();
+    std::array<double, 5> dates{serialFromCivil(2004, 9, 20), 0, 0, 0, 0};
+    g.disc.read(d);
+    g.disc->tracksRecorded = 9;
+    g.disc.write();
+    EXPECT_EQ(setReleaseDatesRefusal(g, d, dates), "New has not been recorded yet.");
+    g.disc.read(d);
+    g.disc->tracksRecorded = 10;
+    g.disc->label = rival;
+    g.disc.write();
+    EXPECT_EQ(setReleaseDatesRefusal(g, d, dates), "New is not a disc of your label.");
+}
+
+TEST_F(Release, PressingCostsASetUpChargeAndThreeQuartersACopy) {
+    EXPECT_FLOAT_EQ(pressingCostPerUnit(1000), 2.0f);  // 100 / 80 + 0.75
+    EXPECT_EQ(pressingCost(10000), moneyUnits(8750));  // 1250 + 7500
+    // 7.5 x (50 / 2100 + 0.15) = 1.3035714 a copy.
+    EXPECT_EQ(distributionCost(100000, 50, false), moneyUnits(130357));
+    EXPECT_EQ(distributionCost(100000, 0, true), moneyUnits(30000));  // 2.0 x 0.15
+}
+
+TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    g.disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
+    g.disc.write();
+    int16_t owned = addFirm(1, 20, rival);
+    std::array<int32_t, 5> copies{100000, 0, 0, 0, 0};
+    EXPECT_NE(pressDiscsRefusal(g, d, owned, {0, 1000, 0, 0, 0}), "");  // no US date
+    ASSERT_EQ(pressDiscsRefusal(g, d, owned, copies), "");
+    pressDiscs(g, d, owned, copies);
+    // 1250 + 75000; 100000 / 16000 a day = 6 days -> round(6 / 7 + 1) = 2 weeks.
+    EXPECT_EQ(ledger(label, ledgerManufacture), -moneyUnits(76250));
+    EXPECT_EQ(ledger(rival, ledgerBusinesses), moneyUnits(76250));
+    EXPECT_EQ(entriesOfType(25).size(), 2u);
+    EXPECT_EQ(disc(d).pressingOrder[0], 100000);
+}
+
+TEST_F(Release, APressWeekSharesItsOutputAndPassesOnWhatASmallOrderLeaves) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    g.disc->pressingOrder = {10000, 0, 100000, 200000, 0};
+    g.disc.write();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->disc = d;
+    g.schedule->business = plant;
+    pressWeek(g);
+    // 7 x 16000 = 112000 over 3: 37333. UK takes 10000 and passes on
+    // round(27333 / 2) = 13666 (half to even): Europe and Oceania 50999.
+    DiscRecord r = disc(d);
+    EXPECT_EQ(r.stock, (std::array<int32_t, 5>{10000, 0, 50999, 50999, 0}));
+    EXPECT_EQ(r.pressingOrder, (std::array<int32_t, 5>{0, 0, 49001, 149001, 0}));
+}
+
+TEST_F(Release, TheLastPressWeekTellsThePlayerOnce) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    g.disc->pressingOrder = {112000, 0, 0, 0, 0};
+    g.disc.write();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->disc = d;
+    g.schedule->business = plant;
+    int32_t before = g.news.recordCount();
+    pressWeek(g);
+    ASSERT_EQ(g.news.recordCount(), before + 1);
+    g.news.read(before);
+    EXPECT_EQ(trim(g.news->title.value), "Press Co complete work on New");
+    pressWeek(g);
+    EXPECT_EQ(g.news.recordCount(), before + 1);
+}
+
+TEST_F(Release, TheBillCoversTerritoriesOutInSixDays) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    g.disc->releaseDate = {g.gameDate + 6, g.gameDate + 7, 0, 0, 0};
+    g.disc->stock = {100000, 100000, 0, 0, 0};
+    g.disc->distributor = {distributor, distributor, 0, 0, 0};
+    g.disc.write();
+    chooseDistributors(g, d, {});
+    EXPECT_EQ(ledger(label, ledgerOtherExpense), -moneyUnits(130357));
+}
+
+TEST_F(Release, DistributorNeededMovesItsDateAndNamesTheTerritories) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    double out = g.gameDate + 7;
+    g.disc->releaseDate = {out, 0, out, 0, 0};
+    g.disc.write();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->type = 26;
+    g.schedule->date = g.gameDate;
+    g.schedule->disc = d;
+    int32_t entry = addSchedule(g, g.schedule.rec);
+    g.schedule.read(entry);
+    int32_t before = g.news.recordCount();
+    distributorNeeded(g);
+    g.schedule.read(entry);
+    EXPECT_EQ(g.schedule->date, out);
+    g.news.read(before);
+    EXPECT_EQ(trim(g.news->title.value), "Distributor required for album New");
+    EXPECT_EQ(trim(g.news->text.value),
+              "The Testers's album is released in the following territories : Uk,Europe next week, as a result a "
+              "distributor must be chosen for these territories.");
+    EXPECT_EQ(g.news->scheduleLink, entry);
+}
+
+TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
+    int16_t d = recorded();
+    g.disc.read(d);
+    g.disc->releaseDate = {g.gameDate, g.gameDate + 7, 0, 0, 0};
+    g.disc->promotion = {20, 20, 20, 20, 20};
+    g.disc.write();
+    g.band.read(band);
+    g.band->advanceToPay = moneyUnits(30000);
+    g.band->optionsRemaining = 1;  // 0 + 0 is not 1: the option months stay
+    g.band.write();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->disc = d;
+    releaseDay(g);
+    DiscRecord r = disc(d);
+    EXPECT_GT(r.distributor[0], 0);
+    EXPECT_EQ(r.distributor[1], 0);
+    EXPECT_EQ(r.hype[0], 50);       // reputation 50, no marketing
+    EXPECT_EQ(r.promotion[0], 70);  // 20 + 50
+    EXPECT_EQ(r.income, -moneyUnits(30000));
+    EXPECT_EQ(chartDiscs(0), std::vector<int16_t>{d});
+    EXPECT_TRUE(chartDiscs(1).empty());
+    EXPECT_EQ(bandRec(band).optionMonthsLeft, 0);
+    g.achieve.read(1);
+    EXPECT_EQ(trim(g.achieve->text.value), "New (album) released 5/8/2004");
+}
+
+}  // namespace

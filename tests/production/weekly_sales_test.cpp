@@ -1,0 +1,263 @@
+// The Sunday sales: what a disc sells, what stock and the distributor allow,
+// the certifications, the money, and the order of the charts.
+#include <gtest/gtest.h>
+
+#include "label/finances.h"
+#include "production/charts.h"
+#include "production/weekly_sales.h"
+#include "support/disc_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class WeeklySales : public test::DiscWorld, public ::testing::Test {
+protected:
+    // The spread the next two draws will give to a figure.
+    double nextSpread(double v) {
+        Random copy = g.rng;
+        double r1 = copy.draw();
+        double r2 = copy.draw();
+        return std::floor(v / 10 * r1) - std::floor(v / 10 * r2);
+    }
+    void current(int16_t d) {
+        g.disc.read(d);
+        g.band.read(g.disc->band);
+    }
+    int32_t sellIn(int16_t d, int t, int32_t oldTotal, int32_t sales) {
+        g.disc.read(d);
+        g.disc->totalSales[static_cast<std::size_t>(t)] = oldTotal;
+        g.disc.write();
+        current(d);
+        limitAndCertify(g, sales, t);
+        return disc(d).chartPoints[static_cast<std::size_t>(t)];
+    }
+};
+
+TEST_F(WeeklySales, FirstWeekOfTheWorkedAlbumAndItsSingle) {
+    int16_t album = addDisc("Worked");
+    g.disc.read(album);
+    // W 80, hype 50 -> H 40; (80^4 / 2000 x 5 x 1.2 + 50 x 50 x 4) / 3 x 60% = 26576.
+    double expected = 26576 + nextSpread(26576);
+    EXPECT_EQ(firstWeekSales(g, 0), static_cast<int32_t>(expected));
+    int16_t single = addDisc("Worked Single", 0, 0, 1);
+    g.disc.read(single);
+    // The same in the US (divisor 1): 132880 x 0.6 = 79728, a fifth of it for a single.
+    expected = std::nearbyint((79728 + nextSpread(79728)) / 5);
+    EXPECT_EQ(firstWeekSales(g, 1), static_cast<int32_t>(expected));
+}
+
+TEST_F(WeeklySales, NextWeekFollowsTheHypeAndHoldsBothHypes) {
+    int now = 40, last = 50;
+    // 10000 - 1000 = 9000; ratio 40/50 - 1 = -0.2 -> 7200.
+    double expected = 7200 + nextSpread(7200);
+    EXPECT_EQ(nextWeekSales(g, 10000, now, last), static_cast<int32_t>(expected));
+    now = 0;
+    last = 150;
+    nextWeekSales(g, 0, now, last);
+    EXPECT_EQ(now, 1);
+    EXPECT_EQ(last, 100);
+}
+
+TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
+    int16_t d = addDisc("Small", 5000);
+    g.disc.read(d);
+    g.disc->distributor[0] = addFirm(2, 5, 0);  // 2 x 125 = 250 a day, 1750 a week
+    g.disc.write();
+    current(d);
+    limitAndCertify(g, 1751, 0);
+    EXPECT_EQ(disc(d).weekSales[0], 1750);
+    EXPECT_EQ(disc(d).stock[0], 3250);
+    current(d);
+    limitAndCertify(g, 800, 1);  // US: the big distributor, 5000 in stock
+    EXPECT_EQ(disc(d).weekSales[1], 800);
+    current(d);
+    limitAndCertify(g, 5001, 2);
+    EXPECT_EQ(disc(d).weekSales[2], 5000);
+    EXPECT_EQ(disc(d).stock[2], 0);
+}
+
+TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGive) {
+    struct Case {
+        int t;
+        int32_t threshold, points;
+    };
+    // UK and Other: silver at 60000; US: gold at 500000; Europe: platinum at
+    // 1000000; Oceania: gold at 35000.
+    for (Case c :
+         {Case{0, 60000, 100}, Case{1, 500000, 250}, Case{2, 1000000, 500}, Case{3, 35000, 250}, Case{4, 60000, 100}}) {
+        int16_t d = addDisc("Award");
+        EXPECT_EQ(sellIn(d, c.t, c.threshold - 2, 1), 0) << c.t;
+        EXPECT_EQ(sellIn(d, c.t, c.threshold - 1, 1), c.points) << c.t;
+        EXPECT_EQ(sellIn(d, c.t, c.threshold, 1), c.points) << "no second award at " << c.t;
+    }
+}
+
+TEST_F(WeeklySales, TheUnawardedLevelIsNeverGivenEvenWhenReached) {
+    int16_t d = addDisc("Huge");
+    // Europe: 49999999 -> 50000000 crosses only platinum level 50.
+    EXPECT_EQ(sellIn(d, 2, 49999999, 1), 500);
+}
+
+TEST_F(WeeklySales, AWeekAcrossTwoPlatinumMultiplesGivesTwoAwards) {
+    int16_t d = addDisc("Big");
+    int32_t newsBefore = g.news.recordCount();
+    // UK platinum 300000: 500000 -> 1100000 passes levels 2 and 3.
+    EXPECT_EQ(sellIn(d, 0, 500000, 600000), 1000);
+    EXPECT_EQ(g.news.recordCount() - newsBefore, 2);
+    // Each award: one row for the band and one for each of its two members.
+    EXPECT_EQ(g.achieve.recordCount() - 1, 6);
+    g.achieve.read(1);
+    EXPECT_EQ(trim(g.achieve->text.value), "Big (album) achieves  2 x platinum certification in the United Kingdom.");
+}
+
+TEST_F(WeeklySales, OnlyThePlayersDiscsAndShortlistBringCertificationNews) {
+    int16_t other = addBand("Others", rival);
+    int16_t d = addDisc("Theirs", 1000000, other);
+    g.disc.read(d);
+    g.disc->label = rival;
+    g.disc.write();
+    int32_t before = g.news.recordCount();
+    sellIn(d, 0, 0, 60000);
+    EXPECT_EQ(g.news.recordCount(), before);
+    g.shortlist.rec = ShortlistRecord{};
+    g.shortlist->band = other;
+    g.shortlist->label = label;
+    g.shortlist.append();
+    sellIn(d, 0, 60000, 40000);  // gold at 100000
+    ASSERT_EQ(g.news.recordCount(), before + 1);
+    g.news.read(before);
+    EXPECT_EQ(trim(g.news->title.value), "Others's album gets gold certification");
+}
+
+class DiscIncome : public WeeklySales {
+protected:
+    // 1000 albums: gross 7500, 20% royalty -> artists 1500, label 6000.
+    void sellWithCosts(int64_t costs) {
+        d = addDisc("Paid");
+        g.band.read(band);
+        g.band->royaltyRate = 20;
+        g.band->costs = moneyUnits(costs);
+        g.band.write();
+        g.disc.read(d);
+        g.disc->weekSales[0] = 1000;
+        g.disc.write();
+        current(d);
+        payDiscIncome(g, 0);
+    }
+    Money ledger(int category) {
+        LabelRecord l = labelRec(label);
+        return ledgerEntry(l, 0, category);
+    }
+    int32_t wealth(int member) { return (g.artist.read(bandRec(band).members[member]), g.artist->wealth); }
+    int16_t d = 0;
+};
+
+TEST_F(DiscIncome, ABandInCreditTakesItsWholeShare) {
+    sellWithCosts(0);
+    EXPECT_EQ(ledger(ledgerRecordSales), moneyUnits(6000));
+    EXPECT_EQ(ledger(ledgerRecoupedAdvances), 0);
+    EXPECT_EQ(disc(d).income, moneyUnits(6000));
+    EXPECT_EQ(wealth(0), 750);  // 50% of 1500 each
+    EXPECT_EQ(wealth(1), 750);
+}
+
+TEST_F(DiscIncome, ADebtLargerThanTheShareTakesItAll) {
+    sellWithCosts(2000);
+    EXPECT_EQ(ledger(ledgerRecoupedAdvances), moneyUnits(1500));
+    EXPECT_EQ(disc(d).income, moneyUnits(7500));
+    EXPECT_EQ(bandRec(band).grossIncome, moneyUnits(1500));
+    EXPECT_EQ(wealth(0), 0);
+}
+
+TEST_F(DiscIncome, ASmallerDebtIsRecoupedAndTheRestPaid) {
+    sellWithCosts(1000);
+    EXPECT_EQ(ledger(ledgerRecoupedAdvances), moneyUnits(1000));
+    EXPECT_EQ(disc(d).income, moneyUnits(7000));
+    // 0 + 1500 - 1000: the asymmetric figure, not + 1000.
+    EXPECT_EQ(bandRec(band).grossIncome, moneyUnits(500));
+    EXPECT_EQ(wealth(0), 250);
+}
+
+TEST_F(WeeklySales, EqualSalesKeepLastWeeksOrder) {
+    int16_t a = addDisc("A"), b = addDisc("B"), c = addDisc("C"), e = addDisc("E");
+    for (auto [disc, sales] : {std::pair{a, 10}, {b, 20}, {c, 10}, {e, 21}}) {
+        g.disc.read(disc);
+        g.disc->weekSales[0] = sales;
+        g.disc.write();
+        addRow(0, disc);
+    }
+    openChart(g, 0);
+    sortChartBySales(g);
+    closeChart(g);
+    EXPECT_EQ(chartDiscs(0), (std::vector<int16_t>{e, b, a, c}));
+}
+
+TEST_F(WeeklySales, Row200IsANewEntryAndRow199Remembers) {
+    int16_t d = addDisc("Many", 0);
+    for (int i = 0; i < 200; ++i) addRow(0, d);
+    calculateWeeklySales(g);
+    openChart(g, 0);
+    g.chart.read(199);
+    EXPECT_EQ(g.chart->previousPosition, 199);
+    g.chart.read(200);
+    EXPECT_EQ(g.chart->previousPosition, 0);
+    closeChart(g);
+}
+
+TEST_F(WeeklySales, Position41SellsButCountsNoWeek) {
+    std::vector<int16_t> discs;
+    // Stock below any first week, falling: the chart's order is the row order.
+    for (int i = 0; i < 41; ++i) {
+        discs.push_back(addDisc("Row", 2000 - i * 10));
+        addRow(0, discs.back());
+    }
+    calculateWeeklySales(g);
+    EXPECT_EQ(chartDiscs(0).at(40), discs[40]);
+    EXPECT_EQ(disc(discs[40]).weekSales[0], 1600);
+    EXPECT_EQ(disc(discs[40]).weeksOnChart[0], 0);
+    EXPECT_EQ(disc(discs[39]).weeksOnChart[0], 1);
+    EXPECT_EQ(bandRec(band).chartCounts[0], 40);
+}
+
+TEST_F(WeeklySales, AfterTheWeekTotalsAndHypeMoveOn) {
+    int16_t d = addDisc("Week", 3000);
+    addRow(0, d, 77);
+    calculateWeeklySales(g);
+    DiscRecord r = disc(d);
+    EXPECT_EQ(r.weekSales[0], 3000);
+    EXPECT_EQ(r.totalSales[0], 3000);
+    EXPECT_EQ(r.lifetimeSales[0], 3000);
+    EXPECT_EQ(bandRec(band).salesTotals[1], 3000);  // UK album, after UK single
+    EXPECT_EQ(labelRec(label).salesTotals[1], 3000);
+    EXPECT_EQ(r.promotion[0], 16);  // 20 x 0.8
+    openChart(g, 0);
+    g.chart.read(1);
+    EXPECT_EQ(g.chart->lastHype, 50);  // the hype before this week's fall
+    closeChart(g);
+    EXPECT_EQ(bandRec(band).biggestAlbum, d);
+    EXPECT_EQ(bandRec(band).bestWeekAlbumCopies, 3000);
+    EXPECT_EQ(labelRec(label).biggestAlbum, d);
+}
+
+TEST_F(WeeklySales, ASoldOutDiscNeverSellsAgainButAnUnsoldOneWaits) {
+    int16_t soldOut = addDisc("Gone", 0), waiting = addDisc("Waiting", 0);
+    g.disc.read(soldOut);
+    g.disc->totalSales[0] = 100;
+    g.disc.write();
+    addRow(0, soldOut);
+    addRow(0, waiting);
+    calculateWeeklySales(g);
+    EXPECT_EQ(disc(waiting).weekSales[0], 0);
+    for (int16_t d : {soldOut, waiting}) {
+        g.disc.read(d);
+        g.disc->stock[0] = 100000;
+        g.disc.write();
+    }
+    calculateWeeklySales(g);
+    EXPECT_EQ(disc(soldOut).weekSales[0], 0);
+    EXPECT_GT(disc(waiting).weekSales[0], 0);
+}
+
+}  // namespace

@@ -1,0 +1,144 @@
+// Whole stretches of play on the shipped world: an album of the player's
+// label from its release date to the charts, a first Sunday that sells the
+// world's discs, and two years of Sundays and tidy days.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "floor/preferences.h"
+#include "production/chart_history.h"
+#include "production/charts.h"
+#include "production/disc_release.h"
+#include "session/new_game.h"
+#include "support/temp_folder.h"
+#include "world/dates.h"
+#include "world/record_store.h"
+#include "world/strings.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+class ShippedWorld : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    Game g{folder.path(), 2004};
+
+    void SetUp() override {
+        fs::path base = fs::path(TROVANE_SIM_PATH).parent_path() / "Data";
+        for (const auto& f : fs::directory_iterator(base)) fs::copy_file(f.path(), folder.path() / f.path().filename());
+        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
+        readPrefs(g);
+        beginNewGame(g);
+        PlayerChoices p = defaultPlayerChoices(g);
+        p.forename = "Ann";
+        p.surname = "Lee";
+        NewPlayer player = confirmPlayer(g, p);
+        takeOverLabel(g, player, narrow<int16_t>(findRecordByName(g, FileNo::fileLabel, "Halcyon Records")));
+    }
+    void TearDown() override { closeAllTables(g); }
+
+    // One day of play; an item that holds the calendar is answered with its first button.
+    void playDay() {
+        while (!allRepliesGiven(g)) {
+            openNewsItem(g);
+            pressNewsCmd1(g);
+            g.news->replied = kTrue;
+            g.news.write();
+        }
+        checkDaysSchedule(g);
+        g.label.read(g.player.playerLabel);
+        ASSERT_EQ(g.player.playerLabelCash, g.label->cashBalance) << formatDate(g.gameDate);
+    }
+    static std::string formatDate(double d) { return std::to_string(yearOf(d)) + "-" + std::to_string(monthOf(d)); }
+};
+
+TEST_F(ShippedWorld, AnAlbumOfThePlayersLabelGoesFromItsDateToTheCharts) {
+    int16_t band = 0;
+    for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
+        g.band.read(n);
+        if (g.band->label == g.player.playerLabel && g.band->retired == 0) band = static_cast<int16_t>(n);
+    }
+    ASSERT_GT(band, 0);
+    g.disc.rec = DiscRecord{};
+    g.disc->title = "Road To A Hit";
+    g.disc->band = band;
+    g.disc->label = g.player.playerLabel;
+    g.disc->quality = 90;
+    g.disc->commerciality = 90;
+    g.disc->trackCount = 10;
+    g.disc->tracksRecorded = 10;
+    g.disc->hype = {1, 1, 1, 1, 1};
+    g.disc->promotion = {1, 1, 1, 1, 1};
+    auto disc = static_cast<int16_t>(g.disc.append());
+
+    std::array<double, 5> dates{};
+    g.disc.read(disc);
+    g.band.read(band);
+    for (int t = 0; t < 5; ++t) dates[static_cast<std::size_t>(t)] = firstOfferedReleaseDate(g, t);
+    ASSERT_EQ(setReleaseDatesRefusal(g, disc, dates), "");
+    setReleaseDates(g, disc, dates);
+
+    int16_t plant = 0;
+    for (int32_t n = 1; n < g.business.recordCount(); ++n) {
+        g.business.read(n);
+        if (g.business->kind == 1 && g.business->open == -1) plant = static_cast<int16_t>(n);
+    }
+    ASSERT_GT(plant, 0);
+    std::array<int32_t, 5> copies{250000, 250000, 250000, 100000, 250000};
+    ASSERT_EQ(pressDiscsRefusal(g, disc, plant, copies), "");
+    pressDiscs(g, disc, plant, copies);
+
+    bool distributed = false;
+    double until = dates[0] + 35;
+    while (g.gameDate < until) {
+        playDay();
+        g.disc.read(disc);
+        for (int t = 0; t < 5; ++t) {
+            ASSERT_GE(g.disc->stock[static_cast<std::size_t>(t)], 0);
+            ASSERT_GE(g.disc->pressingOrder[static_cast<std::size_t>(t)], 0);
+        }
+        if (!distributed && g.gameDate >= dates[0] - 6) {
+            ASSERT_EQ(distributorsRefusal(g, disc, {}), "");
+            chooseDistributors(g, disc, {});
+            distributed = true;
+        }
+    }
+    g.disc.read(disc);
+    EXPECT_GT(g.disc->distributor[0], 0);
+    EXPECT_GT(g.disc->totalSales[0], 0);
+    EXPECT_GT(g.disc->bestPosition[0], 0);
+    std::vector<RunWeek> run = discRun(g, disc);
+    EXPECT_TRUE(std::any_of(run.begin(), run.end(), [](const RunWeek& w) { return w.chart == 0 && w.position <= 40; }));
+    g.label.read(g.player.playerLabel);
+    EXPECT_GT(g.label->period[2].income[1], 0);  // record sales this year
+}
+
+TEST_F(ShippedWorld, TheFirstSundaySellsThroughAllTenCharts) {
+    while (weekdayOf(g.gameDate) != 1) playDay();
+    playDay();
+    for (int chart = 0; chart < kChartCount; ++chart) {
+        ASSERT_EQ(chartWeeks(g, chart).size(), 1u) << chart;
+        std::vector<ChartEntry> rows = chartWeek(g, chart, g.gameDate - 1);
+        ASSERT_FALSE(rows.empty()) << chart;
+        EXPECT_GT(rows.front().sales, 0) << chart;
+        EXPECT_EQ(rows.front().entry, "New");
+    }
+}
+
+TEST_F(ShippedWorld, TwoYearsOfSundaysAndTidyDaysRunThrough) {
+    double end = g.gameDate + 731;
+    while (g.gameDate < end) playDay();
+    for (int chart = 0; chart < kChartCount; ++chart) {
+        openChart(g, chart);
+        EXPECT_LE(g.chart.recordCount() - 1, 400) << chart;
+        closeChart(g);
+    }
+    EXPECT_EQ(chartWeeks(g, 0).size(), 104u);
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+// The chart screen: the ten charts, past weeks, sorting, the run and CSV.
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QSortFilterProxyModel>
+#include <QTabWidget>
+#include <QTableView>
+
+#include "production/chart_history.h"
+#include "screen_fixture.h"
+#include "screens/chart_screens.h"
+
+using namespace trovane;
+
+namespace {
+
+class ChartScreen : public test::ScreenTest {
+protected:
+    int16_t addDisc(const char* title, int32_t weekSales) {
+        Game& g = *game;
+        g.disc.rec = DiscRecord{};
+        g.disc->title = title;
+        g.disc->weekSales[0] = weekSales;
+        g.disc->totalSales[0] = weekSales * 3;
+        return static_cast<int16_t>(g.disc.append());
+    }
+    void publish(double week, int16_t disc, int position) {
+        Game& g = *game;
+        g.disc.read(disc);
+        g.chartrun.rec = ChartRunRecord{};
+        g.chartrun->week = week;
+        g.chartrun->chart = 0;
+        g.chartrun->position = static_cast<int16_t>(position);
+        g.chartrun->disc = disc;
+        g.chartrun->sales = g.disc->weekSales[0];
+        g.chartrun.append();
+    }
+    // Three weeks: A climbs to the top, B enters, C drops out and comes back.
+    void threeWeeks() {
+        a = addDisc("Alpha", 300000);
+        b = addDisc("Bravo, Live", 50000);
+        c = addDisc("Charlie", 90000);
+        double w = game->gameDate;
+        publish(w - 14, c, 1);
+        publish(w - 14, a, 2);
+        publish(w - 7, a, 1);
+        publish(w, a, 1);
+        publish(w, c, 2);
+        publish(w, b, 3);
+    }
+    int16_t a = 0, b = 0, c = 0;
+};
+
+TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntries) {
+    startNewGameAsPlayer();
+    threeWeeks();
+    screens::frmChartForm form(*window);
+    const auto& lines = form.model()->lines();
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[0].e.movement, "-");
+    EXPECT_EQ(lines[0].e.weeks, 3);
+    EXPECT_EQ(lines[1].e.entry, "Re-entry");
+    EXPECT_EQ(lines[1].e.peak, 1);
+    EXPECT_EQ(lines[2].e.entry, "New");
+    EXPECT_EQ(lines[2].e.movement, "NE");
+    EXPECT_EQ(form.cmbChart->count(), 10);
+    EXPECT_EQ(form.cmbWeek->count(), 3);
+    EXPECT_EQ(form.lblChartSizeR->text(), QStringLiteral("Top 40"));
+    form.resize(1280, 800);
+    form.show();
+    screenshotOf(&form, QStringLiteral("30_frmChartForm"));
+    form.TabChartTab->setCurrentIndex(3);
+    screenshotOf(&form, QStringLiteral("31_frmChartForm_styles"));
+}
+
+TEST_F(ChartScreen, APastWeekAndAnotherChartCanBeChosen) {
+    startNewGameAsPlayer();
+    threeWeeks();
+    screens::frmChartForm form(*window);
+    form.cmbWeek->setCurrentIndex(2);  // the oldest week
+    ASSERT_EQ(form.model()->lines().size(), 2u);
+    EXPECT_EQ(form.model()->lines()[0].e.disc, c);
+    form.cmbChart->setCurrentIndex(9);
+    EXPECT_EQ(form.lblTitle->text(), QStringLiteral("Global Single Chart"));
+    EXPECT_EQ(form.lblChartSizeR->text(), QStringLiteral("Top 20"));
+    EXPECT_TRUE(form.model()->lines().empty());
+}
+
+TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
+    startNewGameAsPlayer();
+    threeWeeks();
+    screens::frmChartForm form(*window);
+    form.flxEntries->sortByColumn(5, Qt::AscendingOrder);
+    QModelIndex first = form.flxEntries->model()->index(0, 2);
+    EXPECT_EQ(first.data().toString(), QStringLiteral("Bravo, Live"));
+    QString path = folder.path().string().c_str() + QStringLiteral("/chart.csv");
+    ASSERT_TRUE(form.exportCsv(path));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QStringList rows = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(rows.size(), 4);
+    EXPECT_EQ(rows[0], QStringLiteral("position,movement,lastWeek,peak,weeks,entry,disc,title,band,label,sales,award"));
+    EXPECT_TRUE(rows[1].startsWith(QStringLiteral("3,NE,0,3,1,New,"))) << rows[1].toStdString();
+    EXPECT_TRUE(rows[1].contains(QStringLiteral("\"Bravo, Live\""))) << rows[1].toStdString();
+}
+
+}  // namespace
+
+TEST_F(ChartScreen, TheChartsPanelOpensTheChosenChart) {
+    startNewGameAsPlayer();
+    click("btnCharts");
+    click("lblUSSingleChart");
+    EXPECT_EQ(screen(), Screen::frmChartForm);
+    auto* form = find<screens::frmChartForm>("frmChartForm");
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->chart(), 6);
+}

@@ -1,0 +1,173 @@
+// The forms that date, press and ship a disc, and Disc Details.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include "screen_fixture.h"
+#include "screens/disc_screens.h"
+#include "screens/single_screens.h"
+#include "world/dates.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class DiscForms : public test::ScreenTest {
+protected:
+    int16_t disc = 0, plant = 0, firm = 0;
+    void SetUp() override {
+        ScreenTest::SetUp();
+        startNewGameAsPlayer();
+        Game& g = *game;
+        g.band.rec = BandRecord{};
+        g.band->name = "The Testers";
+        g.band->label = g.player.playerLabel;
+        g.band->style = 1;
+        g.band->reputation = {50, 50, 50, 50, 50};
+        auto band = static_cast<int16_t>(g.band.append());
+        g.disc.rec = DiscRecord{};
+        g.disc->title = "Forms";
+        g.disc->band = band;
+        g.disc->label = g.player.playerLabel;
+        g.disc->trackCount = 10;
+        g.disc->tracksRecorded = 10;
+        g.disc->quality = 70;
+        g.disc->commerciality = 70;
+        disc = static_cast<int16_t>(g.disc.append());
+        for (uint8_t kind : {uint8_t{1}, uint8_t{2}}) {
+            g.business.rec = BusinessRecord{};
+            g.business->name = kind == 1 ? "Disc Press" : "Van Lines";
+            g.business->kind = kind;
+            g.business->quality = 40;
+            g.business->open = -1;
+            (kind == 1 ? plant : firm) = static_cast<int16_t>(g.business.append());
+        }
+    }
+    DiscRecord record() {
+        game->disc.read(disc);
+        return game->disc.rec;
+    }
+};
+
+TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) {
+    screens::frmSetReleaseDate form(*game, disc);
+    form.show();
+    // 5 August 2004 + 42 is Thursday 16 September: the first Monday is the 20th.
+    EXPECT_EQ(form.chosenDate(0), serialFromCivil(2004, 9, 20));
+    for (int i = 0; i < form.cmbDay[0]->count(); ++i) EXPECT_EQ(weekdayOf(form.cmbDay[0]->itemData(i).toDouble()), 2);
+    form.cmbMonth[0]->setCurrentIndex(1);  // October: 4, 11, 18 and 25
+    EXPECT_EQ(form.cmbDay[0]->count(), 4);
+    screenshotOf(&form, QStringLiteral("32_frmSetReleaseDate"));
+    for (int t = 1; t < 5; ++t) form.chkTerritories[static_cast<std::size_t>(t)]->setChecked(false);
+    click(form.cmdConfirm);
+    EXPECT_EQ(record().releaseDate[0], serialFromCivil(2004, 10, 4));
+    EXPECT_EQ(record().releaseDate[1], 0.0);
+}
+
+TEST_F(DiscForms, NothingTickedActsAsCancel) {
+    screens::frmSetReleaseDate form(*game, disc);
+    form.show();
+    for (auto* box : form.chkTerritories) box->setChecked(false);
+    click(form.cmdConfirm);
+    EXPECT_EQ(form.result(), QDialog::Rejected);
+    EXPECT_EQ(record().releaseDate, (std::array<double, 5>{}));
+}
+
+TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
+    game->disc.read(disc);
+    game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
+    game->disc.write();
+    screens::frmPressDiscs form(*game, disc);
+    form.show();
+    EXPECT_FALSE(form.cmbQuantities[1]->isEnabled());
+    click(form.cmdQuantitiesInc[0]);
+    click(form.cmdQuantitiesInc[0]);
+    click(form.cmdQuantitiesInc[0]);
+    click(form.cmdQuantitiesDec[0]);
+    EXPECT_EQ(form.cmbQuantities[0]->currentText(), QStringLiteral("5,000"));
+    EXPECT_TRUE(form.lblCost->text().startsWith(QStringLiteral("Estimated Cost : ")))
+        << form.lblCost->text().toStdString();
+    EXPECT_TRUE(form.lblForecast->text().contains(QStringLiteral("- UK : ")));
+    screenshotOf(&form, QStringLiteral("33_frmPressDiscs"));
+    click(form.cmdConfirm);
+    EXPECT_EQ(record().pressingOrder[0], 5000);
+}
+
+TEST_F(DiscForms, TheDistributorFormListsTheWeeksTerritoriesAndConfirms) {
+    game->disc.read(disc);
+    game->disc->releaseDate = {game->gameDate + 6, game->gameDate + 30, 0, 0, 0};
+    game->disc.write();
+    screens::frmChooseDistributor form(*game, disc);
+    form.show();
+    ASSERT_NE(form.cmbFirm[0], nullptr);
+    EXPECT_EQ(form.cmbFirm[1], nullptr);
+    EXPECT_FALSE(form.cmbFirm[0]->isEnabled());
+    click(form.cmdChange[0]);
+    EXPECT_TRUE(form.cmbFirm[0]->isEnabled());
+    screenshotOf(&form, QStringLiteral("34_frmChooseDistributor"));
+    click(form.cmdConfirm);
+    EXPECT_EQ(record().distributor[0], firm);
+}
+
+TEST_F(DiscForms, DiscDetailsShowsEachTerritory) {
+    game->disc.read(disc);
+    game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
+    game->disc->stock[0] = 12000;
+    game->disc->totalSales[0] = 61000;
+    game->disc.write();
+    screens::frmDiscDetails details(*window, disc);
+    details.resize(1280, 800);
+    details.show();
+    EXPECT_EQ(details.flxTerritories->item(0, 0)->text(), QStringLiteral("20/9/2004"));
+    EXPECT_EQ(details.flxTerritories->item(0, 2)->text(), QStringLiteral("12,000"));
+    EXPECT_EQ(details.flxTerritories->item(0, 5)->text(), QStringLiteral("S"));
+    EXPECT_TRUE(details.cmdExtra->isEnabled());
+    screenshotOf(&details, QStringLiteral("35_frmDiscDetails"));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
+    Game& g = *game;
+    game->disc.read(disc);
+    int16_t band = g.disc->band;
+    std::array<int32_t, 4> songs{};
+    // Means of quality and commerciality: 80, 30, 50, 40.
+    const std::array<std::pair<uint8_t, uint8_t>, 4> marks = {{{80, 80}, {20, 40}, {50, 50}, {40, 40}}};
+    for (std::size_t i = 0; i < 4; ++i) {
+        g.song.rec = SongRecord{};
+        g.song->title = "Song " + std::to_string(i + 1);
+        g.song->band = band;
+        g.song->quality = marks[i].first;
+        g.song->commerciality = marks[i].second;
+        if (i == 3) g.song->singleDisc[2] = 99;  // already a single in Europe
+        songs[i] = g.song.append();
+    }
+    g.disc.read(disc);
+    g.disc->trackCount = 4;
+    g.disc->tracksRecorded = 4;
+    for (std::size_t i = 0; i < 4; ++i) g.disc->tracks[i] = songs[i];
+    g.disc.write();
+    screens::frmReleaseSingle pick(g, disc);
+    EXPECT_EQ(pick.lstSongs->count(), 3);  // song 4 has been a single
+    screens::frmChooseBSides sides(g, disc, songs[0]);
+    sides.show();
+    EXPECT_EQ(sides.cmbBSide[0]->currentData().toInt(), songs[1]);
+    EXPECT_EQ(sides.cmbBSide[1]->currentData().toInt(), songs[3]);
+    click(sides.cmdConfirm);
+    ASSERT_GT(sides.single, 0);
+    g.disc.read(sides.single);
+    EXPECT_EQ(g.disc->isSingle, 1);
+    EXPECT_EQ(trim(g.disc->title.value), "Song 1");
+    EXPECT_EQ(g.disc->quality, 80);
+    EXPECT_EQ(g.disc->tracks[1], songs[1]);
+    EXPECT_EQ(g.disc->totalSales[0], 0);
+}
+
+}  // namespace
