@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include "label/departments.h"
+#include "world/dates.h"
 #include "world/game.h"
 
 namespace trovane {
@@ -89,8 +91,83 @@ void addLabelHype(Game& g, const std::array<int16_t, 5>& deltas) {
     g.label.write();
 }
 
-// Not built yet: each runs as an empty step of the day until its rules are written.
-void takeLabelWages(Game& g) { static_cast<void>(g); }
-void updateLabelFinances(Game& g) { static_cast<void>(g); }
+int labelReputationSum(const LabelRecord& label) {
+    int sum = 0;
+    for (uint8_t r : label.reputation) sum += r;
+    return sum;
+}
+
+Money monthlyInterest(Money cash, int rating) {
+    if (cash <= 0) return 0;
+    // Whole ten-thousandths, the half going to the even one, without a
+    // floating step that could lose a unit on a large balance.
+    const __int128 product = static_cast<__int128>(cash) * rating * rating;
+    const __int128 million = 1'000'000;
+    __int128 q = product / million;
+    const __int128 rest = product % million;
+    if (rest * 2 > million || (rest * 2 == million && q % 2 != 0)) ++q;
+    if (q > INT64_MAX) throwOverflow("64-bit", static_cast<double>(q));
+    return static_cast<Money>(q);
+}
+
+void payInterest(Game& g) {
+    const int rating = g.label->department[financeAndLaw].rating;
+    const Money interest = monthlyInterest(g.label->cashBalance, rating);
+    if (interest > 0) addIncome(g, interest, ledgerInvestments);
+}
+
+void takeLabelWages(Game& g) {
+    for (int32_t n = 1; n != g.label.recordCount(); ++n) {
+        g.label.read(n);
+        addExpense(g, g.label->wageBill, ledgerWages);
+    }
+}
+
+namespace {
+
+// Every category of a period but the royalties paid, which run from the start of the game.
+void clearPeriod(LedgerPeriod& p) {
+    const Money royalties = p.expense[ledgerRoyaltiesPaid - ledgerWages];
+    p.income.fill(0);
+    p.expense.fill(0);
+    p.expense[ledgerRoyaltiesPaid - ledgerWages] = royalties;
+}
+
+}  // namespace
+
+void closeLabelMonth(Game& g, bool yearEnd) {
+    payInterest(g);
+    LabelRecord& label = g.label.rec;
+    if (yearEnd) clearPeriod(label.period[2]);
+    label.period[1] = label.period[0];
+    clearPeriod(label.period[0]);
+    g.label.write();
+    appendLedgerRow(g, label.id, label.period[1], label.cashBalance);
+}
+
+void updateLabelFinances(Game& g) {
+    // Only the last day of the year closes the year: the run of 1 December does not.
+    const bool yearEnd = monthOf(g.gameDate) == 12 && dayOf(g.gameDate) == 31;
+    for (int32_t n = 1; n != g.label.recordCount(); ++n) {
+        g.label.read(n);
+        closeLabelMonth(g, yearEnd);
+    }
+}
+
+void appendLedgerRow(Game& g, int16_t label, const LedgerPeriod& figures, Money cash) {
+    g.ledger.rec = LedgerRecord{};
+    g.ledger->label = label;
+    g.ledger->date = g.gameDate;
+    g.ledger->figures = figures;
+    g.ledger->cash = cash;
+    g.ledger.append();
+}
+
+void writeOpeningLedgerRows(Game& g) {
+    for (int32_t n = 1; n != g.label.recordCount(); ++n) {
+        g.label.read(n);
+        appendLedgerRow(g, g.label->id, g.label->period[0], g.label->cashBalance);
+    }
+}
 
 }  // namespace trovane

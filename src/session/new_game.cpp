@@ -11,6 +11,7 @@
 #include "floor/number_helpers.h"
 #include "floor/preferences.h"
 #include "label/departments.h"
+#include "label/finances.h"
 #include "label/image.h"
 #include "label/label_standing.h"
 #include "live/festivals.h"
@@ -342,6 +343,9 @@ void startNewGame(Game& g, StaffRecord player) {
         countLabelBands(g);
         setRivalStrength(g);
         setInitialHype(g);
+        // The heads' wages were set again above: the departments follow them.
+        for (int d = 0; d < 6; ++d) setDepartmentRating(g, d);
+        updateWageBill(g);
         g.label.write(n);
     }
     report(g, 75);
@@ -372,7 +376,9 @@ void startNewGame(Game& g, StaffRecord player) {
     g.staff.read(g.player.playerStaff);
     g.staff->employer = g.player.playerLabel;
     g.staff.write(g.player.playerStaff);
+    writeOpeningLedgerRows(g);
     g.label.read(g.player.playerLabel);
+    g.player.playerLabelCash = g.label->cashBalance;
     g.previousScreen = Screen::none;
     g.currentScreen = Screen::frmNews;
     report(g, 100);

@@ -5,7 +5,6 @@
 namespace trovane {
 
 // Not built yet: contracts are negotiated once their rules are written.
-void decideStaffOffer(Game& g) { static_cast<void>(g); }
 void decideOffers(Game& g) { static_cast<void>(g); }
 void signBand(Game& g) { static_cast<void>(g); }
 void scheduleSigning(Game& g) { static_cast<void>(g); }

@@ -58,6 +58,7 @@ constexpr std::array kCatalogue = {
     CatalogueEntry{fileCb, "cb", "cb", 351, perUse},
     CatalogueEntry{fileCa, "ca", "ca", 211, perUse},
     CatalogueEntry{fileNewAlbum, "newalbum", "newalbum", 53, inSet},
+    CatalogueEntry{fileLedger, "ledger", "ledger", 142, workingOnly},
     CatalogueEntry{fileTemp, "tmp", "tmp", 0, perUse},
     CatalogueEntry{fileTemp2, "suptmp", "suptmp", 4, perUse},
 };
@@ -67,15 +68,15 @@ constexpr std::array kOpenAllOrder = {
     fileBand,      fileProduct, fileLabel,    fileStaff,    fileLook,    fileAssLook,   fileNewBand,  fileNews,
     fileSchedule,  fileDisc,    fileSong,     fileAssStyle, fileOffer,   fileAssNation, fileBusiness, fileNewSong,
     fileTour,      fileGig,     fileFestival, fileEvent,    fileCrime,   fileAward,     fileCeremony, fileShortlist,
-    fileChartRecs, fileMedia,   fileAchieve,  fileNewAlbum, fileThank,
+    fileChartRecs, fileMedia,   fileAchieve,  fileNewAlbum, fileThank,   fileLedger,
 };
 
-constexpr std::array<std::string_view, 47> kTableSetStems = {
+constexpr std::array<std::string_view, 48> kTableSetStems = {
     "artist",   "band",      "city",      "country", "forename", "job",    "label",    "product", "staff",  "style",
     "surname",  "venue",     "look",      "asslook", "newband",  "news",   "schedule", "disc",    "song",   "offer",
     "assstyle", "assnation", "business",  "newsong", "tour",     "gig",    "festival", "event",   "crime",  "award",
     "ceremony", "shortlist", "chartrecs", "chart0",  "chart1",   "chart2", "chart3",   "chart4",  "chart5", "chart6",
-    "chart7",   "chart8",    "chart9",    "media",   "achieve",  "thank",  "newalbum",
+    "chart7",   "chart8",    "chart9",    "media",   "achieve",  "thank",  "newalbum", "ledger",
 };
 
 }  // namespace

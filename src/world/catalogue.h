@@ -56,6 +56,7 @@ enum class FileNo : int {
     fileCb = 43,
     fileCa = 44,
     fileNewAlbum = 45,
+    fileLedger = 46,
     fileTemp = 100,
     fileTemp2 = 101,
 };

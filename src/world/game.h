@@ -71,7 +71,8 @@ enum class Screen {
     X(media, MediaRecord, fileMedia)             \
     X(achieve, AchievementRecord, fileAchieve)   \
     X(newalbum, NewAlbumRecord, fileNewAlbum)    \
-    X(thank, ThankRecord, fileThank)
+    X(thank, ThankRecord, fileThank)             \
+    X(ledger, LedgerRecord, fileLedger)
 
 // Tables opened by the operation that needs them and closed right after.
 #define TROVANE_PER_USE_TABLES(X)                \

@@ -145,6 +145,7 @@ decltype(auto) withRecordType(FileNo n, F&& f) {
     case fileFact: return f(std::type_identity<FactRecord>{});
     case fileHighScore: return f(std::type_identity<HighScoreRecord>{});
     case fileNewAlbum: return f(std::type_identity<NewAlbumRecord>{});
+    case fileLedger: return f(std::type_identity<LedgerRecord>{});
     case fileTemp2: return f(std::type_identity<Scratch4Record>{});
     case fileTemp: break;
     }

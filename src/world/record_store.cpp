@@ -14,7 +14,8 @@ namespace {
 
 bool createdEmptyWhenMissing(FileNo n) {
     using enum FileNo;
-    return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist || n == fileChartRecs;
+    return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist || n == fileChartRecs ||
+           n == fileLedger;
 }
 
 void copyFile(const fs::path& from, const fs::path& to) {

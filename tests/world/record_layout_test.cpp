@@ -265,6 +265,7 @@ const std::map<std::string_view, std::vector<FieldAt>>& fileOffsets() {
         {"HighScoreRecord", {{"id", 0}, {"score", 2}, {"player", 6}, {"labelName", 71}, {"game", 103}}},
         {"NewAlbumRecord", {{"id", 0}, {"style", 2}, {"title", 3}}},
         {"Scratch4Record", {{"value", 0}}},
+        {"LedgerRecord", {{"id", 0}, {"label", 4}, {"date", 6}, {"figures", 14}, {"cash", 134}}},
     };
     return offsets;
 }
