@@ -214,3 +214,29 @@ TEST(DepartmentLevels, LockingWritesCountsRatingAndBill) {
     EXPECT_EQ(g.label->department[financeAndLaw].rating, 16);
     EXPECT_EQ(g.label->wageBill, units(7000));
 }
+
+TEST(DepartmentError, APerfectDepartmentReadsTrue) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label->department[marketing].rating = 100;
+    for (int value : {0, 1, 37, 99, 100}) EXPECT_EQ(applyDepartmentError(g, value, marketing), value);
+}
+
+TEST(DepartmentError, AnEmptyDepartmentMovesTheValueByTwoWholePercentDraws) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label->department[artistAndRepertoire].rating = 0;
+    // Seed 7 draws 0.7544 and 0.9493: e1 = 75, e2 = 94; 60 + 45 - round(56.4) = 49
+    g.rng.seed(7);
+    EXPECT_EQ(applyDepartmentError(g, 60, artistAndRepertoire), 49);
+    // Seed 5 draws 0.6731 and 0.0385: e1 = 67, e2 = 3; 40 + round(26.8) - round(1.2) = 66
+    g.rng.seed(5);
+    EXPECT_EQ(applyDepartmentError(g, 40, artistAndRepertoire), 66);
+    // and 90 + round(60.3) - round(2.7) = 147, held at 100
+    g.rng.seed(5);
+    EXPECT_EQ(applyDepartmentError(g, 90, artistAndRepertoire), 100);
+    // At rating 50 the draws span half: e1 = Int(0.7544 x 50) = 37, e2 = 47; 60 + round(22.2) - round(28.2) = 54
+    g.label->department[artistAndRepertoire].rating = 50;
+    g.rng.seed(7);
+    EXPECT_EQ(applyDepartmentError(g, 60, artistAndRepertoire), 54);
+}
