@@ -36,6 +36,7 @@ private:
 void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
 void addNewsVerbs(CLI::App& app, SimContext& ctx);     // news, show, reply, delete, schedule
+void addBooksVerbs(CLI::App& app, SimContext& ctx);    // label, books, department, staff, approach, ...
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
     addWorldVerbs(app, ctx);
     addSessionVerbs(app, ctx);
     addNewsVerbs(app, ctx);
+    addBooksVerbs(app, ctx);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) { return app.exit(e); } catch (const trovane::SlotError& e) {

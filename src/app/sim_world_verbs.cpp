@@ -11,6 +11,7 @@
 #include "floor/formats.h"
 #include "floor/preferences.h"
 #include "session/empty_world.h"
+#include "session/invariants.h"
 #include "session/session_record.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
@@ -23,6 +24,8 @@ namespace {
 uint64_t clockSeed() { return static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()); }
 
 std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
+
+constexpr int kExitInvariantBroken = 4;
 
 }  // namespace
 
@@ -76,8 +79,10 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
     auto* advance = app.add_subcommand("advance", "Run days of the game");
     static int days = 1;
     static bool trace = false;
+    static bool check = false;
     advance->add_option("N", days, "How many days")->required()->check(CLI::Range(0, 100000));
     advance->add_flag("--trace", trace, "Show each step each day runs");
+    advance->add_flag("--check", check, "Check the invariants after every day; stop at the first break");
     advance->callback([&ctx] {
         Game& g = ctx.openGame();
         std::vector<std::string> steps;
@@ -99,6 +104,14 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
             double day = g.gameDate;
             steps.clear();
             checkDaysSchedule(g);
+            if (check) {
+                if (auto broken = checkInvariants(g)) {
+                    std::fprintf(stderr, "trovane-sim: after %s: %s\n", isoDate(day).c_str(),
+                                 describeBreak(*broken).c_str());
+                    ctx.exitCode = kExitInvariantBroken;
+                    break;
+                }
+            }
             if (ctx.json) {
                 json += fmt::format("{}{{\"date\":\"{}\"", d ? "," : "", isoDate(day));
                 if (trace) {
