@@ -99,15 +99,19 @@ int labelReputationSum(const LabelRecord& label) {
 
 Money monthlyInterest(Money cash, int rating) {
     if (cash <= 0) return 0;
-    // Whole ten-thousandths, the half going to the even one, without a
-    // floating step that could lose a unit on a large balance.
-    const __int128 product = static_cast<__int128>(cash) * rating * rating;
-    const __int128 million = 1'000'000;
-    __int128 q = product / million;
-    const __int128 rest = product % million;
+    // Whole ten-thousandths, the half going to the even one, worked in whole
+    // numbers so that no unit is lost on a large balance: the balance is split
+    // into millions and the rest, so no product leaves 64 bits unnoticed.
+    constexpr int64_t million = 1'000'000;
+    const int64_t squared = static_cast<int64_t>(rating) * rating;
+    int64_t q = 0;
+    if (__builtin_mul_overflow(cash / million, squared, &q))
+        throwOverflow("64-bit", static_cast<double>(cash) * static_cast<double>(squared) / million);
+    const int64_t part = cash % million * squared;
+    q += part / million;
+    const int64_t rest = part % million;
     if (rest * 2 > million || (rest * 2 == million && q % 2 != 0)) ++q;
-    if (q > INT64_MAX) throwOverflow("64-bit", static_cast<double>(q));
-    return static_cast<Money>(q);
+    return q;
 }
 
 void payInterest(Game& g) {

@@ -70,7 +70,8 @@ void dealFallsThrough(Game& g, const std::string& name, const std::string& job, 
                  .text = name + "'s proposed move into a new role as " + job + " at " + label +
                          " has fallen through. A spokesperson for the company has revealed there was no longer a "
                          "position for " +
-                         name + "."});
+                         name + ".",
+                 .extra = {}});
 }
 
 }  // namespace
@@ -179,8 +180,10 @@ void decideStaffOffer(Game& g) {
     // compared in whole units so that exactly the mark is enough.
     const int preferred = g.staff->aptitude[9];
     const bool liked = g.label->labelStyle == 0 || g.label->labelStyle == preferred;
-    const __int128 offered = static_cast<__int128>(g.staff->offerWage) * 10;
-    const __int128 required = static_cast<__int128>(g.staff->wage) * (liked ? 9 : 11);
+    int64_t offered = 0, required = 0;
+    if (__builtin_mul_overflow(g.staff->offerWage, int64_t{10}, &offered) ||
+        __builtin_mul_overflow(g.staff->wage, int64_t{liked ? 9 : 11}, &required))
+        throwOverflow("64-bit", moneyToDouble(std::max(g.staff->offerWage, g.staff->wage)) * 11);
     const bool accepted = offered >= required;
 
     if (entry.label != g.player.playerLabel) {
@@ -201,13 +204,15 @@ void decideStaffOffer(Game& g) {
                      .text = name + " has agreed to your contract terms, finalise the deal? ",
                      .kind = kNewsYesNo,
                      .scheduleLink = entry.id,
-                     .mustReply = true});
+                     .mustReply = true,
+                     .extra = {}});
     } else {
         clearStaffOffer(g);
         g.staff.write();
         postNews(g, {.date = g.gameDate + 1,
                      .title = name + " rejects " + label + "'s contract offer",
-                     .text = name + " has rejected your contract terms."});
+                     .text = name + " has rejected your contract terms.",
+                     .extra = {}});
     }
 }
 
@@ -250,7 +255,8 @@ void hireStaff(Game& g) {
                          ". A spokesperson for the label said everyone at the company was delighted with the "
                          "appointment whilst " +
                          name + " announced " + personWord(0, male) +
-                         " was looking forward to the new challenges the role would bring."});
+                         " was looking forward to the new challenges the role would bring.",
+                 .extra = {}});
 }
 
 void fireStaff(Game& g) {
@@ -279,7 +285,7 @@ void fireStaff(Game& g) {
         boss = staffName(g.staff.rec);
     }
     ReleaseNews news = releaseNews(name, male, label, boss, months);
-    postNews(g, {.date = g.gameDate + 1, .title = news.title, .text = news.text});
+    postNews(g, {.date = g.gameDate + 1, .title = news.title, .text = news.text, .extra = {}});
 }
 
 int calendarMonthsBetween(double from, double to) {

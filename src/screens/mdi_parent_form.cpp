@@ -16,11 +16,13 @@
 #include "floor/preferences.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
+#include "screens/label_details_screen.h"
 #include "screens/loading_screen.h"
 #include "screens/new_game_screens.h"
 #include "screens/news_screens.h"
 #include "screens/save_game_screen.h"
 #include "screens/side_bar.h"
+#include "screens/staff_screens.h"
 #include "screens/start_screens.h"
 #include "screens/status_bar.h"
 #include "screens/theme.h"
@@ -226,6 +228,9 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmSaveGame: return new frmSaveGame(*this, saveScreenLoads_);
     case Screen::frmCredits: return new frmCredits(*this);
     case Screen::frmDisclaimer: return new frmDisclaimer(*this);
+    case Screen::frmLabelDetails: return new frmLabelDetails(*this, labelOnScreen);
+    case Screen::frmStaffDetails: return new frmStaffDetails(*this, staffOnScreen);
+    case Screen::frmStaffList: return new frmStaffList(*this);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.

@@ -78,6 +78,9 @@ public:
     NewsSort& newsSort() { return newsSort_; }
     // The news item frmNewsFull shows (its record number), so it can come back to it.
     int32_t newsItemOnScreen = 0;
+    // The label frmLabelDetails shows and the person frmStaffDetails shows.
+    int16_t labelOnScreen = 0;
+    int16_t staffOnScreen = 0;
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

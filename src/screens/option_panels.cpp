@@ -90,11 +90,12 @@ void OptionPanel::keyPressEvent(QKeyEvent* event) {
     QFrame::keyPressEvent(event);
 }
 
-frmFindOptions::frmFindOptions(mdiParentForm&, QWidget* parent)
+frmFindOptions::frmFindOptions(mdiParentForm& main, QWidget* parent)
     : OptionPanel(QStringLiteral("frmFindOptions"), tr("Find"), parent) {
     addEntry(QStringLiteral("lblArtists"), tr("Artists"), Glyph::person);
     addEntry(QStringLiteral("lblBands"), tr("Bands"), Glyph::record);
-    addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person);
+    addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person,
+             [&main] { main.openScreen(Screen::frmStaffList); });
     addEntry(QStringLiteral("lblLabels"), tr("Labels"), Glyph::label);
     addEntry(QStringLiteral("lblVenues"), tr("Venues"), Glyph::label);
     addEntry(QStringLiteral("lblBusinesses"), tr("Businesses"), Glyph::coins);

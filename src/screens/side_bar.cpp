@@ -9,6 +9,7 @@
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/option_panels.h"
+#include "screens/staff_screens.h"
 #include "screens/theme.h"
 
 namespace trovane::screens {
@@ -57,8 +58,8 @@ frmSideBar::frmSideBar(mdiParentForm& main, QWidget* panelHost) : main_(main), p
     connect(btnContinueGame, &QPushButton::clicked, this, [this] { main_.continueGame(); });
     connect(btnNews, &QPushButton::clicked, this, [this] { main_.openScreen(Screen::frmNews); });
     connect(btnLabelOptions, &QPushButton::clicked, this, [this] {
-        // frmLabelDetails is not in this version: the button closes the panels and goes nowhere.
-        CloseOtherWindows();
+        main_.labelOnScreen = main_.game().player.playerLabel;
+        main_.openScreen(Screen::frmLabelDetails);
     });
     connect(btnFind, &QPushButton::clicked, this, &frmSideBar::loadFindOptions);
     connect(btnCharts, &QPushButton::clicked, this, &frmSideBar::loadChartOptions);
@@ -76,8 +77,7 @@ void frmSideBar::enableSidebar(bool on) {
 
 void frmSideBar::CloseOtherWindows() {
     bool hadFocus = false;
-    for (OptionPanel* p : {static_cast<OptionPanel*>(findOptions_), static_cast<OptionPanel*>(chartOptions_),
-                           static_cast<OptionPanel*>(gameOptions_), static_cast<OptionPanel*>(quitOptions_)}) {
+    for (OptionPanel* p : panels()) {
         if (!p->isVisible()) continue;
         hadFocus = hadFocus || p->isAncestorOf(QApplication::focusWidget());
         p->hide();
@@ -93,8 +93,7 @@ void frmSideBar::loadGameOptions() { togglePanel(gameOptions_, btnGameOptions); 
 void frmSideBar::loadQuitOptions() { togglePanel(quitOptions_, btnQuit); }
 
 OptionPanel* frmSideBar::openPanel() const {
-    for (OptionPanel* p : {static_cast<OptionPanel*>(findOptions_), static_cast<OptionPanel*>(chartOptions_),
-                           static_cast<OptionPanel*>(gameOptions_), static_cast<OptionPanel*>(quitOptions_)})
+    for (OptionPanel* p : panels())
         if (p->isVisible()) return p;
     return nullptr;
 }
@@ -138,9 +137,33 @@ bool frmSideBar::eventFilter(QObject* watched, QEvent* event) {
     return QFrame::eventFilter(watched, event);
 }
 
-// The options of what is on screen: a band, an artist, a disc or a member of
-// staff. None of those screens is in this version, so on every screen there
-// is (the news, the save screen, the credits...) the button does nothing.
-void frmSideBar::extraOptions() {}
+QList<OptionPanel*> frmSideBar::panels() const {
+    QList<OptionPanel*> all{findOptions_, chartOptions_, gameOptions_, quitOptions_};
+    if (extraOptions_) all.push_back(extraOptions_);
+    return all;
+}
+
+// The options of what is on screen. Of the screens in this version only a
+// member of staff has any (none on the player's own record); elsewhere the
+// button does nothing.
+void frmSideBar::extraOptions() {
+    if (extraOptions_ && extraOptions_->isVisible()) {
+        CloseOtherWindows();
+        return;
+    }
+    CloseOtherWindows();
+    if (extraOptions_) {
+        extraOptions_->deleteLater();
+        extraOptions_ = nullptr;
+    }
+    if (main_.game().currentScreen == Screen::frmStaffDetails)
+        extraOptions_ = makeStaffOptions(main_, panelHost_, main_.staffOnScreen);
+    if (!extraOptions_) return;
+    anchorOfOpenPanel_ = cmdExtra;
+    placePanel(extraOptions_, cmdExtra);
+    extraOptions_->show();
+    extraOptions_->raise();
+    extraOptions_->focusFirstEntry();
+}
 
 }  // namespace trovane::screens

@@ -2,6 +2,7 @@
 // The sidebar: the turn key, the way to the news and the label, and the
 // buttons that open the option panels.
 #include <QFrame>
+#include <QList>
 
 class QPushButton;
 
@@ -61,6 +62,9 @@ private:
     frmGameOptions* gameOptions_;
     frmQuitOptions* quitOptions_;
     QPushButton* anchorOfOpenPanel_ = nullptr;
+    // The options of what is on screen, made afresh each time cmdExtra opens them.
+    OptionPanel* extraOptions_ = nullptr;
+    QList<OptionPanel*> panels() const;
 };
 
 }  // namespace trovane::screens

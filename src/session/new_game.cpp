@@ -204,6 +204,8 @@ void foundLabel(Game& g, const NewPlayer& player, const LabelChoices& choice) {
     l.name = choice.name;
     l.city = city;
     l.labelStyle = style;
+    // Founded this year: the byte holds the year less 1900.
+    l.founded = narrow<uint8_t>(yearOf(g.gameDate) - 1900);
     l.cashBalance = moneyUnits(1000000);
     l.reputation = newLabelReputation(g, country);
     l.id = narrow<int16_t>(g.label.recordCount());

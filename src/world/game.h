@@ -31,6 +31,9 @@ enum class Screen {
     frmSaveGame,
     frmCredits,
     frmDisclaimer,
+    frmLabelDetails,
+    frmStaffDetails,
+    frmStaffList,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
