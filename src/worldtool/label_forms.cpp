@@ -104,7 +104,12 @@ void deriveLabels(const IndustryBook& book, std::span<Compiled<LabelRecord>> lab
         setRivalStrength(g);
         setInitialHype(g);
         for (std::size_t d = 0; d < kDepartmentNames.size(); ++d) setDepartmentRating(g, static_cast<int>(d));
-        updateWageBill(g);
+        // A count past its bound is reported by the label's check; its wages cannot be worked out.
+        bool withinBounds = true;
+        for (const Department& dep : g.label->department)
+            for (std::size_t level = 0; level < kLevelBounds.size(); ++level)
+                withinBounds = withinBounds && dep.staffAtLevel[level] <= kLevelBounds[level];
+        if (withinBounds) updateWageBill(g);
         labels[i].rec = g.label.rec;
     }
 }
