@@ -143,6 +143,28 @@ TEST(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
     EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerRoyaltiesPaid), -units(25));
 }
 
+TEST(MonthEnd, AYearClosesThirteenTimes) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, units(100));
+    g.player.playerLabel = 1;
+    g.player.playerLabelCash = units(100);
+    writeOpeningLedgerRows(g);
+    while (g.gameDate < serialFromCivil(2006, 1, 2)) checkDaysSchedule(g);
+    int closes2005 = 0;
+    for (int32_t n = 2; n != g.ledger.recordCount(); ++n) {
+        g.ledger.read(n);
+        if (yearOf(g.ledger->date) == 2005) ++closes2005;
+    }
+    EXPECT_EQ(closes2005, 13);  // the twelve firsts and 31 December
+}
+
+TEST(LabelReputation, IsTheFiveMarketsAdded) {
+    LabelRecord l{};
+    l.reputation = {40, 15, 20, 10, 5};
+    EXPECT_EQ(labelReputationSum(l), 90);
+}
+
 TEST(DepartmentWages, TwentyOneAtTheBestLevelFitTwentyTwoOverflow) {
     test::EmptyGame eg;
     Game& g = eg.g;

@@ -74,6 +74,11 @@ TEST_F(ScreenTest, LabelDetailsShowTheBooksAndLockDepartmentChangesIn) {
     EXPECT_EQ(game->label->department[1].rating, 8);
     EXPECT_EQ(game->label->wageBill, moneyUnits(6000));
     screenshot("63_frmLabelDetails_department_locked");
+
+    window->labelOnScreen = 1;  // a rival's shows the same, locked
+    window->openScreen(Screen::frmLabelDetails);
+    EXPECT_EQ(find<screens::frmLabelDetails>("frmLabelDetails")->titleLabel()->text(), "Greystone Music");
+    EXPECT_FALSE(find<QPushButton>("cmdHireFire")->isEnabled());
 }
 
 TEST_F(ScreenTest, FindStaffOpensAPersonWhoseOptionsFollowTheirState) {
