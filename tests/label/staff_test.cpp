@@ -72,7 +72,7 @@ struct StaffGame : ::testing::Test {
 }  // namespace
 
 TEST_F(StaffGame, AnOfferAtExactlyNineTenthsIsTakenAndOneUnitLessIsNot) {
-    int16_t ann = person("Ann", units(1000));
+    int16_t ann = person("Ann", units(1000), true, 3);
     approachStaff(g, ann, marketing, 900, 3);  // label of all styles: 1,000 less a tenth = 900
     int16_t bob = person("Bob", units(1000));
     approachStaff(g, bob, security, 900, 3);

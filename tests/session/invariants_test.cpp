@@ -62,6 +62,21 @@ TEST(Invariants, ASoundGamePasses) {
     EXPECT_FALSE(broken) << describeBreak(*broken);
 }
 
+TEST(Invariants, AnOpeningRowCountsThisMonthFromItsOwnFigures) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label.rec = LabelRecord{};
+    g.player.playerLabel = static_cast<int16_t>(g.label.append());
+    addIncome(g, moneyUnits(50), ledgerOtherIncome);  // before the opening: in its figures, not gained since
+    writeOpeningLedgerRows(g);
+    auto broken = checkInvariants(g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+    g.label.read(1);
+    addIncome(g, moneyUnits(7), ledgerOtherIncome);
+    broken = checkInvariants(g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+}
+
 TEST_P(Invariants, NameTheBrokenRule) {
     test::EmptyGame eg;
     soundGame(eg.g);
