@@ -192,6 +192,22 @@ TEST_F(StaffGame, AWithdrawalIsRefusedOnTheDecisionDayAndWhileTheHireIsPending) 
     EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "the hire is filed";
 }
 
+TEST_F(StaffGame, ANoToAgreedTermsLeavesTheOfferUntilWithdrawn) {
+    int16_t ann = person("Ann", units(1000));
+    approachStaff(g, ann, security, 1000, 2);
+    for (int i = 0; i < 8; ++i) playDay();
+    g.news.read(g.news.recordCount() - 1);
+    pressNewsCmd2(g);
+    playDay();
+    g.staff.read(ann);
+    EXPECT_EQ(g.staff->offerLabel, label);
+    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_NE(checkApproachStaff(g, ann), "");
+    ASSERT_EQ(checkWithdrawStaffOffer(g, ann), "");
+    withdrawStaffOffer(g, ann);
+    EXPECT_EQ(checkApproachStaff(g, ann), "");
+}
+
 TEST_F(StaffGame, ApproachIsRefusedForTheEmployedAndThePlayer) {
     EXPECT_NE(checkApproachStaff(g, g.player.playerStaff), "");
     int16_t taken = person("Taken", units(500));
