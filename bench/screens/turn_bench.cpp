@@ -10,6 +10,7 @@
 
 #include "day/daily_cycle.h"
 #include "floor/preferences.h"
+#include "screens/label_details_screen.h"
 #include "screens/mdi_parent_form.h"
 #include "session/new_game.h"
 #include "world/game.h"
@@ -84,6 +85,14 @@ int main(int argc, char** argv) {
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)
         ->Iterations(60);
+    // frmLabelDetails built and filled for the player's label, its books and history included.
+    benchmark::RegisterBenchmark("Screens/frmLabelDetailsFilled", [&](benchmark::State& s) {
+        for (auto _ : s) {
+            auto* page = new screens::frmLabelDetails(window, g.player.playerLabel);
+            benchmark::DoNotOptimize(page);
+            delete page;
+        }
+    })->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -84,6 +84,7 @@ void addDiscVerbs(CLI::App& app, SimContext& ctx);     // release, forecast, pre
 
 // A "Distributor required" item answered with ok: the form is confirmed at once.
 void confirmDistributorForm(Game& g);
+void addBooksVerbs(CLI::App& app, SimContext& ctx);    // label, books, department, staff, approach, ...
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

@@ -63,6 +63,9 @@ std::string_view screenName(Screen s) {
     case Screen::frmSaveGame: return "frmSaveGame";
     case Screen::frmCredits: return "frmCredits";
     case Screen::frmDisclaimer: return "frmDisclaimer";
+    case Screen::frmLabelDetails: return "frmLabelDetails";
+    case Screen::frmStaffDetails: return "frmStaffDetails";
+    case Screen::frmStaffList: return "frmStaffList";
     }
     return "unknown";
 }

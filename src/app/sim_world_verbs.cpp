@@ -11,6 +11,7 @@
 #include "floor/formats.h"
 #include "floor/preferences.h"
 #include "session/empty_world.h"
+#include "session/invariants.h"
 #include "session/session_record.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
@@ -24,12 +25,15 @@ namespace {
 struct AdvanceOptions {
     int days = 1;
     bool trace = false;
+    bool check = false;
 };
 struct DumpOptions {
     std::string table;
 };
 
 std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
+
+constexpr int kExitInvariantBroken = 4;
 
 }  // namespace
 
@@ -65,9 +69,11 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
     auto adv = std::make_shared<AdvanceOptions>();
     advance->add_option("N", adv->days, "How many days")->required()->check(CLI::Range(0, 100000));
     advance->add_flag("--trace", adv->trace, "Show each step each day runs");
+    advance->add_flag("--check", adv->check, "Check the invariants after every day; stop at the first break");
     advance->callback([&ctx, adv] {
         const int days = adv->days;
         const bool trace = adv->trace;
+        const bool check = adv->check;
         Game& g = ctx.openGame();
         std::vector<std::string> steps;
         if (trace) g.trace = [&steps](std::string_view step) { steps.emplace_back(step); };
@@ -88,6 +94,14 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
             double day = g.gameDate;
             steps.clear();
             checkDaysSchedule(g);
+            if (check) {
+                if (auto broken = checkInvariants(g)) {
+                    std::fprintf(stderr, "trovane-sim: after %s: %s\n", isoDate(day).c_str(),
+                                 describeBreak(*broken).c_str());
+                    ctx.exitCode = kExitInvariantBroken;
+                    break;
+                }
+            }
             if (ctx.json) {
                 json += fmt::format("{}{{\"date\":\"{}\"", d ? "," : "", isoDate(day));
                 if (trace) {

@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include "label/departments.h"
+#include "world/dates.h"
 #include "world/game.h"
 
 namespace trovane {
@@ -89,8 +91,87 @@ void addLabelHype(Game& g, const std::array<int16_t, 5>& deltas) {
     g.label.write();
 }
 
-// Not built yet: each runs as an empty step of the day until its rules are written.
-void takeLabelWages(Game& g) { static_cast<void>(g); }
-void updateLabelFinances(Game& g) { static_cast<void>(g); }
+int labelReputationSum(const LabelRecord& label) {
+    int sum = 0;
+    for (uint8_t r : label.reputation) sum += r;
+    return sum;
+}
+
+Money monthlyInterest(Money cash, int rating) {
+    if (cash <= 0) return 0;
+    // Whole ten-thousandths, the half going to the even one, worked in whole
+    // numbers so that no unit is lost on a large balance: the balance is split
+    // into millions and the rest, so no product leaves 64 bits unnoticed.
+    constexpr int64_t million = 1'000'000;
+    const int64_t squared = static_cast<int64_t>(rating) * rating;
+    int64_t q = 0;
+    if (__builtin_mul_overflow(cash / million, squared, &q))
+        throwOverflow("64-bit", static_cast<double>(cash) * static_cast<double>(squared) / million);
+    const int64_t part = cash % million * squared;
+    q += part / million;
+    const int64_t rest = part % million;
+    if (rest * 2 > million || (rest * 2 == million && q % 2 != 0)) ++q;
+    return q;
+}
+
+void payInterest(Game& g) {
+    const int rating = g.label->department[financeAndLaw].rating;
+    const Money interest = monthlyInterest(g.label->cashBalance, rating);
+    if (interest > 0) addIncome(g, interest, ledgerInvestments);
+}
+
+void takeLabelWages(Game& g) {
+    for (int32_t n = 1; n != g.label.recordCount(); ++n) {
+        g.label.read(n);
+        addExpense(g, g.label->wageBill, ledgerWages);
+    }
+}
+
+namespace {
+
+// Every category of a period but the royalties paid, which run from the start of the game.
+void clearPeriod(LedgerPeriod& p) {
+    const Money royalties = p.expense[ledgerRoyaltiesPaid - ledgerWages];
+    p.income.fill(0);
+    p.expense.fill(0);
+    p.expense[ledgerRoyaltiesPaid - ledgerWages] = royalties;
+}
+
+}  // namespace
+
+void closeLabelMonth(Game& g, bool yearEnd) {
+    payInterest(g);
+    LabelRecord& label = g.label.rec;
+    if (yearEnd) clearPeriod(label.period[2]);
+    label.period[1] = label.period[0];
+    clearPeriod(label.period[0]);
+    g.label.write();
+    appendLedgerRow(g, label.id, label.period[1], label.cashBalance);
+}
+
+void updateLabelFinances(Game& g) {
+    // Only the last day of the year closes the year: the run of 1 December does not.
+    const bool yearEnd = monthOf(g.gameDate) == 12 && dayOf(g.gameDate) == 31;
+    for (int32_t n = 1; n != g.label.recordCount(); ++n) {
+        g.label.read(n);
+        closeLabelMonth(g, yearEnd);
+    }
+}
+
+void appendLedgerRow(Game& g, int16_t label, const LedgerPeriod& figures, Money cash) {
+    g.ledger.rec = LedgerRecord{};
+    g.ledger->label = label;
+    g.ledger->date = g.gameDate;
+    g.ledger->figures = figures;
+    g.ledger->cash = cash;
+    g.ledger.append();
+}
+
+void writeOpeningLedgerRows(Game& g) {
+    for (int32_t n = 1; n != g.label.recordCount(); ++n) {
+        g.label.read(n);
+        appendLedgerRow(g, g.label->id, g.label->period[0], g.label->cashBalance);
+    }
+}
 
 }  // namespace trovane

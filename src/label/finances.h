@@ -11,6 +11,7 @@ namespace trovane {
 
 class Game;
 struct LabelRecord;
+struct LedgerPeriod;
 
 // Ledger categories. Expenses 100 to 107, income 108 to 113.
 enum LedgerCategory : int {
@@ -59,7 +60,31 @@ void addStaffPoints(Game& g, int market, int32_t amount);
 // stays within 0 to 100. The label is written.
 void addLabelHype(Game& g, const std::array<int16_t, 5>& deltas);
 
+// The five reputations of a label added.
+int labelReputationSum(const LabelRecord& label);
+
+// A month's interest on a balance: nothing at 0 or below, else the balance
+// times the Finance and Law rating squared over 1,000,000, in whole
+// ten-thousandths, a half going to the even one.
+Money monthlyInterest(Money cash, int rating);
+// Books the current label's monthly interest as investment income.
+void payInterest(Game& g);
+
+// Friday: every label pays its weekly wage bill, whatever its cash.
 void takeLabelWages(Game& g);
+
+// Closes the current label's month: interest, then (at the year's end) the
+// year cleared, last month takes this month, this month cleared. Royalties
+// paid are never cleared. The closed month goes into the books' history.
+void closeLabelMonth(Game& g, bool yearEnd);
+// The first of every month and 31 December: every label closes its month;
+// only 31 December clears the year.
 void updateLabelFinances(Game& g);
+
+// Appends a row to the books' history of a label, dated today. The ledger
+// buffer is left on the new row.
+void appendLedgerRow(Game& g, int16_t label, const LedgerPeriod& figures, Money cash);
+// A new game's history: each label's opening cash and this month's figures.
+void writeOpeningLedgerRows(Game& g);
 
 }  // namespace trovane

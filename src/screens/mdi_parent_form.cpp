@@ -21,12 +21,14 @@
 #include "screens/disc_screens.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
+#include "screens/label_details_screen.h"
 #include "screens/loading_screen.h"
 #include "screens/new_game_screens.h"
 #include "screens/news_screens.h"
 #include "screens/option_decision_screen.h"
 #include "screens/save_game_screen.h"
 #include "screens/side_bar.h"
+#include "screens/staff_screens.h"
 #include "screens/start_screens.h"
 #include "screens/status_bar.h"
 #include "screens/theme.h"
@@ -252,6 +254,9 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
         });
         return new frmNews(*this);
     }
+    case Screen::frmLabelDetails: return new frmLabelDetails(*this, labelOnScreen);
+    case Screen::frmStaffDetails: return new frmStaffDetails(*this, staffOnScreen);
+    case Screen::frmStaffList: return new frmStaffList(*this);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.

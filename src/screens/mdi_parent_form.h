@@ -91,6 +91,9 @@ public:
     void openBand(int16_t band);
     // The chart frmChartForm opens on (0 to 9).
     int chartShown = 0;
+    // The label frmLabelDetails shows and the person frmStaffDetails shows.
+    int16_t labelOnScreen = 0;
+    int16_t staffOnScreen = 0;
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

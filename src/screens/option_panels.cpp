@@ -97,7 +97,8 @@ frmFindOptions::frmFindOptions(mdiParentForm& main, QWidget* parent)
         main.bandListIsShortlist = false;
         main.openScreen(Screen::frmBandList);
     });
-    addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person);
+    addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person,
+             [&main] { main.openScreen(Screen::frmStaffList); });
     addEntry(QStringLiteral("lblLabels"), tr("Labels"), Glyph::label);
     addEntry(QStringLiteral("lblVenues"), tr("Venues"), Glyph::label);
     addEntry(QStringLiteral("lblBusinesses"), tr("Businesses"), Glyph::coins);

@@ -10,6 +10,7 @@
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/option_panels.h"
+#include "screens/staff_screens.h"
 #include "screens/theme.h"
 
 namespace trovane::screens {
@@ -58,8 +59,8 @@ frmSideBar::frmSideBar(mdiParentForm& main, QWidget* panelHost) : main_(main), p
     connect(btnContinueGame, &QPushButton::clicked, this, [this] { main_.continueGame(); });
     connect(btnNews, &QPushButton::clicked, this, [this] { main_.openScreen(Screen::frmNews); });
     connect(btnLabelOptions, &QPushButton::clicked, this, [this] {
-        // frmLabelDetails is not in this version: the button closes the panels and goes nowhere.
-        CloseOtherWindows();
+        main_.labelOnScreen = main_.game().player.playerLabel;
+        main_.openScreen(Screen::frmLabelDetails);
     });
     connect(btnFind, &QPushButton::clicked, this, &frmSideBar::loadFindOptions);
     connect(btnCharts, &QPushButton::clicked, this, &frmSideBar::loadChartOptions);
@@ -141,8 +142,9 @@ bool frmSideBar::eventFilter(QObject* watched, QEvent* event) {
     return QFrame::eventFilter(watched, event);
 }
 
-// The options of what is on screen: for now a band's (Band Details). On a
-// screen with no options (the news, the save screen...) the button does nothing.
+// The options of what is on screen: a band's (Band Details) or a person's
+// (Staff Details, none on the player's own record). On a screen with no
+// options (the news, the save screen...) the button does nothing.
 void frmSideBar::extraOptions() {
     if (extraPanel_ && extraPanel_->isVisible()) {
         CloseOtherWindows();
@@ -152,6 +154,8 @@ void frmSideBar::extraOptions() {
     delete extraPanel_;
     if (main_.game().currentScreen == Screen::frmBandDetails)
         extraPanel_ = makeBandOptions(main_, panelHost_, main_.bandOnScreen);
+    else if (main_.game().currentScreen == Screen::frmStaffDetails)
+        extraPanel_ = makeStaffOptions(main_, panelHost_, main_.staffOnScreen);
     if (extraPanel_) togglePanel(extraPanel_, cmdExtra);
 }
 

@@ -11,6 +11,7 @@
 #include "floor/number_helpers.h"
 #include "floor/preferences.h"
 #include "label/departments.h"
+#include "label/finances.h"
 #include "label/image.h"
 #include "label/label_standing.h"
 #include "live/festivals.h"
@@ -203,6 +204,8 @@ void foundLabel(Game& g, const NewPlayer& player, const LabelChoices& choice) {
     l.name = choice.name;
     l.city = city;
     l.labelStyle = style;
+    // Founded this year: the byte holds the year less 1900.
+    l.founded = narrow<uint8_t>(yearOf(g.gameDate) - 1900);
     l.cashBalance = moneyUnits(1000000);
     l.reputation = newLabelReputation(g, country);
     l.id = narrow<int16_t>(g.label.recordCount());
@@ -342,6 +345,9 @@ void startNewGame(Game& g, StaffRecord player) {
         countLabelBands(g);
         setRivalStrength(g);
         setInitialHype(g);
+        // The heads' wages were set again above: the departments follow them.
+        for (int d = 0; d < 6; ++d) setDepartmentRating(g, d);
+        updateWageBill(g);
         g.label.write(n);
     }
     report(g, 75);
@@ -372,7 +378,9 @@ void startNewGame(Game& g, StaffRecord player) {
     g.staff.read(g.player.playerStaff);
     g.staff->employer = g.player.playerLabel;
     g.staff.write(g.player.playerStaff);
+    writeOpeningLedgerRows(g);
     g.label.read(g.player.playerLabel);
+    g.player.playerLabelCash = g.label->cashBalance;
     g.previousScreen = Screen::none;
     g.currentScreen = Screen::frmNews;
     report(g, 100);

@@ -54,9 +54,6 @@ void pickTitlesForUntitledSongs(Game& g, int16_t band) {
 
 }  // namespace
 
-// Not built yet: staff offers are answered once their rules are written.
-void decideStaffOffer(Game& g) { static_cast<void>(g); }
-
 std::vector<int32_t> offersOnBand(Game& g, int16_t band) {
     refreshOfferIndex(g);
     std::vector<int32_t> out;

@@ -1,5 +1,5 @@
 #pragma once
-// Offers between labels and acts, and between labels and staff.
+// Offers between labels and acts.
 #include <cstdint>
 #include <vector>
 
@@ -7,8 +7,6 @@ namespace trovane {
 
 class Game;
 
-// Schedule type 1: a staff member answers the player's offer.
-void decideStaffOffer(Game& g);
 // Schedule type 4: the band of the entry chooses among the offers of the day.
 void decideOffers(Game& g);
 // Schedule type 5: the band of the entry signs the offer of the entry.

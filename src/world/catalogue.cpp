@@ -59,6 +59,7 @@ constexpr std::array kCatalogue = {
     CatalogueEntry{fileCa, "ca", "ca", 211, perUse},
     CatalogueEntry{fileNewAlbum, "newalbum", "newalbum", 53, inSet},
     CatalogueEntry{fileChartRun, "chartrun", "chartrun", 21, workingOnly},
+    CatalogueEntry{fileLedger, "ledger", "ledger", 142, workingOnly},
     CatalogueEntry{fileTemp, "tmp", "tmp", 0, perUse},
     CatalogueEntry{fileTemp2, "suptmp", "suptmp", 4, perUse},
 };
@@ -68,15 +69,15 @@ constexpr std::array kOpenAllOrder = {
     fileBand,      fileProduct, fileLabel,    fileStaff,    fileLook,    fileAssLook,   fileNewBand,  fileNews,
     fileSchedule,  fileDisc,    fileSong,     fileAssStyle, fileOffer,   fileAssNation, fileBusiness, fileNewSong,
     fileTour,      fileGig,     fileFestival, fileEvent,    fileCrime,   fileAward,     fileCeremony, fileShortlist,
-    fileChartRecs, fileMedia,   fileAchieve,  fileNewAlbum, fileThank,   fileChartRun,
+    fileChartRecs, fileMedia,   fileAchieve,  fileNewAlbum, fileThank,   fileChartRun, fileLedger,
 };
 
-constexpr std::array<std::string_view, 48> kTableSetStems = {
+constexpr std::array<std::string_view, 49> kTableSetStems = {
     "artist",   "band",      "city",      "country", "forename", "job",    "label",    "product",  "staff",  "style",
     "surname",  "venue",     "look",      "asslook", "newband",  "news",   "schedule", "disc",     "song",   "offer",
     "assstyle", "assnation", "business",  "newsong", "tour",     "gig",    "festival", "event",    "crime",  "award",
     "ceremony", "shortlist", "chartrecs", "chart0",  "chart1",   "chart2", "chart3",   "chart4",   "chart5", "chart6",
-    "chart7",   "chart8",    "chart9",    "media",   "achieve",  "thank",  "newalbum", "chartrun",
+    "chart7",   "chart8",    "chart9",    "media",   "achieve",  "thank",  "newalbum", "chartrun", "ledger",
 };
 
 }  // namespace

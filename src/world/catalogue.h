@@ -57,6 +57,7 @@ enum class FileNo : int {
     fileCa = 44,
     fileNewAlbum = 45,
     fileChartRun = 46,
+    fileLedger = 47,
     fileTemp = 100,
     fileTemp2 = 101,
 };

@@ -36,6 +36,9 @@ enum class Screen {
     frmBandDetails,
     frmBandList,
     frmBandContract,
+    frmLabelDetails,
+    frmStaffDetails,
+    frmStaffList,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
@@ -77,7 +80,8 @@ enum class Screen {
     X(achieve, AchievementRecord, fileAchieve)   \
     X(newalbum, NewAlbumRecord, fileNewAlbum)    \
     X(thank, ThankRecord, fileThank)             \
-    X(chartrun, ChartRunRecord, fileChartRun)
+    X(chartrun, ChartRunRecord, fileChartRun)    \
+    X(ledger, LedgerRecord, fileLedger)
 
 // Tables opened by the operation that needs them and closed right after.
 #define TROVANE_PER_USE_TABLES(X)                \

@@ -146,6 +146,7 @@ decltype(auto) withRecordType(FileNo n, F&& f) {
     case fileHighScore: return f(std::type_identity<HighScoreRecord>{});
     case fileNewAlbum: return f(std::type_identity<NewAlbumRecord>{});
     case fileChartRun: return f(std::type_identity<ChartRunRecord>{});
+    case fileLedger: return f(std::type_identity<LedgerRecord>{});
     case fileTemp2: return f(std::type_identity<Scratch4Record>{});
     case fileTemp: break;
     }

@@ -15,7 +15,7 @@ namespace {
 bool createdEmptyWhenMissing(FileNo n) {
     using enum FileNo;
     return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist || n == fileChartRecs ||
-           n == fileChartRun;
+           n == fileChartRun || n == fileLedger;
 }
 
 void copyFile(const fs::path& from, const fs::path& to) {

@@ -4,6 +4,7 @@
 #include "world/records/chartrun_records.h"
 #include "world/records/events_records.h"
 #include "world/records/label_records.h"
+#include "world/records/ledger_records.h"
 #include "world/records/live_records.h"
 #include "world/records/production_records.h"
 #include "world/records/reference_records.h"

@@ -70,19 +70,6 @@ ListFormRules<StaffRecord> staffSpec(std::shared_ptr<IndustryBook> book) {
             }};
 }
 
-// A department pays its staff by level, best first. Each level's pay is a
-// 16-bit figure in the game, so the count at a level is bounded by it.
-constexpr std::array<int32_t, 5> kLevelPay = {1500, 1350, 1200, 1100, 1000};
-
-Money departmentWages(const Department& d, std::span<const Compiled<StaffRecord>> staff) {
-    int64_t pay = 0;
-    for (std::size_t i = 0; i < kLevelPay.size(); ++i) pay += d.staffAtLevel[i] * kLevelPay[i];
-    Money wages = moneyUnits(pay);
-    if (d.head > 0 && static_cast<std::size_t>(d.head) <= staff.size())
-        wages += staff[static_cast<std::size_t>(d.head - 1)].rec.wage;
-    return wages;
-}
-
 void checkLabel(FieldReader& r, const toml::table& t, int64_t line, const LabelRecord& rec) {
     if (rec.minControversy > rec.maxControversy) r.problemAt(line, "`minControversy` is above `maxControversy`");
     const toml::node* n = t.get("department");
@@ -94,8 +81,8 @@ void checkLabel(FieldReader& r, const toml::table& t, int64_t line, const LabelR
         return;
     }
     for (std::size_t d = 0; d < kDepartmentNames.size(); ++d)
-        for (std::size_t level = 0; level < kLevelPay.size(); ++level) {
-            int32_t most = INT16_MAX / kLevelPay[level];
+        for (std::size_t level = 0; level < kLevelBounds.size(); ++level) {
+            int32_t most = kLevelBounds[level];
             if (rec.department[d].staffAtLevel[level] > most)
                 r.problem((*departments)[d],
                           fmt::format("{}: {} staff at level {}; the wages of a level hold at most {}",
@@ -116,12 +103,13 @@ void deriveLabels(const IndustryBook& book, std::span<Compiled<LabelRecord>> lab
         countLabelBands(g);
         setRivalStrength(g);
         setInitialHype(g);
-        Money wageBill = 0;
-        for (std::size_t d = 0; d < kDepartmentNames.size(); ++d) {
-            setDepartmentRating(g, static_cast<int>(d));
-            wageBill += departmentWages(g.label->department[d], book.staff);
-        }
-        g.label->wageBill = wageBill;
+        for (std::size_t d = 0; d < kDepartmentNames.size(); ++d) setDepartmentRating(g, static_cast<int>(d));
+        // A count past its bound is reported by the label's check; its wages cannot be worked out.
+        bool withinBounds = true;
+        for (const Department& dep : g.label->department)
+            for (std::size_t level = 0; level < kLevelBounds.size(); ++level)
+                withinBounds = withinBounds && dep.staffAtLevel[level] <= kLevelBounds[level];
+        if (withinBounds) updateWageBill(g);
         labels[i].rec = g.label.rec;
     }
 }

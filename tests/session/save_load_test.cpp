@@ -71,7 +71,7 @@ protected:
 TEST_F(SaveSlots, SaveLoadAndSaveAgainGiveIdenticalFiles) {
     saveGame(g, 2, "First save");
     auto firstSave = filesWithExt(g.dataDir, "sg2");
-    EXPECT_EQ(firstSave.size(), 48u + 3u + 1u);  // the table set, 2004 to 2006, svar
+    EXPECT_EQ(firstSave.size(), 49u + 3u + 1u);  // the table set, 2004 to 2006, svar
     loadGame(g, 2);
     saveGame(g, 3, "First save");
     auto secondSave = filesWithExt(g.dataDir, "sg3");

@@ -266,6 +266,7 @@ const std::map<std::string_view, std::vector<FieldAt>>& fileOffsets() {
         {"NewAlbumRecord", {{"id", 0}, {"style", 2}, {"title", 3}}},
         {"ChartRunRecord", {{"id", 0}, {"week", 4}, {"chart", 12}, {"position", 13}, {"disc", 15}, {"sales", 17}}},
         {"Scratch4Record", {{"value", 0}}},
+        {"LedgerRecord", {{"id", 0}, {"label", 4}, {"date", 6}, {"figures", 14}, {"cash", 134}}},
     };
     return offsets;
 }

@@ -22,6 +22,6 @@ using AllRecords =
                BusinessRecord, NewSongRecord, PrefsRecord, SvarRecord, PlayerBlock, TourRecord, GigRecord,
                FestivalRecord, EventRecord, EventCondition, CrimeRecord, AwardRecord, CeremonyRecord, ShortlistRecord,
                ChartRow, ChartRecords, ChartHolder, MediaRecord, AchievementRecord, ThankRecord, FactRecord,
-               HighScoreRecord, NewAlbumRecord, Scratch4Record, ChartRunRecord>;
+               HighScoreRecord, NewAlbumRecord, Scratch4Record, ChartRunRecord, LedgerRecord>;
 
 }  // namespace trovane::test

@@ -1,0 +1,264 @@
+// The books over time: interest, Friday wages, the month ends and the year
+// end, and the history each close leaves behind.
+#include <gtest/gtest.h>
+
+#include "day/daily_cycle.h"
+#include "label/departments.h"
+#include "label/finances.h"
+#include "session/invariants.h"
+#include "support/empty_game.h"
+#include "world/dates.h"
+
+using namespace trovane;
+
+namespace {
+
+Money units(int64_t whole) { return moneyUnits(whole); }
+
+int16_t addLabel(Game& g, Money cash, int financeRating = 0) {
+    g.label.rec = LabelRecord{};
+    g.label->name = "Ledger Records";
+    g.label->cashBalance = cash;
+    g.label->department[financeAndLaw].rating = static_cast<uint8_t>(financeRating);
+    return static_cast<int16_t>(g.label.append());
+}
+
+}  // namespace
+
+TEST(Interest, NothingAtOrBelowNothingOrWithoutAFinanceDepartment) {
+    EXPECT_EQ(monthlyInterest(0, 85), 0);
+    EXPECT_EQ(monthlyInterest(-units(5000), 85), 0);
+    EXPECT_EQ(monthlyInterest(units(5000), 0), 0);
+    EXPECT_EQ(monthlyInterest(1, 85), 0);  // 7225 / 1,000,000 of a unit rounds away
+}
+
+TEST(Interest, RatingEightyFiveEarnsPointSevenTwoTwoFivePercent) {
+    // 1000.0000 = 10,000,000 ten-thousandths; x 85^2 = 7225 / 1,000,000 = 72,250 = 7.2250
+    EXPECT_EQ(monthlyInterest(units(1000), 85), 72'250);
+    // Halves go to the even: 200 x 2500 / 1e6 = 0.5 -> 0; 600 x 2500 / 1e6 = 1.5 -> 2; 201 x 2500 = 0.5025 -> 1
+    EXPECT_EQ(monthlyInterest(200, 50), 0);
+    EXPECT_EQ(monthlyInterest(600, 50), 2);
+    EXPECT_EQ(monthlyInterest(201, 50), 1);
+}
+
+TEST(Interest, IsBookedAsInvestmentsOnlyWhenThereIsSome) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, units(1000), 85);
+    payInterest(g);
+    g.label.read(1);
+    EXPECT_EQ(g.label->cashBalance, units(1000) + 72'250);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerInvestments), 72'250);
+
+    addLabel(g, 0, 85);
+    payInterest(g);
+    g.label.read(2);
+    EXPECT_EQ(g.label->cashBalance, 0);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerInvestments), 0);
+}
+
+TEST(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, units(100));
+    g.label->wageBill = units(1500);
+    g.label.write();
+    addLabel(g, -units(50));
+    g.label->wageBill = units(2700);
+    g.label.write();
+    takeLabelWages(g);
+    g.label.read(1);
+    EXPECT_EQ(g.label->cashBalance, -units(1400));
+    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerWages), -units(1500));  // expenses are booked below 0
+    g.label.read(2);
+    EXPECT_EQ(g.label->cashBalance, -units(2750));
+    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerWages), -units(2700));
+}
+
+TEST(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, units(10'000), 10);  // 1% of 1% a month: 10,000 x 100 / 1e6 = 1.0000
+    g.gameDate = serialFromCivil(2004, 12, 1);
+    updateLabelFinances(g);
+    g.label.read(1);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerInvestments), units(1)) << "1 December keeps the year";
+
+    g.gameDate = serialFromCivil(2004, 12, 31);
+    updateLabelFinances(g);  // 10,001 x 100 / 1e6 = 1.0001
+    g.label.read(1);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 1, ledgerInvestments), 10'001);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerInvestments), 0) << "31 December clears the year";
+
+    g.gameDate = serialFromCivil(2005, 1, 1);
+    updateLabelFinances(g);  // 10,002.0001 x 100 / 1e6 = 1.00020001 -> 1.0002
+    g.label.read(1);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 1, ledgerInvestments), 10'002);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerInvestments), 10'002) << "1 January's interest starts the year";
+    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerInvestments), 0);
+    EXPECT_EQ(g.label->cashBalance, units(10'003) + 3);
+}
+
+// Played day by day from Thursday 5 August 2004 to 2 January 2005: wages of
+// 1,500 on each of 22 Fridays, the Friday the 1st of October and Friday 31
+// December falling in the month that closes that day.
+TEST(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, units(50'000));
+    g.player.playerLabel = 1;
+    g.label->department[marketing].staffAtLevel[0] = 1;  // 1,500 a week; weighted 5, rating 0
+    g.label->wageBill = units(1500);
+    g.label.write();
+    g.player.playerLabelCash = units(50'000);
+    addExpense(g, units(25), ledgerRoyaltiesPaid);
+    writeOpeningLedgerRows(g);
+    ASSERT_EQ(g.gameDate, serialFromCivil(2004, 8, 5));
+    while (g.gameDate < serialFromCivil(2005, 1, 2)) {
+        ASSERT_TRUE(allRepliesGiven(g));
+        checkDaysSchedule(g);
+        auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << describeBreak(*broken);
+    }
+    struct Row {
+        double date;
+        int fridays;
+    };
+    const Row closes[] = {{serialFromCivil(2004, 9, 1), 4},   {serialFromCivil(2004, 10, 1), 5},
+                          {serialFromCivil(2004, 11, 1), 4},  {serialFromCivil(2004, 12, 1), 4},
+                          {serialFromCivil(2004, 12, 31), 5}, {serialFromCivil(2005, 1, 1), 0}};
+    ASSERT_EQ(g.ledger.recordCount(), 1 + 1 + 6);
+    for (int i = 0; i < 6; ++i) {
+        g.ledger.read(i + 2);
+        EXPECT_EQ(g.ledger->date, closes[i].date) << i;
+        EXPECT_EQ(g.ledger->figures.expense[0], -units(1500) * closes[i].fridays) << i;
+        EXPECT_EQ(g.ledger->figures.expense[ledgerRoyaltiesPaid - ledgerWages], -units(25)) << "carried, row " << i;
+    }
+    g.label.read(1);
+    // 50,000 - 25 - 22 x 1,500 = 16,975
+    EXPECT_EQ(g.label->cashBalance, units(16'975));
+    EXPECT_EQ(g.ledger->cash, units(16'975));
+    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerWages), 0);
+    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerRoyaltiesPaid), -units(25)) << "the year end leaves royalties";
+    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerRoyaltiesPaid), -units(25));
+}
+
+TEST(MonthEnd, AYearClosesThirteenTimes) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, units(100));
+    g.player.playerLabel = 1;
+    g.player.playerLabelCash = units(100);
+    writeOpeningLedgerRows(g);
+    while (g.gameDate < serialFromCivil(2006, 1, 2)) checkDaysSchedule(g);
+    int closes2005 = 0;
+    for (int32_t n = 2; n != g.ledger.recordCount(); ++n) {
+        g.ledger.read(n);
+        if (yearOf(g.ledger->date) == 2005) ++closes2005;
+    }
+    EXPECT_EQ(closes2005, 13);  // the twelve firsts and 31 December
+}
+
+TEST(LabelReputation, IsTheFiveMarketsAdded) {
+    LabelRecord l{};
+    l.reputation = {40, 15, 20, 10, 5};
+    EXPECT_EQ(labelReputationSum(l), 90);
+}
+
+TEST(DepartmentWages, TwentyOneAtTheBestLevelFitTwentyTwoOverflow) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label->department[security].staffAtLevel = {21, 0, 0, 0, 32};
+    EXPECT_EQ(departmentWages(g, security), units(21 * 1500 + 32 * 1000));  // 31,500 + 32,000
+    g.label->department[security].staffAtLevel[0] = 22;                     // 33,000 passes 32,767
+    EXPECT_THROW(departmentWages(g, security), FatalError);
+}
+
+TEST(DepartmentWages, TheBillAddsEveryDepartmentAndItsHead) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.staff.rec = StaffRecord{};
+    g.staff->wage = units(420);
+    int16_t head = static_cast<int16_t>(g.staff.append());
+    g.label->department[artistAndRepertoire].staffAtLevel = {1, 1, 1, 1, 1};  // 6,150
+    g.label->department[security].staffAtLevel = {0, 0, 0, 0, 2};             // 2,000
+    g.label->department[hospitality].head = head;                             // 420
+    updateWageBill(g);
+    EXPECT_EQ(g.label->wageBill, units(8570));
+}
+
+TEST(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    Department& dep = g.label->department[publicRelations];
+    dep.staffAtLevel = {2, 0, 0, 0, 0};  // weighted 10 -> 8
+    setDepartmentRating(g, publicRelations);
+    EXPECT_EQ(dep.rating, 8);
+    dep.staffAtLevel = {1, 0, 0, 0, 0};  // weighted 5 -> 0
+    setDepartmentRating(g, publicRelations);
+    EXPECT_EQ(dep.rating, 0);
+    dep.staffAtLevel = {21, 24, 0, 0, 0};  // weighted 201 -> 160, held at 80
+    setDepartmentRating(g, publicRelations);
+    EXPECT_EQ(dep.rating, 80);
+
+    g.staff.rec = StaffRecord{};
+    g.staff->ability = 50;
+    dep.head = static_cast<int16_t>(g.staff.append());
+    dep.staffAtLevel = {2, 0, 0, 0, 0};
+    setDepartmentRating(g, publicRelations);
+    EXPECT_EQ(dep.rating, 10);  // 8 + 2.5 = 10.5, to the even 10
+    g.staff.read(dep.head);
+    g.staff->ability = 70;
+    g.staff.write();
+    setDepartmentRating(g, publicRelations);
+    EXPECT_EQ(dep.rating, 12);  // 8 + 3.5 = 11.5, to the even 12
+}
+
+TEST(DepartmentLevels, TheSliderBoundsAreTheWagesBounds) {
+    EXPECT_EQ(checkDepartmentLevels(0, {21, 24, 27, 29, 32}), "");
+    EXPECT_NE(checkDepartmentLevels(0, {22, 0, 0, 0, 0}), "");
+    EXPECT_NE(checkDepartmentLevels(0, {0, 25, 0, 0, 0}), "");
+    EXPECT_NE(checkDepartmentLevels(0, {0, 0, 28, 0, 0}), "");
+    EXPECT_NE(checkDepartmentLevels(0, {0, 0, 0, 30, 0}), "");
+    EXPECT_NE(checkDepartmentLevels(0, {0, 0, 0, 0, 33}), "");
+    EXPECT_NE(checkDepartmentLevels(0, {-1, 0, 0, 0, 0}), "");
+    EXPECT_NE(checkDepartmentLevels(6, {0, 0, 0, 0, 0}), "");
+}
+
+TEST(DepartmentLevels, LockingWritesCountsRatingAndBill) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    addLabel(g, 0);
+    g.player.playerLabel = 1;
+    setDepartmentLevels(g, financeAndLaw, {4, 0, 0, 0, 1});  // weighted 21 -> 16; 6,000 + 1,000
+    g.label.read(1);
+    EXPECT_EQ(g.label->department[financeAndLaw].staffAtLevel[0], 4);
+    EXPECT_EQ(g.label->department[financeAndLaw].rating, 16);
+    EXPECT_EQ(g.label->wageBill, units(7000));
+}
+
+TEST(DepartmentError, APerfectDepartmentReadsTrue) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label->department[marketing].rating = 100;
+    for (int value : {0, 1, 37, 99, 100}) EXPECT_EQ(applyDepartmentError(g, value, marketing), value);
+}
+
+TEST(DepartmentError, AnEmptyDepartmentMovesTheValueByTwoWholePercentDraws) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label->department[artistAndRepertoire].rating = 0;
+    // Seed 7 draws 0.7544 and 0.9493: e1 = 75, e2 = 94; 60 + 45 - round(56.4) = 49
+    g.rng.seed(7);
+    EXPECT_EQ(applyDepartmentError(g, 60, artistAndRepertoire), 49);
+    // Seed 5 draws 0.6731 and 0.0385: e1 = 67, e2 = 3; 40 + round(26.8) - round(1.2) = 66
+    g.rng.seed(5);
+    EXPECT_EQ(applyDepartmentError(g, 40, artistAndRepertoire), 66);
+    // and 90 + round(60.3) - round(2.7) = 147, held at 100
+    g.rng.seed(5);
+    EXPECT_EQ(applyDepartmentError(g, 90, artistAndRepertoire), 100);
+    // At rating 50 the draws span half: e1 = Int(0.7544 x 50) = 37, e2 = 47; 60 + round(22.2) - round(28.2) = 54
+    g.label->department[artistAndRepertoire].rating = 50;
+    g.rng.seed(7);
+    EXPECT_EQ(applyDepartmentError(g, 60, artistAndRepertoire), 54);
+}

@@ -1,0 +1,326 @@
+// Heads of department: the offer and its answer, the hire, the release and
+// its news, and the withdrawal of an offer.
+#include <gtest/gtest.h>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "label/departments.h"
+#include "label/finances.h"
+#include "label/staff.h"
+#include "session/invariants.h"
+#include "support/empty_game.h"
+#include "world/dates.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+Money units(int64_t whole) { return moneyUnits(whole); }
+
+struct StaffGame : ::testing::Test {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    int16_t label = 0;
+
+    void SetUp() override {
+        g.prefs->exchangeRate = 1;
+        g.prefs->currencySymbol = "£";
+        g.staff.rec = StaffRecord{};
+        g.staff->forename = "Pat";
+        g.staff->surname = "Boss";
+        g.player.playerStaff = static_cast<int16_t>(g.staff.append());
+        g.label.rec = LabelRecord{};
+        g.label->name = "Kettle Records";
+        g.label->boss = g.player.playerStaff;
+        label = static_cast<int16_t>(g.label.append());
+        g.player.playerLabel = label;
+        g.staff.read(g.player.playerStaff);
+        g.staff->employer = label;
+        g.staff.write();
+        writeOpeningLedgerRows(g);
+    }
+
+    int16_t person(const std::string& forename, Money wage, bool male = true, uint8_t style = 0, uint8_t ability = 60) {
+        g.staff.rec = StaffRecord{};
+        g.staff->forename = forename;
+        g.staff->surname = "Smith";
+        g.staff->male = male ? kTrue : kFalse;
+        g.staff->wage = wage;
+        g.staff->ability = ability;
+        g.staff->aptitude[9] = style;
+        return static_cast<int16_t>(g.staff.append());
+    }
+
+    void playDay() {
+        ASSERT_TRUE(allRepliesGiven(g));
+        checkDaysSchedule(g);
+        auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << describeBreak(*broken);
+    }
+
+    std::string lastTitle() {
+        g.news.read(g.news.recordCount() - 1);
+        return trim(g.news->title.value);
+    }
+    std::string lastText() {
+        g.news.read(g.news.recordCount() - 1);
+        return trim(g.news->text.value);
+    }
+};
+
+}  // namespace
+
+TEST_F(StaffGame, AnOfferAtExactlyNineTenthsIsTakenAndOneUnitLessIsNot) {
+    int16_t ann = person("Ann", units(1000), true, 3);
+    approachStaff(g, ann, marketing, 900, 3);  // label of all styles: 1,000 less a tenth = 900
+    int16_t bob = person("Bob", units(1000));
+    approachStaff(g, bob, security, 900, 3);
+    g.staff.read(bob);
+    g.staff->offerWage -= 1;  // 899.9999
+    g.staff.write();
+    for (int i = 0; i < 8; ++i) playDay();  // the answers come a week on
+    g.staff.read(ann);
+    EXPECT_EQ(g.staff->offerLabel, label) << "an accepted offer stands until the deal";
+    g.staff.read(bob);
+    EXPECT_EQ(g.staff->offerLabel, 0);
+    EXPECT_EQ(g.staff->offerWage, 0);
+    EXPECT_EQ(lastTitle(), "Bob Smith rejects Kettle Records's contract offer");
+    g.news.read(g.news.recordCount() - 2);
+    EXPECT_EQ(trim(g.news->title.value), "Ann Smith agrees terms with Kettle Records.");
+    EXPECT_EQ(g.news->mustReply, kTrue);
+    g.schedule.read(g.news->scheduleLink);
+    EXPECT_EQ(g.schedule->type, 1);
+    EXPECT_EQ(g.schedule->staff, ann);
+}
+
+TEST_F(StaffGame, ALabelOfAnotherStyleMustOfferATenthMore) {
+    g.label.read(label);
+    g.label->labelStyle = 4;
+    g.label.write();
+    int16_t fan = person("Fan", units(1000), true, 4);    // likes the label's style: 900 is enough
+    int16_t far = person("Far", units(1000), true, 7);    // 1,100 exactly is enough
+    int16_t near = person("Near", units(1000), true, 7);  // 1,099 is not
+    approachStaff(g, fan, 0, 900, 1);
+    approachStaff(g, far, 1, 1100, 1);
+    approachStaff(g, near, 2, 1099, 1);
+    for (int i = 0; i < 8; ++i) playDay();
+    g.staff.read(fan);
+    EXPECT_EQ(g.staff->offerLabel, label);
+    g.staff.read(far);
+    EXPECT_EQ(g.staff->offerLabel, label);
+    g.staff.read(near);
+    EXPECT_EQ(g.staff->offerLabel, 0);
+}
+
+TEST_F(StaffGame, AYesHiresThePersonIntoTheDepartmentOnTheOfferedTerms) {
+    int16_t ann = person("Ann", units(1000), false, 0, 70);
+    g.label.read(label);
+    g.label->department[marketing].staffAtLevel = {2, 0, 0, 0, 0};
+    g.label->department[marketing].rating = 8;
+    g.label->wageBill = units(3000);
+    g.label.write();
+    approachStaff(g, ann, marketing, 950, 4);
+    for (int i = 0; i < 8; ++i) playDay();
+    const double today = g.gameDate;  // Friday 13 August 2004
+    g.news.read(g.news.recordCount() - 1);
+    pressNewsCmd1(g);
+    playDay();
+
+    g.staff.read(ann);
+    EXPECT_EQ(g.staff->employer, label);
+    EXPECT_EQ(g.staff->department, marketing);
+    EXPECT_EQ(g.staff->hiredOn, today - 1);
+    EXPECT_EQ(g.staff->contractEnd, serialFromCivil(2008, 8, 13));
+    EXPECT_EQ(g.staff->wage, units(950));
+    EXPECT_EQ(g.staff->offerLabel, 0);
+    g.label.read(label);
+    EXPECT_EQ(g.label->department[marketing].head, ann);
+    EXPECT_EQ(g.label->department[marketing].rating, 12);  // 8 + 70 / 20 = 11.5, to the even 12
+    EXPECT_EQ(g.label->wageBill, units(3950));
+    EXPECT_EQ(lastTitle(), "Ann Smith hired by Kettle Records.");
+    EXPECT_NE(lastText().find("Ann Smith announced she was looking forward"), std::string::npos);
+}
+
+TEST_F(StaffGame, APostTakenBeforeTheHireRunsMakesTheDealFallThrough) {
+    int16_t ann = person("Ann", units(1000));
+    int16_t bob = person("Bob", units(1000));
+    approachStaff(g, ann, hospitality, 1000, 2);
+    approachStaff(g, bob, hospitality, 1000, 2);
+    for (int i = 0; i < 8; ++i) playDay();
+    for (int32_t n = 1; n != g.news.recordCount(); ++n) {
+        g.news.read(n);
+        if (g.news->mustReply == kTrue) pressNewsCmd1(g);
+    }
+    playDay();  // both hires run today: Ann's was filed first
+    g.label.read(label);
+    EXPECT_EQ(g.label->department[hospitality].head, ann);
+    g.staff.read(bob);
+    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_EQ(g.staff->offerLabel, 0);
+    EXPECT_EQ(lastTitle(), "Bob Smith deal falls through.");
+    EXPECT_EQ(lastText(),
+              "Bob Smith's proposed move into a new role as Head of Hospitality at Kettle Records has fallen through. "
+              "A spokesperson for the company has revealed there was no longer a position for Bob Smith.");
+}
+
+TEST_F(StaffGame, AWithdrawalCancelsTheAnswerAndClearsTheOffer) {
+    int16_t ann = person("Ann", units(1000));
+    EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "no offer yet";
+    approachStaff(g, ann, security, 1000, 2);
+    EXPECT_NE(checkApproachStaff(g, ann), "") << "an offer is pending";
+    EXPECT_EQ(checkWithdrawStaffOffer(g, ann), "");
+    withdrawStaffOffer(g, ann);
+    g.staff.read(ann);
+    EXPECT_EQ(g.staff->offerLabel, 0);
+    g.schedule.read(1);
+    EXPECT_EQ(g.schedule->type, 255);
+    for (int i = 0; i < 8; ++i) playDay();
+    EXPECT_EQ(g.news.recordCount(), 1) << "no answer comes";
+}
+
+TEST_F(StaffGame, AWithdrawalIsRefusedOnTheDecisionDayAndWhileTheHireIsPending) {
+    int16_t ann = person("Ann", units(1000));
+    approachStaff(g, ann, security, 1000, 2);
+    for (int i = 0; i < 6; ++i) playDay();
+    EXPECT_EQ(checkWithdrawStaffOffer(g, ann), "") << "the day before";
+    playDay();
+    EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "the decision day";
+    playDay();
+    g.news.read(g.news.recordCount() - 1);
+    pressNewsCmd1(g);
+    EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "the hire is filed";
+}
+
+TEST_F(StaffGame, ANoToAgreedTermsLeavesTheOfferUntilWithdrawn) {
+    int16_t ann = person("Ann", units(1000));
+    approachStaff(g, ann, security, 1000, 2);
+    for (int i = 0; i < 8; ++i) playDay();
+    g.news.read(g.news.recordCount() - 1);
+    pressNewsCmd2(g);
+    playDay();
+    g.staff.read(ann);
+    EXPECT_EQ(g.staff->offerLabel, label);
+    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_NE(checkApproachStaff(g, ann), "");
+    ASSERT_EQ(checkWithdrawStaffOffer(g, ann), "");
+    withdrawStaffOffer(g, ann);
+    EXPECT_EQ(checkApproachStaff(g, ann), "");
+}
+
+TEST_F(StaffGame, ApproachIsRefusedForTheEmployedAndThePlayer) {
+    EXPECT_NE(checkApproachStaff(g, g.player.playerStaff), "");
+    int16_t taken = person("Taken", units(500));
+    g.staff->employer = label;
+    g.staff.write();
+    EXPECT_EQ(checkApproachStaff(g, taken), "Taken Smith already works for Kettle Records.");
+    int16_t free = person("Free", units(500));
+    g.staff->offerLabel = 9;  // an old offer of another label goes with the approach
+    g.staff.write();
+    EXPECT_EQ(checkApproachStaff(g, free), "");
+    approachStaff(g, free, 0, 600, 5);
+    g.staff.read(free);
+    EXPECT_EQ(g.staff->offerLabel, label);
+    EXPECT_EQ(g.staff->offerYears, 5);
+    EXPECT_EQ(g.staff->offerWage, units(600));
+}
+
+TEST_F(StaffGame, AReleasedHeadLeavesTheDepartmentAndAsksTheMarketRate) {
+    int16_t ann = person("Ann", units(2000), false, 0, 52);
+    g.staff->reputation = {33, 33, 33, 33, 33};  // standing 33: 33 x 2 x 52 x 32 / 52 = 2,112
+    g.staff->employer = label;
+    g.staff->department = financeAndLaw;
+    g.staff->hiredOn = serialFromCivil(2004, 7, 31);
+    g.staff.write();
+    g.label.read(label);
+    g.label->department[financeAndLaw].head = ann;
+    g.label->department[financeAndLaw].rating = 3;  // 52 / 20 = 2.6 -> 3
+    g.label->wageBill = units(2000);
+    g.label.write();
+    EXPECT_EQ(checkTerminateStaff(g, ann), "");
+    terminateStaff(g, ann);
+    EXPECT_NE(checkTerminateStaff(g, ann), "") << "already on notice";
+    playDay();
+    g.staff.read(ann);
+    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_EQ(g.staff->wage, units(2112));
+    g.label.read(label);
+    EXPECT_EQ(g.label->department[financeAndLaw].head, 0);
+    EXPECT_EQ(g.label->department[financeAndLaw].rating, 0);
+    EXPECT_EQ(g.label->wageBill, 0);
+    EXPECT_EQ(lastTitle(), "Ann Smith released by Kettle Records.");
+    // July to August is one calendar month, though only five days.
+    EXPECT_NE(lastText().find("after only 1 months in the job"), std::string::npos);
+}
+
+TEST_F(StaffGame, AFormerBossHeadsNothingAndGoesWithoutTouchingADepartment) {
+    int16_t old = person("Old", units(800));
+    g.staff->employer = label;
+    g.staff->department = security;
+    g.staff.write();
+    int16_t head = person("Head", units(300));
+    g.staff->employer = label;
+    g.staff->department = security;
+    g.staff.write();
+    g.label.read(label);
+    g.label->department[security].head = head;
+    g.label->department[security].rating = 3;
+    g.label->wageBill = units(300);
+    g.label.write();
+    terminateStaff(g, old);
+    playDay();
+    g.label.read(label);
+    EXPECT_EQ(g.label->department[security].head, head);
+    g.staff.read(old);
+    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_NE(checkTerminateStaff(g, old), "") << "no longer works there";
+}
+
+TEST(CalendarMonths, CountMonthsNotDays) {
+    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2004, 1, 31), serialFromCivil(2004, 2, 1)), 1);
+    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2004, 1, 1), serialFromCivil(2004, 1, 31)), 0);
+    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2003, 12, 15), serialFromCivil(2005, 1, 2)), 13);
+}
+
+struct ReleaseCase {
+    int months;
+    std::string text;
+};
+
+class ReleaseNewsText : public ::testing::TestWithParam<ReleaseCase> {};
+
+TEST_P(ReleaseNewsText, FollowsTheMonthsServed) {
+    ReleaseNews n = releaseNews("Jo Reed", false, "Kettle Records", "Pat Boss", GetParam().months);
+    EXPECT_EQ(n.title, "Jo Reed released by Kettle Records.");
+    EXPECT_EQ(n.text, GetParam().text);
+}
+
+namespace {
+std::string furious(const std::string& time) {
+    return "A furious Jo Reed said she felt betrayed by his treatment at the hands of Kettle Records boss Pat Boss. "
+           "The sensational outburst came as news broke that her contract had been terminated after " +
+           time + " in the job.";
+}
+const std::string kTerminated =
+    "Jo Reed's contract has been terminated a spokesperson for Kettle Records announced today, adding that Jo Reed "
+    "had done all she could for the label.";
+std::string parted(const std::string& time) {
+    return "Jo Reed parted ways with Kettle Records after " + time +
+           " together. After working so well together it is believed the split is because Jo Reed and label boss "
+           "Pat Boss have developed conflicting views on how the label should move forward.";
+}
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(
+    Months, ReleaseNewsText,
+    ::testing::Values(ReleaseCase{0, furious("less than a month")}, ReleaseCase{1, furious("only 1 months")},
+                      ReleaseCase{3, furious("only 3 months")}, ReleaseCase{4, kTerminated},
+                      ReleaseCase{11, kTerminated}, ReleaseCase{12, parted("over a year")},
+                      ReleaseCase{23, parted("over a year")}, ReleaseCase{24, parted("over 2 years")},
+                      ReleaseCase{36, parted("over 2 years")}, ReleaseCase{37, parted("a number of years")}));
+
+TEST(ReleaseNewsText, AManIsHeAndHis) {
+    ReleaseNews n = releaseNews("Al Reed", true, "K", "B", 0);
+    EXPECT_NE(n.text.find("said he felt betrayed by his treatment"), std::string::npos);
+    EXPECT_NE(n.text.find("that his contract"), std::string::npos);
+}

@@ -1,0 +1,125 @@
+// A whole stretch of play on a taken-over label: a head released, two hired,
+// a department restaffed, five months played to 2 January 2005 with the
+// invariants checked after every day, and the books surviving a save and load.
+#include <gtest/gtest.h>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "floor/preferences.h"
+#include "label/departments.h"
+#include "label/staff.h"
+#include "session/invariants.h"
+#include "session/new_game.h"
+#include "session/save_load.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/dates.h"
+#include "world/record_store.h"
+
+using namespace trovane;
+
+namespace {
+
+class TakenOverLabel : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    Game g{folder.path(), 2024};
+    int16_t label = 1, formerBoss = 0, oldHead = 0, ann = 0, bob = 0;
+
+    int16_t addStaff(const char* forename, int16_t employer, uint8_t department, uint8_t ability) {
+        g.staff.rec = StaffRecord{};
+        g.staff->forename = forename;
+        g.staff->surname = "Gray";
+        g.staff->male = kTrue;
+        g.staff->ability = ability;
+        g.staff->reputation = {30, 20, 20, 10, 10};
+        g.staff->employer = employer;
+        g.staff->department = department;
+        g.staff->hiredOn = serialFromCivil(2002, 3, 1);
+        return static_cast<int16_t>(g.staff.append());
+    }
+
+    void SetUp() override {
+        test::writeTinyBaseWorld(folder.path());
+        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
+        readPrefs(g);
+        beginNewGame(g);
+        g.label.read(label);
+        formerBoss = g.label->boss;
+        oldHead = addStaff("Olly", label, marketing, 60);
+        ann = addStaff("Ann", 0, 0, 80);
+        bob = addStaff("Bob", 0, 0, 40);
+        g.label.read(label);
+        g.label->department[marketing].head = oldHead;
+        g.label->department[security].staffAtLevel = {2, 3, 0, 0, 1};
+        g.label.write();
+        PlayerChoices p;
+        p.forename = "Kim";
+        p.surname = "Rowe";
+        p.nationality = "Scottish";
+        takeOverLabel(g, confirmPlayer(g, p), label);
+    }
+    void TearDown() override { closeAllTables(g); }
+
+    void playDay() {
+        for (int held = 0; !allRepliesGiven(g); ++held) {
+            ASSERT_LT(held, 20);
+            pressNewsCmd1(g);  // every held question is answered yes
+        }
+        checkDaysSchedule(g);
+        auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << formatDayForFailure() << describeBreak(*broken);
+    }
+    std::string formatDayForFailure() { return "after the day before " + std::to_string(g.gameDate) + ": "; }
+};
+
+}  // namespace
+
+TEST_F(TakenOverLabel, PlaysToTheNewYearWithItsBooksAndStaffInOrder) {
+    auto broken = checkInvariants(g);
+    ASSERT_FALSE(broken) << "the new game: " << describeBreak(*broken);
+
+    ASSERT_EQ(checkTerminateStaff(g, oldHead), "");
+    terminateStaff(g, oldHead);
+    ASSERT_NO_FATAL_FAILURE(playDay());
+    g.label.read(label);
+    EXPECT_EQ(g.label->department[marketing].head, 0);
+
+    ASSERT_EQ(checkApproachStaff(g, ann), "");
+    g.staff.read(ann);
+    approachStaff(g, ann, marketing, 10 * 1000, 3);  // well above any asked wage
+    approachStaff(g, bob, financeAndLaw, 10 * 1000, 2);
+    for (int i = 0; i < 10; ++i) ASSERT_NO_FATAL_FAILURE(playDay());
+
+    ASSERT_EQ(checkDepartmentLevels(security, {0, 0, 4, 0, 0}), "");
+    setDepartmentLevels(g, security, {0, 0, 4, 0, 0});
+    while (g.gameDate < serialFromCivil(2005, 1, 2)) ASSERT_NO_FATAL_FAILURE(playDay());
+
+    g.label.read(label);
+    EXPECT_EQ(g.label->department[marketing].head, ann);
+    EXPECT_EQ(g.label->department[financeAndLaw].head, bob);
+    EXPECT_EQ(g.label->department[security].staffAtLevel[2], 4);
+    EXPECT_EQ(g.label->department[security].rating, 8);  // weighted 12 -> 8
+    g.staff.read(formerBoss);
+    EXPECT_EQ(g.staff->employer, label) << "the old boss still works there, heading nothing";
+    int rows = 0;
+    for (int32_t n = 1; n != g.ledger.recordCount(); ++n) {
+        g.ledger.read(n);
+        if (g.ledger->label == label) ++rows;
+    }
+    EXPECT_EQ(rows, 1 + 6);  // opening; 1 Sep, 1 Oct, 1 Nov, 1 Dec, 31 Dec, 1 Jan
+
+    // The books come back with the game.
+    saveGame(g, 4, "New year");
+    ASSERT_NO_FATAL_FAILURE(playDay());
+    loadGame(g, 4);
+    EXPECT_EQ(g.gameDate, serialFromCivil(2005, 1, 2));
+    broken = checkInvariants(g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+    int loadedRows = 0;
+    for (int32_t n = 1; n != g.ledger.recordCount(); ++n) {
+        g.ledger.read(n);
+        if (g.ledger->label == label) ++loadedRows;
+    }
+    EXPECT_EQ(loadedRows, rows);
+}

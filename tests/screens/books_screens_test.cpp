@@ -1,0 +1,162 @@
+// The label's details, its books and departments, and the staff screens:
+// Find's list, a person, the options on a person, the contract form and a
+// release through frmSure.
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "label/staff.h"
+#include "screen_fixture.h"
+#include "screens/label_details_screen.h"
+#include "screens/option_panels.h"
+#include "screens/save_game_screen.h"
+#include "screens/side_bar.h"
+#include "screens/staff_screens.h"
+#include "world/record_store.h"
+
+namespace trovane::test {
+
+namespace {
+
+int16_t addPerson(Game& g, const char* forename, int16_t employer, Money wage) {
+    g.staff.rec = StaffRecord{};
+    g.staff->forename = forename;
+    g.staff->surname = "Quill";
+    g.staff->male = kTrue;
+    g.staff->ability = 60;
+    g.staff->employer = employer;
+    g.staff->wage = wage;
+    return static_cast<int16_t>(g.staff.append());
+}
+
+}  // namespace
+
+TEST_F(ScreenTest, LabelDetailsShowTheBooksAndLockDepartmentChangesIn) {
+    startNewGameAsPlayer();
+    click(window->sideBar()->btnLabelOptions);
+    ASSERT_EQ(screen(), Screen::frmLabelDetails);
+    auto* page = find<screens::frmLabelDetails>("frmLabelDetails");
+    EXPECT_EQ(page->titleLabel()->text(), "Nightjar Records");
+    EXPECT_EQ(find<QLabel>("lblGenreR")->text(), "Indie Rock");
+    EXPECT_EQ(find<QLabel>("lblIndependenceR")->text(), "Independent Label");
+    EXPECT_EQ(find<QLabel>("lblBossR")->text(), "Ann Lee");
+    EXPECT_EQ(find<QLabel>("lblFormedR")->text(), "London, this year");
+    EXPECT_EQ(find<QLabel>("lblUkReputationR")->text(), "40%");
+    screenshot("60_frmLabelDetails");
+
+    page->tabs->setCurrentIndex(1);
+    auto* sheet = find<QTableWidget>("flxBalanceSheet");
+    ASSERT_EQ(sheet->rowCount(), 5 + 1 + 8 + 1);
+    EXPECT_EQ(sheet->horizontalHeaderItem(1)->text(), "This Month");
+    EXPECT_EQ(sheet->item(6, 0)->text(), "Wages");
+    EXPECT_EQ(find<QTableWidget>("flxHistory")->rowCount(), 1) << "the opening row";
+    screenshot("61_frmLabelDetails_finances");
+
+    page->tabs->setCurrentIndex(2);
+    page->lstDepartments->setCurrentRow(1);
+    EXPECT_FALSE(page->sldNoOfEachAbility[0]->isEnabled());
+    click("cmdHireFire");
+    ASSERT_TRUE(page->sldNoOfEachAbility[0]->isEnabled());
+    page->sldNoOfEachAbility[0]->setValue(2);
+    page->sldNoOfEachAbility[4]->setValue(3);
+    EXPECT_EQ(page->lblNoOfEachAbility[4]->text(), "3");
+    screenshot("62_frmLabelDetails_department_unlocked");
+    click("cmdHireFire");
+    EXPECT_FALSE(page->sldNoOfEachAbility[0]->isEnabled());
+    // weighted 2 x 5 + 3 = 13 -> 8; wages 2 x 1,500 + 3 x 1,000 = 6,000
+    EXPECT_EQ(page->lblQualityR->text(), "8%");
+    EXPECT_EQ(page->lblWageBillR->text(), "£6,000");
+    game->label.read(game->player.playerLabel);
+    EXPECT_EQ(game->label->department[1].staffAtLevel[0], 2);
+    EXPECT_EQ(game->label->department[1].rating, 8);
+    EXPECT_EQ(game->label->wageBill, moneyUnits(6000));
+    screenshot("63_frmLabelDetails_department_locked");
+
+    window->labelOnScreen = 1;  // a rival's shows the same, locked
+    window->openScreen(Screen::frmLabelDetails);
+    EXPECT_EQ(find<screens::frmLabelDetails>("frmLabelDetails")->titleLabel()->text(), "Greystone Music");
+    EXPECT_FALSE(find<QPushButton>("cmdHireFire")->isEnabled());
+}
+
+TEST_F(ScreenTest, FindStaffOpensAPersonWhoseOptionsFollowTheirState) {
+    startNewGameAsPlayer();
+    const int16_t player = game->player.playerLabel;
+    const int16_t free = addPerson(*game, "Fern", 0, moneyUnits(1234));
+    const int16_t ours = addPerson(*game, "Oona", player, moneyUnits(800));
+    screens::frmSideBar* bar = window->sideBar();
+
+    click(bar->btnFind);
+    click("lblStaff");
+    ASSERT_EQ(screen(), Screen::frmStaffList);
+    auto* list = find<QTableWidget>("flxStaff");
+    EXPECT_EQ(list->horizontalHeaderItem(5)->text(), "Wage (per week)");
+    EXPECT_EQ(list->item(0, 0)->text(), "Ann Lee") << "sorted by name";
+    list->sortByColumn(5, Qt::DescendingOrder);
+    EXPECT_EQ(list->item(0, 0)->text(), "Morag Dunbar") << "wages sort as amounts: 2,511 over 1,234 and 800";
+    screenshot("64_frmStaffList");
+    int morag = -1;
+    for (int r = 0; r < list->rowCount(); ++r)
+        if (list->item(r, 0)->text() == "Morag Dunbar") morag = r;
+    ASSERT_GE(morag, 0);
+    emit list->cellActivated(morag, 0);
+    QApplication::processEvents();
+    ASSERT_EQ(screen(), Screen::frmStaffDetails);
+    EXPECT_EQ(find<QLabel>("lblEmployerR")->text(), "Greystone Music");
+    click(bar->cmdExtra);
+    screens::OptionPanel* panel = bar->openPanel();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->objectName(), "frmStaffOptionsUnsigned");
+    EXPECT_FALSE(panel->entry("lblApproach")->isEnabled()) << "she works for another label";
+    screenshot("65_frmStaffDetails_options");
+    click(bar->cmdExtra);
+
+    window->staffOnScreen = game->player.playerStaff;
+    window->openScreen(Screen::frmStaffDetails);
+    click(bar->cmdExtra);
+    EXPECT_EQ(bar->openPanel(), nullptr) << "nothing on the player's own record";
+
+    window->staffOnScreen = free;
+    window->openScreen(Screen::frmStaffDetails);
+    click(bar->cmdExtra);
+    click("lblApproach");
+    auto* form = dialog<screens::frmStaffContract>("frmStaffContract");
+    ASSERT_NE(form, nullptr);
+    // 1,234 to its step of 250 is 1,250; a year is 52 weeks: 65,000
+    EXPECT_EQ(form->lblDemands->text(),
+              "Fern Quill is demanding £1,250 per week  (£65,000 per year) for a period of 3 years.");
+    click(form->cmdLengthInc);
+    form->cmbRole->setCurrentIndex(5);
+    screenshotOf(form, "66_frmStaffContract");
+    click(form->cmdOk);
+    game->staff.read(free);
+    EXPECT_EQ(game->staff->offerLabel, player);
+    EXPECT_EQ(game->staff->offerYears, 4);
+    EXPECT_EQ(game->staff->offerWage, moneyUnits(1250));
+    game->schedule.read(game->schedule.recordCount() - 1);
+    EXPECT_EQ(game->schedule->type, 1);
+    EXPECT_EQ(game->schedule->department, 5);
+
+    click(bar->cmdExtra);
+    ASSERT_EQ(bar->openPanel()->objectName(), "frmStaffOptionsApproached");
+    click("lblWithdraw");
+    game->staff.read(free);
+    EXPECT_EQ(game->staff->offerLabel, 0);
+
+    window->staffOnScreen = ours;
+    window->openScreen(Screen::frmStaffDetails);
+    click(bar->cmdExtra);
+    ASSERT_EQ(bar->openPanel()->objectName(), "frmStaffOptionsSigned");
+    click("lblTerminate");
+    auto* sure = dialog<screens::frmSure>("frmSure");
+    ASSERT_NE(sure, nullptr);
+    click(sure->lblConfirm);
+    game->schedule.read(game->schedule.recordCount() - 1);
+    EXPECT_EQ(game->schedule->type, 3);
+    EXPECT_EQ(game->schedule->staff, ours);
+    EXPECT_EQ(game->schedule->date, game->gameDate);
+}
+
+}  // namespace trovane::test

@@ -1,0 +1,131 @@
+// The checker names the first broken rule by table, record and field; a
+// sound label passes.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "label/finances.h"
+#include "session/invariants.h"
+#include "support/empty_game.h"
+
+using namespace trovane;
+
+namespace {
+
+struct Fault {
+    const char* name;
+    std::function<void(Game&)> apply;
+    std::string table;
+    int32_t record;
+    std::string field;
+    std::string rule;
+};
+
+// Two labels, the second the player's, with a head in Finance and Law and a
+// month already closed into the books.
+void soundGame(Game& g) {
+    g.staff.rec = StaffRecord{};
+    g.staff->ability = 80;
+    g.staff->wage = moneyUnits(700);
+    g.staff->employer = 2;
+    g.staff->department = 1;
+    g.staff.append();
+    g.label.rec = LabelRecord{};
+    g.label->cashBalance = moneyUnits(100);
+    g.label.append();
+    g.label.rec = LabelRecord{};
+    g.label->cashBalance = moneyUnits(9000);
+    g.label->department[1].head = 1;
+    g.label->department[1].staffAtLevel = {0, 0, 0, 0, 10};  // weighted 10 -> 8, + 4 = 12
+    g.label->department[1].rating = 12;
+    g.label->wageBill = moneyUnits(10'700);
+    g.player.playerLabel = static_cast<int16_t>(g.label.append());
+    g.player.playerLabelCash = moneyUnits(9000);
+    writeOpeningLedgerRows(g);
+    g.label.read(2);
+    addIncome(g, moneyUnits(50), ledgerRecordSales);
+    addExpense(g, moneyUnits(15), ledgerRoyaltiesPaid);  // carried over the close: 15 then 35
+    g.gameDate += 30;
+    updateLabelFinances(g);
+    g.label.read(2);
+    addExpense(g, moneyUnits(20), ledgerRoyaltiesPaid);
+}
+
+class Invariants : public ::testing::TestWithParam<Fault> {};
+
+}  // namespace
+
+TEST(Invariants, ASoundGamePasses) {
+    test::EmptyGame eg;
+    soundGame(eg.g);
+    auto broken = checkInvariants(eg.g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+}
+
+TEST(Invariants, AnOpeningRowCountsThisMonthFromItsOwnFigures) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.label.rec = LabelRecord{};
+    g.player.playerLabel = static_cast<int16_t>(g.label.append());
+    addIncome(g, moneyUnits(50), ledgerOtherIncome);  // before the opening: in its figures, not gained since
+    writeOpeningLedgerRows(g);
+    auto broken = checkInvariants(g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+    g.label.read(1);
+    addIncome(g, moneyUnits(7), ledgerOtherIncome);
+    broken = checkInvariants(g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+}
+
+TEST_P(Invariants, NameTheBrokenRule) {
+    test::EmptyGame eg;
+    soundGame(eg.g);
+    GetParam().apply(eg.g);
+    auto broken = checkInvariants(eg.g);
+    ASSERT_TRUE(broken);
+    EXPECT_EQ(broken->table, GetParam().table);
+    EXPECT_EQ(broken->record, GetParam().record);
+    EXPECT_EQ(broken->field, GetParam().field);
+    EXPECT_EQ(broken->rule, GetParam().rule);
+}
+
+namespace {
+void onLabel(Game& g, int32_t n, const std::function<void(LabelRecord&)>& f) {
+    g.label.read(n);
+    f(g.label.rec);
+    g.label.write();
+}
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, Invariants,
+    ::testing::Values(
+        Fault{"CashWithoutItsBooks", [](Game& g) { onLabel(g, 1, [](auto& l) { l.cashBalance += 1; }); }, "label", 1,
+              "cashBalance", "labelCashMatchesLedger"},
+        Fault{"RoyaltiesTakenFromTheRow",
+              [](Game& g) {
+                  // Cash and this month agree, but the royalties run from the row's figure.
+                  onLabel(g, 2, [](auto& l) { l.period[0].expense[6] = 0; });
+              },
+              "label", 2, "cashBalance", "labelCashMatchesLedger"},
+        Fault{"PlayerCashAside", [](Game& g) { g.player.playerLabelCash += 1; }, "session", 0, "playerLabelCash",
+              "playerCashIsTheLabels"},
+        Fault{"LevelPastItsBound",
+              [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[3].staffAtLevel[4] = 33; }); }, "label", 1,
+              "department[3].staffAtLevel[4]", "staffLevelsWithinBounds"},
+        Fault{"LevelAtItsBound",
+              [](Game& g) {
+                  onLabel(g, 1, [](auto& l) {
+                      l.department[3].staffAtLevel[4] = 32;  // allowed, but rating and bill now lag
+                  });
+              },
+              "label", 1, "department[3].rating", "departmentRatingsFollowStaff"},
+        Fault{"HeadOfAnotherLabel", [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[0].head = 1; }); }, "label",
+              1, "department[0].head", "departmentHeadsWorkThere"},
+        Fault{"HeadInAnotherDepartment", [](Game& g) { onLabel(g, 2, [](auto& l) { l.department[2].head = 1; }); },
+              "label", 2, "department[2].head", "departmentHeadsWorkThere"},
+        Fault{"RatingOffByOne", [](Game& g) { onLabel(g, 2, [](auto& l) { l.department[1].rating = 13; }); }, "label",
+              2, "department[1].rating", "departmentRatingsFollowStaff"},
+        Fault{"BillWithoutTheHead", [](Game& g) { onLabel(g, 2, [](auto& l) { l.wageBill = moneyUnits(10'000); }); },
+              "label", 2, "wageBill", "wageBillIsItsDepartments"}),
+    [](const auto& info) { return std::string(info.param.name); });
