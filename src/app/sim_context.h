@@ -14,6 +14,8 @@ namespace trovane::sim {
 
 // Exit status of a run of days held by a news item that must be answered first.
 inline constexpr int kExitHeld = 3;
+// Exit status of broken data: a damaged slot, working set or base set.
+inline constexpr int kExitBroken = 5;
 
 struct SimContext {
     std::filesystem::path dataDir = "Data";

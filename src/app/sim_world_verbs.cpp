@@ -12,6 +12,7 @@
 #include "floor/preferences.h"
 #include "session/empty_world.h"
 #include "session/session_record.h"
+#include "session/working_set_check.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -33,6 +34,7 @@ Game& SimContext::freshGame() {
 
 Game& SimContext::openGame() {
     Game& g = freshGame();
+    checkWorkingSet(g);
     readPrefs(g);
     readSessionFile(g, workingSessionFile(g));
     openAllTables(g, "vel");
@@ -41,7 +43,7 @@ Game& SimContext::openGame() {
 
 void SimContext::closeGame() {
     if (!game_) return;
-    if (game_->news.isOpen()) writeSessionFile(*game_, workingSessionFile(*game_));
+    if (game_->news.isOpen()) commitWorkingGame(*game_);
     closeAllTables(*game_);
 }
 
@@ -99,6 +101,8 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
             double day = g.gameDate;
             steps.clear();
             checkDaysSchedule(g);
+            // Each day reaches the disk whole: a run killed later keeps it.
+            commitWorkingGame(g);
             if (ctx.json) {
                 json += fmt::format("{}{{\"date\":\"{}\"", d ? "," : "", isoDate(day));
                 if (trace) {

@@ -21,6 +21,12 @@ public:
     explicit SlotError(const std::string& what) : std::runtime_error(what) {}
 };
 
+// A slot whose files are damaged, missing or not the ones its manifest lists.
+class BrokenSlotError : public SlotError {
+public:
+    explicit BrokenSlotError(const std::string& what) : SlotError(what) {}
+};
+
 inline constexpr int kSlotCount = 10;
 
 // Saves the working game into a slot under a name, marks the slot used in

@@ -86,6 +86,9 @@ enum class Screen {
 
 class Game {
 public:
+    // Replays or drops the journal a killed run left in the data folder before
+    // anything is read from it. The tables of the working set, the day index
+    // and the charts defer their writes to the commit (flushAllTables).
     explicit Game(std::filesystem::path dataFolder, uint64_t seed = 1);
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -116,6 +119,10 @@ public:
     std::function<void(int percent)> progress;
     // Told each schedule handler by name, with its entry, just before it runs.
     std::function<void(std::string_view handler, const ScheduleRecord& entry)> onScheduleHandler;
+
+    // The bytes of working-set tables closed since the last commit; declared
+    // before the tables, which park here when they close.
+    ParkedFiles parked;
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)
