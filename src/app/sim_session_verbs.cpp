@@ -155,6 +155,7 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
             std::string n = slotName(g, s);
             if (ctx.json) {
                 json += fmt::format("{}{{\"slot\":{},\"name\":{}", s ? "," : "", s, jsonQuote(n));
+                if (auto fault = slotFault(g, s)) json += fmt::format(",\"broken\":{}", jsonQuote(*fault));
                 if (n != "None") {
                     try {
                         SlotDetails d = slotDetails(g, s);
@@ -164,6 +165,8 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
                     } catch (const std::exception&) {}
                 }
                 json += "}";
+            } else if (auto fault = slotFault(g, s)) {
+                std::printf("%d : (damaged) %s\n", s, fault->c_str());
             } else {
                 std::printf("%d : %s\n", s, n.c_str());
             }

@@ -6,6 +6,7 @@
 
 #include "world/cp1252.h"
 #include "world/fatal_error.h"
+#include "world/manifest.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -173,6 +174,7 @@ void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
     if (!g.parked.empty())
         throw FatalError(fmt::format("Cannot copy the {} tables to {}: {} is not written yet", fromExt, toExt,
                                      g.parked.begin()->first.string()));
+    if (fromExt == "gam") checkBaseSet(g.dataDir);
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
 }
 

@@ -44,7 +44,8 @@ bool dataFileExists(const Game& g, const std::filesystem::path& file);
 // Copies every table file of the set (the ten charts included) from one
 // extension to the other, overwriting the targets. All tables must be closed
 // (an open one is refused, as a copy would miss its unwritten changes); a
-// missing source file is an error that names it.
+// missing source file is an error that names it. Copying from the base set
+// (gam) first checks it against its manifest (a BrokenDataError when it fails).
 void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt);
 
 // Makes target an empty file by copying empty.gam, as every new scratch and day file is made.

@@ -10,6 +10,7 @@
 #include "session/save_load.h"
 #include "support/empty_game.h"
 #include "world/dates.h"
+#include "world/manifest.h"
 
 using namespace trovane;
 namespace fs = std::filesystem;
@@ -71,10 +72,13 @@ protected:
 TEST_F(SaveSlots, SaveLoadAndSaveAgainGiveIdenticalFiles) {
     saveGame(g, 2, "First save");
     auto firstSave = filesWithExt(g.dataDir, "sg2");
-    EXPECT_EQ(firstSave.size(), 47u + 3u + 1u);  // the table set, 2004 to 2006, svar
+    EXPECT_EQ(firstSave.size(), 47u + 3u + 1u + 1u);  // the table set, 2004 to 2006, svar, the manifest
     loadGame(g, 2);
     saveGame(g, 3, "First save");
     auto secondSave = filesWithExt(g.dataDir, "sg3");
+    // The manifests differ only in the slot's extension of each name.
+    firstSave.erase("manifest");
+    secondSave.erase("manifest");
     EXPECT_EQ(firstSave, secondSave);
 }
 
@@ -182,10 +186,14 @@ TEST_F(SaveSlots, ASaveInterruptedWhileMovingIntoPlaceIsFinished) {
     saveGame(g, 0, "After");  // the files a finished save would move into slot 9
     fs::path staging = g.dataDir / ".saving.sg9";
     fs::create_directories(staging);
+    std::vector<fs::path> staged;
     for (const auto& [stem, bytes] : filesWithExt(g.dataDir, "sg0")) {
-        if (stem == "band") continue;  // already moved before the crash
-        std::ofstream(staging / (stem + ".sg9"), std::ios::binary) << bytes;
+        if (stem == "manifest") continue;
+        staged.push_back(staging / (stem + ".sg9"));
+        std::ofstream(staged.back(), std::ios::binary) << bytes;
     }
+    writeManifest(staging / "manifest.sg9", staged);
+    fs::rename(staging / "band.sg9", g.dataDir / "band.sg9");  // already moved before the crash
     std::ofstream(staging / "COMPLETE") << "complete\n";
     recoverInterruptedSaves(g);
     EXPECT_EQ(slotName(g, 9), "After");
