@@ -69,8 +69,7 @@ void checkWorkingSet(const Game& g) {
     // The empty set that init makes has no labels and no player.
     bool emptySet = labels == 0 && s.player.playerLabel == 0;
     if (!emptySet && (s.player.playerLabel < 1 || s.player.playerLabel > labels))
-        refuse(g, fmt::format("svar.vel names player label {}, and label.vel holds {} labels", s.player.playerLabel,
-                              labels));
+        refuse(g, fmt::format("svar.vel names player label {}; label.vel has {}", s.player.playerLabel, labels));
 }
 
 }  // namespace trovane
