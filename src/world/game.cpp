@@ -25,6 +25,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
 #undef TROVANE_DEFER
     dayIndex.deferWrites(&parked);
     chart.deferWrites(&parked);
+    highscore.deferWrites(&parked);
 }
 
 }  // namespace trovane

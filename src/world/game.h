@@ -87,8 +87,9 @@ enum class Screen {
 class Game {
 public:
     // Replays or drops the journal a killed run left in the data folder before
-    // anything is read from it. The tables of the working set, the day index
-    // and the charts defer their writes to the commit (flushAllTables).
+    // anything is read from it. The tables of the working set, the day index,
+    // the charts and the high scores (which a day updates) defer their writes
+    // to the commit (flushAllTables).
     explicit Game(std::filesystem::path dataFolder, uint64_t seed = 1);
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
