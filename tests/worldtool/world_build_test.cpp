@@ -3,9 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <sys/wait.h>
-#include <algorithm>
-#include <fstream>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
