@@ -44,9 +44,11 @@ SvarRecord sessionRecord(const Game& g) {
     std::ifstream(workingSessionFile(g), std::ios::binary).read(reinterpret_cast<char*>(bytes.data()), bytes.size());
     SvarRecord s{};
     decodeRecord(bytes.data(), s);
+    // The schedule's years run from the first game year to the last year an
+    // entry was filed in, which may lie before or after the game's date.
     if (!(s.gameDate >= gameStartDay() && s.gameDate < serialFromCivil(9999, 1, 1)) ||
-        s.firstScheduleYear < yearOf(gameStartDay()) || s.firstScheduleYear > yearOf(s.gameDate) ||
-        s.lastScheduleYear < yearOf(s.gameDate))
+        s.firstScheduleYear < yearOf(gameStartDay()) || s.lastScheduleYear < s.firstScheduleYear ||
+        s.lastScheduleYear > 9999)
         refuse(g, fmt::format("{} does not hold a game", name));
     return s;
 }

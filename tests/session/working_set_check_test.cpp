@@ -9,6 +9,7 @@
 
 #include "session/session_record.h"
 #include "support/empty_game.h"
+#include "world/dates.h"
 
 using namespace trovane;
 namespace fs = std::filesystem;
@@ -110,6 +111,20 @@ INSTANTIATE_TEST_SUITE_P(
                   },
                   "svar.vel holds 2 session records, not one"}),
     [](const auto& info) { return std::string(info.param.what); });
+
+TEST_F(WorkingSet, AGameLongPastTheLastYearOfItsScheduleGoesOn) {
+    Game& g = eg.g;
+    readSessionFile(g, workingSessionFile(g));
+    g.gameDate = serialFromCivil(2014, 8, 5);  // the schedule still ends with 2005
+    writeSessionFile(g, workingSessionFile(g));
+    auto [status, out] = sim(dir, "status");
+    EXPECT_EQ(status, 0) << out;
+    g.lastScheduleYear = 2003;  // before the first year, 2004: out of order
+    writeSessionFile(g, workingSessionFile(g));
+    auto [refused, why] = sim(dir, "status");
+    EXPECT_EQ(refused, 5);
+    EXPECT_NE(why.find("svar.vel does not hold a game"), std::string::npos) << why;
+}
 
 TEST_F(WorkingSet, ALabelOutOfRangeBelowIsRefusedToo) {
     setPlayerLabel(0);  // no player label while labels exist: not the empty set init makes
