@@ -13,6 +13,7 @@
 #include "session/empty_world.h"
 #include "session/session_record.h"
 #include "session/working_set_check.h"
+#include "world/journal.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -127,6 +128,7 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
     dump->add_option("TABLE", table, "A table name (band, news, ...), chart0 to chart9, or a year's day index")
         ->required();
     dump->callback([&ctx] {
+        recoverJournal(ctx.dataDir);  // what a killed run left half written is finished or dropped first
         std::filesystem::path file;
         std::optional<FileNo> n = fileNoByTableName(table);
         if (n && catalogueEntry(*n).kind == FileKind::perUse) {
