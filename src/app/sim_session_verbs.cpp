@@ -155,8 +155,9 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
             std::string n = slotName(g, s);
             if (ctx.json) {
                 json += fmt::format("{}{{\"slot\":{},\"name\":{}", s ? "," : "", s, jsonQuote(n));
-                if (auto fault = slotFault(g, s)) json += fmt::format(",\"broken\":{}", jsonQuote(*fault));
-                if (n != "None") {
+                auto fault = slotFault(g, s);
+                if (fault) json += fmt::format(",\"broken\":{}", jsonQuote(*fault));
+                if (n != "None" && !fault) {
                     try {
                         SlotDetails d = slotDetails(g, s);
                         json += fmt::format(",\"date\":\"{}\",\"label\":{},\"cash\":{:.4f}",
