@@ -139,4 +139,24 @@ TEST(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
     EXPECT_FALSE(fs::exists(journalFile(g.dataDir)));
 }
 
+TEST(DayCommit, ARecordWrittenBackUnchangedIsNoChange) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.band.rec = BandRecord{};
+    g.band->name = "Night Ferry";
+    g.band.append();
+    flushAllTables(g);
+    int journals = 0;
+    setCommitHook([&](CommitPoint p) { journals += p == CommitPoint::journalWritten; });
+    g.band.read(1);
+    g.band.write(1);
+    flushAllTables(g);
+    EXPECT_EQ(journals, 0);
+    g.band->name = "Night Ferrys";
+    g.band.write(1);
+    flushAllTables(g);
+    EXPECT_EQ(journals, 1);
+    setCommitHook(nullptr);
+}
+
 }  // namespace
