@@ -7,6 +7,7 @@
 #include "app/sim_context.h"
 #include "floor/preferences.h"
 #include "session/session_record.h"
+#include "session/working_set_check.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
 
@@ -50,7 +51,14 @@ fs::path baseSetFolder(const fs::path& dataDir) {
     return base;
 }
 
-bool SimContext::gameInProgress() const { return fs::exists(dataDir / "svar.vel"); }
+// A folder with the session record or the chief tables of a working set holds
+// a game, whole or broken; the check at opening names what is wrong with a
+// broken one.
+bool SimContext::gameInProgress() const {
+    for (const char* file : {"svar.vel", "band.vel", "label.vel", "artist.vel"})
+        if (fs::exists(dataDir / file)) return true;
+    return false;
+}
 
 Game& SimContext::freshGame() {
     game_ = std::make_unique<Game>(dataDir, seed.value_or(clockSeed()));
@@ -65,6 +73,7 @@ Game& SimContext::baseSetGame() {
 Game& SimContext::openGame() {
     if (!gameInProgress()) throw SimError(kExitRefused, kNoGame);
     Game& g = freshGame();
+    checkWorkingSet(g);
     readPrefs(g);
     readSessionFile(g, workingSessionFile(g));
     openAllTables(g, "vel");
@@ -73,7 +82,7 @@ Game& SimContext::openGame() {
 
 void SimContext::closeGame() {
     if (!game_) return;
-    if (game_->news.isOpen()) writeSessionFile(*game_, workingSessionFile(*game_));
+    if (game_->news.isOpen()) commitWorkingGame(*game_);
     closeAllTables(*game_);
 }
 

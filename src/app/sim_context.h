@@ -79,12 +79,12 @@ void addAlbumVerbs(CLI::App& app, SimContext& ctx);    // work, songs, album, pr
 // The answer to an opened item about an ended option (extend or release; a
 // plain ok is refused there). False, doing nothing, for any other item and word.
 bool replyToOption(SimContext& ctx, Game& g, const std::string& word);
-void addBandVerbs(CLI::App& app, SimContext& ctx);     // band, terms, offer, withdraw, scout, shortlist
-void addDiscVerbs(CLI::App& app, SimContext& ctx);     // release, forecast, press, distribute, single, disc, chart, run
+void addBandVerbs(CLI::App& app, SimContext& ctx);  // band, terms, offer, withdraw, scout, shortlist
+void addDiscVerbs(CLI::App& app, SimContext& ctx);  // release, forecast, press, distribute, single, disc, chart, run
 
 // A "Distributor required" item answered with ok: the form is confirmed at once.
 void confirmDistributorForm(Game& g);
-void addBooksVerbs(CLI::App& app, SimContext& ctx);    // label, books, department, staff, approach, ...
+void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

@@ -1,5 +1,6 @@
 // trovane-sim: the game with no window, for scripts, tests and benchmarks.
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <string>
@@ -10,6 +11,24 @@
 #include "app/sim_context.h"
 #include "session/save_load.h"
 #include "world/fatal_error.h"
+#include "world/journal.h"
+
+namespace {
+
+// For the kill test: TROVANE_SIM_STOP_AT=N ends the program at once at the
+// N-th point of its commits (a journal written, a file written, a commit done),
+// as a kill there would.
+void stopAtCommitPointForTests() {
+    const char* at = std::getenv("TROVANE_SIM_STOP_AT");
+    if (at == nullptr) return;
+    long stop = std::strtol(at, nullptr, 10);
+    if (stop < 1) return;
+    trovane::setCommitHook([stop, seen = 0L](trovane::CommitPoint) mutable {
+        if (++seen == stop) std::_Exit(9);
+    });
+}
+
+}  // namespace
 
 namespace {
 
@@ -41,6 +60,7 @@ int main(int argc, char** argv) {
     CLI::App app{"Trovane 3 without a window: play, inspect and script a game on a data folder"};
     app.require_subcommand(1);
     app.footer(exitStatusTable());
+    stopAtCommitPointForTests();
     SimContext ctx;
     app.add_option("--data", ctx.dataDir, "The data folder of the game")->capture_default_str();
     app.add_option("--seed", ctx.seed, "Seed of the random source; a run with the same seed repeats exactly");
@@ -77,6 +97,12 @@ int main(int argc, char** argv) {
     } catch (const SimError& e) {
         printError(json, e.what(), e.status());
         return e.status();
+    } catch (const trovane::BrokenSlotError& e) {
+        printError(json, e.what(), kExitBroken);
+        return kExitBroken;
+    } catch (const trovane::BrokenDataError& e) {
+        printError(json, e.what(), kExitBroken);
+        return kExitBroken;
     } catch (const trovane::SlotError& e) {
         printError(json, e.what(), kExitBroken);
         return kExitBroken;

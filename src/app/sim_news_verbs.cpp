@@ -182,7 +182,9 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
     auto replyOpts = std::make_shared<ItemOptions>();
     auto* reply = app.add_subcommand("reply", "Answer a news item");
     reply->add_option("ID", replyOpts->id, "The news item's number")->required();
-    reply->add_option("REPLY", replyOpts->reply, "ok, yes, no, defend, condemn, or extend or release for an ended option")
+    reply
+        ->add_option("REPLY", replyOpts->reply,
+                     "ok, yes, no, defend, condemn, or extend or release for an ended option")
         ->required()
         ->check(CLI::IsMember({"ok", "yes", "no", "defend", "condemn", "extend", "release"}));
     reply->callback([&ctx, replyOpts] {

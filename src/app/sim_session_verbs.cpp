@@ -191,7 +191,9 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
             std::string n = slotName(g, s);
             if (ctx.json) {
                 json += fmt::format("{}{{\"slot\":{},\"name\":{}", s ? "," : "", s, jsonQuote(n));
-                if (n != "None") {
+                auto fault = slotFault(g, s);
+                if (fault) json += fmt::format(",\"broken\":{}", jsonQuote(*fault));
+                if (n != "None" && !fault) {
                     try {
                         SlotDetails d = slotDetails(g, s);
                         json += fmt::format(",\"date\":\"{}\",\"label\":{},\"cash\":{:.4f}",
@@ -200,6 +202,8 @@ void addSessionVerbs(CLI::App& app, SimContext& ctx) {
                     } catch (const std::exception&) {}
                 }
                 json += "}";
+            } else if (auto fault = slotFault(g, s)) {
+                std::printf("%d : (damaged) %s\n", s, fault->c_str());
             } else {
                 std::printf("%d : %s\n", s, n.c_str());
             }

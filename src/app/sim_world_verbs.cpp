@@ -13,6 +13,8 @@
 #include "session/empty_world.h"
 #include "session/invariants.h"
 #include "session/session_record.h"
+#include "session/working_set_check.h"
+#include "world/journal.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -32,8 +34,6 @@ struct DumpOptions {
 };
 
 std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
-constexpr int kExitInvariantBroken = 4;
 
 }  // namespace
 
@@ -94,11 +94,12 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
             double day = g.gameDate;
             steps.clear();
             checkDaysSchedule(g);
+            // Each day reaches the disk whole: a run killed later keeps it.
+            commitWorkingGame(g);
             if (check) {
                 if (auto broken = checkInvariants(g)) {
-                    std::fprintf(stderr, "trovane-sim: after %s: %s\n", isoDate(day).c_str(),
-                                 describeBreak(*broken).c_str());
-                    ctx.exitCode = kExitInvariantBroken;
+                    printError(ctx.json, "after " + isoDate(day) + ": " + describeBreak(*broken), kExitInvariant);
+                    ctx.exitCode = kExitInvariant;
                     break;
                 }
             }
@@ -129,6 +130,7 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
         ->required();
     dump->callback([&ctx, dumpOpts] {
         const std::string& table = dumpOpts->table;
+        recoverJournal(ctx.dataDir);  // what a killed run left half written is finished or dropped first
         std::filesystem::path file;
         std::optional<FileNo> n = fileNoByTableName(table);
         if (n && catalogueEntry(*n).kind == FileKind::perUse) {

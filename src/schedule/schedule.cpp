@@ -18,16 +18,12 @@ int32_t dayNumberInYear(double date) {
     return static_cast<int32_t>(date - serialFromCivil(year, 1, 1)) + 1;
 }
 
-bool hasDayFile(const Game& g, int year) {
-    std::error_code ec;
-    return std::filesystem::exists(dataFile(g, std::to_string(year), "vel"), ec);
-}
+bool hasDayFile(const Game& g, int year) { return dataFileExists(g, dataFile(g, std::to_string(year), "vel")); }
 
 void addScheduleYear(Game& g, int year) {
     // No year may be skipped: a date two years ahead makes both, in order.
     if (g.lastScheduleYear != 0 && g.lastScheduleYear < year - 1) addScheduleYear(g, year - 1);
-    copyEmptyFile(g, dataFile(g, std::to_string(year), "vel"));
-    openDayFile(g, year);
+    openNewDayFile(g, year);
     g.dayIndex.rec = DayRecord{};
     for (int32_t day = 1; day <= daysInYear(year); ++day) g.dayIndex.write(day);
     closeDayFile(g);

@@ -44,7 +44,7 @@ void createEmptyWorkingSet(Game& g) {
     // A new game files its first two years; each 31 December files the year after next.
     addScheduleYear(g, 2004);
     addScheduleYear(g, 2005);
-    writeSessionFile(g, workingSessionFile(g));
+    commitWorkingGame(g);
 }
 
 }  // namespace trovane

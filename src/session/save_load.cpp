@@ -3,7 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
+#include <optional>
 #include <vector>
 
 #include <fmt/format.h>
@@ -11,6 +13,7 @@
 #include "floor/preferences.h"
 #include "session/session_record.h"
 #include "world/dates.h"
+#include "world/manifest.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
@@ -63,14 +66,47 @@ void syncStaged(const fs::path& staging) {
     }
 }
 
-// Moves every staged file into the data folder, then drops the staging folder.
-// Each move replaces its target in one step; redoing it after a crash is harmless.
-void commitStaging(const fs::path& staging, const fs::path& dataDir) {
+fs::path slotManifest(const Game& g, int slot) { return g.dataDir / fmt::format("manifest.{}", slotExt(slot)); }
+
+// The files of a slot in the data folder, its manifest aside.
+std::vector<std::string> slotFilesPresent(const fs::path& dataDir, std::string_view ext) {
+    std::vector<std::string> names;
+    std::string dotExt = fmt::format(".{}", ext);
+    std::string manifest = fmt::format("manifest{}", dotExt);
     std::error_code ec;
+    for (const auto& e : fs::directory_iterator(dataDir, ec)) {
+        std::string name = e.path().filename().string();
+        if (e.path().extension() == dotExt && name != manifest) names.push_back(name);
+    }
+    return names;
+}
+
+// Moves every staged file into the data folder, a manifest last, then drops
+// the staging folder. Each move replaces its target in one step; redoing it
+// after a crash is harmless. A slot's files that its new manifest does not
+// list (the years of an older, longer game) are removed before the staging
+// folder goes, so that a redo removes them too.
+void commitStaging(const fs::path& staging, const fs::path& dataDir, std::optional<std::string> ext = std::nullopt) {
+    std::error_code ec;
+    std::vector<fs::path> manifests;
+    auto move = [&](const fs::path& from) {
+        fs::rename(from, dataDir / from.filename(), ec);
+        if (ec) throw SlotError(fmt::format("Cannot move {} into place: {}", from.string(), ec.message()));
+    };
     for (const auto& entry : fs::directory_iterator(staging)) {
-        if (entry.path().filename() == kCompleteMark) continue;
-        fs::rename(entry.path(), dataDir / entry.path().filename(), ec);
-        if (ec) throw SlotError(fmt::format("Cannot move {} into place: {}", entry.path().string(), ec.message()));
+        std::string name = entry.path().filename().string();
+        if (name == kCompleteMark) continue;
+        if (name.starts_with("manifest.")) {
+            manifests.push_back(entry.path());
+            continue;
+        }
+        move(entry.path());
+    }
+    for (const auto& m : manifests) move(m);
+    auto listed = ext ? manifestNames(dataDir / fmt::format("manifest.{}", *ext)) : std::nullopt;
+    if (listed) {
+        for (const auto& name : slotFilesPresent(dataDir, *ext))
+            if (std::find(listed->begin(), listed->end(), name) == listed->end()) fs::remove(dataDir / name, ec);
     }
     fs::remove_all(staging, ec);
 }
@@ -87,11 +123,11 @@ SvarRecord readSlotSession(Game& g, int slot) {
     fs::path file = g.dataDir / fmt::format("svar.{}", slotExt(slot));
     std::error_code ec;
     if (!fs::exists(file, ec))
-        throw SlotError(fmt::format("Slot {} is incomplete: {} is missing", slot, file.string()));
+        throw BrokenSlotError(fmt::format("Slot {} is incomplete: {} is missing", slot, file.string()));
     auto size = fs::file_size(file, ec);
     if (ec || size != SvarRecord::kLength)
-        throw SlotError(fmt::format("Slot {} is damaged: its session record {} is {} bytes, not {}", slot,
-                                    file.string(), size, SvarRecord::kLength));
+        throw BrokenSlotError(fmt::format("Slot {} is damaged: its session record {} is {} bytes, not {}", slot,
+                                          file.string(), size, SvarRecord::kLength));
     std::ifstream in(file, std::ios::binary);
     std::array<uint8_t, SvarRecord::kLength> bytes{};
     in.read(reinterpret_cast<char*>(bytes.data()), bytes.size());
@@ -99,7 +135,7 @@ SvarRecord readSlotSession(Game& g, int slot) {
     decodeRecord(bytes.data(), rec);
     if (rec.firstScheduleYear < 1900 || rec.lastScheduleYear < rec.firstScheduleYear ||
         rec.lastScheduleYear > rec.firstScheduleYear + 1000 || !(rec.gameDate >= 1.0 && rec.gameDate < 2958466.0))
-        throw SlotError(
+        throw BrokenSlotError(
             fmt::format("Slot {} is damaged: its session record {} does not hold a game", slot, file.string()));
     return rec;
 }
@@ -110,20 +146,31 @@ void checkSlotComplete(Game& g, int slot, const SvarRecord& session) {
     for (const auto& name : setFileNames(ext, session.firstScheduleYear, session.lastScheduleYear)) {
         fs::path file = g.dataDir / name;
         std::error_code ec;
-        if (!fs::exists(file, ec)) throw SlotError(fmt::format("Slot {} is incomplete: {} is missing", slot, name));
+        if (!fs::exists(file, ec))
+            throw BrokenSlotError(fmt::format("Slot {} is incomplete: {} is missing", slot, name));
         auto size = fs::file_size(file, ec);
         FileNo n = *tableOfFile(file);
         std::size_t length = catalogueEntry(n).recordLength;
         if (ec || size % length != 0)
-            throw SlotError(
+            throw BrokenSlotError(
                 fmt::format("Slot {} is damaged: {} is not a whole number of {}-byte records", slot, name, length));
         if (n == FileNo::fileDay) {
             int year = std::stoi(file.stem().string());
             if (size != static_cast<std::uintmax_t>(daysInYear(year)) * length)
-                throw SlotError(fmt::format("Slot {} is damaged: the day index {} does not hold every day of {}", slot,
-                                            name, year));
+                throw BrokenSlotError(fmt::format("Slot {} is damaged: the day index {} does not hold every day of {}",
+                                                  slot, name, year));
         }
     }
+}
+
+// The slot's files against its manifest, then its session record and the
+// files that record calls for. Any fault refuses the slot, the file named.
+SvarRecord verifySlot(Game& g, int slot) {
+    if (auto fault = manifestFault(slotManifest(g, slot), slotFilesPresent(g.dataDir, slotExt(slot))))
+        throw BrokenSlotError(fmt::format("Slot {} is broken: {}", slot, *fault));
+    SvarRecord session = readSlotSession(g, slot);
+    checkSlotComplete(g, slot, session);
+    return session;
 }
 
 }  // namespace
@@ -134,7 +181,7 @@ void recoverInterruptedSaves(Game& g) {
         fs::path staging = stagingFolder(g, slot);
         if (!fs::exists(staging, ec)) continue;
         if (fs::exists(staging / kCompleteMark, ec))
-            commitStaging(staging, g.dataDir);
+            commitStaging(staging, g.dataDir, slotExt(slot));
         else
             fs::remove_all(staging, ec);
     }
@@ -157,8 +204,11 @@ void saveGame(Game& g, int slot, const std::string& saveName) {
             copyInto(dataFile(g, std::to_string(y), "vel"), staging / fmt::format("{}.{}", y, ext));
         fs::path svar = staging / fmt::format("svar.{}", ext);
         writeSessionFile(g, svar, saveName);
+        std::vector<fs::path> staged;
+        for (const auto& e : fs::directory_iterator(staging)) staged.push_back(e.path());
+        writeManifest(staging / fmt::format("manifest.{}", ext), staged);
         markComplete(staging);
-        commitStaging(staging, g.dataDir);
+        commitStaging(staging, g.dataDir, ext);
     } catch (...) {
         fs::remove_all(staging, ec);
         openAllTables(g, "vel");
@@ -173,8 +223,7 @@ void saveGame(Game& g, int slot, const std::string& saveName) {
 void loadGame(Game& g, int slot) {
     requireSlot(slot);
     recoverInterruptedSaves(g);
-    SvarRecord session = readSlotSession(g, slot);
-    checkSlotComplete(g, slot, session);
+    SvarRecord session = verifySlot(g, slot);
     std::string ext = slotExt(slot);
     fs::path staging = loadStagingFolder(g);
     std::error_code ec;
@@ -201,8 +250,18 @@ std::string slotName(Game& g, int slot) {
     readPrefs(g);
     if (g.prefs->slotUsed[static_cast<std::size_t>(slot)] == kFalse) return "None";
     try {
-        return trim(readSlotSession(g, slot).saveName.value);
+        return trim(verifySlot(g, slot).saveName.value);
     } catch (const SlotError&) { return "(damaged)"; }
+}
+
+std::optional<std::string> slotFault(Game& g, int slot) {
+    requireSlot(slot);
+    readPrefs(g);
+    if (g.prefs->slotUsed[static_cast<std::size_t>(slot)] == kFalse) return std::nullopt;
+    try {
+        verifySlot(g, slot);
+    } catch (const SlotError& e) { return e.what(); }
+    return std::nullopt;
 }
 
 void deleteSlot(Game& g, int slot) {

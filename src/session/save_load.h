@@ -4,10 +4,13 @@
 // session record svar.sg<slot>. prefs.gam and highscore.gam are never part of it.
 //
 // A save is written to a staging folder first and moved into place only when
-// every file is there, so a crash or a full disk half way leaves the slot's
-// previous game as it was. A load checks the whole slot before it touches the
-// working set, and refuses a broken slot.
+// every file is there, its manifest (manifest.sg<slot>: each file's length
+// and checksum) last, so a crash or a full disk half way leaves the slot's
+// previous game as it was. A load checks every file of the slot against the
+// manifest before it touches the working set, and refuses a broken slot with
+// the file and the fault named.
 #include <array>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -21,6 +24,12 @@ public:
     explicit SlotError(const std::string& what) : std::runtime_error(what) {}
 };
 
+// A slot whose files are damaged, missing or not the ones its manifest lists.
+class BrokenSlotError : public SlotError {
+public:
+    explicit BrokenSlotError(const std::string& what) : SlotError(what) {}
+};
+
 inline constexpr int kSlotCount = 10;
 
 // Saves the working game into a slot under a name, marks the slot used in
@@ -30,6 +39,8 @@ void saveGame(Game& g, int slot, const std::string& saveName);
 void loadGame(Game& g, int slot);
 // "None" for a free slot, else the name the game was saved under.
 std::string slotName(Game& g, int slot);
+// Why a used slot cannot be loaded, or none when it can (or is free).
+std::optional<std::string> slotFault(Game& g, int slot);
 // Frees a slot (its files stay until the next save overwrites them).
 void deleteSlot(Game& g, int slot);
 

@@ -5,6 +5,7 @@
 #include "session/empty_world.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_store.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -39,6 +40,13 @@ void writeSessionFile(Game& g, const std::filesystem::path& file, std::string_vi
     g.svar.open(file, IfMissing::createEmpty);
     g.svar.write(1);
     g.svar.close();
+}
+
+void commitWorkingGame(Game& g) {
+    fillSessionRecord(g, "");
+    FileWrite session{workingSessionFile(g), SvarRecord::kLength, 0, std::vector<uint8_t>(SvarRecord::kLength)};
+    encodeRecord(g.svar.rec, session.bytes.data());
+    flushAllTables(g, {std::move(session)});
 }
 
 void readSessionFile(Game& g, const std::filesystem::path& file) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "world/journal.h"
 #include "world/records.h"
 
 namespace trovane {
@@ -20,6 +21,10 @@ void applySessionRecord(Game& g, const SvarRecord& s);
 
 // Fills the svar buffer from the session state and writes it to the file.
 void writeSessionFile(Game& g, const std::filesystem::path& file, std::string_view saveName = "");
+// The commit of the working game: every table's changes and the session
+// record, whole or not at all.
+void commitWorkingGame(Game& g);
+
 // Reads the file and sets the session state from it; a missing or damaged
 // file is an error that names it.
 void readSessionFile(Game& g, const std::filesystem::path& file);

@@ -13,3 +13,14 @@ public:
 };
 
 }  // namespace trovane
+
+namespace trovane {
+
+// A data file or a set of them that is damaged, incomplete or not what it
+// claims to be; the message names the file. trovane-sim exits 5 for it.
+class BrokenDataError : public FatalError {
+public:
+    explicit BrokenDataError(const std::string& what) : FatalError(what) {}
+};
+
+}  // namespace trovane

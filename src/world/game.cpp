@@ -1,6 +1,7 @@
 #include "world/game.h"
 
 #include "world/dates.h"
+#include "world/journal.h"
 
 namespace trovane {
 
@@ -17,6 +18,14 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
           std::chrono::year_month_day ymd{today};
           return serialFromCivil(static_cast<int>(ymd.year()), static_cast<unsigned>(ymd.month()),
                                  static_cast<unsigned>(ymd.day()));
-      }) {}
+      }) {
+    recoverJournal(dataDir);
+#define TROVANE_DEFER(member, Record, fileNo) member.deferWrites(&parked);
+    TROVANE_WORKING_TABLES(TROVANE_DEFER)
+#undef TROVANE_DEFER
+    dayIndex.deferWrites(&parked);
+    chart.deferWrites(&parked);
+    highscore.deferWrites(&parked);
+}
 
 }  // namespace trovane

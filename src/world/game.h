@@ -96,6 +96,10 @@ enum class Screen {
 
 class Game {
 public:
+    // Replays or drops the journal a killed run left in the data folder before
+    // anything is read from it. The tables of the working set, the day index,
+    // the charts and the high scores (which a day updates) defer their writes
+    // to the commit (flushAllTables).
     explicit Game(std::filesystem::path dataFolder, uint64_t seed = 1);
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -129,6 +133,9 @@ public:
 
     // The offers of each band, by record number (see offersOnBand).
     SideIndex offersByBand;
+    // The bytes of working-set tables closed since the last commit; declared
+    // before the tables, which park here when they close.
+    ParkedFiles parked;
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)

@@ -6,6 +6,7 @@
 
 #include "world/cp1252.h"
 #include "world/fatal_error.h"
+#include "world/manifest.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -122,17 +123,44 @@ void openAllTables(Game& g, std::string_view ext) {
 }
 
 void closeAllTables(Game& g) {
+    flushAllTables(g);
 #define TROVANE_CLOSE(member, Record, fileNo) g.member.close();
     TROVANE_WORKING_TABLES(TROVANE_CLOSE)
     TROVANE_PER_USE_TABLES(TROVANE_CLOSE)
 #undef TROVANE_CLOSE
 }
 
-void flushAllTables(Game& g) {
-#define TROVANE_FLUSH(member, Record, fileNo) g.member.flush();
-    TROVANE_WORKING_TABLES(TROVANE_FLUSH)
-    TROVANE_PER_USE_TABLES(TROVANE_FLUSH)
-#undef TROVANE_FLUSH
+void flushAllTables(Game& g, std::vector<FileWrite> extra) {
+    std::vector<FileWrite> writes;
+    auto take = [&](TableBase& t) {
+        if (!t.defersWrites()) {
+            t.flush();
+            return;
+        }
+        if (auto w = t.takeWrite()) writes.push_back(std::move(*w));
+    };
+#define TROVANE_TAKE(member, Record, fileNo) take(g.member);
+    TROVANE_WORKING_TABLES(TROVANE_TAKE)
+    TROVANE_PER_USE_TABLES(TROVANE_TAKE)
+#undef TROVANE_TAKE
+    for (auto& [file, p] : g.parked) {
+        FileWrite w{file, p.image.size(), 0, {}};
+        if (p.dirtyFrom < p.dirtyTo) {
+            w.offset = p.dirtyFrom;
+            w.bytes.assign(p.image.begin() + static_cast<std::ptrdiff_t>(p.dirtyFrom),
+                           p.image.begin() + static_cast<std::ptrdiff_t>(p.dirtyTo));
+        }
+        writes.push_back(std::move(w));
+    }
+    for (auto& w : extra) writes.push_back(std::move(w));
+    commitWrites(g.dataDir, writes);
+    g.parked.clear();
+}
+
+bool dataFileExists(const Game& g, const fs::path& file) {
+    if (g.parked.contains(file)) return true;
+    std::error_code ec;
+    return fs::exists(file, ec);
 }
 
 void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
@@ -144,6 +172,10 @@ void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
             throw FatalError(
                 fmt::format("Cannot copy the {} tables to {}: table {} is still open", fromExt, toExt, entry.table));
     }
+    if (!g.parked.empty())
+        throw FatalError(fmt::format("Cannot copy the {} tables to {}: {} is not written yet", fromExt, toExt,
+                                     g.parked.begin()->first.string()));
+    if (fromExt == "gam") checkBaseSet(g.dataDir);
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
 }
 
@@ -173,35 +205,18 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
 }
 
 void openDayFile(Game& g, int year) { openPerUse(g.dayIndex, dataFile(g, std::to_string(year), "vel")); }
+void openNewDayFile(Game& g, int year) {
+    fs::path file = dataFile(g, std::to_string(year), "vel");
+    if (g.dayIndex.isOpen())
+        throw FatalError(fmt::format("Cannot open {}: file number {} still holds {}", file.string(),
+                                     static_cast<int>(g.dayIndex.number()), g.dayIndex.path().string()));
+    g.dayIndex.openNew(file);
+}
 void closeDayFile(Game& g) { g.dayIndex.close(); }
 
 void openChart(Game& g, int chartNumber) {
     openPerUse(g.chart, dataFile(g, fmt::format("chart{}", chartNumber), "vel"));
 }
 void closeChart(Game& g) { g.chart.close(); }
-
-namespace detail {
-
-void openScratch(Game& g, TableBase& scratch) {
-    fs::path tmp = g.dataDir / "tmp.tmp";
-    copyEmptyFile(g, tmp);
-    scratch.open(tmp, IfMissing::fail);
-}
-
-// The scratch file takes the table's place in one rename, so the table file is
-// never missing or half written.
-void replaceWithScratch(Game& g, TableBase& table, TableBase& scratch) {
-    static_cast<void>(g);
-    fs::path tmp = scratch.path();
-    fs::path target = table.path();
-    scratch.close();
-    table.close();
-    std::error_code ec;
-    fs::rename(tmp, target, ec);
-    if (ec) throw FatalError(fmt::format("Cannot replace {}: {}", target.string(), ec.message()));
-    table.open(target, IfMissing::fail);
-}
-
-}  // namespace detail
 
 }  // namespace trovane

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
+#include <vector>
 
 #include "world/game.h"
 
@@ -31,15 +32,20 @@ void closeTable(Game& g, FileNo n);
 // missing file is an error that names it. A file that is not a whole number of
 // records is refused by name.
 void openAllTables(Game& g, std::string_view ext = "vel");
-// Closes every open table, per-use ones included, writing back what changed.
+// Commits what changed, then closes every open table, per-use ones included.
 void closeAllTables(Game& g);
-// Writes back what changed in every open table, keeping them open.
-void flushAllTables(Game& g);
+// The commit: what changed in every table since the last one (open tables,
+// tables closed since, and extra writes such as the session record) reaches
+// the files whole or not at all, through the journal. The tables stay open.
+void flushAllTables(Game& g, std::vector<FileWrite> extra = {});
+// Whether a data file exists, counting one made since the last commit.
+bool dataFileExists(const Game& g, const std::filesystem::path& file);
 
 // Copies every table file of the set (the ten charts included) from one
 // extension to the other, overwriting the targets. All tables must be closed
 // (an open one is refused, as a copy would miss its unwritten changes); a
-// missing source file is an error that names it.
+// missing source file is an error that names it. Copying from the base set
+// (gam) first checks it against its manifest (a BrokenDataError when it fails).
 void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt);
 
 // Makes target an empty file by copying empty.gam, as every new scratch and day file is made.
@@ -55,36 +61,33 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name);
 // use, before any other operation gets control; opening it again while it is
 // open is refused. A missing file is an error that names it.
 void openDayFile(Game& g, int year);
+// Opens the day index of a year as a new empty file, whatever was there.
+void openNewDayFile(Game& g, int year);
 void closeDayFile(Game& g);
 void openChart(Game& g, int chartNumber);
 void closeChart(Game& g);
 
 // Rewrites a table without the records keep() refuses, numbering the kept
-// ones from 1, through the scratch file tmp.tmp; the table is open again after.
+// ones from 1. The table is rewritten in memory and reaches its file with the
+// next commit, so it is never missing or half written.
 template <PackedRecord R, class Keep>
 void compactTable(Game& g, Table<R>& table, Keep keep);
 
-namespace detail {
-void openScratch(Game& g, TableBase& scratch);
-void replaceWithScratch(Game& g, TableBase& table, TableBase& scratch);
-}  // namespace detail
-
 template <PackedRecord R, class Keep>
 void compactTable(Game& g, Table<R>& table, Keep keep) {
-    TableBase scratch(FileNo::fileTemp, R::kLength);
-    detail::openScratch(g, scratch);
-    int32_t out = 0;
+    static_cast<void>(g);
+    std::vector<std::array<uint8_t, R::kLength>> kept;
     std::array<uint8_t, R::kLength> bytes{};
     for (int32_t n = 1; n != table.recordCount(); ++n) {
         table.read(n);
         if (!keep(table.rec)) continue;
-        ++out;
         using IdType = std::remove_cvref_t<decltype(table.rec.ownNumber())>;
-        table.rec.ownNumber() = narrow<IdType>(out);
+        table.rec.ownNumber() = narrow<IdType>(kept.size() + 1);
         encodeRecord(table.rec, bytes.data());
-        scratch.putBytes(out, bytes);
+        kept.push_back(bytes);
     }
-    detail::replaceWithScratch(g, table, scratch);
+    table.clearAll();
+    for (std::size_t i = 0; i < kept.size(); ++i) table.putBytes(narrow<int32_t>(i + 1), kept[i]);
 }
 
 }  // namespace trovane

@@ -28,13 +28,38 @@ std::string TableBase::displayName() const {
     return path_.empty() ? table : fmt::format("{} ({})", table, path_.string());
 }
 
+void TableBase::adopt(const fs::path& path, std::vector<uint8_t> image, std::optional<std::size_t> diskLength) {
+    path_ = path;
+    image_ = std::move(image);
+    diskLength_ = diskLength;
+    dirtyFrom_ = SIZE_MAX;
+    dirtyTo_ = 0;
+    open_ = true;
+}
+
 void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     close();
     ++generation_;
-    int flags = O_RDWR | O_CLOEXEC;
-    if (ifMissing == IfMissing::createEmpty) flags |= O_CREAT;
+    if (parked_) {
+        auto it = parked_->find(path);
+        if (it != parked_->end()) {
+            ParkedImage p = std::move(it->second);
+            parked_->erase(it);
+            adopt(path, std::move(p.image), p.diskLength);
+            dirtyFrom_ = p.dirtyFrom;
+            dirtyTo_ = p.dirtyTo;
+            return;
+        }
+    }
+    int flags = (parked_ ? O_RDONLY : O_RDWR) | O_CLOEXEC;
+    if (ifMissing == IfMissing::createEmpty && !parked_) flags |= O_CREAT;
     int fd = ::open(path.c_str(), flags, 0644);
     if (fd < 0) {
+        if (errno == ENOENT && ifMissing == IfMissing::createEmpty) {
+            // Made by the commit that writes it.
+            adopt(path, {}, std::nullopt);
+            return;
+        }
         if (errno == ENOENT) throw FatalError(fmt::format("The data file {} is missing", path.string()));
         throw FatalError(fmt::format("Cannot open {}: {}", path.string(), std::strerror(errno)));
     }
@@ -46,7 +71,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     auto size = static_cast<std::size_t>(st.st_size);
     if (length_ == 0 || size % length_ != 0) {
         ::close(fd);
-        throw FatalError(
+        throw BrokenDataError(
             fmt::format("The data file {} is damaged: its length of {} bytes is not a whole number of {}-byte records",
                         path.string(), size, length_));
     }
@@ -62,37 +87,58 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
         }
         done += static_cast<std::size_t>(got);
     }
-    fd_ = fd;
-    path_ = path;
-    image_ = std::move(image);
+    if (parked_)
+        ::close(fd);
+    else
+        fd_ = fd;
+    adopt(path, std::move(image), size);
+}
+
+void TableBase::openNew(const fs::path& path) {
+    close();
+    if (parked_) parked_->erase(path);
+    std::error_code ec;
+    auto size = fs::file_size(path, ec);
+    if (!parked_) {
+        int fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+        if (fd < 0) throw FatalError(fmt::format("Cannot open {}: {}", path.string(), std::strerror(errno)));
+        fd_ = fd;
+    }
+    adopt(path, {}, ec ? std::nullopt : std::optional<std::size_t>(size));
+}
+
+std::optional<FileWrite> TableBase::takeWrite() {
+    if (!open_) return std::nullopt;
+    bool resized = diskLength_ != image_.size();
+    if (dirtyFrom_ >= dirtyTo_ && !resized) return std::nullopt;
+    FileWrite w{path_, image_.size(), 0, {}};
+    if (dirtyFrom_ < dirtyTo_) {
+        w.offset = dirtyFrom_;
+        w.bytes.assign(image_.begin() + static_cast<std::ptrdiff_t>(dirtyFrom_),
+                       image_.begin() + static_cast<std::ptrdiff_t>(dirtyTo_));
+    }
+    diskLength_ = image_.size();
     dirtyFrom_ = SIZE_MAX;
     dirtyTo_ = 0;
-    truncated_ = false;
+    return w;
 }
 
 void TableBase::flush() {
-    if (fd_ < 0) return;
-    if (truncated_) {
-        if (::ftruncate(fd_, 0) != 0)
-            throw FatalError(fmt::format("Cannot write {}: {}", path_.string(), std::strerror(errno)));
-        truncated_ = false;
-    }
-    if (dirtyFrom_ >= dirtyTo_) return;
-    std::size_t at = dirtyFrom_;
-    while (at < dirtyTo_) {
-        ssize_t put = ::pwrite(fd_, image_.data() + at, dirtyTo_ - at, static_cast<off_t>(at));
-        if (put <= 0) throw FatalError(fmt::format("Cannot write {}: {}", path_.string(), std::strerror(errno)));
-        at += static_cast<std::size_t>(put);
-    }
-    dirtyFrom_ = SIZE_MAX;
-    dirtyTo_ = 0;
+    if (!open_ || parked_) return;
+    if (auto w = takeWrite()) applyWrite(fd_, *w);
 }
 
 void TableBase::close() {
-    if (fd_ < 0) return;
-    flush();
-    ::close(fd_);
-    fd_ = -1;
+    if (!open_) return;
+    if (parked_) {
+        if (dirtyFrom_ < dirtyTo_ || diskLength_ != image_.size())
+            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, dirtyFrom_, dirtyTo_};
+    } else {
+        flush();
+        ::close(fd_);
+        fd_ = -1;
+    }
+    open_ = false;
     image_.clear();
     image_.shrink_to_fit();
 }
@@ -103,7 +149,7 @@ int32_t TableBase::recordCount() const {
 }
 
 void TableBase::requireOpen(const char* what) const {
-    if (fd_ < 0)
+    if (!open_)
         throw FatalError(fmt::format("Cannot {} table {}: it is not open", what, catalogueEntry(number_).table));
 }
 
@@ -126,7 +172,10 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     requireOpen("write");
     if (n < 1 || n > records() + 1) missingRecord(n, "write");
     std::size_t at = static_cast<std::size_t>(n - 1) * length_;
-    if (at + length_ > image_.size()) image_.resize(at + length_);
+    if (at + length_ > image_.size())
+        image_.resize(at + length_);
+    else if (std::memcmp(image_.data() + at, bytes.data(), length_) == 0)
+        return;  // the same bytes again change nothing and need no write
     std::memcpy(image_.data() + at, bytes.data(), length_);
     dirtyFrom_ = std::min(dirtyFrom_, at);
     dirtyTo_ = std::max(dirtyTo_, at + length_);
@@ -138,7 +187,6 @@ void TableBase::clearAll() {
     image_.clear();
     dirtyFrom_ = SIZE_MAX;
     dirtyTo_ = 0;
-    truncated_ = true;
 }
 
 }  // namespace trovane

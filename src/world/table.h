@@ -14,14 +14,22 @@
 // file on close and flush, so a walk costs no system call per record. The
 // buffer rule is not affected: the copy in memory is the file, not a cache of
 // records.
+//
+// A table of a game's working set defers its writes instead: what changed is
+// handed to the game's commit (see flushAllTables), and a table closed before
+// the commit parks its bytes with the game until then, so opening it again
+// finds them.
 #include <cstdint>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "world/catalogue.h"
+#include "world/journal.h"
 #include "world/numbers.h"
 #include "world/record_codec.h"
 
@@ -30,6 +38,15 @@ namespace trovane {
 namespace fs = std::filesystem;
 
 enum class IfMissing { createEmpty, fail };
+
+// The bytes of a table closed before the commit that writes them.
+struct ParkedImage {
+    std::vector<uint8_t> image;
+    std::optional<std::size_t> diskLength;  // none: the file is not on disk yet
+    std::size_t dirtyFrom = SIZE_MAX;
+    std::size_t dirtyTo = 0;
+};
+using ParkedFiles = std::map<fs::path, ParkedImage>;
 
 class TableBase {
 public:
@@ -41,15 +58,26 @@ public:
     FileNo number() const { return number_; }
     std::size_t recordLength() const { return length_; }
     const fs::path& path() const { return path_; }
-    bool isOpen() const { return fd_ >= 0; }
+    bool isOpen() const { return open_; }
+
+    // Makes the table defer its writes to the commit, parking its bytes in
+    // parked when it is closed first. Set once, on a closed table.
+    void deferWrites(ParkedFiles* parked) { parked_ = parked; }
+    bool defersWrites() const { return parked_ != nullptr; }
 
     // Opens the file for random read and write. A file whose length is not a
     // whole number of records is refused with a message that names it.
     void open(const fs::path& path, IfMissing ifMissing);
-    // Writes back what changed and closes the file. Closing a closed table does nothing.
+    // Opens the file as a new empty one, whatever is there now.
+    void openNew(const fs::path& path);
+    // Writes back what changed and closes the file. Closing a closed table does
+    // nothing. A deferring table parks what changed instead.
     void close();
-    // Writes back what changed, keeping the file open.
+    // Writes back what changed, keeping the file open. A deferring table
+    // leaves it to the commit.
     void flush();
+    // What changed since the last write, as one write, and the table counts as written.
+    std::optional<FileWrite> takeWrite();
 
     // The number of records plus one: the next free record number, and where a walk stops.
     int32_t recordCount() const;
@@ -72,14 +100,18 @@ protected:
     std::string displayName() const;
 
 private:
+    void adopt(const fs::path& path, std::vector<uint8_t> image, std::optional<std::size_t> diskLength);
+
     FileNo number_;
     std::size_t length_;
     fs::path path_;
-    int fd_ = -1;
+    bool open_ = false;
+    int fd_ = -1;  // held only by a table that writes its own file
+    ParkedFiles* parked_ = nullptr;
     std::vector<uint8_t> image_;
+    std::optional<std::size_t> diskLength_;
     std::size_t dirtyFrom_ = SIZE_MAX;
     std::size_t dirtyTo_ = 0;
-    bool truncated_ = false;
     uint64_t generation_ = 0;
 };
 

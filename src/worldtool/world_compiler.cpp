@@ -9,6 +9,7 @@
 #include "floor/preferences.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/manifest.h"
 #include "world/record_dump.h"
 #include "worldtool/table_form.h"
 
@@ -92,8 +93,15 @@ std::vector<SourceProblem> buildWorld(const fs::path& source, const fs::path& ou
     fs::create_directories(staging);
     try {
         for (const auto& [name, bytes] : set.files) writeFile(staging / name, bytes);
+        std::vector<fs::path> proved;
+        for (const auto& [name, bytes] : set.files)
+            if (!isPlayersFile(name)) proved.push_back(staging / name);
+        fs::path manifest = baseSetManifest(staging);
+        writeManifest(manifest, proved);
         fs::create_directories(target);
         for (const auto& [name, bytes] : set.files) fs::rename(staging / name, target / name);
+        // Last: a base set is proved only once every file of it is in place.
+        fs::rename(manifest, baseSetManifest(target));
     } catch (...) {
         fs::remove_all(staging, ec);
         throw;

@@ -29,7 +29,9 @@ std::vector<SourceProblem> checkWorld(const std::filesystem::path& source);
 // Compiles the source and, if it is clean, writes the base set into `out`
 // (made when missing). The files are first written into a fresh folder beside
 // `out` and moved in only when all are written, so a failed build leaves the
-// previous base set as it was. Other files in `out` (a working set, saved
+// previous base set as it was. The manifest of the set (manifest.gam: every
+// file but prefs.gam and highscore.gam, with its length and checksum) is
+// moved in last. Other files in `out` (a working set, saved
 // games) are left alone. Returns the problems; nothing is written when there are any.
 std::vector<SourceProblem> buildWorld(const std::filesystem::path& source, const std::filesystem::path& out);
 

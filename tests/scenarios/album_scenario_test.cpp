@@ -48,6 +48,7 @@ void writeAlbumWorld(const std::filesystem::path& dir) {
         g.newsong.append();
     }
     closeAllTables(g);
+    test::proveBaseWorld(dir);
 }
 
 // What must hold after every day: the label's cash is its starting cash and

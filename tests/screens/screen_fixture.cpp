@@ -16,6 +16,7 @@ void ScreenTest::SetUp() {
     facts->text = "The week's record sales are counted every Sunday, in all five territories at once.";
     facts.append();
     facts.close();
+    proveBaseWorld(folder.path());
     restartProgram();
 }
 

@@ -10,6 +10,7 @@
 #include "session/save_load.h"
 #include "support/empty_game.h"
 #include "world/dates.h"
+#include "world/manifest.h"
 
 using namespace trovane;
 namespace fs = std::filesystem;
@@ -71,10 +72,13 @@ protected:
 TEST_F(SaveSlots, SaveLoadAndSaveAgainGiveIdenticalFiles) {
     saveGame(g, 2, "First save");
     auto firstSave = filesWithExt(g.dataDir, "sg2");
-    EXPECT_EQ(firstSave.size(), 49u + 3u + 1u);  // the table set, 2004 to 2006, svar
+    EXPECT_EQ(firstSave.size(), 49u + 3u + 1u + 1u);  // the table set, 2004 to 2006, svar, the manifest
     loadGame(g, 2);
     saveGame(g, 3, "First save");
     auto secondSave = filesWithExt(g.dataDir, "sg3");
+    // The manifests differ only in the slot's extension of each name.
+    firstSave.erase("manifest");
+    secondSave.erase("manifest");
     EXPECT_EQ(firstSave, secondSave);
 }
 
@@ -126,11 +130,12 @@ TEST_F(SaveSlots, OverwriteDeleteAndDetails) {
 struct Damage {
     const char* what;
     void (*apply)(const fs::path& dataDir);
+    const char* fault;  // what the refusal names
 };
 
 class BrokenSlot : public SaveSlots, public ::testing::WithParamInterface<Damage> {};
 
-TEST_P(BrokenSlot, IsRefusedAndTheRunningGameIsUntouched) {
+TEST_P(BrokenSlot, IsRefusedByNameAndTheRunningGameIsUntouched) {
     saveGame(g, 6, "To be damaged");
     GetParam().apply(g.dataDir);
     g.band.read(1);
@@ -138,28 +143,68 @@ TEST_P(BrokenSlot, IsRefusedAndTheRunningGameIsUntouched) {
     g.band.write(1);
     double date = g.gameDate;
     auto before = workingSet();
-    EXPECT_THROW(loadGame(g, 6), SlotError);
+    try {
+        loadGame(g, 6);
+        ADD_FAILURE() << "a broken slot was loaded";
+    } catch (const BrokenSlotError& e) {
+        EXPECT_NE(std::string(e.what()).find(GetParam().fault), std::string::npos) << e.what();
+    }
     EXPECT_EQ(workingSet(), before);
     EXPECT_EQ(g.gameDate, date);
     g.band.read(1);  // the working set is still open and usable
     EXPECT_EQ(g.band->name, "Running game");
+    // The slot list marks it.
+    EXPECT_EQ(slotName(g, 6), "(damaged)");
+    auto fault = slotFault(g, 6);
+    ASSERT_TRUE(fault);
+    EXPECT_NE(fault->find(GetParam().fault), std::string::npos) << *fault;
 }
 
+void flipByte(const fs::path& file, std::streamoff at) {
+    std::fstream f(file, std::ios::in | std::ios::out | std::ios::binary);
+    f.seekg(at);
+    char c = 0;
+    f.get(c);
+    f.seekp(at);
+    f.put(static_cast<char>(c ^ 0x01));
+}
+
+// One label of 650 bytes; 2004 has 366 days of 4,004 bytes; the session record is 167 bytes.
 INSTANTIATE_TEST_SUITE_P(
     SaveSlots, BrokenSlot,
-    ::testing::Values(Damage{"MissingTable", [](const fs::path& d) { fs::remove(d / "band.sg6"); }},
-                      Damage{"MissingYear", [](const fs::path& d) { fs::remove(d / "2005.sg6"); }},
-                      Damage{"TruncatedTable", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 649); }},
-                      Damage{"ShortYear", [](const fs::path& d) { fs::resize_file(d / "2004.sg6", 4004 * 365); }},
-                      Damage{"TruncatedSession", [](const fs::path& d) { fs::resize_file(d / "svar.sg6", 100); }},
-                      Damage{"GarbledSession",
-                             [](const fs::path& d) {
-                                 std::fstream f(d / "svar.sg6", std::ios::in | std::ios::out | std::ios::binary);
-                                 f.seekp(40);
-                                 f.write("\xff\x7f\x00\x00", 4);  // years out of all reason
-                             }},
-                      Damage{"MissingSession", [](const fs::path& d) { fs::remove(d / "svar.sg6"); }}),
+    ::testing::Values(
+        Damage{"CutOnARecordBoundary", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 0); },
+               "label.sg6: 650 bytes expected, 0 found"},
+        Damage{"CutInsideARecord", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 649); },
+               "label.sg6: 650 bytes expected, 649 found"},
+        Damage{"AByteFlipped", [](const fs::path& d) { flipByte(d / "band.sg6", 10); }, "band.sg6: checksum"},
+        Damage{"AFileMissing", [](const fs::path& d) { fs::remove(d / "band.sg6"); }, "band.sg6 is missing"},
+        Damage{"AFileTooMany", [](const fs::path& d) { fs::copy_file(d / "2006.sg6", d / "2007.sg6"); },
+               "2007.sg6 is not in manifest.sg6"},
+        Damage{"TheManifestCutShort",
+               [](const fs::path& d) { fs::resize_file(d / "manifest.sg6", fs::file_size(d / "manifest.sg6") - 9); },
+               "manifest.sg6 is cut short"},
+        Damage{"TheManifestMissing", [](const fs::path& d) { fs::remove(d / "manifest.sg6"); },
+               "manifest.sg6 is missing"},
+        Damage{"AYearMissing", [](const fs::path& d) { fs::remove(d / "2005.sg6"); }, "2005.sg6 is missing"},
+        // 366 * 4004 = 1,465,464 and 365 * 4004 = 1,461,460
+        Damage{"AShortYear", [](const fs::path& d) { fs::resize_file(d / "2004.sg6", 4004 * 365); },
+               "2004.sg6: 1,465,464 bytes expected, 1,461,460 found"},
+        Damage{"ACutSession", [](const fs::path& d) { fs::resize_file(d / "svar.sg6", 100); },
+               "svar.sg6: 167 bytes expected, 100 found"},
+        Damage{"AGarbledSession", [](const fs::path& d) { flipByte(d / "svar.sg6", 40); }, "svar.sg6: checksum"},
+        Damage{"TheSessionMissing", [](const fs::path& d) { fs::remove(d / "svar.sg6"); }, "svar.sg6 is missing"}),
     [](const auto& info) { return std::string(info.param.what); });
+
+TEST_F(SaveSlots, ASaveOfAShorterGameLeavesNoYearOfTheOlderOneBehind) {
+    saveGame(g, 7, "Long");
+    ASSERT_TRUE(fs::exists(g.dataDir / "2006.sg7"));
+    g.gameDate = serialFromCivil(2005, 6, 1);  // as a game of two years
+    g.lastScheduleYear = 2005;
+    saveGame(g, 7, "Short");
+    EXPECT_FALSE(fs::exists(g.dataDir / "2006.sg7"));
+    EXPECT_EQ(slotName(g, 7), "Short");
+}
 
 TEST_F(SaveSlots, AnInterruptedSaveLeavesTheOldGameLoadable) {
     saveGame(g, 8, "Old game");
@@ -182,10 +227,14 @@ TEST_F(SaveSlots, ASaveInterruptedWhileMovingIntoPlaceIsFinished) {
     saveGame(g, 0, "After");  // the files a finished save would move into slot 9
     fs::path staging = g.dataDir / ".saving.sg9";
     fs::create_directories(staging);
+    std::vector<fs::path> staged;
     for (const auto& [stem, bytes] : filesWithExt(g.dataDir, "sg0")) {
-        if (stem == "band") continue;  // already moved before the crash
-        std::ofstream(staging / (stem + ".sg9"), std::ios::binary) << bytes;
+        if (stem == "manifest") continue;
+        staged.push_back(staging / (stem + ".sg9"));
+        std::ofstream(staged.back(), std::ios::binary) << bytes;
     }
+    writeManifest(staging / "manifest.sg9", staged);
+    fs::rename(staging / "band.sg9", g.dataDir / "band.sg9");  // already moved before the crash
     std::ofstream(staging / "COMPLETE") << "complete\n";
     recoverInterruptedSaves(g);
     EXPECT_EQ(slotName(g, 9), "After");

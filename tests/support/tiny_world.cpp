@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "world/game.h"
+#include "world/manifest.h"
 #include "world/record_store.h"
 
 namespace trovane::test {
@@ -84,6 +85,13 @@ void writeTinyBaseWorld(const std::filesystem::path& dataDir) {
     g.artist->band = static_cast<int16_t>(band);
     g.artist.write(artist);
     closeAllTables(g);
+    proveBaseWorld(dataDir);
+}
+
+void proveBaseWorld(const std::filesystem::path& dataDir) {
+    std::vector<std::filesystem::path> files;
+    for (const auto& name : baseSetFilesPresent(dataDir)) files.push_back(dataDir / name);
+    writeManifest(baseSetManifest(dataDir), files);
 }
 
 }  // namespace trovane::test

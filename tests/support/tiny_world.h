@@ -8,4 +8,7 @@ namespace trovane::test {
 
 void writeTinyBaseWorld(const std::filesystem::path& dataDir);
 
+// Writes the base set's manifest anew, after a test changed one of its files.
+void proveBaseWorld(const std::filesystem::path& dataDir);
+
 }  // namespace trovane::test

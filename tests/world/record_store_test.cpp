@@ -220,7 +220,7 @@ TEST(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
         EXPECT_EQ(g.shortlist->band, bands[n - 1]);
     }
     EXPECT_FALSE(std::filesystem::exists(g.dataDir / "tmp.tmp"));
-    g.shortlist.flush();
+    flushAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 3 * ShortlistRecord::kLength);
 }
 

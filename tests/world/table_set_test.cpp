@@ -46,6 +46,7 @@ TEST(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
     const char* created[] = {"news", "schedule", "offer", "shortlist", "chartrecs"};
     for (auto stem : created) fs::remove(g.dataDir / (std::string(stem) + ".vel"));
     openAllTables(g, "vel");
+    flushAllTables(g);
     for (auto stem : created) {
         auto n = *fileNoByTableName(stem);
         EXPECT_EQ(recordCount(g, n), 1) << stem;
@@ -142,6 +143,9 @@ TEST(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
     EXPECT_NE(twice.find("2031.vel"), std::string::npos) << twice;
     closeDayFile(g);
     EXPECT_FALSE(g.dayIndex.isOpen());
+    // Closed, the day waits for the commit; the commit writes it.
+    EXPECT_EQ(fs::file_size(g.dataDir / "2031.vel"), 0U);
+    flushAllTables(g);
     EXPECT_EQ(fs::file_size(g.dataDir / "2031.vel"), DayRecord::kLength);
 
     g.dayIndex.rec = DayRecord{};
@@ -184,6 +188,7 @@ TEST(PerUseFiles, PrefsAndHighScoresAreClosedBetweenUses) {
     updateHighScoreTable(g);
     updateHighScoreTable(g);  // the same career keeps its one row
     EXPECT_FALSE(g.highscore.isOpen());
+    flushAllTables(g);  // a day's high score reaches the file with the day
     EXPECT_EQ(fs::file_size(g.dataDir / "highscore.gam"), HighScoreRecord::kLength);
 }
 

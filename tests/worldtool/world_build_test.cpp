@@ -1,13 +1,17 @@
 // Building the base set: what lands in the records, that a build repeats
 // byte for byte, and that a failed build leaves the previous set alone.
 #include <gtest/gtest.h>
+
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
 
 #include "support/temp_folder.h"
+#include "world/fatal_error.h"
+#include "world/manifest.h"
 #include "world/record_dump.h"
 #include "world/records.h"
 #include "worldtool/tiny_world.h"
@@ -107,12 +111,25 @@ TEST(WorldBuild, TwoBuildsGiveIdenticalBytesInEveryFileOfTheSet) {
     ASSERT_TRUE(buildWorld(w.source, again).empty());
 
     auto names = baseSetFileNames();
-    ASSERT_EQ(first.size(), names.size());
+    ASSERT_EQ(first.size(), names.size() + 1);  // and the manifest
     EXPECT_EQ(first, snapshot(again));
     EXPECT_TRUE(first.at("empty.gam").empty());
     for (const auto& c : countRecords(w.out)) EXPECT_GE(c.records, 0) << c.file;
     EXPECT_EQ(dumpTableFile(w.out / "style.gam", FileNo::fileStyle, DumpFormat::json),
               dumpTableFile(again / "style.gam", FileNo::fileStyle, DumpFormat::json));
+}
+
+TEST(WorldBuild, TheSetProvesItselfAndLeavesThePlayersFilesOut) {
+    TinyWorld w;
+    ASSERT_TRUE(buildWorld(w.source, w.out).empty());
+    EXPECT_NO_THROW(checkBaseSet(w.out));
+    auto listed = manifestNames(baseSetManifest(w.out));
+    ASSERT_TRUE(listed);
+    EXPECT_EQ(listed->size(), baseSetFileNames().size() - 2);
+    for (const char* players : {"prefs.gam", "highscore.gam"})
+        EXPECT_EQ(std::count(listed->begin(), listed->end(), players), 0) << players;
+    std::ofstream(w.out / "band.gam", std::ios::app) << 'x';
+    EXPECT_THROW(checkBaseSet(w.out), BrokenDataError);
 }
 
 TEST(WorldBuild, AFailedBuildLeavesThePreviousSetAsItWas) {

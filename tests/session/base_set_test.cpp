@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+
+#include "session/new_game.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/fatal_error.h"
+#include "world/game.h"
+#include "world/manifest.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+struct BaseDamage {
+    const char* what;
+    void (*apply)(const fs::path& dataDir);
+    const char* fault;
+};
+
+class BrokenBaseSet : public ::testing::TestWithParam<BaseDamage> {
+protected:
+    test::TempFolder folder;
+    void SetUp() override { test::writeTinyBaseWorld(folder.path()); }
+
+    // The working set's files, name and bytes.
+    std::map<std::string, std::string> workingFiles() {
+        std::map<std::string, std::string> files;
+        for (const auto& e : fs::directory_iterator(folder.path()))
+            if (e.path().extension() == ".vel") {
+                std::ifstream in(e.path(), std::ios::binary);
+                files[e.path().filename().string()] = std::string(std::istreambuf_iterator<char>(in), {});
+            }
+        return files;
+    }
+};
+
+TEST(BaseSet, AWholeBaseSetStartsAGameAndThePlayersFilesMayChange) {
+    test::TempFolder folder;
+    test::writeTinyBaseWorld(folder.path());
+    std::ofstream(folder.path() / "prefs.gam", std::ios::app) << std::string(40, 'x');
+    std::ofstream(folder.path() / "highscore.gam", std::ios::app) << std::string(9, 'y');
+    Game g(folder.path(), 1);
+    EXPECT_NO_THROW(beginNewGame(g));
+    EXPECT_TRUE(fs::exists(folder.path() / "country.vel"));
+}
+
+TEST_P(BrokenBaseSet, RefusesANewGameByNameAndWritesNothing) {
+    GetParam().apply(folder.path());
+    auto before = workingFiles();
+    Game g(folder.path(), 1);
+    try {
+        beginNewGame(g);
+        ADD_FAILURE() << "a broken base set started a game";
+    } catch (const BrokenDataError& e) {
+        EXPECT_NE(std::string(e.what()).find(GetParam().fault), std::string::npos) << e.what();
+    }
+    EXPECT_EQ(workingFiles(), before);
+}
+
+void cutBy(const fs::path& file, std::uintmax_t bytes) { fs::resize_file(file, fs::file_size(file) - bytes); }
+
+// A country record is 67 bytes.
+INSTANTIATE_TEST_SUITE_P(
+    BaseSet, BrokenBaseSet,
+    ::testing::Values(
+        BaseDamage{"CutOnARecordBoundary", [](const fs::path& d) { cutBy(d / "country.gam", 67); }, "country.gam: "},
+        BaseDamage{"CutInsideARecord", [](const fs::path& d) { cutBy(d / "country.gam", 1); }, "country.gam: "},
+        BaseDamage{"AByteFlipped",
+                   [](const fs::path& d) {
+                       std::fstream f(d / "city.gam", std::ios::in | std::ios::out | std::ios::binary);
+                       f.seekp(3);
+                       f.put('\x7f');
+                   },
+                   "city.gam: checksum"},
+        BaseDamage{"AFileMissing", [](const fs::path& d) { fs::remove(d / "style.gam"); }, "style.gam is missing"},
+        BaseDamage{"AFileTooMany", [](const fs::path& d) { std::ofstream(d / "extra.gam") << "x"; },
+                   "extra.gam is not in manifest.gam"},
+        BaseDamage{"TheManifestCutShort", [](const fs::path& d) { cutBy(d / "manifest.gam", 4); },
+                   "manifest.gam is cut short"},
+        BaseDamage{"TheManifestMissing", [](const fs::path& d) { fs::remove(d / "manifest.gam"); },
+                   "manifest.gam is missing"}),
+    [](const auto& info) { return std::string(info.param.what); });
+
+TEST(Manifest, SizesAreGroupedInThousandsAndAnUnchangedSetHasNoFault) {
+    test::TempFolder folder;
+    fs::path file = folder.path() / "a.sg1";
+    std::ofstream(file, std::ios::binary) << std::string(17550, 'a');
+    writeManifest(folder.path() / "manifest.sg1", {file});
+    EXPECT_EQ(manifestFault(folder.path() / "manifest.sg1", {"a.sg1"}), std::nullopt);
+    fs::resize_file(file, 16900);
+    EXPECT_EQ(manifestFault(folder.path() / "manifest.sg1", {"a.sg1"}), "a.sg1: 17,550 bytes expected, 16,900 found");
+}
+
+}  // namespace

@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "schedule/schedule.h"
+#include "support/empty_game.h"
+#include "support/temp_folder.h"
+#include "world/dates.h"
+#include "world/journal.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string contents(const fs::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+struct Stop {};
+
+// Stops the commit at the n-th point of the given kind, as a kill there would.
+struct StopAt {
+    StopAt(CommitPoint kind, int n) {
+        setCommitHook([kind, n, seen = 0](CommitPoint p) mutable {
+            if (p == kind && ++seen == n) throw Stop{};
+        });
+    }
+    ~StopAt() { setCommitHook(nullptr); }
+};
+
+class Journal : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    fs::path a = folder.path() / "a.vel";
+    fs::path b = folder.path() / "b.vel";
+    fs::path journal = journalFile(folder.path());
+
+    void SetUp() override {
+        std::ofstream(a, std::ios::binary) << "AAAA";
+        std::ofstream(b, std::ios::binary) << "BBBB";
+    }
+    // a grows to 6 bytes with "xyzw" from byte 2; b is cut to "qq"; c is made.
+    std::vector<FileWrite> writes() {
+        return {FileWrite{a, 6, 2, {'x', 'y', 'z', 'w'}}, FileWrite{b, 2, 0, {'q', 'q'}},
+                FileWrite{folder.path() / "c.vel", 1, 0, {'c'}}};
+    }
+    void leaveJournal() {
+        StopAt stop(CommitPoint::journalWritten, 1);
+        EXPECT_THROW(commitWrites(folder.path(), writes()), Stop);
+    }
+    void expectUntouched() {
+        EXPECT_EQ(contents(a), "AAAA");
+        EXPECT_EQ(contents(b), "BBBB");
+        EXPECT_FALSE(fs::exists(folder.path() / "c.vel"));
+        EXPECT_FALSE(fs::exists(journal));
+    }
+    void expectCommitted() {
+        EXPECT_EQ(contents(a), "AAxyzw");
+        EXPECT_EQ(contents(b), "qq");
+        EXPECT_EQ(contents(folder.path() / "c.vel"), "c");
+        EXPECT_FALSE(fs::exists(journal));
+    }
+};
+
+TEST_F(Journal, ACommitWritesEveryFileAndDropsTheJournal) {
+    commitWrites(folder.path(), writes());
+    expectCommitted();
+}
+
+TEST_F(Journal, ACompleteJournalIsReplayed) {
+    leaveJournal();
+    EXPECT_EQ(contents(a), "AAAA");  // killed before any file was touched
+    ASSERT_TRUE(fs::exists(journal));
+    EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::replayed);
+    expectCommitted();
+}
+
+TEST_F(Journal, AKillBetweenTwoFilesIsFinishedWhenAGameOpensTheFolder) {
+    {
+        StopAt stop(CommitPoint::fileWritten, 1);
+        EXPECT_THROW(commitWrites(folder.path(), writes()), Stop);
+    }
+    EXPECT_EQ(contents(a), "AAxyzw");
+    EXPECT_EQ(contents(b), "BBBB");
+    Game g(folder.path(), 1);
+    expectCommitted();
+}
+
+TEST_F(Journal, AnIncompleteJournalIsDropped) {
+    leaveJournal();
+    fs::resize_file(journal, fs::file_size(journal) - 1);
+    EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::dropped);
+    expectUntouched();
+}
+
+TEST_F(Journal, AJournalWithoutItsCommitMarkIsDropped) {
+    leaveJournal();
+    fs::resize_file(journal, fs::file_size(journal) - 16);  // "COMMIT!!", the count and the checksum
+    EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::dropped);
+    expectUntouched();
+}
+
+TEST_F(Journal, AJournalWithABadChecksumIsDropped) {
+    leaveJournal();
+    std::string bytes = contents(journal);
+    std::size_t at = bytes.find("xyzw");
+    ASSERT_NE(at, std::string::npos);
+    bytes[at] = 'X';
+    std::ofstream(journal, std::ios::binary | std::ios::trunc) << bytes;
+    EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::dropped);
+    expectUntouched();
+}
+
+TEST(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    fs::path bands = g.dataDir / "band.vel";
+    fs::path year = g.dataDir / "2006.vel";
+    auto bandsBefore = fs::file_size(bands);
+    g.band.rec = BandRecord{};
+    g.band->name = "Night Ferry";
+    g.band.append();
+    ScheduleRecord entry{};
+    entry.type = 1;
+    entry.date = serialFromCivil(2006, 1, 2);
+    addSchedule(g, entry);  // files the year 2006
+    EXPECT_EQ(fs::file_size(bands), bandsBefore);
+    EXPECT_FALSE(fs::exists(year));
+    EXPECT_TRUE(hasDayFile(g, 2006));  // the game itself sees its own day
+    EXPECT_EQ(entriesOfDay(g, entry.date).size(), 1U);
+
+    flushAllTables(g);
+    EXPECT_EQ(fs::file_size(bands), bandsBefore + BandRecord::kLength);
+    EXPECT_EQ(fs::file_size(year), 365U * DayRecord::kLength);  // 2006 is no leap year
+    EXPECT_FALSE(fs::exists(journalFile(g.dataDir)));
+}
+
+TEST(DayCommit, ARecordWrittenBackUnchangedIsNoChange) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    g.band.rec = BandRecord{};
+    g.band->name = "Night Ferry";
+    g.band.append();
+    flushAllTables(g);
+    int journals = 0;
+    setCommitHook([&](CommitPoint p) { journals += p == CommitPoint::journalWritten; });
+    g.band.read(1);
+    g.band.write(1);
+    flushAllTables(g);
+    EXPECT_EQ(journals, 0);
+    g.band->name = "Night Ferrys";
+    g.band.write(1);
+    flushAllTables(g);
+    EXPECT_EQ(journals, 1);
+    setCommitHook(nullptr);
+}
+
+}  // namespace
