@@ -153,6 +153,124 @@ std::optional<InvariantBreak> playerCashIsTheLabels(Game& g) {
     return std::nullopt;
 }
 
+// A reference field holds 0 (none) or a record of its table.
+bool refersWithin(int32_t value, int32_t records) { return value >= 0 && value <= records; }
+
+InvariantBreak outside(const char* table, int32_t n, std::string field, const char* rule, int32_t value,
+                       int32_t records) {
+    return {table, n, std::move(field), rule, fmt::format("{} of {}", value, records)};
+}
+
+std::optional<InvariantBreak> bandsHoldTheirFields(Game& g) {
+    const int32_t labels = g.label.recordCount() - 1;
+    const int32_t artists = g.artist.recordCount() - 1;
+    for (int32_t n = 1; n != g.band.recordCount(); ++n) {
+        const BandRecord b = copyOf(g.band, n);
+        if (!refersWithin(b.label, labels)) return outside("band", n, "label", "bandsHoldTheirFields", b.label, labels);
+        if (b.memberCount > b.members.size())
+            return InvariantBreak{"band", n, "memberCount", "bandsHoldTheirFields",
+                                  fmt::format("{} members, at most {}", b.memberCount, b.members.size())};
+        for (std::size_t i = 0; i < b.memberCount; ++i)
+            if (!refersWithin(b.members[i], artists))
+                return outside("band", n, fmt::format("members[{}]", i), "bandsHoldTheirFields", b.members[i], artists);
+        if (b.albumStatus > 3)
+            return InvariantBreak{"band", n, "albumStatus", "bandsHoldTheirFields",
+                                  fmt::format("{}, at most 3", b.albumStatus)};
+        if (b.retired != 0) continue;
+        for (std::size_t m = 0; m < b.reputation.size(); ++m) {
+            if (b.reputation[m] < 2 || b.reputation[m] > 100)
+                return InvariantBreak{"band", n, fmt::format("reputation[{}]", m), "bandsHoldTheirFields",
+                                      fmt::format("{}, not within 2 to 100", b.reputation[m])};
+            if (b.hype[m] < -100 || b.hype[m] > 100)
+                return InvariantBreak{"band", n, fmt::format("hype[{}]", m), "bandsHoldTheirFields",
+                                      fmt::format("{}, not within -100 to 100", b.hype[m])};
+        }
+    }
+    return std::nullopt;
+}
+
+// A label's bandCount is the number of its bands that have not retired.
+std::optional<InvariantBreak> bandCountIsItsBands(Game& g) {
+    const int32_t labels = g.label.recordCount() - 1;
+    std::vector<int32_t> signedTo(static_cast<std::size_t>(labels) + 1, 0);
+    for (int32_t n = 1; n != g.band.recordCount(); ++n) {
+        const BandRecord b = copyOf(g.band, n);
+        if (b.retired == 0 && b.label > 0 && b.label <= labels) ++signedTo[static_cast<std::size_t>(b.label)];
+    }
+    for (int32_t n = 1; n <= labels; ++n) {
+        const LabelRecord l = copyOf(g.label, n);
+        if (l.bandCount != signedTo[static_cast<std::size_t>(n)])
+            return labelBreak(
+                n, "bandCount", "bandCountIsItsBands",
+                fmt::format("holds {}, {} bands carry the label", l.bandCount, signedTo[static_cast<std::size_t>(n)]));
+    }
+    return std::nullopt;
+}
+
+// An offer names a band (or -1, void) and a label of their tables; a
+// shortlist row names both or neither.
+std::optional<InvariantBreak> offersAndShortlistPointWithin(Game& g) {
+    const int32_t bands = g.band.recordCount() - 1;
+    const int32_t labels = g.label.recordCount() - 1;
+    for (int32_t n = 1; n != g.offer.recordCount(); ++n) {
+        const OfferRecord o = copyOf(g.offer, n);
+        if (o.band != -1 && !refersWithin(o.band, bands))
+            return outside("offer", n, "band", "offersAndShortlistPointWithin", o.band, bands);
+        if (!refersWithin(o.label, labels))
+            return outside("offer", n, "label", "offersAndShortlistPointWithin", o.label, labels);
+    }
+    for (int32_t n = 1; n != g.shortlist.recordCount(); ++n) {
+        const ShortlistRecord r = copyOf(g.shortlist, n);
+        if (!refersWithin(r.band, bands))
+            return outside("shortlist", n, "band", "offersAndShortlistPointWithin", r.band, bands);
+        if (!refersWithin(r.label, labels))
+            return outside("shortlist", n, "label", "offersAndShortlistPointWithin", r.label, labels);
+    }
+    return std::nullopt;
+}
+
+// Songs and discs point within their tables: a song's disc is a disc, or one
+// of the marks of a song not yet on a disc (65535) or passed over (65534).
+std::optional<InvariantBreak> songsAndDiscsPointWithin(Game& g) {
+    const int32_t bands = g.band.recordCount() - 1;
+    const int32_t labels = g.label.recordCount() - 1;
+    const int32_t discs = g.disc.recordCount() - 1;
+    const int32_t songs = g.song.recordCount() - 1;
+    for (int32_t n = 1; n != g.song.recordCount(); ++n) {
+        const SongRecord s = copyOf(g.song, n);
+        if (!refersWithin(s.band, bands)) return outside("song", n, "band", "songsAndDiscsPointWithin", s.band, bands);
+        if (s.disc < 65534 && !refersWithin(s.disc, discs))
+            return outside("song", n, "disc", "songsAndDiscsPointWithin", s.disc, discs);
+    }
+    for (int32_t n = 1; n != g.disc.recordCount(); ++n) {
+        const DiscRecord d = copyOf(g.disc, n);
+        if (!refersWithin(d.band, bands)) return outside("disc", n, "band", "songsAndDiscsPointWithin", d.band, bands);
+        if (!refersWithin(d.label, labels))
+            return outside("disc", n, "label", "songsAndDiscsPointWithin", d.label, labels);
+        if (d.trackCount > d.tracks.size() || d.tracksRecorded > d.trackCount)
+            return InvariantBreak{"disc", n, "tracksRecorded", "songsAndDiscsPointWithin",
+                                  fmt::format("{} of {} tracks recorded, at most 20", d.tracksRecorded, d.trackCount)};
+        for (std::size_t i = 0; i < d.trackCount; ++i)
+            if (!refersWithin(d.tracks[i], songs))
+                return outside("disc", n, fmt::format("tracks[{}]", i), "songsAndDiscsPointWithin", d.tracks[i], songs);
+    }
+    return std::nullopt;
+}
+
+// A firm is open (-1) or being built (0), and its owner is a label or none.
+std::optional<InvariantBreak> firmsHoldTheirFields(Game& g) {
+    const int32_t labels = g.label.recordCount() - 1;
+    for (int32_t n = 1; n != g.business.recordCount(); ++n) {
+        const BusinessRecord b = copyOf(g.business, n);
+        if (b.open != 0 && b.open != -1)
+            return InvariantBreak{"business", n, "open", "firmsHoldTheirFields",
+                                  fmt::format("{}, not 0 or -1", b.open)};
+        if (!refersWithin(b.owner, labels))
+            return outside("business", n, "owner", "firmsHoldTheirFields", b.owner, labels);
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -160,6 +278,11 @@ constexpr std::array kRules = {
     InvariantRule{"departmentHeadsWorkThere", departmentHeadsWorkThere},
     InvariantRule{"departmentRatingsFollowStaff", departmentRatingsFollowStaff},
     InvariantRule{"wageBillIsItsDepartments", wageBillIsItsDepartments},
+    InvariantRule{"bandsHoldTheirFields", bandsHoldTheirFields},
+    InvariantRule{"bandCountIsItsBands", bandCountIsItsBands},
+    InvariantRule{"offersAndShortlistPointWithin", offersAndShortlistPointWithin},
+    InvariantRule{"songsAndDiscsPointWithin", songsAndDiscsPointWithin},
+    InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
 };
 
 }  // namespace

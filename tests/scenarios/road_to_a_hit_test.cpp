@@ -12,6 +12,7 @@
 #include "production/chart_history.h"
 #include "production/charts.h"
 #include "production/disc_release.h"
+#include "session/invariants.h"
 #include "session/new_game.h"
 #include "support/temp_folder.h"
 #include "world/dates.h"
@@ -53,6 +54,8 @@ protected:
         checkDaysSchedule(g);
         g.label.read(g.player.playerLabel);
         ASSERT_EQ(g.player.playerLabelCash, g.label->cashBalance) << formatDate(g.gameDate);
+        const auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << formatDate(g.gameDate) << ": " << describeBreak(*broken);
     }
     static std::string formatDate(double d) { return std::to_string(yearOf(d)) + "-" + std::to_string(monthOf(d)); }
 };

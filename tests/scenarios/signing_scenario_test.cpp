@@ -9,6 +9,7 @@
 #include "day/news_inbox.h"
 #include "floor/preferences.h"
 #include "label/scouting.h"
+#include "session/invariants.h"
 #include "session/new_game.h"
 #include "support/temp_folder.h"
 #include "talent/band_offers.h"
@@ -116,6 +117,8 @@ TEST(SigningScenario, ALabelScoutsOffersWithdrawsAndSigns) {
         ASSERT_TRUE(allRepliesGiven(g));
         checkDaysSchedule(g);
         ASSERT_EQ(signingRuleBroken(g), "") << civilFromSerial(g.gameDate).day;
+        const auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << describeBreak(*broken);
     }
     g.band.read(wanted);
     EXPECT_EQ(g.band->label, label);

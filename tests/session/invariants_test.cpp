@@ -95,6 +95,13 @@ void onLabel(Game& g, int32_t n, const std::function<void(LabelRecord&)>& f) {
     f(g.label.rec);
     g.label.write();
 }
+// An unsigned act with sound figures, the given changes made to it.
+void addBand(Game& g, const std::function<void(BandRecord&)>& f) {
+    g.band.rec = BandRecord{};
+    g.band->reputation = {2, 2, 2, 2, 2};
+    f(g.band.rec);
+    g.band.append();
+}
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(
@@ -127,5 +134,73 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"RatingOffByOne", [](Game& g) { onLabel(g, 2, [](auto& l) { l.department[1].rating = 13; }); }, "label",
               2, "department[1].rating", "departmentRatingsFollowStaff"},
         Fault{"BillWithoutTheHead", [](Game& g) { onLabel(g, 2, [](auto& l) { l.wageBill = moneyUnits(10'000); }); },
-              "label", 2, "wageBill", "wageBillIsItsDepartments"}),
+              "label", 2, "wageBill", "wageBillIsItsDepartments"},
+        Fault{"ReputationBelowTheFloor", [](Game& g) { addBand(g, [](auto& b) { b.reputation[3] = 1; }); }, "band", 1,
+              "reputation[3]", "bandsHoldTheirFields"},
+        Fault{"HypePastItsMeter", [](Game& g) { addBand(g, [](auto& b) { b.hype[0] = -101; }); }, "band", 1, "hype[0]",
+              "bandsHoldTheirFields"},
+        Fault{"AMemberWhoDoesNotExist",
+              [](Game& g) {
+                  addBand(g, [](auto& b) {
+                      b.memberCount = 1;
+                      b.members[0] = 1;  // the artist table is empty
+                  });
+              },
+              "band", 1, "members[0]", "bandsHoldTheirFields"},
+        Fault{"ABandCountAhead", [](Game& g) { onLabel(g, 1, [](auto& l) { l.bandCount = 1; }); }, "label", 1,
+              "bandCount", "bandCountIsItsBands"},
+        Fault{"ARetiredActCounted",
+              [](Game& g) {
+                  addBand(g, [](auto& b) {
+                      b.label = 2;
+                      b.retired = -1;
+                  });
+                  onLabel(g, 2, [](auto& l) { l.bandCount = 1; });
+              },
+              "label", 2, "bandCount", "bandCountIsItsBands"},
+        Fault{"AnOfferForNoBand",
+              [](Game& g) {
+                  g.offer.rec = OfferRecord{};
+                  g.offer->band = 1;  // no band yet
+                  g.offer.append();
+              },
+              "offer", 1, "band", "offersAndShortlistPointWithin"},
+        Fault{"ASongOnADiscThatIsNot",
+              [](Game& g) {
+                  g.song.rec = SongRecord{};
+                  g.song->disc = 1;  // no disc yet; 65535 and 65534 would be the marks
+                  g.song.append();
+              },
+              "song", 1, "disc", "songsAndDiscsPointWithin"},
+        Fault{"MoreTracksRecordedThanBooked",
+              [](Game& g) {
+                  g.disc.rec = DiscRecord{};
+                  g.disc->trackCount = 2;
+                  g.disc->tracksRecorded = 3;
+                  g.disc.append();
+              },
+              "disc", 1, "tracksRecorded", "songsAndDiscsPointWithin"},
+        Fault{"AFirmNeitherOpenNorBuilding",
+              [](Game& g) {
+                  g.business.rec = BusinessRecord{};
+                  g.business->open = 1;
+                  g.business.append();
+              },
+              "business", 1, "open", "firmsHoldTheirFields"}),
     [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Invariants, AVoidOfferAndSongsAwaitingADiscPass) {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    soundGame(g);
+    g.offer.rec = OfferRecord{};
+    g.offer->band = -1;  // void
+    g.offer.append();
+    for (uint16_t mark : {uint16_t{65535}, uint16_t{65534}}) {
+        g.song.rec = SongRecord{};
+        g.song->disc = mark;
+        g.song.append();
+    }
+    auto broken = checkInvariants(g);
+    EXPECT_FALSE(broken) << describeBreak(*broken);
+}
