@@ -299,18 +299,24 @@ void runSingle(SimContext& ctx, const std::string& albumKey, const std::string& 
             return badArgument(ctx, "--b-sides takes two songs, by number or title");
         }
     }
-    std::string refusal = makeSingleRefusal(g, album, lead, sides);
+    std::string refusal = recordSingleRefusal(g, album, lead, sides, studio);
     if (!refusal.empty()) {
         refuse(ctx, refusal);
     } else {
-        int16_t single = makeSingle(g, album, lead, sides);
-        // The studio booking of the single comes with the recording screens.
+        const RecordedSingle r = recordSingle(g, album, lead, sides, studio);
         if (ctx.json)
-            std::printf("{\"disc\":%d,\"tracks\":[%d,%d,%d],\"studioBooked\":false}\n", single, lead, sides[0],
-                        sides[1]);
+            std::printf(
+                "{\"disc\":%d,\"tracks\":[%d,%d,%d],\"sessions\":%d,\"firstStudioDay\":\"%s\","
+                "\"recordingDue\":\"%s\",\"cost\":%s}\n",
+                r.disc, lead, sides[0], sides[1], r.booking.sessions,
+                formatDate(r.booking.firstDay, "yyyy-mm-dd").c_str(),
+                formatDate(r.booking.recordingDue, "yyyy-mm-dd").c_str(),
+                fmt::format("{:.4f}", moneyToDouble(r.booking.cost)).c_str());
         else
-            std::printf("Single %d made; its recording at %s is not booked yet.\n", single,
-                        firmName(g, studio).c_str());
+            std::printf("Single %d: %d sessions at %s from %s, due %s, cost %s\n", r.disc, r.booking.sessions,
+                        firmName(g, studio).c_str(), formatDate(r.booking.firstDay, "d/m/yyyy").c_str(),
+                        formatDate(r.booking.recordingDue, "d/m/yyyy").c_str(),
+                        formatMoney(g, r.booking.cost, "###,###,##0").c_str());
     }
     ctx.closeGame();
 }

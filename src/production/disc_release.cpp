@@ -1,5 +1,7 @@
 #include "production/disc_release.h"
 
+#include "talent/contract_progress.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -229,7 +231,15 @@ void releaseDay(Game& g) {
     }
     bool earliestDay = std::none_of(g.disc->releaseDate.begin(), g.disc->releaseDate.end(),
                                     [&](double d) { return isSet(d) && d < g.gameDate; });
-    if (!g.disc->isSingle && earliestDay) payFinalInstallment(g);
+    if (!g.disc->isSingle && earliestDay) {
+        payFinalInstallment(g);
+        // The album sets the date of the contract's next option.
+        const DiscRecord disc = g.disc.rec;
+        g.band.read(disc.band);
+        scheduleContractPoint(g, g.gameDate);
+        g.disc.rec = disc;
+        g.band.read(disc.band);
+    }
 
     for (int t = 0; t < 5; ++t) {
         if (g.disc->releaseDate[at(t)] != g.gameDate) continue;

@@ -1,5 +1,7 @@
 #include "production/discs.h"
 
+#include "production/businesses.h"
+
 #include <algorithm>
 
 #include "production/disc_release.h"
@@ -167,6 +169,23 @@ int16_t makeSingle(Game& g, int16_t album, int32_t lead, const std::array<int32_
     single.label = g.band->label;
     g.disc.rec = single;
     return static_cast<int16_t>(g.disc.append());
+}
+
+std::string recordSingleRefusal(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides,
+                                int16_t studio) {
+    std::string refusal = makeSingleRefusal(g, album, lead, bSides);
+    if (!refusal.empty()) return refusal;
+    if (!g.business.readIfPresent(studio) || g.business->kind != kStudio || g.business->open != kFirmOpen)
+        return "Please choose an open studio from the list.";
+    return {};
+}
+
+RecordedSingle recordSingle(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides,
+                            int16_t studio) {
+    RecordedSingle r;
+    r.disc = makeSingle(g, album, lead, bSides);
+    r.booking = bookStudio(g, r.disc, studio);
+    return r;
 }
 
 }  // namespace trovane

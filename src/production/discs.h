@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "production/recording.h"
+
 namespace trovane {
 
 class Game;
@@ -24,5 +26,15 @@ std::array<int32_t, 2> defaultBSides(Game& g, int16_t album, int32_t lead);
 // stock, chart fields, dates or income; its quality is its lead song's.
 std::string makeSingleRefusal(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides);
 int16_t makeSingle(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides);
+
+// frmChooseBSides' Confirm: the single made and booked into the studio, or the
+// refusal of either, in which case nothing is made.
+std::string recordSingleRefusal(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides,
+                                int16_t studio);
+struct RecordedSingle {
+    int16_t disc = 0;
+    StudioBooking booking;
+};
+RecordedSingle recordSingle(Game& g, int16_t album, int32_t lead, const std::array<int32_t, 2>& bSides, int16_t studio);
 
 }  // namespace trovane

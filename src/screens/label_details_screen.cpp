@@ -1,5 +1,7 @@
 #include "screens/label_details_screen.h"
 
+#include "screens/business_screens.h"
+
 #include <QChart>
 #include <QChartView>
 #include <QDateTime>
@@ -73,7 +75,8 @@ frmLabelDetails::frmLabelDetails(mdiParentForm& main, int16_t label)
     tabs->addTab(detailsTab(), tr("Details"));
     tabs->addTab(financesTab(), tr("Finances"));
     tabs->addTab(departmentsTab(), tr("Departments"));
-    // The facilities (studios, distribution firms, plants) join as a fourth tab with the firms.
+    // The player's own studios, plants and distribution firms, and building more.
+    if (label_ == main_.game().player.playerLabel) tabs->addTab(new LabelFacilities(main_, tabs), tr("Facilities"));
     fill();
 }
 

@@ -84,10 +84,10 @@ frmChooseBSides::frmChooseBSides(Game& g, int16_t album, int32_t lead, QWidget* 
 
 void frmChooseBSides::confirm() {
     std::array<int32_t, 2> sides{cmbBSide[0]->currentData().toInt(), cmbBSide[1]->currentData().toInt()};
-    std::string refusal = makeSingleRefusal(g_, album_, lead_, sides);
+    const auto studio = static_cast<int16_t>(cmbStudio->currentData().toInt());
+    std::string refusal = recordSingleRefusal(g_, album_, lead_, sides, studio);
     if (!refusal.empty()) return lblRefusal->setText(QString::fromStdString(refusal));
-    // The booking at the chosen studio comes with the recording screens.
-    single = makeSingle(g_, album_, lead_, sides);
+    single = recordSingle(g_, album_, lead_, sides, studio).disc;
     accept();
 }
 

@@ -5,6 +5,7 @@
 #include "production/disc_release.h"
 #include "schedule/schedule.h"
 #include "support/disc_world.h"
+#include "world/dates.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -213,6 +214,34 @@ TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
     EXPECT_EQ(bandRec(band).optionMonthsLeft, 0);
     g.achieve.read(1);
     EXPECT_EQ(trim(g.achieve->text.value), "New (album) released 5/8/2004");
+}
+
+}  // namespace
+
+namespace {
+
+// An album's first release day sets the contract's next option; a single's does not.
+TEST_F(Release, AnAlbumsReleaseSetsTheNextOptionDateThreeMonthsOn) {
+    for (bool single : {false, true}) {
+        int16_t d = recorded(single ? "Single" : "Album");
+        g.disc.read(d);
+        g.disc->isSingle = single ? 1 : 0;
+        g.disc->releaseDate = {g.gameDate, 0, 0, 0, 0};
+        g.disc.write();
+        g.band.read(band);
+        g.band->optionsRemaining = 0;  // the last term: a decision, never a take-up
+        g.band.write();
+        g.schedule.rec = ScheduleRecord{};
+        g.schedule->disc = d;
+        releaseDay(g);
+    }
+    // Thursday 5 August 2004 + 3 months = Friday 5 November 2004; one entry, for the album.
+    int decisions = 0;
+    for (int32_t id : entriesOfDay(g, serialFromCivil(2004, 11, 5))) {
+        g.schedule.read(id);
+        if (g.schedule->type == 18 && g.schedule->band == band) ++decisions;
+    }
+    EXPECT_EQ(decisions, 1);
 }
 
 }  // namespace

@@ -7,10 +7,13 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
+#include <QTabWidget>
+
 #include "production/businesses.h"
 #include "screen_fixture.h"
 #include "screens/album_screens.h"
 #include "screens/business_screens.h"
+#include "screens/label_details_screen.h"
 #include "screens/side_bar.h"
 #include "talent/contract_progress.h"
 #include "world/strings.h"
@@ -141,9 +144,13 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
 TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {
     startNewGameAsPlayer();
     Game& g = *game;
-    auto* facilities = new screens::LabelFacilities(*window);
-    facilities->resize(700, 360);
-    facilities->show();
+    click(window->sideBar()->btnLabelOptions);
+    ASSERT_EQ(screen(), Screen::frmLabelDetails);
+    auto* page = find<screens::frmLabelDetails>("frmLabelDetails");
+    ASSERT_EQ(page->tabs->count(), 4);
+    EXPECT_EQ(page->tabs->tabText(3), "Facilities");
+    page->tabs->setCurrentIndex(3);
+    auto* facilities = find<screens::LabelFacilities>("LabelFacilities");
     EXPECT_EQ(facilities->flxBusinesses->rowCount(), 0);
     click(facilities->cmdBuild);
     auto* build = dialog<screens::frmBuildNewFacility>("frmBuildNewFacility");

@@ -156,6 +156,21 @@ TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
     g.disc.write();
     screens::frmReleaseSingle pick(g, disc);
     EXPECT_EQ(pick.lstSongs->count(), 3);  // song 4 has been a single
+    const int32_t discsBefore = g.disc.recordCount();
+    {
+        screens::frmChooseBSides noStudio(g, disc, songs[0]);
+        noStudio.show();
+        click(noStudio.cmdConfirm);
+        EXPECT_EQ(noStudio.single, 0);
+        EXPECT_EQ(noStudio.lblRefusal->text().toStdString(), "Please choose an open studio from the list.");
+        EXPECT_EQ(g.disc.recordCount(), discsBefore) << "a refusal makes nothing";
+    }
+    g.business.rec = BusinessRecord{};
+    g.business->name = "Tin Roof";
+    g.business->kind = 0;
+    g.business->open = -1;
+    g.business->quality = 40;
+    const auto studio = static_cast<int16_t>(g.business.append());
     screens::frmChooseBSides sides(g, disc, songs[0]);
     sides.show();
     EXPECT_EQ(sides.cmbBSide[0]->currentData().toInt(), songs[1]);
@@ -164,6 +179,7 @@ TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
     ASSERT_GT(sides.single, 0);
     g.disc.read(sides.single);
     EXPECT_EQ(g.disc->isSingle, 1);
+    EXPECT_EQ(g.disc->studio, studio) << "the single is booked into the chosen studio";
     EXPECT_EQ(trim(g.disc->title.value), "Song 1");
     EXPECT_EQ(g.disc->quality, 80);
     EXPECT_EQ(g.disc->tracks[1], songs[1]);
