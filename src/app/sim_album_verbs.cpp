@@ -1,6 +1,7 @@
 // The verbs of songs, records and firms: work, songs, album, progress, firms,
 // build, and the answer to an ended option.
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -82,22 +83,28 @@ std::optional<std::vector<int32_t>> trackList(const std::string& text) {
     return ids;
 }
 
+// What the verbs below are given on the command line.
+struct WorkOptions {
+    std::string band;
+    int budget = -1;
+};
+
 void addWorkVerb(CLI::App& app, SimContext& ctx) {
-    static std::string band;
-    static int budget = -1;
+    auto workOpts = std::make_shared<WorkOptions>();
     auto* v = app.add_subcommand("work", "Ask a band of yours to work full time on a new album");
-    v->add_option("BAND", band, "The band, by number or exact name")->required();
-    v->add_option("--budget", budget, "The budget for bought-in songs, 0 (dearest) to 4 (cheapest)")->required();
-    v->callback([&ctx] {
-        if (budget < 0 || budget > 4) return badArgument(ctx, "The budget must be from 0 to 4");
+    v->add_option("BAND", workOpts->band, "The band, by number or exact name")->required();
+    v->add_option("--budget", workOpts->budget, "The budget for bought-in songs, 0 (dearest) to 4 (cheapest)")
+        ->required();
+    v->callback([&ctx, workOpts] {
+        if (workOpts->budget < 0 || workOpts->budget > 4) return badArgument(ctx, "The budget must be from 0 to 4");
         Game& g = ctx.openGame();
-        if (int16_t b = findBand(ctx, g, band)) {
+        if (int16_t b = findBand(ctx, g, workOpts->band)) {
             if (std::string why = checkWorkOnAlbum(g, b); !why.empty()) {
                 refuse(ctx, why);
             } else {
-                workOnAlbum(g, b, budget);
+                workOnAlbum(g, b, workOpts->budget);
                 if (ctx.json)
-                    std::printf("{\"band\":%d,\"albumStatus\":1,\"materialBudget\":%d}\n", b, budget);
+                    std::printf("{\"band\":%d,\"albumStatus\":1,\"materialBudget\":%d}\n", b, workOpts->budget);
                 else
                     std::printf("%s\n", materialBudgetText(g, b).c_str());
             }
@@ -106,13 +113,18 @@ void addWorkVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct SongsOptions {
+    std::string band;
+};
+
 void addSongsVerb(CLI::App& app, SimContext& ctx) {
-    static std::string band;
+    auto songsOpts = std::make_shared<SongsOptions>();
     auto* v = app.add_subcommand("songs", "The songs a band has in hand");
-    v->add_option("BAND", band, "The band, by number or exact name")->required();
-    v->callback([&ctx] {
+    v->add_option("BAND", songsOpts->band, "The band, by number or exact name")->required();
+    v->callback([&ctx, songsOpts] {
         Game& g = ctx.openGame();
-        if (int16_t b = findBand(ctx, g, band)) {
+        if (int16_t b = findBand(ctx, g, songsOpts->band)) {
             std::string out = "[";
             for (int32_t id : songsInHand(g, b)) {
                 g.song.read(id);
@@ -134,25 +146,34 @@ void addSongsVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct AlbumOptions {
+    std::string band;
+    std::string tracks;
+    std::string studio;
+    std::optional<std::string> title;
+};
+
 void addAlbumVerb(CLI::App& app, SimContext& ctx) {
-    static std::string band, tracks, studio;
-    static std::optional<std::string> title;
+    auto albumOpts = std::make_shared<AlbumOptions>();
     auto* v = app.add_subcommand("album", "Finalise a band's album, title it and book the studio");
-    v->add_option("BAND", band, "The band, by number or exact name")->required();
-    v->add_option("--tracks", tracks,
+    v->add_option("BAND", albumOpts->band, "The band, by number or exact name")->required();
+    v->add_option("--tracks", albumOpts->tracks,
                   "The songs, by number: ID,ID,... (left out, an album already finalised is booked)");
-    v->add_option("--studio", studio, "The studio, by number or exact name")->required();
-    v->add_option("--title", title, "The album's title (default: the assistants' suggestion)");
-    v->callback([&ctx] {
+    v->add_option("--studio", albumOpts->studio, "The studio, by number or exact name")->required();
+    v->add_option("--title", albumOpts->title, "The album's title (default: the assistants' suggestion)");
+    v->callback([&ctx, albumOpts] {
         std::optional<std::vector<int32_t>> ids;
-        if (!tracks.empty()) {
-            ids = trackList(tracks);
+        if (!albumOpts->tracks.empty()) {
+            ids = trackList(albumOpts->tracks);
             if (!ids) return badArgument(ctx, "--tracks takes song numbers separated by commas");
         }
         Game& g = ctx.openGame();
-        int16_t b = findBand(ctx, g, band);
-        auto firm = b ? findRecord(g.business, studio, [](const BusinessRecord& r) { return trim(r.name.value); }) : 0;
-        if (b && firm == 0) badArgument(ctx, "There is no firm " + studio);
+        int16_t b = findBand(ctx, g, albumOpts->band);
+        auto firm =
+            b ? findRecord(g.business, albumOpts->studio, [](const BusinessRecord& r) { return trim(r.name.value); })
+              : 0;
+        if (b && firm == 0) badArgument(ctx, "There is no firm " + albumOpts->studio);
         // A tracklist fixed on the screens without a studio is booked as it stands.
         int16_t waiting = b && !ids ? discAwaitingStudio(g, b) : 0;
         std::string why;
@@ -169,7 +190,7 @@ void addAlbumVerb(CLI::App& app, SimContext& ctx) {
                 if (g.business->kind != kStudio || g.business->open != kFirmOpen)
                     why = "Please choose an open studio from the list.";
             }
-            if (why.empty() && title) why = checkDiscTitle(*title);
+            if (why.empty() && albumOpts->title) why = checkDiscTitle(*albumOpts->title);
             if (!why.empty()) refuse(ctx, why);
         }
         if (b && firm && why.empty()) {
@@ -177,8 +198,8 @@ void addAlbumVerb(CLI::App& app, SimContext& ctx) {
             g.disc.read(disc);
             std::string name = trim(g.disc->title.value);
             g.band.read(b);
-            if (title)
-                name = trim(*title);
+            if (albumOpts->title)
+                name = trim(*albumOpts->title);
             else if (name.empty())
                 name = pickAlbumTitle(g);
             setDiscTitle(g, disc, name);
@@ -198,13 +219,18 @@ void addAlbumVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct ProgressOptions {
+    std::string band;
+};
+
 void addProgressVerb(CLI::App& app, SimContext& ctx) {
-    static std::string band;
+    auto progressOpts = std::make_shared<ProgressOptions>();
     auto* v = app.add_subcommand("progress", "How a band's album is coming on");
-    v->add_option("BAND", band, "The band, by number or exact name")->required();
-    v->callback([&ctx] {
+    v->add_option("BAND", progressOpts->band, "The band, by number or exact name")->required();
+    v->callback([&ctx, progressOpts] {
         Game& g = ctx.openGame();
-        if (int16_t b = findBand(ctx, g, band)) {
+        if (int16_t b = findBand(ctx, g, progressOpts->band)) {
             g.band.read(b);
             std::string title, text;
             if (g.band->albumStatus >= 2 && g.band->songsWritten > 0 && g.band->songsWritten < g.disc.recordCount()) {
@@ -224,12 +250,17 @@ void addProgressVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct FirmsOptions {
+    std::string kindWord;
+};
+
 void addFirmsVerb(CLI::App& app, SimContext& ctx) {
-    static std::string kindWord;
+    auto firmsOpts = std::make_shared<FirmsOptions>();
     auto* v = app.add_subcommand("firms", "The open firms of a kind");
-    v->add_option("KIND", kindWord, "studio, plant or distributor")->required();
-    v->callback([&ctx] {
-        auto kind = firmKind(ctx, kindWord);
+    v->add_option("KIND", firmsOpts->kindWord, "studio, plant or distributor")->required();
+    v->callback([&ctx, firmsOpts] {
+        auto kind = firmKind(ctx, firmsOpts->kindWord);
         if (!kind) return;
         Game& g = ctx.openGame();
         std::string out = "[";
@@ -261,29 +292,38 @@ void addFirmsVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct BuildOptions {
+    std::string kindWord;
+    std::string name;
+    std::string city;
+    int quality = 0;
+};
+
 void addBuildVerb(CLI::App& app, SimContext& ctx) {
-    static std::string kindWord, name, city;
-    static int quality = 0;
+    auto buildOpts = std::make_shared<BuildOptions>();
     auto* v = app.add_subcommand("build", "Build a firm of your own");
-    v->add_option("KIND", kindWord, "studio, plant or distributor")->required();
-    v->add_option("--name", name, "Its name")->required();
-    v->add_option("--quality", quality, "Its quality, 1 to 100")->required();
-    v->add_option("--city", city, "Where, by number or exact name")->required();
-    v->callback([&ctx] {
-        auto kind = firmKind(ctx, kindWord);
+    v->add_option("KIND", buildOpts->kindWord, "studio, plant or distributor")->required();
+    v->add_option("--name", buildOpts->name, "Its name")->required();
+    v->add_option("--quality", buildOpts->quality, "Its quality, 1 to 100")->required();
+    v->add_option("--city", buildOpts->city, "Where, by number or exact name")->required();
+    v->callback([&ctx, buildOpts] {
+        auto kind = firmKind(ctx, buildOpts->kindWord);
         if (!kind) return;
-        if (quality < 1 || quality > 100) return badArgument(ctx, "The quality must be from 1 to 100");
+        if (buildOpts->quality < 1 || buildOpts->quality > 100)
+            return badArgument(ctx, "The quality must be from 1 to 100");
         Game& g = ctx.openGame();
-        auto c = findRecord(g.city, city, [](const CityRecord& r) { return trim(r.name.value); });
+        auto c = findRecord(g.city, buildOpts->city, [](const CityRecord& r) { return trim(r.name.value); });
         if (c == 0) {
-            badArgument(ctx, "There is no city " + city);
+            badArgument(ctx, "There is no city " + buildOpts->city);
         } else {
-            FacilityOrder order{.kind = *kind, .name = name, .quality = quality, .city = static_cast<int16_t>(c)};
+            FacilityOrder order{
+                .kind = *kind, .name = buildOpts->name, .quality = buildOpts->quality, .city = static_cast<int16_t>(c)};
             if (std::string why = checkBuildFacility(g, order); !why.empty()) {
                 refuse(ctx, why);
             } else {
                 int16_t firm = buildFacility(g, order);
-                int64_t cost = buildCost(quality, *kind);
+                int64_t cost = buildCost(buildOpts->quality, *kind);
                 if (ctx.json)
                     std::printf("{\"id\":%d,\"cost\":%lld,\"runningCost\":%lld}\n", firm,
                                 static_cast<long long>(moneyUnits(cost)),

@@ -1,6 +1,7 @@
 // The verbs of the label's books and staff: label, books, department, staff,
 // approach, withdraw-staff, terminate.
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -85,13 +86,18 @@ std::optional<std::array<int, 5>> parseLevels(const std::string& text) {
     return levels;
 }
 
+// What the verbs below are given on the command line.
+struct LabelOptions {
+    std::string which;
+};
+
 void addLabelVerb(CLI::App& app, SimContext& ctx) {
+    auto labelOpts = std::make_shared<LabelOptions>();
     auto* cmd = app.add_subcommand("label", "Show a label's details (frmLabelDetails); the player's by default");
-    static std::string which;
-    cmd->add_option("LABEL", which, "A label, by number or exact name");
-    cmd->callback([&ctx] {
+    cmd->add_option("LABEL", labelOpts->which, "A label, by number or exact name");
+    cmd->callback([&ctx, labelOpts] {
         Game& g = ctx.openGame();
-        if (int16_t n = labelOrPlayers(ctx, g, which)) {
+        if (int16_t n = labelOrPlayers(ctx, g, labelOpts->which)) {
             LabelDetails d = labelDetails(g, n);
             if (ctx.json) {
                 std::string out = fmt::format(
@@ -129,17 +135,22 @@ void addLabelVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct BooksOptions {
+    std::string which;
+    bool history = false;
+};
+
 void addBooksVerb(CLI::App& app, SimContext& ctx) {
+    auto booksOpts = std::make_shared<BooksOptions>();
     auto* cmd = app.add_subcommand("books", "Show a label's balance sheet, or its month-by-month history");
-    static std::string which;
-    static bool history = false;
-    cmd->add_option("LABEL", which, "A label, by number or exact name; the player's by default");
-    cmd->add_flag("--history", history, "Every close of the books, the opening first");
-    cmd->callback([&ctx] {
+    cmd->add_option("LABEL", booksOpts->which, "A label, by number or exact name; the player's by default");
+    cmd->add_flag("--history", booksOpts->history, "Every close of the books, the opening first");
+    cmd->callback([&ctx, booksOpts] {
         Game& g = ctx.openGame();
-        if (int16_t n = labelOrPlayers(ctx, g, which)) {
+        if (int16_t n = labelOrPlayers(ctx, g, booksOpts->which)) {
             const std::string name = labelDetails(g, n).name;
-            if (history) {
+            if (booksOpts->history) {
                 auto rows = labelHistory(g, n);
                 if (ctx.json) {
                     std::string out = "[";
@@ -176,21 +187,26 @@ void addBooksVerb(CLI::App& app, SimContext& ctx) {
     });
 }
 
+// What the verbs below are given on the command line.
+struct DepartmentOptions {
+    int dept = 0;
+    std::string levelsText;
+};
+
 void addDepartmentVerb(CLI::App& app, SimContext& ctx) {
+    auto departmentOpts = std::make_shared<DepartmentOptions>();
     auto* cmd = app.add_subcommand("department", "Set the staff levels of one of the player's departments");
-    static int dept = 0;
-    static std::string levelsText;
-    cmd->add_option("DEPT", dept, "0 Artist and Repertoire ... 5 Security")->required();
-    cmd->add_option("--levels", levelsText, "Five counts, best level first: N,N,N,N,N")->required();
-    cmd->callback([&ctx] {
-        auto levels = parseLevels(levelsText);
+    cmd->add_option("DEPT", departmentOpts->dept, "0 Artist and Repertoire ... 5 Security")->required();
+    cmd->add_option("--levels", departmentOpts->levelsText, "Five counts, best level first: N,N,N,N,N")->required();
+    cmd->callback([&ctx, departmentOpts] {
+        auto levels = parseLevels(departmentOpts->levelsText);
         if (!levels) return fail(ctx, kExitBadArgument, "--levels takes five whole counts: N,N,N,N,N");
-        if (std::string why = checkDepartmentLevels(dept, *levels); !why.empty())
+        if (std::string why = checkDepartmentLevels(departmentOpts->dept, *levels); !why.empty())
             return fail(ctx, kExitBadArgument, why);
         Game& g = ctx.openGame();
-        setDepartmentLevels(g, dept, *levels);
+        setDepartmentLevels(g, departmentOpts->dept, *levels);
         LabelDetails d = labelDetails(g, g.player.playerLabel);
-        const DepartmentView& v = d.departments[static_cast<std::size_t>(dept)];
+        const DepartmentView& v = d.departments[static_cast<std::size_t>(departmentOpts->dept)];
         if (ctx.json)
             std::printf("{\"department\":%s,\"levels\":[%s],\"rating\":%s,\"wages\":%s,\"wageBill\":%s}\n",
                         jsonQuote(v.department).c_str(), fmt::format("{}", fmt::join(v.levels, ",")).c_str(),
@@ -229,58 +245,82 @@ void printStaff(SimContext& ctx, Game& g, const StaffDetails& d) {
         formatDate(d.contractEnd, "d/m/yyyy").c_str(), d.preferredStyle.c_str());
 }
 
+// What the verbs below are given on the command line.
+struct StaffOptions {
+    std::string who;
+};
+
+struct ApproachOptions {
+    std::string target;
+    int role = 0;
+    int years = 3;
+    std::optional<double> wage;
+};
+
+struct WithdrawStaffOptions {
+    std::string withdrawn;
+};
+
+struct TerminateOptions {
+    std::string released;
+};
+
 void addStaffVerbs(CLI::App& app, SimContext& ctx) {
+    auto staffOpts = std::make_shared<StaffOptions>();
     auto* show = app.add_subcommand("staff", "Show a staff member (Staff Details)");
-    static std::string who;
-    show->add_option("STAFF", who, "By number or \"Forename Surname\"")->required();
-    show->callback([&ctx] {
+    show->add_option("STAFF", staffOpts->who, "By number or \"Forename Surname\"")->required();
+    show->callback([&ctx, staffOpts] {
         Game& g = ctx.openGame();
-        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, who, "staff member")) printStaff(ctx, g, staffDetails(g, s));
+        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, staffOpts->who, "staff member"))
+            printStaff(ctx, g, staffDetails(g, s));
         ctx.closeGame();
     });
 
+    auto approachOpts = std::make_shared<ApproachOptions>();
     auto* approach = app.add_subcommand("approach", "Offer a staff member the head of a department (frmStaffContract)");
-    static std::string target;
-    static int role = 0, years = 3;
-    static std::optional<double> wage;
-    approach->add_option("STAFF", target, "By number or \"Forename Surname\"")->required();
-    approach->add_option("--role", role, "The department: 0 Artist and Repertoire ... 5 Security")->required();
-    approach->add_option("--wage", wage, "Weekly wage in the display currency; the asked wage by default");
-    approach->add_option("--years", years, "Length of the contract, 1 to 5 (3 by default)");
-    approach->callback([&ctx] {
-        if (role < 0 || role > 5) return fail(ctx, kExitBadArgument, "--role takes a department from 0 to 5");
-        if (years < 1 || years > 5) return fail(ctx, kExitBadArgument, "--years takes 1 to 5");
-        if (wage && (*wage < 0 || *wage > 2'000'000'000.0))
+    approach->add_option("STAFF", approachOpts->target, "By number or \"Forename Surname\"")->required();
+    approach->add_option("--role", approachOpts->role, "The department: 0 Artist and Repertoire ... 5 Security")
+        ->required();
+    approach->add_option("--wage", approachOpts->wage,
+                         "Weekly wage in the display currency; the asked wage by default");
+    approach->add_option("--years", approachOpts->years, "Length of the contract, 1 to 5 (3 by default)");
+    approach->callback([&ctx, approachOpts] {
+        if (approachOpts->role < 0 || approachOpts->role > 5)
+            return fail(ctx, kExitBadArgument, "--role takes a department from 0 to 5");
+        if (approachOpts->years < 1 || approachOpts->years > 5)
+            return fail(ctx, kExitBadArgument, "--years takes 1 to 5");
+        if (approachOpts->wage && (*approachOpts->wage < 0 || *approachOpts->wage > 2'000'000'000.0))
             return fail(ctx, kExitBadArgument, "--wage takes an amount of 0 or more");
         Game& g = ctx.openGame();
-        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, target, "staff member")) {
+        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, approachOpts->target, "staff member")) {
             if (std::string why = checkApproachStaff(g, s); !why.empty()) {
                 fail(ctx, kExitRefused, why);
             } else {
                 g.staff.read(s);
-                const int32_t offered = wage ? toLong(*wage) : startingOfferWage(g);
-                approachStaff(g, s, role, offered, years);
+                const int32_t offered = approachOpts->wage ? toLong(*approachOpts->wage) : startingOfferWage(g);
+                approachStaff(g, s, approachOpts->role, offered, approachOpts->years);
                 g.staff.read(s);
                 if (ctx.json)
                     std::printf("{\"staff\":%d,\"role\":%d,\"offerWage\":%s,\"offerYears\":%d,\"answerOn\":\"%s\"}\n",
-                                s, role, base(g.staff->offerWage).c_str(), years, isoDate(g.gameDate + 7).c_str());
+                                s, approachOpts->role, base(g.staff->offerWage).c_str(), approachOpts->years,
+                                isoDate(g.gameDate + 7).c_str());
                 else
                     std::printf("Offered %s the post of Head of %s for %d years at %s a week; the answer comes on %s\n",
                                 staffName(g.staff.rec).c_str(),
-                                std::string(kDepartmentNames[static_cast<std::size_t>(role)]).c_str(), years,
-                                formatMoney(g, g.staff->offerWage, "###,###,##0").c_str(),
+                                std::string(kDepartmentNames[static_cast<std::size_t>(approachOpts->role)]).c_str(),
+                                approachOpts->years, formatMoney(g, g.staff->offerWage, "###,###,##0").c_str(),
                                 formatDate(g.gameDate + 7, "dddd d/m/yyyy").c_str());
             }
         }
         ctx.closeGame();
     });
 
+    auto withdrawStaffOpts = std::make_shared<WithdrawStaffOptions>();
     auto* withdraw = app.add_subcommand("withdraw-staff", "Withdraw the player's offer to a staff member");
-    static std::string withdrawn;
-    withdraw->add_option("STAFF", withdrawn, "By number or \"Forename Surname\"")->required();
-    withdraw->callback([&ctx] {
+    withdraw->add_option("STAFF", withdrawStaffOpts->withdrawn, "By number or \"Forename Surname\"")->required();
+    withdraw->callback([&ctx, withdrawStaffOpts] {
         Game& g = ctx.openGame();
-        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, withdrawn, "staff member")) {
+        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, withdrawStaffOpts->withdrawn, "staff member")) {
             if (std::string why = checkWithdrawStaffOffer(g, s); !why.empty()) {
                 fail(ctx, kExitRefused, why);
             } else {
@@ -294,12 +334,12 @@ void addStaffVerbs(CLI::App& app, SimContext& ctx) {
         ctx.closeGame();
     });
 
+    auto terminateOpts = std::make_shared<TerminateOptions>();
     auto* terminate = app.add_subcommand("terminate", "Release a member of the player's staff (lblTerminate, yes)");
-    static std::string released;
-    terminate->add_option("STAFF", released, "By number or \"Forename Surname\"")->required();
-    terminate->callback([&ctx] {
+    terminate->add_option("STAFF", terminateOpts->released, "By number or \"Forename Surname\"")->required();
+    terminate->callback([&ctx, terminateOpts] {
         Game& g = ctx.openGame();
-        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, released, "staff member")) {
+        if (int16_t s = resolve(ctx, g, FileNo::fileStaff, terminateOpts->released, "staff member")) {
             if (std::string why = checkTerminateStaff(g, s); !why.empty()) {
                 fail(ctx, kExitRefused, why);
             } else {

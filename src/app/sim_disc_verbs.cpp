@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -454,28 +455,69 @@ void confirmDistributorForm(Game& g) {
     g.currentScreen = Screen::frmNews;
 }
 
+// What the verbs below are given on the command line.
+struct ReleaseOptions {
+    ReleaseArgs rel;
+};
+
+struct ForecastOptions {
+    std::string forecastDisc;
+};
+
+struct PressOptions {
+    PressArgs pa;
+};
+
+struct DistributeOptions {
+    std::string distDisc;
+    std::array<std::string, 5> distFirms;
+};
+
+struct SingleOptions {
+    std::string singleAlbum;
+    std::string singleLead;
+    std::string singleSides;
+    std::string singleStudio;
+};
+
+struct DiscOptions {
+    std::string detailsDisc;
+};
+
+struct ChartOptions {
+    int chartNumber = 0;
+    std::string chartWeekText;
+    bool chartCsv = false;
+};
+
+struct RunOptions {
+    std::string runDiscKey;
+};
+
 void addDiscVerbs(CLI::App& app, SimContext& ctx) {
-    static ReleaseArgs rel;
+    auto releaseOpts = std::make_shared<ReleaseOptions>();
     auto* release = app.add_subcommand("release", "Set the release dates of one of your recorded discs");
-    release->add_option("DISC", rel.disc, "The disc, by number or title")->required();
-    auto* date = release->add_option("--date", rel.date, "YYYY-MM-DD, a Monday");
-    auto* earliest = release->add_flag("--earliest", rel.earliest, "The earliest date each territory offers");
+    release->add_option("DISC", releaseOpts->rel.disc, "The disc, by number or title")->required();
+    auto* date = release->add_option("--date", releaseOpts->rel.date, "YYYY-MM-DD, a Monday");
+    auto* earliest =
+        release->add_flag("--earliest", releaseOpts->rel.earliest, "The earliest date each territory offers");
     date->excludes(earliest);
-    release->add_option("--in", rel.in, "Territories: uk,us,europe,oceania,other (all five by default)");
-    release->callback([&ctx] {
-        if (rel.date.empty() && !rel.earliest) return badArgument(ctx, "Give --date or --earliest");
-        runRelease(ctx, rel);
+    release->add_option("--in", releaseOpts->rel.in, "Territories: uk,us,europe,oceania,other (all five by default)");
+    release->callback([&ctx, releaseOpts] {
+        if (releaseOpts->rel.date.empty() && !releaseOpts->rel.earliest)
+            return badArgument(ctx, "Give --date or --earliest");
+        runRelease(ctx, releaseOpts->rel);
     });
 
-    static std::string forecastDisc;
+    auto forecastOpts = std::make_shared<ForecastOptions>();
     auto* forecast = app.add_subcommand("forecast", "The press form's forecast for a dated disc");
-    forecast->add_option("DISC", forecastDisc, "The disc, by number or title")->required();
-    forecast->callback([&ctx] {
+    forecast->add_option("DISC", forecastOpts->forecastDisc, "The disc, by number or title")->required();
+    forecast->callback([&ctx, forecastOpts] {
         Game& g = ctx.openGame();
-        int16_t disc = findDisc(g, forecastDisc);
+        int16_t disc = findDisc(g, forecastOpts->forecastDisc);
         if (disc == 0) {
             ctx.closeGame();
-            return badArgument(ctx, "There is no disc " + forecastDisc);
+            return badArgument(ctx, "There is no disc " + forecastOpts->forecastDisc);
         }
         g.disc.read(disc);
         if (g.player.playerLabel < 1 || g.disc->label != g.player.playerLabel)
@@ -485,50 +527,54 @@ void addDiscVerbs(CLI::App& app, SimContext& ctx) {
         ctx.closeGame();
     });
 
-    static PressArgs pa;
+    auto pressOpts = std::make_shared<PressOptions>();
     auto* press = app.add_subcommand("press", "Press copies of one of your dated discs at a plant");
-    press->add_option("DISC", pa.disc, "The disc, by number or title")->required();
-    press->add_option("--plant", pa.plant, "The plant, by number or name")->required();
-    press->add_option("--copies", pa.copies, "The same quantity in every territory the disc is dated in");
+    press->add_option("DISC", pressOpts->pa.disc, "The disc, by number or title")->required();
+    press->add_option("--plant", pressOpts->pa.plant, "The plant, by number or name")->required();
+    press->add_option("--copies", pressOpts->pa.copies, "The same quantity in every territory the disc is dated in");
     for (int t = 0; t < 5; ++t)
-        press->add_option(std::string("--") + kTerritoryKeys[at(t)], pa.per[at(t)], "Copies for the territory");
-    press->callback([&ctx] { runPress(ctx, pa); });
+        press->add_option(std::string("--") + kTerritoryKeys[at(t)], pressOpts->pa.per[at(t)],
+                          "Copies for the territory");
+    press->callback([&ctx, pressOpts] { runPress(ctx, pressOpts->pa); });
 
-    static std::string distDisc;
-    static std::array<std::string, 5> distFirms;
+    auto distributeOpts = std::make_shared<DistributeOptions>();
     auto* distribute = app.add_subcommand("distribute", "Choose the distributors of a disc out within the week");
-    distribute->add_option("DISC", distDisc, "The disc, by number or title")->required();
+    distribute->add_option("DISC", distributeOpts->distDisc, "The disc, by number or title")->required();
     for (int t = 0; t < 5; ++t)
-        distribute->add_option(std::string("--") + kTerritoryKeys[at(t)], distFirms[at(t)],
+        distribute->add_option(std::string("--") + kTerritoryKeys[at(t)], distributeOpts->distFirms[at(t)],
                                "The firm, by number or name");
-    distribute->callback([&ctx] { runDistribute(ctx, distDisc, distFirms); });
+    distribute->callback(
+        [&ctx, distributeOpts] { runDistribute(ctx, distributeOpts->distDisc, distributeOpts->distFirms); });
 
-    static std::string singleAlbum, singleLead, singleSides, singleStudio;
+    auto singleOpts = std::make_shared<SingleOptions>();
     auto* single = app.add_subcommand("single", "Draw a single from one of your albums");
-    single->add_option("ALBUM", singleAlbum, "The album, by number or title")->required();
-    single->add_option("--lead", singleLead, "The lead song, by number or title")->required();
-    single->add_option("--b-sides", singleSides, "Two songs ID,ID (the two weakest tracks by default)");
-    single->add_option("--studio", singleStudio, "The studio, by number or name")->required();
-    single->callback([&ctx] { runSingle(ctx, singleAlbum, singleLead, singleSides, singleStudio); });
+    single->add_option("ALBUM", singleOpts->singleAlbum, "The album, by number or title")->required();
+    single->add_option("--lead", singleOpts->singleLead, "The lead song, by number or title")->required();
+    single->add_option("--b-sides", singleOpts->singleSides, "Two songs ID,ID (the two weakest tracks by default)");
+    single->add_option("--studio", singleOpts->singleStudio, "The studio, by number or name")->required();
+    single->callback([&ctx, singleOpts] {
+        runSingle(ctx, singleOpts->singleAlbum, singleOpts->singleLead, singleOpts->singleSides,
+                  singleOpts->singleStudio);
+    });
 
-    static std::string detailsDisc;
+    auto discOpts = std::make_shared<DiscOptions>();
     auto* disc = app.add_subcommand("disc", "Disc Details");
-    disc->add_option("DISC", detailsDisc, "The disc, by number or title")->required();
-    disc->callback([&ctx] { runDisc(ctx, detailsDisc); });
+    disc->add_option("DISC", discOpts->detailsDisc, "The disc, by number or title")->required();
+    disc->callback([&ctx, discOpts] { runDisc(ctx, discOpts->detailsDisc); });
 
-    static int chartNumber = 0;
-    static std::string chartWeekText;
-    static bool chartCsv = false;
+    auto chartOpts = std::make_shared<ChartOptions>();
     auto* chart = app.add_subcommand("chart", "The published part of chart 0 to 9");
-    chart->add_option("N", chartNumber, "0 to 4 albums, 5 to 9 singles: UK, US, Europe, Oceania, Global")->required();
-    chart->add_option("--week", chartWeekText, "A past week's Sunday, YYYY-MM-DD");
-    chart->add_flag("--csv", chartCsv, "Comma-separated values with a header line");
-    chart->callback([&ctx] { runChart(ctx, chartNumber, chartWeekText, chartCsv); });
+    chart->add_option("N", chartOpts->chartNumber, "0 to 4 albums, 5 to 9 singles: UK, US, Europe, Oceania, Global")
+        ->required();
+    chart->add_option("--week", chartOpts->chartWeekText, "A past week's Sunday, YYYY-MM-DD");
+    chart->add_flag("--csv", chartOpts->chartCsv, "Comma-separated values with a header line");
+    chart->callback(
+        [&ctx, chartOpts] { runChart(ctx, chartOpts->chartNumber, chartOpts->chartWeekText, chartOpts->chartCsv); });
 
-    static std::string runDiscKey;
+    auto runOpts = std::make_shared<RunOptions>();
     auto* run = app.add_subcommand("run", "A disc's chart run, week by week");
-    run->add_option("DISC", runDiscKey, "The disc, by number or title")->required();
-    run->callback([&ctx] { runRun(ctx, runDiscKey); });
+    run->add_option("DISC", runOpts->runDiscKey, "The disc, by number or title")->required();
+    run->callback([&ctx, runOpts] { runRun(ctx, runOpts->runDiscKey); });
 }
 
 }  // namespace trovane::sim

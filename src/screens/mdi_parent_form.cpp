@@ -33,6 +33,7 @@
 #include "screens/status_bar.h"
 #include "screens/theme.h"
 #include "session/save_load.h"
+#include "session/session_record.h"
 #include "world/fatal_error.h"
 #include "world/record_store.h"
 
@@ -345,7 +346,8 @@ void mdiParentForm::runDay() {
     clock.start();
     bool ok = guarded([this] {
         checkDaysSchedule(g_);
-        flushAllTables(g_);
+        // The day reaches the disk whole, the session record with it.
+        commitWorkingGame(g_);
     });
     turnUnderWay_ = false;
     if (!ok) return;
