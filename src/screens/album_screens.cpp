@@ -13,6 +13,7 @@
 #include "production/recording.h"
 #include "production/songwriting.h"
 #include "screens/business_screens.h"
+#include "screens/disc_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
@@ -81,18 +82,20 @@ frmBandOptionsSigned::frmBandOptionsSigned(mdiParentForm& main, int16_t band, QW
     lblPromote = addEntry(QStringLiteral("lblPromote"), tr("Promote"), Glyph::star);
     lblAlbum->setEnabled(b.albumStatus < 1 || b.albumStatus > 3);
     lblAlbumProgress->setEnabled(b.songsWritten != 0);
-    if (b.albumStatus == 3) {
-        // Releasing comes with the release screens; until then the entry is shown but does nothing.
-        lblAlbumProgress->setText(tr("Release Album"));
-        lblAlbumProgress->setEnabled(false);
-    }
+    if (b.albumStatus == 3) lblAlbumProgress->setText(tr("Release Album"));
 }
 
 void frmBandOptionsSigned::openAlbumProgress() {
     Game& g = main_.game();
     hide();
     g.band.read(band_);
-    if (g.band->albumStatus == 2) {
+    if (g.band->albumStatus == 3) {
+        // The recorded album (its number held in songsWritten): its dates, then its pressing.
+        const auto disc = static_cast<int16_t>(g.band->songsWritten);
+        frmSetReleaseDate dates(g, disc, &main_);
+        if (dates.exec() == QDialog::Accepted) frmPressDiscs(g, disc, &main_).exec();
+        main_.showCurrentScreen();
+    } else if (g.band->albumStatus == 2) {
         (new frmRecordingProgress(main_, static_cast<int16_t>(g.band->songsWritten)))->open();
     } else if (int16_t disc = discAwaitingStudio(g, band_)) {
         // A tracklist fixed without a title or a studio: those steps again, charged once the studio is chosen.

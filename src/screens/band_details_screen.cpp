@@ -123,6 +123,37 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     row->addLayout(side, 2);
     body()->addLayout(row, 1);
 
+    auto* discs = new Card(this);
+    discs->content()->addWidget(makeCaption(tr("Discs"), discs));
+    flxDiscs = plainTable({tr("Title"), tr("Type"), tr("Released")}, discs);
+    flxDiscs->setObjectName(QStringLiteral("flxDiscs"));
+    main.guarded([&] {
+        Game& g = main.game();
+        for (int32_t n = g.disc.recordCount() - 1; n >= 1; --n) {
+            g.disc.read(n);
+            if (g.disc->band != band) continue;
+            double first = 0;
+            for (double date : g.disc->releaseDate)
+                if (date > 2 && (first == 0 || date < first)) first = date;
+            const int at = flxDiscs->rowCount();
+            flxDiscs->insertRow(at);
+            auto* title = new QTableWidgetItem(qs(trim(g.disc->title.value)));
+            title->setData(Qt::UserRole, n);
+            flxDiscs->setItem(at, 0, title);
+            flxDiscs->setItem(at, 1, new QTableWidgetItem(g.disc->isSingle == 1 ? tr("Single") : tr("Album")));
+            flxDiscs->setItem(
+                at, 2, new QTableWidgetItem(first == 0 ? tr("Not released") : qs(formatDate(first, "d/m/yyyy"))));
+        }
+    });
+    flxDiscs->resizeColumnsToContents();
+    flxDiscs->horizontalHeader()->setStretchLastSection(true);
+    connect(flxDiscs, &QTableWidget::itemActivated, this, [this, &main](QTableWidgetItem* item) {
+        main.discOnScreen = static_cast<int16_t>(flxDiscs->item(item->row(), 0)->data(Qt::UserRole).toInt());
+        main.openScreen(Screen::frmDiscDetails);
+    });
+    discs->content()->addWidget(flxDiscs);
+    body()->addWidget(discs, 1);
+
     QPushButton* back = makeButton(QStringLiteral("cmdBack"), tr("Back"), Glyph::back, ButtonRole::secondary, this);
     headingExtras()->addWidget(back, 0, Qt::AlignTop);
     connect(back, &QPushButton::clicked, this, [&main] { main.returnToPreviousScreen(); });

@@ -16,6 +16,8 @@ public:
     frmBandDetails(mdiParentForm& main, int16_t band, QWidget* parent = nullptr);
 
     QTableWidget* flxArtists;
+    // The act's discs, newest first; a row opens "Disc Details".
+    QTableWidget* flxDiscs;
     QListWidget* lstInterested;
 };
 

@@ -324,7 +324,11 @@ void frmChartForm::fillStyles() {
 void frmChartForm::showRun(int16_t disc) {
     QChart* chart = chrtRun->chart();
     chart->removeAllSeries();
-    for (QAbstractAxis* axis : chart->axes()) chart->removeAxis(axis);
+    // A removed axis comes back to us to delete.
+    for (QAbstractAxis* axis : chart->axes()) {
+        chart->removeAxis(axis);
+        delete axis;
+    }
     auto* line = new QLineSeries;
     std::vector<RunWeek> run = discRun(main_.game(), disc);
     int week = 0;

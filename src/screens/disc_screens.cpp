@@ -150,7 +150,11 @@ void frmDiscDetails::refresh() {
     }
     QChart* chart = chrtRun->chart();
     chart->removeAllSeries();
-    for (QAbstractAxis* axis : chart->axes()) chart->removeAxis(axis);
+    // A removed axis comes back to us to delete.
+    for (QAbstractAxis* axis : chart->axes()) {
+        chart->removeAxis(axis);
+        delete axis;
+    }
     std::array<QLineSeries*, kChartCount> lines{};
     std::array<int, kChartCount> weeks{};
     int most = 1;

@@ -240,6 +240,7 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmBandDetails: return new frmBandDetails(*this, bandOnScreen);
     case Screen::frmBandList: return new frmBandList(*this, bandListIsShortlist);
     case Screen::frmBandContract: return new frmBandContract(*this, bandOnScreen);
+    case Screen::frmDiscDetails: return new frmDiscDetails(*this, discOnScreen);
     case Screen::frmChartForm: {
         auto* form = new frmChartForm(*this);
         form->showChart(chartShown);

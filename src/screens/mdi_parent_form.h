@@ -86,6 +86,8 @@ public:
     int32_t newsItemOnScreen = 0;
     // The act frmBandDetails and frmBandContract show, and which list frmBandList is.
     int16_t bandOnScreen = 0;
+    // The disc frmDiscDetails shows.
+    int16_t discOnScreen = 0;
     bool bandListIsShortlist = false;
     // Band Details of an act, from a list or a panel.
     void openBand(int16_t band);

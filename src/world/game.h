@@ -36,6 +36,7 @@ enum class Screen {
     frmBandDetails,
     frmBandList,
     frmBandContract,
+    frmDiscDetails,
     frmLabelDetails,
     frmStaffDetails,
     frmStaffList,

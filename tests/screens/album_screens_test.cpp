@@ -2,12 +2,14 @@
 // request, the budget, the tracks, the title and the studio to the recording
 // progress; and building a studio from the label's facilities.
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTableWidget>
 
 #include <QTabWidget>
+#include <QTimer>
 
 #include "production/businesses.h"
 #include "screen_fixture.h"
@@ -139,6 +141,36 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
     EXPECT_EQ(g.band->albumStatus, 2);
     g.disc.read(g.band->songsWritten);
     EXPECT_EQ(trim(g.disc->title.value), "Harbour Lights");
+}
+
+TEST_F(ScreenTest, ARecordedAlbumIsReleasedFromTheBandsPanel) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    const int16_t band = addSignedBand(g);
+    g.disc.rec = DiscRecord{};
+    g.disc->title = std::string("Harbour Lights");
+    g.disc->band = band;
+    g.disc->label = g.player.playerLabel;
+    g.disc->trackCount = 10;
+    g.disc->tracksRecorded = 10;
+    const auto disc = static_cast<int16_t>(g.disc.append());
+    g.band.read(band);
+    g.band->albumStatus = 3;  // recorded; the disc's number is held in songsWritten
+    g.band->songsWritten = disc;
+    g.band.write();
+    auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());
+    panel->show();
+    EXPECT_EQ(panel->lblAlbumProgress->text().toStdString(), "Release Album");
+    EXPECT_FALSE(panel->lblAlbum->isEnabled()) << "an album is in hand";
+    QString opened;
+    QTimer::singleShot(0, [&opened] {
+        if (auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            opened = d->objectName();
+            d->reject();
+        }
+    });
+    click(panel->lblAlbumProgress);
+    EXPECT_EQ(opened.toStdString(), "frmSetReleaseDate");
 }
 
 TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {

@@ -174,3 +174,25 @@ TEST_F(BandScreens, ThePlayersOwnBandOpensTheSignedPanel) {
 }
 
 }  // namespace trovane::test
+
+namespace trovane::test {
+
+TEST_F(BandScreens, ADiscOfTheBandOpensDiscDetails) {
+    game->disc.rec = DiscRecord{};
+    game->disc->title = "Marsh Songs";
+    game->disc->band = band;
+    game->disc->releaseDate = {game->gameDate - 30, 0, 0, 0, 0};
+    const auto disc = static_cast<int16_t>(game->disc.append());
+    openFromSearch("The Marsh Lights");
+    auto* discs = find<QTableWidget>("flxDiscs");
+    ASSERT_EQ(discs->rowCount(), 1);
+    EXPECT_EQ(discs->item(0, 0)->text(), "Marsh Songs");
+    EXPECT_EQ(discs->item(0, 1)->text(), "Album");
+    discs->setCurrentCell(0, 0);
+    discs->setFocus();
+    QTest::keyClick(discs, Qt::Key_Return);
+    ASSERT_EQ(screen(), Screen::frmDiscDetails);
+    EXPECT_EQ(window->discOnScreen, disc);
+}
+
+}  // namespace trovane::test
