@@ -13,6 +13,7 @@ public:
 
     GigWorld() {
         g.gameDate = serialFromCivil(2004, 1, 5);
+        g.gameStartDate = g.gameDate;
         england = addCountry("England", "E");
         france = addCountry("France", "E");
         brazil = addCountry("Brazil", "S");
