@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "schedule/schedule.h"
+#include "session/invariants.h"
 #include "support/gig_world.h"
 
 using namespace trovane;
@@ -79,6 +80,26 @@ TEST_F(Booking, LaterGigsAreReachedByTravelThenRest) {
     EXPECT_EQ(typesOn(first + 2), std::vector<uint8_t>{10});
     EXPECT_EQ(typesOn(first + 3), std::vector<uint8_t>{11});
     EXPECT_EQ(typesOn(first + 4), std::vector<uint8_t>{8});
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Booking, TheCheckerFindsAGigOutsideItsTour) {
+    auto rule = [&] {
+        for (const InvariantRule& r : invariantRules())
+            if (std::string(r.name) == "gigsAndToursPointWithin") return r.check(g);
+        return std::optional<InvariantBreak>{InvariantBreak{.rule = "missing"}};
+    };
+    bookGig(g, {.band = band, .venue = hall, .date = g.gameDate + 42});
+    EXPECT_FALSE(rule().has_value());
+    g.gig.read(1);
+    g.gig->tour = 2;  // one tour on file
+    g.gig.write();
+    auto broken = rule();
+    ASSERT_TRUE(broken.has_value());
+    EXPECT_EQ(broken->field, "tour");
 }
 
 }  // namespace
