@@ -54,7 +54,7 @@ void scheduleCeremonies(Game& g, int year) {
 
 void inviteToCeremony(Game& g) {
     const ScheduleRecord entry = g.schedule.rec;
-    g.ceremony.read(entry.ceremony);
+    if (!g.ceremony.readIfPresent(entry.ceremony)) return;
     int year = yearOf(entry.date);
     const auto& c = g.ceremony->calendar;
     double night = ceremonyNight(year, c[0], c[1]);

@@ -151,7 +151,7 @@ void writeGigReview(Game& g) {
     const std::string band = trim(headliner.name.value);
     const std::string venue = trim(g.venue->name.value);
     const std::string city = trim(g.city->name.value);
-    g.style.read(headliner.style);
+    g.style.readIfPresent(headliner.style);
     const StyleRecord style = g.style.rec;
     const int market = venueMarket(g);
 

@@ -234,7 +234,7 @@ void rateGigPerformance(Game& g, int billSize) {
     for (int p = 0; p < billSize; ++p) {
         auto at = static_cast<std::size_t>(p);
         g.band.read(g.gig->bill[at]);
-        g.style.read(g.band->style);
+        g.style.readIfPresent(g.band->style);
         double ws = g.style->singingWeight, wd = g.style->dancingWeight, wx = g.style->contentWeight;
         double show = kShow[std::clamp(contentLevel, 0, 4)];
         if (festival) {
@@ -321,15 +321,16 @@ void applyGigStanding(Game& g, int place) {
 }
 
 void performGig(Game& g) {
-    g.gig.read(g.schedule->gig);
-    g.tour.read(g.gig->tour);
-    g.venue.read(g.gig->venue);
-    g.city.read(g.venue->city);
-    g.country.read(g.city->country);
+    // A gig whose venue or tour is missing is still played, to an empty house.
+    if (!g.gig.readIfPresent(g.schedule->gig)) return;
+    g.tour.readIfPresent(g.gig->tour);
+    g.venue.readIfPresent(g.gig->venue);
+    g.city.readIfPresent(g.venue->city);
+    g.country.readIfPresent(g.city->country);
     const bool festival = g.tour->festival > 0;
     if (!festival) {
         g.band.read(g.gig->bill[0]);
-        g.style.read(g.band->style);
+        g.style.readIfPresent(g.band->style);
         const auto& r = g.band->reputation;
         int rep = g.band->reputation[static_cast<std::size_t>(venueMarket(g))];
         auto standing = toInteger((8.0 * r[0] + 10.0 * r[1] + 7.0 * r[2] + 5.0 * r[3] + 3.0 * r[4]) / 7);
@@ -337,7 +338,7 @@ void performGig(Game& g) {
         g.gig.write();
         settleGigMoney(g, rep);
     } else {
-        g.festival.read(g.tour->festival);
+        g.festival.readIfPresent(g.tour->festival);
         int16_t standing = 0;
         g.gig->attendance = expectedAttendance(g, 0, 0, standing);
         g.gig.write();
