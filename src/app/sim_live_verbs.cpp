@@ -1,4 +1,5 @@
-// The verbs of gigs: venues, gig (book one night) and gigs (a band's nights).
+// The verbs of gigs and ceremonies: venues, gig (book one night), gigs (a
+// band's nights), ceremonies and ceremony.
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -185,6 +186,71 @@ void runGigs(SimContext& ctx, const std::string& key) {
     ctx.closeGame();
 }
 
+std::string countryName(Game& g, int n) {
+    if (!g.country.readIfPresent(n)) return "";
+    return trim(g.country->name.value);
+}
+
+void runCeremonies(SimContext& ctx) {
+    Game& g = ctx.openGame();
+    std::string out;
+    for (int32_t n = 1; n < g.ceremony.recordCount(); ++n) {
+        g.ceremony.read(n);
+        const CeremonyRecord c = g.ceremony.rec;
+        std::string country = countryName(g, c.country);
+        std::string night = c.date > 0 ? iso(c.date) : "";
+        bool attending = c.playerInvited == kTrue;
+        if (ctx.json)
+            out += fmt::format("{}{{\"id\":{},\"name\":{},\"country\":{},\"night\":{},\"attending\":{},\"held\":{}}}",
+                               out.empty() ? "" : ",", n, jsonQuote(trim(c.name.value)), jsonQuote(country),
+                               jsonQuote(night), attending, c.held);
+        else
+            std::printf("%4d  %-40s %-20s %-10s %-3s %d\n", n, trim(c.name.value).c_str(), country.c_str(),
+                        night.c_str(), attending ? "yes" : "no", c.held);
+    }
+    if (ctx.json) std::printf("[%s]\n", out.c_str());
+    ctx.closeGame();
+}
+
+void runCeremony(SimContext& ctx, const std::string& key) {
+    Game& g = ctx.openGame();
+    int32_t n = findRecord(g.ceremony, key, [](const CeremonyRecord& c) { return trim(c.name.value); });
+    if (n == 0) {
+        ctx.closeGame();
+        throw SimError(kExitBadArgs, "There is no ceremony " + key);
+    }
+    g.ceremony.read(n);
+    const CeremonyRecord c = g.ceremony.rec;
+    std::string country = countryName(g, c.country);
+    std::string night = c.date > 0 ? iso(c.date) : "";
+    std::string awards;
+    if (!ctx.json)
+        std::printf("%s\nNight:   %s\nCountry: %s\n", trim(c.name.value).c_str(), night.c_str(), country.c_str());
+    for (std::size_t i = 0; i < c.awards.size(); ++i) {
+        if (c.awards[i] < 1 || !g.award.readIfPresent(c.awards[i])) continue;
+        const AwardRecord a = g.award.rec;
+        int count = std::min<int>(a.nomineeCount, 10);
+        std::string nominees;
+        if (!ctx.json) std::printf("\n%s\n", trim(a.name.value).c_str());
+        for (int k = 0; k < count; ++k) {
+            auto at = static_cast<std::size_t>(k);
+            std::string who = trim(a.nomineeNames[at].value);
+            if (ctx.json)
+                nominees += fmt::format("{}{{\"name\":{},\"score\":{}}}", k ? "," : "", jsonQuote(who), a.scores[at]);
+            else
+                std::printf("  %-65s %3d%s\n", who.c_str(), a.scores[at], a.winner == k + 1 ? "  winner" : "");
+        }
+        if (ctx.json)
+            awards += fmt::format("{}{{\"id\":{},\"name\":{},\"nominees\":[{}],\"winner\":{}}}",
+                                  awards.empty() ? "" : ",", a.id, jsonQuote(trim(a.name.value)), nominees, a.winner);
+    }
+    if (ctx.json)
+        std::printf("{\"id\":%d,\"name\":%s,\"night\":%s,\"country\":%s,\"awards\":[%s]}\n", n,
+                    jsonQuote(trim(c.name.value)).c_str(), jsonQuote(night).c_str(), jsonQuote(country).c_str(),
+                    awards.c_str());
+    ctx.closeGame();
+}
+
 }  // namespace
 
 void addLiveVerbs(CLI::App& app, SimContext& ctx) {
@@ -208,6 +274,13 @@ void addLiveVerbs(CLI::App& app, SimContext& ctx) {
     auto* l = app.add_subcommand("gigs", "A band's gigs: date, venue, crowd, performance and profit");
     l->add_option("BAND", *gigsBand, "The band, by number or name")->required();
     l->callback([&ctx, gigsBand] { runGigs(ctx, *gigsBand); });
+    auto* cl = app.add_subcommand("ceremonies", "The award ceremonies: night, host country, attendance, last held");
+    cl->callback([&ctx] { runCeremonies(ctx); });
+
+    auto ceremonyKey = std::make_shared<std::string>();
+    auto* cd = app.add_subcommand("ceremony", "A ceremony's night, country and each award's nominees and winner");
+    cd->add_option("ID", *ceremonyKey, "The ceremony, by number or name")->required();
+    cd->callback([&ctx, ceremonyKey] { runCeremony(ctx, *ceremonyKey); });
 }
 
 }  // namespace trovane::sim
