@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "events/ceremony_judging.h"
 #include "floor/formats.h"
 #include "floor/news_post.h"
 #include "schedule/schedule.h"
@@ -70,8 +71,20 @@ void inviteToCeremony(Game& g) {
                  .scheduleLink = entry.id});
 }
 
-// Not built yet: the nominations are not drawn until judging is written.
-void judgeCeremony(Game& g) { static_cast<void>(g); }
+void judgeCeremony(Game& g) {
+    const ScheduleRecord entry = g.schedule.rec;
+    if (!g.ceremony.readIfPresent(entry.ceremony)) return;
+    const CeremonyRecord ceremony = g.ceremony.rec;
+    g.country.readIfPresent(ceremony.country);
+    const CountryRecord host = g.country.rec;
+    for (int16_t award : ceremony.awards) {
+        if (award < 1 || !g.award.readIfPresent(award)) continue;
+        g.country.rec = host;
+        NomineeList list = judgeAward(g);
+        fixNominees(g, list);
+        g.award.write();
+    }
+}
 // Not built yet: no award is given and no show is played until the night is written.
 void finishCeremony(Game& g) { static_cast<void>(g); }
 
