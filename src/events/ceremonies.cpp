@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "events/ceremony_judging.h"
+#include "events/scores.h"
 #include "floor/formats.h"
 #include "floor/news_post.h"
 #include "schedule/schedule.h"
@@ -85,7 +86,56 @@ void judgeCeremony(Game& g) {
         g.award.write();
     }
 }
-// Not built yet: no award is given and no show is played until the night is written.
-void finishCeremony(Game& g) { static_cast<void>(g); }
+namespace {
+
+// Reads the band an award's winner belongs to; false when there is none.
+bool readWinnersBand(Game& g, const AwardRecord& a) {
+    int16_t who = a.nominees[0];
+    switch (a.kind) {
+    case 0:
+    case 4:
+        if (!g.disc.readIfPresent(who)) return false;
+        return g.band.readIfPresent(g.disc->band);
+    case 1:
+    case 5:
+        if (!g.artist.readIfPresent(who)) return false;
+        return g.artist->band > 0 && g.band.readIfPresent(g.artist->band);
+    case 6:
+        if (!g.song.readIfPresent(who)) return false;
+        return g.band.readIfPresent(g.song->band);
+    default: return g.band.readIfPresent(who);
+    }
+}
+
+}  // namespace
+
+void finishCeremony(Game& g) {
+    const ScheduleRecord entry = g.schedule.rec;
+    if (!g.ceremony.readIfPresent(entry.ceremony)) return;
+    const CeremonyRecord ceremony = g.ceremony.rec;
+    const auto year = static_cast<int16_t>(yearOf(g.gameDate));
+    const std::string ceremonyName = trim(ceremony.name.value);
+    for (int16_t award : ceremony.awards) {
+        if (award < 1 || !g.award.readIfPresent(award)) continue;
+        g.award->held = year;
+        if (g.award->nomineeCount > 0) g.award->winner = 1;
+        g.award.write();
+        const AwardRecord a = g.award.rec;
+        if (a.nomineeCount == 0) continue;
+        const std::string text = "Winner of " + trim(a.name.value) + " award. (" + ceremonyName + ")";
+        if (a.kind == 3) {
+            if (g.label.readIfPresent(a.nominees[0])) addAchievement(g, 2, text);
+        } else if (readWinnersBand(g, a)) {
+            addAchievement(g, 0, text);
+        }
+    }
+    g.ceremony.read(ceremony.id);
+    g.ceremony->held = year;
+    g.ceremony.write();
+    if (ceremony.playerInvited == kTrue) {
+        g.previousScreen = Screen::frmNews;
+        g.currentScreen = Screen::frmAwardCeremony;
+    }
+}
 
 }  // namespace trovane

@@ -2,8 +2,10 @@
 // band must pass.
 #include <gtest/gtest.h>
 
+#include "events/ceremonies.h"
 #include "events/ceremony_judging.h"
 #include "support/gig_world.h"
+#include "world/strings.h"
 
 using namespace trovane;
 
@@ -95,6 +97,47 @@ TEST_F(Judging, OriginGroupsSortTheActsByWhereTheyFormed) {
     EXPECT_EQ(nominees(), (std::vector<int16_t>{french, brazilian}));
     award(0, france);
     EXPECT_EQ(nominees(), std::vector<int16_t>{french});
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
+    g.band.read(band);
+    g.band->formedInCity = leeds;
+    g.band.write();
+    award(0, 0);
+    g.award.read(1);
+    g.award->nominees[0] = band;
+    g.award->nomineeCount = 1;
+    g.award.write();
+    g.award.rec = AwardRecord{};
+    g.award->name = "Nobody's Prize";
+    g.award.append();  // no nominees
+    g.ceremony.rec = CeremonyRecord{};
+    g.ceremony->name = "The Night";
+    g.ceremony->awards[0] = 1;
+    g.ceremony->awards[1] = 2;
+    g.ceremony->playerInvited = kTrue;
+    g.ceremony.append();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->ceremony = 1;
+    int32_t rows = g.achieve.recordCount();
+    finishCeremony(g);
+    g.award.read(1);
+    EXPECT_EQ(g.award->winner, 1);
+    EXPECT_EQ(g.award->held, 2004);
+    g.award.read(2);
+    EXPECT_EQ(g.award->winner, 0);
+    g.ceremony.read(1);
+    EXPECT_EQ(g.ceremony->held, 2004);
+    EXPECT_EQ(g.currentScreen, Screen::frmAwardCeremony);
+    // The band's row and one for each of its two members.
+    ASSERT_EQ(g.achieve.recordCount(), rows + 3);
+    g.achieve.read(rows);
+    EXPECT_EQ(trim(g.achieve->text.value), "Winner of Best Act award. (The Night)");
+    EXPECT_EQ(g.achieve->who, band);
 }
 
 }  // namespace
