@@ -36,9 +36,15 @@ bool eligible(const Judging& j, const ArtistRecord& artist) {
 
 bool within(int v, const std::array<uint8_t, 2>& range) { return v >= range[0] && v <= range[1]; }
 
-bool originPasses(Game& g, const Judging& j, int16_t city) {
+// An act's origin: formedIn is a city when formedInCity is set, else a country.
+bool originPasses(Game& g, const Judging& j, const BandRecord& band) {
     if (j.a.originRule == 0) return true;
-    if (!g.city.readIfPresent(city) || !g.country.readIfPresent(g.city->country)) return false;
+    int country = band.formedIn;
+    if (band.formedInCity != 0) {
+        if (!g.city.readIfPresent(band.formedIn)) return false;
+        country = g.city->country;
+    }
+    if (!g.country.readIfPresent(country)) return false;
     std::string name = trim(g.country->name.value);
     switch (j.a.originRule) {
     case kOriginUnitedKingdom: return homeNation(name);
@@ -96,7 +102,7 @@ void judgeBands(Game& g, const Judging& j, NomineeList& list) {
         const BandRecord band = g.band.rec;
         if (band.retired != kFalse) continue;
         if (!styleFits(g, j, band.style) || !within(band.controversy, j.a.controversyRange)) continue;
-        if (!originPasses(g, j, band.formedInCity) || !sizePasses(j, band.memberCount)) continue;
+        if (!originPasses(g, j, band) || !sizePasses(j, band.memberCount)) continue;
         g.band.rec = band;
         if (band.memberCount == 1 && !membersEligible(g, j)) continue;
         if (j.a.basis == 4 && band.age >= 2) continue;
@@ -121,7 +127,7 @@ void judgeDiscs(Game& g, const Judging& j, NomineeList& list) {
         if (disc.band < 1 || (disc.isSingle != 0) != singles || !releasedInTheLastYear(disc, j.today)) continue;
         if (!g.band.readIfPresent(disc.band)) continue;
         const BandRecord band = g.band.rec;
-        if (!styleFits(g, j, band.style) || !originPasses(g, j, band.formedInCity) ||
+        if (!styleFits(g, j, band.style) || !originPasses(g, j, band) ||
             !within(band.controversy, j.a.controversyRange) || !within(disc.commerciality, j.a.commercialityRange))
             continue;
         if (j.a.basis == 4 && band.age >= 2) continue;

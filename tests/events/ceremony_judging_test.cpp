@@ -55,7 +55,8 @@ protected:
     int16_t formedIn(const char* name, int16_t city, uint8_t ability) {
         int16_t b = addBand(name, 0);
         g.band.read(b);
-        g.band->formedInCity = city;
+        g.band->formedInCity = -1;  // formedIn names a city
+        g.band->formedIn = city;
         g.band->ability = ability;
         g.band.write();
         return b;
@@ -70,8 +71,8 @@ protected:
 
 TEST_F(Judging, ADuoPassesTheTwoMemberRuleAndASoloActDoesNot) {
     g.band.read(band);
-    g.band->formedInCity = leeds;
-    g.band.write();  // the world's duo, ability 80
+    g.band->formedIn = england;  // formedIn names a country
+    g.band.write();              // the world's duo, ability 80
     int16_t solo = formedIn("Solo", leeds, 90);
     g.band.read(solo);
     g.band->memberCount = 1;
@@ -104,9 +105,6 @@ TEST_F(Judging, OriginGroupsSortTheActsByWhereTheyFormed) {
 namespace {
 
 TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
-    g.band.read(band);
-    g.band->formedInCity = leeds;
-    g.band.write();
     award(0, 0);
     g.award.read(1);
     g.award->nominees[0] = band;
