@@ -5,6 +5,10 @@ namespace trovane {
 
 class Game;
 
+// The night of a ceremony placed on weekday `weekday` (Sunday 1) of week `week`
+// of the year, week 1 starting on 1 January.
+double ceremonyNight(int year, int week, int weekday);
+
 // Files the schedule entries of every ceremony of the given year.
 void scheduleCeremonies(Game& g, int year);
 

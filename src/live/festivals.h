@@ -16,3 +16,11 @@ void fillFestivalBill(Game& g);
 void acceptFestivalSlot(Game& g, int32_t slot);
 
 }  // namespace trovane
+
+namespace trovane {
+
+// The review of a festival for the player's band in the band buffer. Festival
+// reviews are written with the festivals; until then this posts nothing.
+void writeFestivalReview(Game& g);
+
+}  // namespace trovane

@@ -271,6 +271,38 @@ std::optional<InvariantBreak> firmsHoldTheirFields(Game& g) {
     return std::nullopt;
 }
 
+// A gig names a venue, a tour and bands of their tables, each rated 0 to 100;
+// a tour holds at most 40 gigs, each a gig of the table.
+std::optional<InvariantBreak> gigsAndToursPointWithin(Game& g) {
+    const int32_t bands = g.band.recordCount() - 1;
+    const int32_t venues = g.venue.recordCount() - 1;
+    const int32_t tours = g.tour.recordCount() - 1;
+    const int32_t gigs = g.gig.recordCount() - 1;
+    for (int32_t n = 1; n != g.gig.recordCount(); ++n) {
+        const GigRecord r = copyOf(g.gig, n);
+        if (!refersWithin(r.venue, venues))
+            return outside("gig", n, "venue", "gigsAndToursPointWithin", r.venue, venues);
+        if (!refersWithin(r.tour, tours)) return outside("gig", n, "tour", "gigsAndToursPointWithin", r.tour, tours);
+        for (std::size_t i = 0; i < r.bill.size(); ++i) {
+            if (!refersWithin(r.bill[i], bands))
+                return outside("gig", n, fmt::format("bill[{}]", i), "gigsAndToursPointWithin", r.bill[i], bands);
+            if (r.quality[i] > 100)
+                return InvariantBreak{"gig", n, fmt::format("quality[{}]", i), "gigsAndToursPointWithin",
+                                      fmt::format("{}, above 100", r.quality[i])};
+        }
+    }
+    for (int32_t n = 1; n != g.tour.recordCount(); ++n) {
+        const TourRecord t = copyOf(g.tour, n);
+        if (t.gigCount > t.gigs.size())
+            return InvariantBreak{"tour", n, "gigCount", "gigsAndToursPointWithin",
+                                  fmt::format("{}, above 40", t.gigCount)};
+        for (std::size_t i = 0; i < t.gigCount; ++i)
+            if (!refersWithin(t.gigs[i], gigs))
+                return outside("tour", n, fmt::format("gigs[{}]", i), "gigsAndToursPointWithin", t.gigs[i], gigs);
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -283,6 +315,7 @@ constexpr std::array kRules = {
     InvariantRule{"offersAndShortlistPointWithin", offersAndShortlistPointWithin},
     InvariantRule{"songsAndDiscsPointWithin", songsAndDiscsPointWithin},
     InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
+    InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
 };
 
 }  // namespace

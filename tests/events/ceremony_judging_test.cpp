@@ -1,0 +1,141 @@
+// Drawing an award's nominees: the mix, the list of ten, and the rules a
+// band must pass.
+#include <gtest/gtest.h>
+
+#include "events/ceremonies.h"
+#include "events/ceremony_judging.h"
+#include "support/gig_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+TEST(NomineeList, MixTakesTheBasisAloneAt100AndTheHostAloneAt0) {
+    EXPECT_EQ(mix(100, 80, 20), 80);
+    EXPECT_EQ(mix(0, 80, 20), 20);
+    EXPECT_EQ(mix(50, 81, 20), 50);  // 50.5 to the even 50
+}
+
+TEST(NomineeList, AFullListDropsItsLowestAndTiesKeepTheEarlier) {
+    NomineeList list;
+    for (int i = 0; i < 10; ++i) insertNominee(list, 50 + i, static_cast<int16_t>(i + 1), "n");
+    insertNominee(list, 55, 20, "tie");  // equal to id 6: goes below it
+    ASSERT_EQ(list.count, 10);
+    EXPECT_EQ(list.entries[0].id, 10);  // 59 on top
+    EXPECT_EQ(list.entries[4].id, 6);   // 55, filed first
+    EXPECT_EQ(list.entries[5].id, 20);  // 55, filed later
+    EXPECT_EQ(list.entries[9].id, 2);   // 51; 50 (id 1) dropped
+    insertNominee(list, 51, 21, "too low");
+    EXPECT_EQ(list.entries[9].id, 2);
+}
+
+TEST(NomineeList, SalesScoreReachesItsTopAtTenMillion) {
+    EXPECT_EQ(salesScore(10000000), 100);
+    EXPECT_EQ(salesScore(50000000), 100);
+    EXPECT_EQ(salesScore(9949999), 99);  // 99.49999
+    EXPECT_EQ(salesScore(0), 0);
+}
+
+class Judging : public test::GigWorld, public ::testing::Test {
+protected:
+    // An award for bands scored on ability alone, hosted in England.
+    void award(uint8_t sizeRule, int16_t originRule) {
+        g.award.rec = AwardRecord{};
+        g.award->name = "Best Act";
+        g.award->kind = 2;
+        g.award->weight = 100;
+        g.award->sizeRule = sizeRule;
+        g.award->originRule = originRule;
+        g.award->controversyRange = {0, 100};
+        g.award->commercialityRange = {0, 100};
+        g.award.append();
+        g.country.read(england);
+    }
+    int16_t formedIn(const char* name, int16_t city, uint8_t ability) {
+        int16_t b = addBand(name, 0);
+        g.band.read(b);
+        g.band->formedInCity = -1;  // formedIn names a city
+        g.band->formedIn = city;
+        g.band->ability = ability;
+        g.band.write();
+        return b;
+    }
+    std::vector<int16_t> nominees() {
+        NomineeList list = judgeAward(g);
+        std::vector<int16_t> out;
+        for (int i = 0; i < list.count; ++i) out.push_back(list.entries[static_cast<std::size_t>(i)].id);
+        return out;
+    }
+};
+
+TEST_F(Judging, ADuoPassesTheTwoMemberRuleAndASoloActDoesNot) {
+    g.band.read(band);
+    g.band->formedIn = england;  // formedIn names a country
+    g.band.write();              // the world's duo, ability 80
+    int16_t solo = formedIn("Solo", leeds, 90);
+    g.band.read(solo);
+    g.band->memberCount = 1;
+    g.band.write();
+    award(3, 0);
+    EXPECT_EQ(nominees(), std::vector<int16_t>{band});
+    award(1, 0);
+    EXPECT_EQ(nominees(), std::vector<int16_t>{solo});
+}
+
+TEST_F(Judging, OriginGroupsSortTheActsByWhereTheyFormed) {
+    g.band.read(band);
+    g.band->retired = kTrue;  // out of every list
+    g.band.write();
+    int16_t british = formedIn("Leeds Lads", leeds, 70);
+    int16_t french = formedIn("Les Parisiens", paris, 60);
+    int16_t brazilian = formedIn("Rio Rhythm", rio, 50);
+    award(0, -2);
+    EXPECT_EQ(nominees(), std::vector<int16_t>{british});
+    award(0, -3);
+    EXPECT_EQ(nominees(), (std::vector<int16_t>{british, french}));
+    award(0, -4);
+    EXPECT_EQ(nominees(), (std::vector<int16_t>{french, brazilian}));
+    award(0, france);
+    EXPECT_EQ(nominees(), std::vector<int16_t>{french});
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
+    award(0, 0);
+    g.award.read(1);
+    g.award->nominees[0] = band;
+    g.award->nomineeCount = 1;
+    g.award.write();
+    g.award.rec = AwardRecord{};
+    g.award->name = "Nobody's Prize";
+    g.award.append();  // no nominees
+    g.ceremony.rec = CeremonyRecord{};
+    g.ceremony->name = "The Night";
+    g.ceremony->awards[0] = 1;
+    g.ceremony->awards[1] = 2;
+    g.ceremony->playerInvited = kTrue;
+    g.ceremony.append();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->ceremony = 1;
+    int32_t rows = g.achieve.recordCount();
+    finishCeremony(g);
+    g.award.read(1);
+    EXPECT_EQ(g.award->winner, 1);
+    EXPECT_EQ(g.award->held, 2004);
+    g.award.read(2);
+    EXPECT_EQ(g.award->winner, 0);
+    g.ceremony.read(1);
+    EXPECT_EQ(g.ceremony->held, 2004);
+    EXPECT_EQ(g.currentScreen, Screen::frmAwardCeremony);
+    // The band's row and one for each of its two members.
+    ASSERT_EQ(g.achieve.recordCount(), rows + 3);
+    g.achieve.read(rows);
+    EXPECT_EQ(trim(g.achieve->text.value), "Winner of Best Act award. (The Night)");
+    EXPECT_EQ(g.achieve->who, band);
+}
+
+}  // namespace

@@ -1,0 +1,105 @@
+// The player's booking of one gig, a tour of one, and the tour's gigs.
+#include <gtest/gtest.h>
+
+#include "schedule/schedule.h"
+#include "session/invariants.h"
+#include "support/gig_world.h"
+
+using namespace trovane;
+
+namespace {
+
+class Booking : public test::GigWorld, public ::testing::Test {
+protected:
+    int16_t hall = 0;
+    Booking() { hall = addVenue("Hall", 1000, leeds); }
+    GigBooking booking(double daysAhead) { return {.band = band, .venue = hall, .date = g.gameDate + daysAhead}; }
+    std::vector<uint8_t> typesOn(double date) {
+        std::vector<uint8_t> out;
+        for (int32_t id : entriesOfDay(g, date)) {
+            g.schedule.read(id);
+            out.push_back(g.schedule->type);
+        }
+        return out;
+    }
+};
+
+TEST_F(Booking, AGigNeedsSixWeeksNotice) {
+    EXPECT_EQ(gigBookingRefusal(g, booking(41)), "A gig must be booked at least six weeks ahead.");
+    EXPECT_EQ(gigBookingRefusal(g, booking(42)), "");
+}
+
+TEST_F(Booking, OnlyTheLabelsOwnActiveBandsArePlayed) {
+    int16_t other = addBand("The Others", rival);
+    GigBooking b = booking(50);
+    b.band = other;
+    EXPECT_EQ(gigBookingRefusal(g, b), "The Others isn't signed to your label.");
+    g.band.read(band);
+    g.band->retired = kTrue;
+    g.band.write();
+    EXPECT_EQ(gigBookingRefusal(g, booking(50)), "The Testers has retired.");
+}
+
+TEST_F(Booking, AMembersRetirementDateStopsTheBooking) {
+    g.band.read(band);
+    g.artist.read(g.band->members[1]);
+    g.artist->retirementDate = g.gameDate + 50;
+    g.artist.write();
+    EXPECT_EQ(gigBookingRefusal(g, booking(49)), "");
+    EXPECT_EQ(gigBookingRefusal(g, booking(50)),
+              "Your assistant has informed you he feels there is insufficient time before The Testers's "
+              "retirement to book a tour.");
+}
+
+TEST_F(Booking, ABookedNightIsATourOfOneAndKeepsTheBandBusy) {
+    BookedGig booked = bookGig(g, {.band = band, .venue = hall, .date = g.gameDate + 42, .contentLevel = 0});
+    g.tour.read(booked.tour);
+    EXPECT_EQ(g.tour->gigCount, 1);
+    EXPECT_EQ(g.tour->gigs[0], booked.gig);
+    EXPECT_EQ(g.tour->band, band);
+    EXPECT_EQ(g.tour->contentLevel, 0);
+    EXPECT_EQ(g.tour->sponsorProduct, 0);
+    EXPECT_EQ(g.tour->areaCode.value, "E");
+    g.gig.read(booked.gig);
+    EXPECT_EQ(g.gig->bill[0], band);
+    EXPECT_EQ(g.gig->venue, hall);
+    EXPECT_EQ(typesOn(g.gameDate + 42), std::vector<uint8_t>{8});
+    EXPECT_EQ(gigBookingRefusal(g, booking(42)), "The Testers are already busy on that day.");
+}
+
+TEST_F(Booking, LaterGigsAreReachedByTravelThenRest) {
+    g.band.read(band);
+    g.venue.read(hall);
+    createTour(g, "E", 0);
+    double first = g.gameDate + 42;
+    addGigToTour(g, first, 0);
+    addGigToTour(g, first + 4, 2);
+    EXPECT_EQ(g.tour->gigCount, 2);
+    // Two travel days, then rest up to the day before the gig.
+    EXPECT_EQ(typesOn(first + 1), std::vector<uint8_t>{10});
+    EXPECT_EQ(typesOn(first + 2), std::vector<uint8_t>{10});
+    EXPECT_EQ(typesOn(first + 3), std::vector<uint8_t>{11});
+    EXPECT_EQ(typesOn(first + 4), std::vector<uint8_t>{8});
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Booking, TheCheckerFindsAGigOutsideItsTour) {
+    auto rule = [&] {
+        for (const InvariantRule& r : invariantRules())
+            if (std::string(r.name) == "gigsAndToursPointWithin") return r.check(g);
+        return std::optional<InvariantBreak>{InvariantBreak{.rule = "missing"}};
+    };
+    bookGig(g, {.band = band, .venue = hall, .date = g.gameDate + 42});
+    EXPECT_FALSE(rule().has_value());
+    g.gig.read(1);
+    g.gig->tour = 2;  // one tour on file
+    g.gig.write();
+    auto broken = rule();
+    ASSERT_TRUE(broken.has_value());
+    EXPECT_EQ(broken->field, "tour");
+}
+
+}  // namespace

@@ -1,0 +1,94 @@
+// A taken-over label books its act a night at a venue six weeks ahead, plays
+// every day to it and past it with the invariants checked daily, and finds
+// the night's money in the label's books and the act's accounts.
+#include <gtest/gtest.h>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "floor/preferences.h"
+#include "label/finances.h"
+#include "live/tours.h"
+#include "session/invariants.h"
+#include "session/new_game.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/dates.h"
+#include "world/record_store.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class GigNight : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    Game g{folder.path(), 99};
+    int16_t label = 1, band = 0, venue = 0;
+
+    void SetUp() override {
+        test::writeTinyBaseWorld(folder.path());
+        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
+        readPrefs(g);
+        beginNewGame(g);
+        PlayerChoices p;
+        p.forename = "Kim";
+        p.surname = "Rowe";
+        p.nationality = "Scottish";
+        takeOverLabel(g, confirmPlayer(g, p), label);
+        for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
+            g.band.read(n);
+            if (g.band->label == label && g.band->retired == kFalse) band = static_cast<int16_t>(n);
+        }
+        g.venue.rec = VenueRecord{};
+        g.venue->name = "The Long Room";
+        g.venue->capacity = 400;
+        g.venue->city = 1;
+        venue = static_cast<int16_t>(g.venue.append());
+    }
+    void TearDown() override { closeAllTables(g); }
+
+    void playDay() {
+        for (int held = 0; !allRepliesGiven(g); ++held) {
+            ASSERT_LT(held, 20);
+            pressNewsCmd1(g);
+        }
+        checkDaysSchedule(g);
+        auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << describeBreak(*broken);
+    }
+};
+
+}  // namespace
+
+TEST_F(GigNight, TheNightIsPlayedAndItsMoneyReachesTheBooks) {
+    ASSERT_GT(band, 0);
+    GigBooking booking{.band = band, .venue = venue, .date = g.gameDate + 42, .contentLevel = 4};
+    ASSERT_EQ(gigBookingRefusal(g, booking), "");
+    BookedGig booked = bookGig(g, booking);
+    g.label.read(label);
+    const Money recoupedBefore = ledgerEntry(g.label.rec, 2, ledgerRecoupedAdvances);
+    const Money otherBefore = ledgerEntry(g.label.rec, 2, ledgerOtherExpense);
+    while (g.gameDate <= booking.date) ASSERT_NO_FATAL_FAILURE(playDay());
+
+    g.gig.read(booked.gig);
+    EXPECT_GT(g.gig->attendance, 0);
+    EXPECT_LE(g.gig->attendance, 400);
+    g.band.read(band);
+    EXPECT_EQ(g.band->gigCount, 1);
+    EXPECT_EQ(g.band->biggestGig, booked.gig);
+    g.label.read(label);
+    Money recouped = ledgerEntry(g.label.rec, 2, ledgerRecoupedAdvances) - recoupedBefore;
+    Money charged = otherBefore - ledgerEntry(g.label.rec, 2, ledgerOtherExpense);
+    if (g.gig->profit < 0)
+        EXPECT_EQ(charged, moneyUnits(-g.gig->profit)) << "a loss is charged to the act's account";
+    else
+        EXPECT_LE(recouped, moneyUnits(g.gig->profit)) << "the label takes no more than the act's share";
+
+    bool reviewed = false;
+    for (int32_t n = 1; n < g.news.recordCount(); ++n) {
+        g.news.read(n);
+        if (g.news->date == booking.date && trim(g.news->title.value) == trim(g.band.rec.name.value)) reviewed = true;
+    }
+    EXPECT_TRUE(reviewed);
+}
