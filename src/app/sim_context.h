@@ -86,6 +86,7 @@ void addDiscVerbs(CLI::App& app, SimContext& ctx);  // release, forecast, press,
 void confirmDistributorForm(Game& g);
 void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
 
+void addBrowseVerbs(CLI::App& app, SimContext& ctx);  // browse, image, birthday, highscores
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);
 

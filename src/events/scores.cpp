@@ -74,6 +74,23 @@ void artistBirthday(Game& g) {
     g.artist.write();
 }
 
+std::vector<HighScoreRow> highScoreRows(Game& g) {
+    std::vector<HighScoreRow> rows;
+    const auto file = dataFile(g, "highscore", "gam");
+    if (!dataFileExists(g, file)) return rows;
+    g.highscore.open(file, IfMissing::fail);
+    for (int32_t n = 1; n < g.highscore.recordCount(); ++n) {
+        g.highscore.read(n);
+        rows.push_back({0, g.highscore->score, trim(g.highscore->player.value), trim(g.highscore->labelName.value),
+                        g.highscore->game});
+    }
+    g.highscore.close();
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const HighScoreRow& a, const HighScoreRow& b) { return a.score > b.score; });
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i].position = static_cast<int>(i) + 1;
+    return rows;
+}
+
 BirthdayNote birthdayNote(Game& g) {
     BirthdayNote note;
     note.title = trim(g.player.playerForename.value) + "'s Birthday";

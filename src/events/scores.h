@@ -1,6 +1,8 @@
 #pragma once
 // Lasting marks of a career: birthdays, the high-score table.
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace trovane {
 
@@ -15,6 +17,17 @@ double birthdayIn(double birthDate, int year);
 // Rewrites this career's row of highscore.gam: the sum of the five point
 // totals of the player's own staff record.
 void updateHighScoreTable(Game& g);
+
+// frmHighScoreTable's rows: every career's row, highest score first (ties in
+// table order), with the number of this career's row.
+struct HighScoreRow {
+    int position = 0;
+    int32_t score = 0;
+    std::string player;
+    std::string label;
+    int32_t game = 0;
+};
+std::vector<HighScoreRow> highScoreRows(Game& g);
 
 // Schedule type 16: the entry's artist is a year older.
 void artistBirthday(Game& g);

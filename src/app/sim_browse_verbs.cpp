@@ -1,0 +1,263 @@
+// The browsers from the command line: browse (the band browser and its
+// filter), image (the yes of "Confirm Image Analysis"), birthday and highscores.
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "app/sim_context.h"
+#include "browse/band_browse.h"
+#include "events/scores.h"
+#include "floor/formats.h"
+#include "label/image.h"
+#include "world/record_dump.h"
+#include "world/record_store.h"
+#include "world/strings.h"
+
+namespace trovane::sim {
+
+namespace {
+
+struct BrowseOptions {
+    std::string table;
+    std::vector<std::string> where;
+    std::string sort;
+    bool desc = false;
+    std::string style;
+    bool unsignedOnly = false;
+    std::string advance, royalty, gig, age, name;
+    std::vector<std::string> reputation;
+    bool shortlist = false;
+};
+
+struct Range {
+    double min, max;
+};
+
+// "MIN..MAX" as two numbers; anything else is a bad argument.
+Range parseRange(const std::string& flag, const std::string& text) {
+    const auto dots = text.find("..");
+    try {
+        if (dots == std::string::npos) throw std::invalid_argument("");
+        std::size_t used = 0;
+        const std::string lo = text.substr(0, dots), hi = text.substr(dots + 2);
+        Range r{std::stod(lo, &used), 0};
+        if (used != lo.size()) throw std::invalid_argument("");
+        r.max = std::stod(hi, &used);
+        if (used != hi.size() || r.min < 0 || r.max < r.min) throw std::invalid_argument("");
+        return r;
+    } catch (const std::exception&) {
+        throw SimError(kExitBadArgs, fmt::format("{} takes MIN..MAX, not \"{}\"", flag, text));
+    }
+}
+
+template <typename T>
+void setRange(const std::string& flag, const std::string& text, double top, T& lo, T& hi) {
+    if (text.empty()) return;
+    const Range r = parseRange(flag, text);
+    if (r.max > top) throw SimError(kExitBadArgs, fmt::format("{} goes up to {}", flag, top));
+    lo = static_cast<T>(r.min);
+    hi = static_cast<T>(r.max);
+}
+
+BandFilter bandFilterFrom(Game& g, const BrowseOptions& o) {
+    BandFilter f;
+    resetBandFilter(g, f);
+    if (!o.style.empty()) {
+        int32_t s = findRecordByName(g, FileNo::fileStyle, o.style);
+        if (s == 0) throw SimError(kExitBadArgs, fmt::format("There is no style called {}", o.style));
+        f.style = narrow<uint8_t>(s);
+    }
+    if (o.unsignedOnly) f.label = 0;
+    if (!o.advance.empty()) {
+        const Range r = parseRange("--advance", o.advance);
+        f.advanceMin = moneyFromDisplay(g, r.min);
+        f.advanceMax = moneyFromDisplay(g, r.max);
+    }
+    setRange("--royalty", o.royalty, 100, f.royaltyMin, f.royaltyMax);
+    setRange("--gig", o.gig, 100, f.gigMin, f.gigMax);
+    setRange("--age", o.age, 255, f.ageMin, f.ageMax);
+    f.name = o.name;
+    static const char* const kTerritories[] = {"uk", "us", "europe", "oceania", "global"};
+    for (const std::string& rep : o.reputation) {
+        const auto eq = rep.find('=');
+        int t = -1;
+        for (int i = 0; i < 5 && eq != std::string::npos; ++i)
+            if (rep.substr(0, eq) == kTerritories[i]) t = i;
+        if (t < 0) throw SimError(kExitBadArgs, fmt::format("--reputation takes uk|us|europe|oceania|global=MIN..MAX"));
+        setRange("--reputation", rep.substr(eq + 1), 100, f.reputationMin[static_cast<std::size_t>(t)],
+                 f.reputationMax[static_cast<std::size_t>(t)]);
+    }
+    for (const std::string& w : o.where) {
+        const auto eq = w.find('=');
+        const std::string column = eq == std::string::npos ? "" : w.substr(0, eq);
+        if (column == "Name")
+            f.name = w.substr(eq + 1);
+        else
+            throw SimError(kExitBadArgs, fmt::format("The band browser cannot filter by \"{}\"", w));
+    }
+    f.shortlistOnly = o.shortlist;
+    return f;
+}
+
+void printGrid(const SimContext& ctx, const std::string& table, const Grid& grid, const GridSort& sort) {
+    const std::vector<int> shown = visibleColumns(grid);
+    if (ctx.json) {
+        std::string out =
+            fmt::format("{{\"table\":{},\"caption\":{},\"columns\":[", jsonQuote(table), jsonQuote(grid.caption));
+        for (std::size_t i = 0; i < shown.size(); ++i)
+            out += (i ? "," : "") + jsonQuote(grid.columns[static_cast<std::size_t>(shown[i])].label);
+        out += "],\"sort\":{";
+        if (sort.clicked)
+            out += fmt::format(
+                "\"column\":{},\"direction\":{}",
+                jsonQuote(grid.columns[static_cast<std::size_t>(sort.column)].label.empty() && sort.column > 0
+                              ? grid.columns[static_cast<std::size_t>(sort.column - 1)].label
+                              : grid.columns[static_cast<std::size_t>(sort.column)].label),
+                sort.direction == 1 ? "\"ascending\"" : "\"descending\"");
+        else
+            out += "\"column\":null,\"direction\":null";
+        out += "},\"rows\":[";
+        for (std::size_t r = 0; r < grid.rows.size(); ++r) {
+            out += fmt::format("{}{{\"id\":{},\"cells\":[", r ? "," : "", grid.rows[r].record);
+            for (std::size_t i = 0; i < shown.size(); ++i)
+                out += (i ? "," : "") + jsonQuote(grid.rows[r].cells[static_cast<std::size_t>(shown[i])].text);
+            out += "]}";
+        }
+        std::printf("%s]}\n", out.c_str());
+        return;
+    }
+    std::printf("%s\n", grid.caption.c_str());
+    for (const GridRow& row : grid.rows) {
+        std::string line = fmt::format("{:5}", row.record);
+        for (int c : shown) line += "  " + row.cells[static_cast<std::size_t>(c)].text;
+        std::printf("%s\n", line.c_str());
+    }
+}
+
+// The label to click for --sort: by its caption.
+int columnIndex(const Grid& grid, const std::string& caption) {
+    for (std::size_t i = 0; i < grid.columns.size(); ++i)
+        if (!grid.columns[i].hidden && grid.columns[i].label == caption) return static_cast<int>(i);
+    throw SimError(kExitBadArgs, fmt::format("There is no column \"{}\"", caption));
+}
+
+void runBrowse(SimContext& ctx, const BrowseOptions& o) {
+    if (o.table != "band")
+        throw SimError(kExitBadArgs, fmt::format("browse {} is not built yet; browse band is", o.table));
+    Game& g = ctx.openGame();
+    BandFilter filter = bandFilterFrom(g, o);
+    GridSort sort;
+    Grid grid;
+    populateBandGrid(g, 1, filter, kBandSearchColumns, sort, grid);
+    if (!o.sort.empty()) {
+        const int i = columnIndex(grid, o.sort);
+        clickColumnLabel(sort, grid, i);
+        if (o.desc) clickColumnLabel(sort, grid, i);
+        sortGrid(grid, sort);
+    } else if (o.desc) {
+        throw SimError(kExitBadArgs, "--desc goes with --sort");
+    }
+    grid.caption = o.shortlist ? "Shortlisted Bands" : "Band Search";
+    printGrid(ctx, o.table, grid, sort);
+    ctx.closeGame();
+}
+
+int16_t artistNamed(SimContext& ctx, Game& g, const std::string& which) {
+    const int32_t count = g.artist.recordCount();
+    if (!which.empty() && which.find_first_not_of("0123456789") == std::string::npos && which.size() < 7) {
+        const int n = std::stoi(which);
+        if (n >= 1 && n < count) return static_cast<int16_t>(n);
+    } else {
+        for (int32_t n = 1; n < count; ++n) {
+            g.artist.read(n);
+            if (trim(g.artist->forename.value) + " " + trim(g.artist->surname.value) == trim(which))
+                return static_cast<int16_t>(n);
+        }
+    }
+    ctx.closeGame();
+    throw SimError(kExitBadArgs, fmt::format("There is no artist called {}", which));
+}
+
+}  // namespace
+
+void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
+    auto o = std::make_shared<BrowseOptions>();
+    auto* browse = app.add_subcommand("browse", "List a table through its browser's filter and sort");
+    browse->add_option("TABLE", o->table, "band (the other browsers are not built yet)")
+        ->required()
+        ->check(CLI::IsMember({"band", "artist", "staff", "label", "venue", "disc", "song", "business", "media",
+                               "festival", "ceremony", "style", "tour"}));
+    browse->add_option("--where", o->where, "COLUMN=TEXT: the band browser takes Name");
+    browse->add_option("--sort", o->sort, "A column's header: one click on it");
+    browse->add_flag("--desc", o->desc, "A second click: descending");
+    browse->add_option("--style", o->style, "band: only this style");
+    browse->add_flag("--unsigned", o->unsignedOnly, "band: only unsigned acts");
+    browse->add_option("--advance", o->advance, "band: MIN..MAX in the display currency");
+    browse->add_option("--royalty", o->royalty, "band: MIN..MAX percent");
+    browse->add_option("--gig", o->gig, "band: best share MIN..MAX");
+    browse->add_option("--age", o->age, "band: MIN..MAX years");
+    browse->add_option("--name", o->name, "band: the exact name");
+    browse->add_option("--reputation", o->reputation, "band: TERRITORY=MIN..MAX");
+    browse->add_flag("--shortlist", o->shortlist, "band: the player's shortlist");
+    browse->callback([&ctx, o] { runBrowse(ctx, *o); });
+
+    auto artist = std::make_shared<std::string>();
+    auto* image = app.add_subcommand("image", "Ask Marketing to analyse an artist's image (a report in a week)");
+    image->add_option("ARTIST", *artist, "An artist by number or \"Forename Surname\"")->required();
+    image->callback([&ctx, artist] {
+        Game& g = ctx.openGame();
+        const int16_t a = artistNamed(ctx, g, *artist);
+        const std::string why = checkImageAnalysis(g, a);
+        if (!why.empty()) {
+            ctx.refuse(why);
+            ctx.closeGame();
+            return;
+        }
+        const int32_t entry = requestImageAnalysis(g, a);
+        g.schedule.read(entry);
+        const double date = g.schedule->date;
+        ctx.closeGame();
+        if (ctx.json)
+            std::printf("{\"artist\":%d,\"entry\":%d,\"date\":%s}\n", a, entry, fmt::format("{}", date).c_str());
+        else
+            std::printf("Marketing will report on the image of artist %d on day %s.\n", a,
+                        fmt::format("{}", date).c_str());
+    });
+
+    auto* birthday = app.add_subcommand("birthday", "The birthday note: who shares the player's day and month");
+    birthday->callback([&ctx] {
+        Game& g = ctx.openGame();
+        const BirthdayNote note = birthdayNote(g);
+        ctx.closeGame();
+        if (ctx.json)
+            std::printf("{\"title\":%s,\"text\":%s}\n", jsonQuote(note.title).c_str(), jsonQuote(note.text).c_str());
+        else
+            std::printf("%s\n\n%s\n", note.title.c_str(), note.text.c_str());
+    });
+
+    auto* highscores = app.add_subcommand("highscores", "The high-score table, highest first");
+    highscores->callback([&ctx] {
+        Game& g = ctx.gameInProgress() ? ctx.openGame() : ctx.freshGame();
+        const std::vector<HighScoreRow> rows = highScoreRows(g);
+        if (ctx.gameInProgress()) ctx.closeGame();
+        if (ctx.json) {
+            std::string out = "[";
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                out += fmt::format("{}{{\"position\":{},\"score\":{},\"player\":{},\"label\":{},\"game\":{}}}",
+                                   i ? "," : "", rows[i].position, rows[i].score, jsonQuote(rows[i].player),
+                                   jsonQuote(rows[i].label), rows[i].game);
+            std::printf("%s]\n", out.c_str());
+            return;
+        }
+        std::printf("Pos  %-11s  %-32s  %s\n", "Score", "Player", "Label");
+        for (const HighScoreRow& r : rows)
+            std::printf("%3d  %11s  %-32s  %s\n", r.position, formatNumber(r.score, "###,###,##0").c_str(),
+                        r.player.c_str(), r.label.c_str());
+    });
+}
+
+}  // namespace trovane::sim
