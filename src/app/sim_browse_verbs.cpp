@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
+#include "browse/artist_browse.h"
 #include "browse/band_browse.h"
 #include "events/scores.h"
 #include "floor/formats.h"
@@ -145,9 +146,45 @@ int columnIndex(const Grid& grid, const std::string& caption) {
     throw SimError(kExitBadArgs, fmt::format("There is no column \"{}\"", caption));
 }
 
+// The artist browser's filter: a name by --where Name=TEXT.
+std::string artistNameFrom(const BrowseOptions& o) {
+    std::string name;
+    for (const std::string& w : o.where) {
+        const auto eq = w.find('=');
+        if (eq == std::string::npos || w.substr(0, eq) != "Name")
+            throw SimError(kExitBadArgs, fmt::format("The artist browser cannot filter by \"{}\"", w));
+        name = w.substr(eq + 1);
+    }
+    return name;
+}
+
+void runArtistBrowse(SimContext& ctx, const BrowseOptions& o, bool richList) {
+    const std::string name = artistNameFrom(o);
+    if (o.desc && o.sort.empty()) throw SimError(kExitBadArgs, "--desc goes with --sort");
+    Game& g = ctx.openGame();
+    GridSort sort;
+    Grid grid;
+    populateArtistGrid(g, richList, name, sort, grid);
+    if (!o.sort.empty()) {
+        int i = -1;
+        try {
+            i = columnIndex(grid, o.sort);
+        } catch (const SimError&) {
+            ctx.closeGame();
+            throw;
+        }
+        clickColumnLabel(sort, grid, i);
+        if (o.desc) clickColumnLabel(sort, grid, i);
+        sortGrid(grid, sort);
+    }
+    printGrid(ctx, richList ? "richlist" : "artist", grid, sort);
+    ctx.closeGame();
+}
+
 void runBrowse(SimContext& ctx, const BrowseOptions& o) {
+    if (o.table == "artist") return runArtistBrowse(ctx, o, false);
     if (o.table != "band")
-        throw SimError(kExitBadArgs, fmt::format("browse {} is not built yet; browse band is", o.table));
+        throw SimError(kExitBadArgs, fmt::format("browse {} is not built yet; browse band and artist are", o.table));
     Game& g = ctx.openGame();
     BandFilter filter = bandFilterFrom(g, o);
     GridSort sort;
@@ -204,6 +241,13 @@ void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
     browse->add_option("--reputation", o->reputation, "band: TERRITORY=MIN..MAX");
     browse->add_flag("--shortlist", o->shortlist, "band: the player's shortlist");
     browse->callback([&ctx, o] { runBrowse(ctx, *o); });
+
+    auto r = std::make_shared<BrowseOptions>();
+    auto* richlist = app.add_subcommand("richlist", "The artists by wealth, highest first");
+    richlist->add_option("--where", r->where, "Name=TEXT");
+    richlist->add_option("--sort", r->sort, "A column's header: one click on it");
+    richlist->add_flag("--desc", r->desc, "A second click: descending");
+    richlist->callback([&ctx, r] { runArtistBrowse(ctx, *r, true); });
 
     auto artist = std::make_shared<std::string>();
     auto* image = app.add_subcommand("image", "Ask Marketing to analyse an artist's image (a report in a week)");

@@ -1,6 +1,7 @@
 // The band browser: which bands its filter keeps, and how its labels sort.
 #include <gtest/gtest.h>
 
+#include "browse/artist_browse.h"
 #include "browse/band_browse.h"
 #include "label/scouting.h"
 #include "support/empty_game.h"
@@ -180,6 +181,55 @@ TEST_F(BandBrowse, TiesKeepTableOrder) {
     clickColumnLabel(sort, grid, 3);
     clickColumnLabel(sort, grid, 3);  // descending
     EXPECT_EQ(names(), (Names{"Zed", "Ann", "Bob"}));
+}
+
+}  // namespace
+
+namespace {
+
+class ArtistBrowse : public BandBrowse {
+protected:
+    int16_t artist(const std::string& forename, int32_t wealth, int16_t retired = 0) {
+        g.artist.rec = ArtistRecord{};
+        g.artist->forename = forename;
+        g.artist->surname = "Roe";
+        g.artist->wealth = wealth;
+        g.artist->retired = retired;
+        return static_cast<int16_t>(g.artist.append());
+    }
+    Names rows(bool rich, const std::string& name = "") {
+        populateArtistGrid(g, rich, name, sort, grid);
+        Names v;
+        for (const GridRow& r : grid.rows) v.push_back(r.cells[0].text);
+        return v;
+    }
+};
+
+TEST_F(ArtistBrowse, TheRichListOpensByWealthAndLeavesOutTheRetired) {
+    artist("Poor", 10);
+    artist("Rich", 900);
+    artist("Gone", 5000, kTrue);
+    artist("Also Rich", 900);
+    EXPECT_EQ(rows(false), (Names{"Poor Roe", "Rich Roe", "Also Rich Roe"}));
+    EXPECT_EQ(rows(true), (Names{"Rich Roe", "Also Rich Roe", "Poor Roe"}));  // ties in table order
+    EXPECT_EQ(grid.rows[0].cells[5].text, "£900");
+    clickColumnLabel(sort, grid, 5);  // a click sorts up from the poorest
+    EXPECT_EQ(rows(true), (Names{"Poor Roe", "Rich Roe", "Also Rich Roe"}));
+    EXPECT_EQ(rows(false, " Rich Roe "), (Names{"Rich Roe"}));
+}
+
+TEST_F(ArtistBrowse, TheJobIsNamedBySex) {
+    g.job.rec = JobRecord{};
+    g.job->title = "Frontman";
+    g.job->titleFemale = "Frontwoman";
+    const auto job = static_cast<uint8_t>(g.job.append());
+    artist("Ann", 1);
+    g.artist.read(1), g.artist->job = job, g.artist->male = kFalse, g.artist.write();
+    artist("Bob", 1);
+    g.artist.read(2), g.artist->job = job, g.artist->male = kTrue, g.artist.write();
+    rows(false);
+    EXPECT_EQ(grid.rows[0].cells[2].text, "Frontwoman");
+    EXPECT_EQ(grid.rows[1].cells[2].text, "Frontman");
 }
 
 }  // namespace
