@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
+#include "browse/achievement_browse.h"
 #include "browse/artist_browse.h"
 #include "browse/band_browse.h"
 #include "events/scores.h"
@@ -270,6 +271,61 @@ void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
         else
             std::printf("Marketing will report on the image of artist %d on day %s.\n", a,
                         fmt::format("{}", date).c_str());
+    });
+
+    struct AchievementOptions {
+        std::string band, artist, label, staff;
+    };
+    auto a = std::make_shared<AchievementOptions>();
+    auto* achievements = app.add_subcommand("achievements", "The achievements of one record, newest first");
+    auto* ob = achievements->add_option("--band", a->band, "A band by number or exact name");
+    auto* oa = achievements->add_option("--artist", a->artist, "An artist by number or \"Forename Surname\"");
+    auto* ol = achievements->add_option("--label", a->label, "A label by number or exact name");
+    auto* os = achievements->add_option("--staff", a->staff, "A member of staff by number or \"Forename Surname\"");
+    ob->excludes(oa, ol, os);
+    oa->excludes(ol, os);
+    ol->excludes(os);
+    achievements->callback([&ctx, a] {
+        int kind = !a->band.empty() ? 0 : !a->artist.empty() ? 1 : !a->label.empty() ? 2 : !a->staff.empty() ? 3 : -1;
+        if (kind < 0) throw SimError(kExitBadArgs, "achievements takes one of --band, --artist, --label, --staff");
+        Game& g = ctx.openGame();
+        int16_t who = 0;
+        if (kind == 1) {
+            who = artistNamed(ctx, g, a->artist);
+        } else {
+            const FileNo table = kind == 0 ? FileNo::fileBand : kind == 2 ? FileNo::fileLabel : FileNo::fileStaff;
+            const std::string& what = kind == 0 ? a->band : kind == 2 ? a->label : a->staff;
+            int32_t n = 0;
+            if (what.find_first_not_of("0123456789") == std::string::npos && what.size() < 7) {
+                n = std::stoi(what);
+                if (n < 1 || n >= recordCount(g, table)) n = 0;
+            } else if (kind == 3) {
+                for (int32_t s = 1; s < g.staff.recordCount() && n == 0; ++s) {
+                    g.staff.read(s);
+                    if (trim(g.staff->forename.value) + " " + trim(g.staff->surname.value) == trim(what)) n = s;
+                }
+            } else {
+                n = findRecordByName(g, table, what);
+            }
+            if (n == 0) {
+                ctx.closeGame();
+                throw SimError(kExitBadArgs, fmt::format("There is no record called {}", what));
+            }
+            who = static_cast<int16_t>(n);
+        }
+        const std::vector<AchievementRow> rows = achievementsOf(g, kind, who);
+        ctx.closeGame();
+        if (ctx.json) {
+            std::string out = "[";
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                out += fmt::format("{}{{\"date\":{},\"kind\":{},\"who\":{},\"text\":{}}}", i ? "," : "",
+                                   jsonQuote(formatDate(rows[i].date, "yyyy-mm-dd")), rows[i].kind, rows[i].who,
+                                   jsonQuote(rows[i].text));
+            std::printf("%s]\n", out.c_str());
+            return;
+        }
+        for (const AchievementRow& r : rows)
+            std::printf("%s  %s\n", formatDate(r.date, "dd/mm/yyyy").c_str(), r.text.c_str());
     });
 
     auto* birthday = app.add_subcommand("birthday", "The birthday note: who shares the player's day and month");

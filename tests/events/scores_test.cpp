@@ -1,6 +1,7 @@
 // The marks of a career: birthdays, the high-score table and the hidden acts.
 #include <gtest/gtest.h>
 
+#include "browse/achievement_browse.h"
 #include "events/hidden_bands.h"
 #include "events/scores.h"
 #include "support/empty_game.h"
@@ -124,6 +125,32 @@ TEST_F(Scores, OnlyTheExactNameUnlocksAnAct) {
     EXPECT_EQ(hiddenBandFor("Odile Crane"), "The Salt Lanterns");
     EXPECT_EQ(hiddenBandFor("ivo marsh"), "");
     EXPECT_EQ(hiddenBandFor("Ivo  Marsh"), "");
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Scores, AFourPiecesAchievementIsEachMembersNewestFirst) {
+    int16_t band = addAct(g, {.ranks = {1, 1, 1, 1}, .name = "Quartet"});
+    g.gameDate = serialFromCivil(2004, 5, 1);
+    g.band.read(band);
+    addAchievement(g, 0, "First gold");
+    g.gameDate = serialFromCivil(2004, 6, 1);
+    g.band.read(band);
+    addAchievement(g, 0, "First platinum");
+    g.band.read(band);
+    const BandRecord b = g.band.rec;
+    for (int m = 0; m < 4; ++m) {
+        const auto rows = achievementsOf(g, 1, b.members[static_cast<std::size_t>(m)]);
+        ASSERT_EQ(rows.size(), 2u) << m;
+        EXPECT_EQ(rows[0].text, "(Quartet) First platinum");
+        EXPECT_EQ(rows[1].text, "(Quartet) First gold");
+    }
+    const auto own = achievementsOf(g, 0, band);
+    ASSERT_EQ(own.size(), 2u);
+    EXPECT_EQ(own[0].text, "First platinum");
+    EXPECT_EQ(achievementsOf(g, 2, band).size(), 0u);  // a label of the same number has none
 }
 
 }  // namespace
