@@ -12,6 +12,7 @@
 #include "browse/achievement_browse.h"
 #include "browse/artist_browse.h"
 #include "browse/band_browse.h"
+#include "browse/people_browse.h"
 #include "events/scores.h"
 #include "floor/formats.h"
 #include "label/image.h"
@@ -153,19 +154,25 @@ std::string artistNameFrom(const BrowseOptions& o) {
     for (const std::string& w : o.where) {
         const auto eq = w.find('=');
         if (eq == std::string::npos || w.substr(0, eq) != "Name")
-            throw SimError(kExitBadArgs, fmt::format("The artist browser cannot filter by \"{}\"", w));
+            throw SimError(kExitBadArgs, fmt::format("This browser cannot filter by \"{}\"", w));
         name = w.substr(eq + 1);
     }
     return name;
 }
 
+// The browsers that take only a name: artist (or the rich list), staff, label.
 void runArtistBrowse(SimContext& ctx, const BrowseOptions& o, bool richList) {
     const std::string name = artistNameFrom(o);
     if (o.desc && o.sort.empty()) throw SimError(kExitBadArgs, "--desc goes with --sort");
     Game& g = ctx.openGame();
     GridSort sort;
     Grid grid;
-    populateArtistGrid(g, richList, name, sort, grid);
+    if (o.table == "staff")
+        populateStaffGrid(g, name, sort, grid);
+    else if (o.table == "label")
+        populateLabelGrid(g, name, sort, grid);
+    else
+        populateArtistGrid(g, richList, name, sort, grid);
     if (!o.sort.empty()) {
         int i = -1;
         try {
@@ -178,14 +185,15 @@ void runArtistBrowse(SimContext& ctx, const BrowseOptions& o, bool richList) {
         if (o.desc) clickColumnLabel(sort, grid, i);
         sortGrid(grid, sort);
     }
-    printGrid(ctx, richList ? "richlist" : "artist", grid, sort);
+    printGrid(ctx, richList ? "richlist" : o.table, grid, sort);
     ctx.closeGame();
 }
 
 void runBrowse(SimContext& ctx, const BrowseOptions& o) {
-    if (o.table == "artist") return runArtistBrowse(ctx, o, false);
+    if (o.table == "artist" || o.table == "staff" || o.table == "label") return runArtistBrowse(ctx, o, false);
     if (o.table != "band")
-        throw SimError(kExitBadArgs, fmt::format("browse {} is not built yet; browse band and artist are", o.table));
+        throw SimError(kExitBadArgs,
+                       fmt::format("browse {} is not built yet; band, artist, staff and label are", o.table));
     Game& g = ctx.openGame();
     BandFilter filter = bandFilterFrom(g, o);
     GridSort sort;
@@ -225,7 +233,7 @@ int16_t artistNamed(SimContext& ctx, Game& g, const std::string& which) {
 void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
     auto o = std::make_shared<BrowseOptions>();
     auto* browse = app.add_subcommand("browse", "List a table through its browser's filter and sort");
-    browse->add_option("TABLE", o->table, "band (the other browsers are not built yet)")
+    browse->add_option("TABLE", o->table, "band, artist, staff or label (the others are not built yet)")
         ->required()
         ->check(CLI::IsMember({"band", "artist", "staff", "label", "venue", "disc", "song", "business", "media",
                                "festival", "ceremony", "style", "tour"}));

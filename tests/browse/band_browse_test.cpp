@@ -3,6 +3,7 @@
 
 #include "browse/artist_browse.h"
 #include "browse/band_browse.h"
+#include "browse/people_browse.h"
 #include "label/scouting.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
@@ -230,6 +231,40 @@ TEST_F(ArtistBrowse, TheJobIsNamedBySex) {
     rows(false);
     EXPECT_EQ(grid.rows[0].cells[2].text, "Frontwoman");
     EXPECT_EQ(grid.rows[1].cells[2].text, "Frontman");
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
+    int16_t pop = addStyle(g, 10, 100, 0, "Pop");
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Tin Roof");
+    g.label.read(label), g.label->labelStyle = static_cast<uint8_t>(pop), g.label.write();
+    addLabel(g, {1, 1, 1, 1, 1}, "Anything Goes");
+    g.staff.rec = StaffRecord{};
+    g.staff->forename = "Kim";
+    g.staff->surname = "Rowe";
+    g.staff->employer = label;
+    g.staff->department = 3;
+    g.staff->wage = moneyUnits(1250);
+    g.staff.append();
+    g.staff.rec = StaffRecord{};
+    g.staff->forename = "Fay";
+    g.staff->surname = "Free";
+    g.staff.append();
+    populateStaffGrid(g, "", sort, grid);
+    ASSERT_EQ(grid.rows.size(), 2u);
+    EXPECT_EQ(grid.rows[0].cells[3].text, "Tin Roof");
+    EXPECT_EQ(grid.rows[0].cells[4].text, "Marketing");
+    EXPECT_EQ(grid.rows[0].cells[5].text, "£1,250");
+    EXPECT_EQ(grid.rows[1].cells[4].text, "");  // out of work: no department
+    populateStaffGrid(g, "Fay Free ", sort, grid);
+    ASSERT_EQ(grid.rows.size(), 1u);
+    populateLabelGrid(g, "", sort, grid);
+    ASSERT_EQ(grid.rows.size(), 2u);
+    EXPECT_EQ(grid.rows[0].cells[1].text, "Pop");
+    EXPECT_EQ(grid.rows[1].cells[1].text, "All Styles");
 }
 
 }  // namespace
