@@ -154,3 +154,78 @@ TEST_F(Scores, AFourPiecesAchievementIsEachMembersNewestFirst) {
 }
 
 }  // namespace
+
+namespace {
+
+class HiddenBands : public Scores {
+protected:
+    int16_t player = addLabel(g, {1, 1, 1, 1, 1}, "Mine");
+
+    // A bank holding one act, "Hollow Parade", of `members` members.
+    void makeBank(int members) {
+        g.cb.open(dataFile(g, "cb", "gam"), IfMissing::createEmpty);
+        g.ca.open(dataFile(g, "ca", "gam"), IfMissing::createEmpty);
+        g.cb.rec = BandRecord{};
+        g.cb->name = "Hollow Parade";
+        g.cb->memberCount = static_cast<uint8_t>(members);
+        for (int m = 0; m < members; ++m) {
+            g.ca.rec = ArtistRecord{};
+            g.ca->forename = "Hidden";
+            g.ca->surname = std::to_string(m + 1);
+            g.ca->band = 1;
+            g.cb->members[static_cast<std::size_t>(m)] = static_cast<int16_t>(g.ca.append());
+        }
+        g.cb.append();
+        g.cb.close();
+        g.ca.close();
+    }
+    void typed(const char* forename, const char* surname) {
+        g.player.playerForename = forename;
+        g.player.playerSurname = surname;
+        g.player.playerLabel = player;
+    }
+};
+
+TEST_F(HiddenBands, TheActJoinsTheEndOfTheTablesSignedToThePlayer) {
+    makeBank(2);
+    addArtist("Already", 0);              // artist 1
+    addAct(g, {.name = "Someone Else"});  // band 1, its member artist 2
+    typed(" Ruben", "Teal ");
+    unlockHiddenBand(g);
+    ASSERT_EQ(g.band.recordCount(), 3);
+    g.band.read(2);
+    EXPECT_EQ(g.band->name.value, "Hollow Parade");
+    EXPECT_EQ(g.band->label, player);
+    EXPECT_EQ(g.band->members[0], 3);
+    EXPECT_EQ(g.band->members[1], 4);
+    g.artist.read(4);
+    EXPECT_EQ(g.artist->id, 4);
+    EXPECT_EQ(g.artist->band, 2);
+    EXPECT_EQ(g.artist->surname.value, "2");
+    g.label.read(player);
+    EXPECT_EQ(g.label->bandCount, 1);
+    g.news.read(1);
+    EXPECT_EQ(g.news->title.value, "Cheat band unlocked");
+    EXPECT_EQ(g.news->text.value, "Hollow Parade have been unlocked and automatically signed to your label.");
+}
+
+TEST_F(HiddenBands, ASoloActHasBeenUnlocked) {
+    makeBank(1);
+    typed("Ruben", "Teal");
+    unlockHiddenBand(g);
+    g.news.read(1);
+    EXPECT_EQ(g.news->text.value, "Hollow Parade has been unlocked and automatically signed to your label.");
+}
+
+TEST_F(HiddenBands, OtherCapitalsOrAnActMissingFromTheBankUnlockNothing) {
+    makeBank(2);
+    typed("Ruben", "TEAL");
+    unlockHiddenBand(g);
+    typed("Ivo", "Marsh");  // The Salt Lanterns: not in this bank
+    unlockHiddenBand(g);
+    EXPECT_EQ(g.band.recordCount(), 1);
+    EXPECT_EQ(g.artist.recordCount(), 1);
+    EXPECT_EQ(g.news.recordCount(), 1);
+}
+
+}  // namespace
