@@ -349,9 +349,12 @@ void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
 
     auto* highscores = app.add_subcommand("highscores", "The high-score table, highest first");
     highscores->callback([&ctx] {
-        Game& g = ctx.gameInProgress() ? ctx.openGame() : ctx.freshGame();
+        const bool inGame = ctx.gameInProgress();
+        Game& g = inGame ? ctx.openGame() : ctx.freshGame();
         const std::vector<HighScoreRow> rows = highScoreRows(g);
-        if (ctx.gameInProgress()) ctx.closeGame();
+        // This career's row is marked, as the table marks it.
+        const int32_t thisGame = inGame ? g.player.gameNumber : -1;
+        if (inGame) ctx.closeGame();
         if (ctx.json) {
             std::string out = "[";
             for (std::size_t i = 0; i < rows.size(); ++i)
@@ -363,8 +366,8 @@ void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
         }
         std::printf("Pos  %-11s  %-32s  %s\n", "Score", "Player", "Label");
         for (const HighScoreRow& r : rows)
-            std::printf("%3d  %11s  %-32s  %s\n", r.position, formatNumber(r.score, "###,###,##0").c_str(),
-                        r.player.c_str(), r.label.c_str());
+            std::printf("%3d%c %11s  %-32s  %s\n", r.position, r.game == thisGame ? '*' : ' ',
+                        formatNumber(r.score, "###,###,##0").c_str(), r.player.c_str(), r.label.c_str());
     });
 }
 
