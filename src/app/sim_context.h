@@ -88,6 +88,7 @@ void addBooksVerbs(CLI::App& app, SimContext& ctx);
 void addLiveVerbs(CLI::App& app,
                   SimContext& ctx);  // venues, gig, gigs  // label, books, department, staff, approach, ...
 
+void addBrowseVerbs(CLI::App& app, SimContext& ctx);  // browse, image, birthday, highscores
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);
 

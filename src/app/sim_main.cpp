@@ -70,6 +70,7 @@ int main(int argc, char** argv) {
     addSessionVerbs(app, ctx);
     addNewsVerbs(app, ctx);
     addListVerbs(app, ctx);
+    addBrowseVerbs(app, ctx);
     addAlbumVerbs(app, ctx);
     addBandVerbs(app, ctx);
     addDiscVerbs(app, ctx);

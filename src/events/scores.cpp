@@ -1,12 +1,44 @@
 #include "events/scores.h"
 
+#include <algorithm>
+
+#include "floor/formats.h"
+#include "schedule/schedule.h"
+#include "world/dates.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
 namespace trovane {
 
-// Not built yet: an empty step of the day until its rules are written.
-void addThisYearsBirthdays(Game& g) { static_cast<void>(g); }
+double birthdayIn(double birthDate, int year) {
+    const CivilDate born = civilFromSerial(birthDate);
+    // 29 February in a common year falls on 1 March.
+    if (born.month == 2 && born.day == 29 && daysInMonth(year, 2) == 28) return serialFromCivil(year, 3, 1);
+    return serialFromCivil(year, born.month, born.day);
+}
+
+void addBirthdays(Game& g, int year, double from) {
+    std::vector<ScheduleRecord> entries;
+    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
+        g.artist.read(n);
+        if (g.artist->retired != 0 || g.artist->birthDate <= kNoDate) continue;
+        const double date = birthdayIn(g.artist->birthDate, year);
+        if (date < from) continue;
+        ScheduleRecord r{};
+        r.type = 16;
+        r.date = date;
+        r.artist = g.artist->id;
+        r.band = g.artist->band;
+        entries.push_back(r);
+    }
+    addSchedules(g, entries);
+}
+
+// On 31 December: every birthday of the coming year.
+void addThisYearsBirthdays(Game& g) {
+    const int year = yearOf(g.gameDate + 1);
+    addBirthdays(g, year, serialFromCivil(year, 1, 1));
+}
 
 void updateHighScoreTable(Game& g) {
     int64_t score = 0;
@@ -34,8 +66,69 @@ void updateHighScoreTable(Game& g) {
     g.highscore.close();
 }
 
-// Not built yet: birthdays pass unnoticed until they are written.
-void artistBirthday(Game& g) { static_cast<void>(g); }
+void artistBirthday(Game& g) {
+    const ScheduleRecord entry = g.schedule.rec;
+    if (entry.artist < 1 || entry.artist >= g.artist.recordCount()) return;
+    g.artist.read(entry.artist);
+    g.artist->age = narrow<uint8_t>(std::min(g.artist->age + 1, 255));
+    g.artist.write();
+}
+
+std::vector<HighScoreRow> highScoreRows(Game& g) {
+    std::vector<HighScoreRow> rows;
+    const auto file = dataFile(g, "highscore", "gam");
+    if (!dataFileExists(g, file)) return rows;
+    g.highscore.open(file, IfMissing::fail);
+    for (int32_t n = 1; n < g.highscore.recordCount(); ++n) {
+        g.highscore.read(n);
+        rows.push_back({0, g.highscore->score, trim(g.highscore->player.value), trim(g.highscore->labelName.value),
+                        g.highscore->game});
+    }
+    g.highscore.close();
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const HighScoreRow& a, const HighScoreRow& b) { return a.score > b.score; });
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i].position = static_cast<int>(i) + 1;
+    return rows;
+}
+
+BirthdayNote birthdayNote(Game& g) {
+    BirthdayNote note;
+    note.title = trim(g.player.playerForename.value) + "'s Birthday";
+    double born = 0;
+    if (g.player.playerStaff > 0 && g.player.playerStaff < g.staff.recordCount()) {
+        g.staff.read(g.player.playerStaff);
+        born = g.staff->birthDate;
+    }
+    std::string lines;
+    if (born > kNoDate) {
+        const CivilDate mine = civilFromSerial(born);
+        for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
+            g.artist.read(n);
+            if (g.artist->birthDate <= kNoDate) continue;
+            const CivilDate theirs = civilFromSerial(g.artist->birthDate);
+            if (theirs.month != mine.month || theirs.day != mine.day) continue;
+            const ArtistRecord a = g.artist.rec;
+            std::string band = "independent artist";
+            if (a.band > 0 && a.band < g.band.recordCount()) {
+                g.band.read(a.band);
+                band = trim(g.band->name.value);
+            }
+            lines += "- " + trim(a.forename.value) + " " + trim(a.surname.value) + " (" + band + ") \r\n";
+        }
+        if (!lines.empty())
+            note.text = "Congratulations! You share your birthday (" + std::to_string(mine.day) + " " +
+                        formatDate(born, "mmmm") + ") with :-\r\n\r\n" + lines;
+    }
+    if (note.text.empty()) note.text = "Unfortunately no artists in Trovane share your birthday, sorry about that.";
+    return note;
+}
+
+bool isPlayersBirthday(Game& g) {
+    if (g.player.playerStaff < 1 || g.player.playerStaff >= g.staff.recordCount()) return false;
+    g.staff.read(g.player.playerStaff);
+    if (g.staff->birthDate <= kNoDate) return false;
+    return monthOf(g.staff->birthDate) == monthOf(g.gameDate) && dayOf(g.staff->birthDate) == dayOf(g.gameDate);
+}
 
 }  // namespace trovane
 

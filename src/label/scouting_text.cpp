@@ -67,7 +67,7 @@ std::string verdict(const Words& w, int p, int f) {
 
 }  // namespace
 
-std::string memberImageLine(Game& g) {
+std::string imageVerdict(Game& g) {
     const ArtistRecord& a = g.artist.rec;
     const std::string name = trim(a.forename.value) + " " + trim(a.surname.value);
     const bool male = a.male != 0;
@@ -84,7 +84,12 @@ std::string memberImageLine(Game& g) {
     else
         text = "they are very pleased with " + name +
                "'s image and see no reason to change it at this stage in the artist's career.";
-    return "- " + name + ": " + text;
+    return text;
+}
+
+std::string memberImageLine(Game& g) {
+    const ArtistRecord& a = g.artist.rec;
+    return "- " + trim(a.forename.value) + " " + trim(a.surname.value) + ": " + imageVerdict(g);
 }
 
 std::string scoutingReportText(Game& g, int present, int future) {

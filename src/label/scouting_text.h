@@ -13,5 +13,7 @@ std::string scoutingReportText(Game& g, int present, int future);
 
 // One member's image as Marketing reads it (the current artist).
 std::string memberImageLine(Game& g);
+// Marketing's view of the current artist's image when no better look is found.
+std::string imageVerdict(Game& g);
 
 }  // namespace trovane

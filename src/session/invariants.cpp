@@ -303,6 +303,31 @@ std::optional<InvariantBreak> gigsAndToursPointWithin(Game& g) {
     return std::nullopt;
 }
 
+// An artist's look is one of the table's (0 before any is chosen), its image
+// rating held 0 to 100; an achievement names a record of the table its kind names.
+std::optional<InvariantBreak> looksAndAchievementsPointWithin(Game& g) {
+    const int32_t looks = g.look.recordCount() - 1;
+    for (int32_t n = 1; n != g.artist.recordCount(); ++n) {
+        const ArtistRecord a = copyOf(g.artist, n);
+        if (!refersWithin(a.look, looks))
+            return outside("artist", n, "look", "looksAndAchievementsPointWithin", a.look, looks);
+        if (a.imageRating > 100)
+            return InvariantBreak{"artist", n, "imageRating", "looksAndAchievementsPointWithin",
+                                  fmt::format("{}, above 100", a.imageRating)};
+    }
+    const int32_t counts[4] = {g.band.recordCount() - 1, g.artist.recordCount() - 1, g.label.recordCount() - 1,
+                               g.staff.recordCount() - 1};
+    for (int32_t n = 1; n != g.achieve.recordCount(); ++n) {
+        const AchievementRecord r = copyOf(g.achieve, n);
+        if (r.kind > 3)
+            return InvariantBreak{"achieve", n, "kind", "looksAndAchievementsPointWithin",
+                                  fmt::format("{}, not 0 to 3", r.kind)};
+        if (r.who < 1 || r.who > counts[r.kind])
+            return outside("achieve", n, "who", "looksAndAchievementsPointWithin", r.who, counts[r.kind]);
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -316,6 +341,7 @@ constexpr std::array kRules = {
     InvariantRule{"songsAndDiscsPointWithin", songsAndDiscsPointWithin},
     InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
     InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
+    InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "events/ceremonies.h"
 #include "events/hidden_bands.h"
+#include "events/scores.h"
 #include "floor/date_helpers.h"
 #include "floor/formats.h"
 #include "floor/grammar.h"
@@ -359,6 +360,8 @@ void startNewGame(Game& g, StaffRecord player) {
     }
     seedCharts(g);
     unlockHiddenBand(g);
+    // The birthdays left in the first year; 31 December files each year after.
+    addBirthdays(g, yearOf(g.gameDate), g.gameDate);
     briefNewPlayerOnAlbums(g);
     report(g, 85);
 

@@ -186,7 +186,22 @@ INSTANTIATE_TEST_SUITE_P(
                   g.business->open = 1;
                   g.business.append();
               },
-              "business", 1, "open", "firmsHoldTheirFields"}),
+              "business", 1, "open", "firmsHoldTheirFields"},
+        Fault{"ALookPastTheTable",
+              [](Game& g) {
+                  g.artist.rec = ArtistRecord{};
+                  g.artist->look = 1;  // the look table is empty
+                  g.artist.append();
+              },
+              "artist", 1, "look", "looksAndAchievementsPointWithin"},
+        Fault{"AnAchievementOfNoOne",
+              [](Game& g) {
+                  g.achieve.rec = AchievementRecord{};
+                  g.achieve->kind = 1;
+                  g.achieve->who = 1;  // no artist yet
+                  g.achieve.append();
+              },
+              "achieve", 1, "who", "looksAndAchievementsPointWithin"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Invariants, AVoidOfferAndSongsAwaitingADiscPass) {

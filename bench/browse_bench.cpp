@@ -1,0 +1,76 @@
+// How fast the band browser fills and sorts 10,000 bands, and how fast
+// Marketing's monthly pass, the high-score update and the birthdays run on the
+// shipped world.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <memory>
+
+#include "browse/band_browse.h"
+#include "events/scores.h"
+#include "floor/preferences.h"
+#include "label/image.h"
+#include "session/new_game.h"
+#include "world/record_store.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::unique_ptr<Game> shippedGame(const char* name) {
+    fs::path folder = fs::temp_directory_path() / name;
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
+        if (e.path().extension() == ".gam") fs::copy_file(e.path(), folder / e.path().filename());
+    auto g = std::make_unique<Game>(folder, 1);
+    readPrefs(*g);
+    beginNewGame(*g);
+    PlayerChoices p;
+    p.forename = "Ann";
+    p.surname = "Lee";
+    p.createNewLabel = false;
+    takeOverLabel(*g, confirmPlayer(*g, p), 1);
+    return g;
+}
+
+void BM_FillAndSortTenThousandBands(benchmark::State& state) {
+    auto g = shippedGame("trovane-bench-browse");
+    g->band.read(1);
+    const BandRecord model = g->band.rec;
+    while (g->band.recordCount() <= 10'000) {
+        g->band.rec = model;
+        g->band->id = static_cast<int16_t>(g->band.recordCount());
+        g->band->advanceToPay = moneyUnits(g->band.recordCount() * 37 % 5000);
+        g->band.append();
+    }
+    BandFilter filter;
+    resetBandFilter(*g, filter);
+    Grid grid;
+    GridSort sort;
+    sort.clicked = true;
+    sort.column = 3;  // the hidden advance value
+    for (auto _ : state) {
+        populateBandGrid(*g, 1, filter, kBandSearchColumns, sort, grid);
+        benchmark::DoNotOptimize(grid.rows.data());
+    }
+    closeAllTables(*g);
+}
+BENCHMARK(BM_FillAndSortTenThousandBands)->Unit(benchmark::kMillisecond);
+
+void BM_DeliverMarketingReports(benchmark::State& state) {
+    auto g = shippedGame("trovane-bench-marketing");
+    for (auto _ : state) deliverMarketingReports(*g);
+    closeAllTables(*g);
+}
+BENCHMARK(BM_DeliverMarketingReports)->Unit(benchmark::kMillisecond);
+
+void BM_UpdateHighScoreTable(benchmark::State& state) {
+    auto g = shippedGame("trovane-bench-highscore");
+    for (auto _ : state) updateHighScoreTable(*g);
+    closeAllTables(*g);
+}
+BENCHMARK(BM_UpdateHighScoreTable)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

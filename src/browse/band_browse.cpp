@@ -1,0 +1,158 @@
+#include "browse/band_browse.h"
+
+#include "floor/formats.h"
+#include "label/scouting.h"
+#include "schedule/band_calendar.h"
+#include "world/game.h"
+#include "world/strings.h"
+
+namespace trovane {
+
+double displayRate(const Game& g) {
+    double rate = static_cast<double>(g.prefs.rec.exchangeRate);
+    return rate == 0 ? 1.0 : rate;
+}
+
+// The filter's bounds are whole amounts: the float rate's last bits would
+// otherwise leave 147,000 euros a hair under 100,000 pounds.
+Money moneyFromDisplay(const Game& g, double displayAmount) {
+    return moneyUnits(static_cast<int64_t>(roundHalfEven(displayAmount / displayRate(g))));
+}
+
+void resetBandFilter(const Game& g, BandFilter& filter) {
+    filter = BandFilter{};
+    filter.advanceMax = moneyFromDisplay(g, 50'000'000);
+}
+
+namespace {
+
+constexpr int kMaxRows = 50'000;
+
+GridColumn columnFor(int code) {
+    switch (code) {
+    case bcName: return {"Name", 2400};
+    case bcStyle: return {"Style", 1500};
+    case bcAdvance: return {"Advance", 1500};
+    case bcLabel: return {"Label", 2200};
+    case bcAdded: return {"Added", 800};
+    case bcPos: return {"Pos", 500};
+    case bcAdvanceValue: return {"", 0, true};
+    case bcActivity: return {"Current Activity", 2500};
+    default: return {"", 0, true};
+    }
+}
+
+bool passes(Game& g, const BandFilter& f) {
+    const BandRecord& b = g.band.rec;
+    if (f.shortlistOnly) {
+        const BandRecord keep = g.band.rec;
+        g.label.read(g.player.playerLabel);
+        g.band.rec = keep;
+        if (!isShortlisted(g)) return false;
+    }
+    if (f.label != -1 && b.label != f.label) return false;
+    if (f.style != 0 && b.style != f.style) return false;
+    if (b.advanceToPay < f.advanceMin || b.advanceToPay > f.advanceMax) return false;
+    if (b.royaltyRate < f.royaltyMin || b.royaltyRate > f.royaltyMax) return false;
+    if (b.bestShare < f.gigMin || b.bestShare > f.gigMax) return false;
+    if (b.age < f.ageMin || b.age > f.ageMax) return false;
+    if (!trim(f.name).empty() && trim(b.name.value) != trim(f.name)) return false;
+    for (std::size_t t = 0; t < 5; ++t)
+        if (b.reputation[t] < f.reputationMin[t] || b.reputation[t] > f.reputationMax[t]) return false;
+    return true;
+}
+
+// The bands of the bill held in the gig buffer, as many as the tour buffer says.
+std::vector<int16_t> billInHand(Game& g, int mode) {
+    int length = g.tour->supportCount + (mode == 2 ? 1 : 0);
+    std::vector<int16_t> bill;
+    for (int i = 0; i < length && i < static_cast<int>(g.gig->bill.size()); ++i)
+        bill.push_back(g.gig->bill[static_cast<std::size_t>(i)]);
+    return bill;
+}
+
+GridCell cellFor(Game& g, int code, int pos, const std::vector<int16_t>& bill) {
+    const BandRecord band = g.band.rec;
+    switch (code) {
+    case bcName: return {trim(band.name.value), {}};
+    case bcStyle: {
+        std::string style;
+        if (band.style > 0 && band.style < g.style.recordCount()) {
+            g.style.read(band.style);
+            style = trim(g.style->name.value);
+        }
+        return {style, {}};
+    }
+    case bcAdvance:
+        return {formatMoneyValue(g, moneyToDouble(band.advanceToPay), "###,###,###,##0"),
+                moneyToDouble(band.advanceToPay)};
+    case bcAdvanceValue: return {std::to_string(band.advanceToPay / kMoneyUnit), moneyToDouble(band.advanceToPay)};
+    case bcLabel: {
+        if (band.label <= 0 || band.label >= g.label.recordCount()) return {"Unsigned", {}};
+        g.label.read(band.label);
+        return {trim(g.label->name.value), {}};
+    }
+    case bcAdded: {
+        for (int16_t b : bill)
+            if (b == band.id && b != 0) return {"Added", {}};
+        return {"", {}};
+    }
+    case bcPos: return {std::to_string(pos), static_cast<double>(pos)};
+    case bcActivity: {
+        int32_t id = bandEngagement(g, 1, g.gameDate);
+        std::string text = scheduleActivityText(g, id);
+        g.band.rec = band;
+        return {text, {}};
+    }
+    default: return {"", {}};
+    }
+}
+
+}  // namespace
+
+void populateBandGrid(Game& g, int mode, const BandFilter& filter, const std::vector<int>& columns,
+                      const GridSort& sort, Grid& grid) {
+    grid.columns.clear();
+    for (int code : columns) grid.columns.push_back(columnFor(code));
+    grid.rows.clear();
+    grid.rows.reserve(kMaxRows);
+    // The caller's reference band is read for the same-style and support
+    // choices; neither drops a band here.
+    if ((filter.sameStyleOnly || filter.supportOnly) && filter.referenceBand > 0 &&
+        filter.referenceBand < g.band.recordCount())
+        g.band.read(filter.referenceBand);
+
+    auto writeRow = [&](const std::vector<int16_t>& bill) {
+        GridRow row;
+        row.record = g.band->id;
+        const int pos = static_cast<int>(grid.rows.size()) + 1;
+        for (int code : columns) {
+            const BandRecord keep = g.band.rec;
+            row.cells.push_back(cellFor(g, code, pos, bill));
+            g.band.rec = keep;
+        }
+        grid.rows.push_back(std::move(row));
+    };
+
+    if (mode == 1) {
+        const std::vector<int16_t> noBill;
+        const int32_t count = g.band.recordCount();
+        for (int32_t n = 1; n < count && static_cast<int>(grid.rows.size()) < kMaxRows; ++n) {
+            g.band.read(n);
+            if (g.band->retired != 0) continue;
+            if (!passes(g, filter)) continue;
+            writeRow(noBill);
+        }
+    } else {
+        const std::vector<int16_t> bill = billInHand(g, mode);
+        for (int16_t b : bill) {
+            if (b <= 0 || b >= g.band.recordCount()) continue;
+            g.band.read(b);
+            writeRow(bill);
+        }
+    }
+    grid.rows.shrink_to_fit();
+    if (mode < 3) sortGrid(grid, sort);
+}
+
+}  // namespace trovane

@@ -1,0 +1,97 @@
+// The browse, image and highscores verbs: the band filter from flags in the
+// display currency, the sort by header, refusals and bad arguments.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "floor/preferences.h"
+#include "session/session_record.h"
+#include "support/empty_game.h"
+#include "support/signing_world.h"
+
+using namespace trovane;
+
+namespace {
+
+std::pair<int, std::string> sim(const test::TempFolder& data, const std::string& args) {
+    std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + data.path().string() + " " + args + " 2>&1";
+    std::string out;
+    FILE* p = popen(cmd.c_str(), "r");
+    char buf[4096];
+    while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
+    int status = pclose(p);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+}
+
+std::string contents(const std::filesystem::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+// Euros at 1.47; three acts, one signed to the player, one to a rival.
+void makeGame(const test::TempFolder& data) {
+    Game g(data.path(), 1);
+    createEmptyWorkingSet(g);
+    readPrefs(g);
+    changeCurrency(g, "€");
+    test::addStyle(g, 10);
+    int16_t mine = test::addLabel(g, {1, 1, 1, 1, 1}, "Mine");
+    int16_t theirs = test::addLabel(g, {1, 1, 1, 1, 1}, "Theirs");
+    g.player.playerLabel = mine;
+    for (auto [name, label, advance] : {std::tuple{"Dear", 0, 10'000}, std::tuple{"Cheap", 0, 5'000},
+                                        std::tuple{"Ours", int(mine), 0}, std::tuple{"Taken", int(theirs), 0}}) {
+        int16_t b = test::addAct(g, {.label = static_cast<int16_t>(label), .name = name});
+        g.band.read(b);
+        g.band->advanceToPay = moneyUnits(advance);
+        g.band.write();
+    }
+    writeSessionFile(g, workingSessionFile(g));
+    closeAllTables(g);
+}
+
+}  // namespace
+
+TEST(SimBrowseVerbs, AdvanceFlagsAreInTheDisplayCurrencyAndSortByValue) {
+    test::TempFolder data;
+    makeGame(data);
+    // 10,000 pounds show as 14,700 euros; --advance 7350..14700 is 5,000..10,000 pounds.
+    auto [status, out] = sim(data, "browse band --unsigned --advance 7350..14700 --sort Advance --desc --json");
+    EXPECT_EQ(status, 0) << out;
+    EXPECT_EQ(out,
+              "{\"table\":\"band\",\"caption\":\"Band Search\",\"columns\":[\"Name\",\"Style\",\"Advance\",\"Label\"],"
+              "\"sort\":{\"column\":\"Advance\",\"direction\":\"descending\"},\"rows\":["
+              "{\"id\":1,\"cells\":[\"Dear\",\"Rock\",\"€14,700\",\"Unsigned\"]},"
+              "{\"id\":2,\"cells\":[\"Cheap\",\"Rock\",\"€7,350\",\"Unsigned\"]}]}\n");
+    // 7,351 / 1.47 = 5,000.68, a whole 5,001: Cheap at 5,000 is one under.
+    const std::string past = sim(data, "browse band --advance 7351..14700").second;
+    EXPECT_NE(past.find("Dear"), std::string::npos);
+    EXPECT_EQ(past.find("Cheap"), std::string::npos);
+}
+
+TEST(SimBrowseVerbs, BadArgumentsExitTwo) {
+    test::TempFolder data;
+    makeGame(data);
+    for (const char* args : {"browse band --age 5..3", "browse band --royalty 0..101", "browse band --gig x..2",
+                             "browse band --reputation mars=1..2", "browse band --sort Nope", "browse band --desc",
+                             "browse band --where Style=Rock", "image \"No One\""})
+        EXPECT_EQ(sim(data, args).first, 2) << args;
+}
+
+TEST(SimBrowseVerbs, AnotherLabelsArtistIsRefusedAndNothingIsFiled) {
+    test::TempFolder data;
+    makeGame(data);
+    const std::string before = contents(data.path() / "schedule.vel");
+    // Members are numbered as the acts were added: Taken's only member is 4.
+    auto [status, out] = sim(data, "image 4");
+    EXPECT_EQ(status, 1) << out;
+    EXPECT_EQ(contents(data.path() / "schedule.vel"), before);
+    EXPECT_EQ(sim(data, "image 3").first, 0);
+    EXPECT_NE(contents(data.path() / "schedule.vel"), before);
+}
