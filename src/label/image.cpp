@@ -32,6 +32,23 @@ uint8_t rateLook(Game& g) {
     }
     return static_cast<uint8_t>(std::clamp(rating, 0, 100));
 }
+int32_t bestLook(Game& g) {
+    const int sex = g.artist->male != kFalse ? 1 : 2;
+    int32_t best = 0;
+    int bestRating = -1;
+    for (int32_t n = 1; n < g.look.recordCount(); ++n) {
+        g.look.read(n);
+        if (g.look->sex != 0 && g.look->sex != sex) continue;
+        int rating = rateLook(g);
+        if (rating > bestRating) {
+            bestRating = rating;
+            best = n;
+        }
+    }
+    if (best != 0) g.look.read(best);
+    return best;
+}
+
 // Not built yet: images do not change until image and marketing are written.
 void imageReport(Game& g) { static_cast<void>(g); }
 void changeLook(Game& g) { static_cast<void>(g); }
