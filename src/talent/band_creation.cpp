@@ -80,7 +80,7 @@ int32_t addArtist(Game& g, const NewMember& m, bool keepReputation) {
 
 int32_t pickStyle(Game& g) {
     const int32_t last = g.style.recordCount() - 1;
-    if (last < 2) throw FatalError("There is no style for a new act");
+    if (last < 2) return 0;  // a world without styles to draw from makes no acts
     for (int i = 0; i < kStyleDraws; ++i) {
         int32_t n = g.rng.between(1, last - 1);
         g.style.read(n);
@@ -190,6 +190,7 @@ namespace {
 
 int32_t newAct(Game& g, bool forceSolo) {
     const int style = pickStyle(g);
+    if (style == 0) return 0;
     bool solo = forceSolo || g.rng.between(0, 99) < g.style->soloPercent;
     int size = solo ? 1 : pickBandSize(g);
     size = std::clamp(size, 1, 10);

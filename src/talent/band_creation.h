@@ -19,7 +19,8 @@ void setUpBandReputation(Game& g);
 
 // A style for a new act: any style but the last record and "Legend", kept when
 // Int(rnd * 75) squared is at most (popularity - 25) squared, so the most and
-// the least popular styles come up most. The style buffer is left on it.
+// the least popular styles come up most. The style buffer is left on it; 0
+// (and no act is made) when there is no style besides the last.
 int32_t pickStyle(Game& g);
 // The size of a new group of the current style: the usual size on a draw of 50
 // or less, else usual + Int(rnd * 2d) - d with d = high - usual, at least the

@@ -11,6 +11,7 @@
 #include "talent/band_creation.h"
 #include "talent/band_functions.h"
 #include "talent/contract_progress.h"
+#include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -56,9 +57,13 @@ void dropMember(BandRecord& b, int32_t leaver) {
     if (b.memberCount > 0) b.memberCount = narrow<uint8_t>(b.memberCount - 1);
 }
 
+bool isBand(Game& g, int32_t band) { return band >= 1 && band < g.band.recordCount(); }
+bool isArtist(Game& g, int32_t artist) { return artist >= 1 && artist < g.artist.recordCount(); }
+
 void announceBandRetirementOf(Game& g, int16_t band) {
+    if (!isBand(g, band)) return;
     g.band.read(band);
-    if (g.band->retired != kFalse || g.band->contractEnd != 0) return;
+    if (g.band->retired != kFalse) return;
     const double end = g.gameDate + 365;
     g.band->contractEnd = end;
     g.band.write();
@@ -110,7 +115,10 @@ void considerRetirement(Game& g) {
 void announceBandRetirement(Game& g) { announceBandRetirementOf(g, g.schedule->band); }
 
 void retireBand(Game& g, bool now) {
-    if (!now) g.band.read(g.schedule->band);
+    if (!now) {
+        if (!isBand(g, g.schedule->band)) return;
+        g.band.read(g.schedule->band);
+    }
     if (g.band->retired != kFalse) return;
     const int16_t band = g.band->id;
     const bool tellPlayer = (!now || g.band->monthsUnsigned != 10) && bandOfInterest(g);
@@ -181,7 +189,8 @@ int32_t findReplacement(Game& g, int16_t leaver, int16_t band, const std::set<in
     for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
         g.artist.read(n);
         const ArtistRecord& a = g.artist.rec;
-        if (a.retired != kFalse || a.retirementDate != 0 || a.job != out.job || n == leaver || a.band == band) continue;
+        if (a.retired != kFalse || a.retirementDate > kNoDate || a.job != out.job || n == leaver || a.band == band)
+            continue;
         if (!styles.contains(a.style) || chosen.contains(n)) continue;
         const double sum = 100.0 * a.reputation[static_cast<std::size_t>(main)] / myRep + 100.0 * fameOf(a) / wanted +
                            200.0 * a.ability / leaverAbility;
@@ -224,8 +233,9 @@ void fileReplacementChain(Game& g, int32_t replacement, double date, std::set<in
 
 void announceArtistRetirement(Game& g) {
     const int16_t artist = g.schedule->artist;
+    if (!isArtist(g, artist)) return;
     g.artist.read(artist);
-    if (g.artist->retired != kFalse || g.artist->retirementDate != 0) return;
+    if (g.artist->retired != kFalse || g.artist->retirementDate > kNoDate) return;
     const int16_t band = g.artist->band;
     const double tomorrow = g.gameDate + 1;
     if (band > 0) {
@@ -279,7 +289,7 @@ void swapIn(Game& g, int32_t leaver, int32_t replacement) {
 }
 
 bool usableReplacement(Game& g, int32_t replacement) {
-    if (replacement < 1 || replacement >= g.artist.recordCount()) return false;
+    if (!isArtist(g, replacement)) return false;
     g.artist.read(replacement);
     return g.artist->retired == kFalse;
 }
@@ -304,7 +314,7 @@ void leaveWithoutReplacement(Game& g, int32_t leaver, const std::string& name) {
 
 void retireArtist(Game& g, int mode, int16_t artist) {
     static_cast<void>(mode);
-    if (artist < 1 || artist >= g.artist.recordCount()) return;
+    if (!isArtist(g, artist)) return;
     g.artist.read(artist);
     if (g.artist->retired != kFalse) return;
     g.artist->retired = kTrue;
@@ -350,7 +360,7 @@ void retireArtist(Game& g, int mode, int16_t artist) {
 
 void memberLeaves(Game& g) {
     const ScheduleRecord e = g.schedule.rec;
-    if (e.band < 1 || e.band >= g.band.recordCount() || e.artist < 1) return;
+    if (!isBand(g, e.band) || !isArtist(g, e.artist)) return;
     g.band.read(e.band);
     if (g.band->retired != kFalse || memberIndex(g.band.rec, e.artist) < 0) return;
     g.artist.read(e.artist);
