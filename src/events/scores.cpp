@@ -1,12 +1,42 @@
 #include "events/scores.h"
 
+#include <algorithm>
+#include <vector>
+
+#include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
+#include "world/dates.h"
+#include "world/game.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 // Not built yet: an empty step of the day until its rules are written.
-void addThisYearsBirthdays(Game& g) { static_cast<void>(g); }
+double nextBirthday(const Game& g, double birthDate) {
+    const double today = g.gameDate;
+    int year = yearOf(today);
+    if (monthOf(today) == 12 && dayOf(today) == 31) ++year;
+    return serialFromCivil(year, monthOf(birthDate), dayOf(birthDate));
+}
+
+// On 31 December the coming year's birthdays; on any other day (a new game's)
+// those still to come this year. Only the living have birthdays.
+void addThisYearsBirthdays(Game& g) {
+    std::vector<ScheduleRecord> entries;
+    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
+        g.artist.read(n);
+        if (g.artist->retired != kFalse || g.artist->birthDate <= kNoDate) continue;
+        const double date = nextBirthday(g, g.artist->birthDate);
+        if (date <= g.gameDate) continue;
+        ScheduleRecord e{};
+        e.type = static_cast<uint8_t>(ScheduleType::artistBirthday);
+        e.date = date;
+        e.artist = narrow<int16_t>(n);
+        entries.push_back(e);
+    }
+    addSchedules(g, entries);
+}
 
 void updateHighScoreTable(Game& g) {
     int64_t score = 0;
@@ -35,7 +65,14 @@ void updateHighScoreTable(Game& g) {
 }
 
 // Not built yet: birthdays pass unnoticed until they are written.
-void artistBirthday(Game& g) { static_cast<void>(g); }
+void artistBirthday(Game& g) {
+    const int16_t n = g.schedule->artist;
+    if (n < 1 || n >= g.artist.recordCount()) return;
+    g.artist.read(n);
+    if (g.artist->retired != kFalse) return;
+    g.artist->age = narrow<uint8_t>(std::min(g.artist->age + 1, 255));
+    g.artist.write();
+}
 
 }  // namespace trovane
 

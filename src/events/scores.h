@@ -5,7 +5,11 @@ namespace trovane {
 
 class Game;
 
+// Files a type 16 entry for each living artist's birthday still to come this
+// year (on 31 December: each of the coming year).
 void addThisYearsBirthdays(Game& g);
+// The date of the artist's birthday that addThisYearsBirthdays would file.
+double nextBirthday(const Game& g, double birthDate);
 // Rewrites this career's row of highscore.gam: the sum of the five point
 // totals of the player's own staff record.
 void updateHighScoreTable(Game& g);

@@ -1,5 +1,7 @@
 #include "session/new_game.h"
 
+#include "events/scores.h"
+
 #include <fmt/format.h>
 
 #include "events/ceremonies.h"
@@ -332,6 +334,8 @@ void startNewGame(Game& g, StaffRecord player) {
         g.artist->morale = 100;
         g.artist.write(n);
     }
+    // The birthdays left this year; one on the first day is already in the age.
+    addThisYearsBirthdays(g);
     report(g, 65);
 
     for (int32_t n = 1; n != g.staff.recordCount(); ++n) {

@@ -3,13 +3,17 @@
 #include <unordered_set>
 #include <vector>
 
+#include "events/scores.h"
 #include "floor/date_helpers.h"
 #include "floor/number_helpers.h"
 #include "label/image.h"
+#include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
 #include "talent/artist_functions.h"
 #include "talent/artist_names.h"
 #include "talent/band_functions.h"
 #include "talent/contract_terms.h"
+#include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -73,7 +77,18 @@ int32_t addArtist(Game& g, const NewMember& m, bool keepReputation) {
     g.artist->listed = -1;
     g.artist->retired = kFalse;
     if (!keepReputation) g.artist->reputation = {};
-    return g.artist.append();
+    const int32_t n = g.artist.append();
+    // Born in play: this year's birthday, when still to come, is filed now.
+    const double birthday = nextBirthday(g, g.artist->birthDate);
+    if (g.gameDate > g.player.dateBegun && birthday > g.gameDate) {
+        ScheduleRecord e{};
+        e.type = static_cast<uint8_t>(ScheduleType::artistBirthday);
+        e.date = birthday;
+        e.artist = narrow<int16_t>(n);
+        addSchedule(g, e);
+    }
+    g.artist.read(n);
+    return n;
 }
 
 }  // namespace
