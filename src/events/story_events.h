@@ -2,6 +2,11 @@
 // Story events: each day a few root events are rolled; one that fires looks
 // for its cast and starts a story.
 
+#include <cstdint>
+#include <string>
+
+#include "world/records.h"
+
 namespace trovane {
 
 class Game;
@@ -10,6 +15,12 @@ void runRandomEvents(Game& g);
 
 // The current event buffer fired: find its cast and start the story.
 void tryStartEvent(Game& g);
+
+// The first test of the condition block that the artist in the artist buffer
+// fails, as participant `place` (0 or 1) beside first (0 while casting the
+// first); empty when every test passes. Bounds: 0 no test, positive a minimum,
+// negative a maximum, both inclusive.
+std::string failedCondition(Game& g, const EventCondition& c, int place, int16_t first);
 
 // Schedule type 12: the next stage of a story.
 void performStage(Game& g);
