@@ -22,6 +22,12 @@ void tryStartEvent(Game& g);
 // negative a maximum, both inclusive.
 std::string failedCondition(Game& g, const EventCondition& c, int place, int16_t first);
 
+// The event in the event buffer starts as a story with that cast: its root is
+// filed as a type 12 entry dated today (its own root), each participant marked.
+void startEvent(Game& g, int16_t first, int16_t second);
+// The follow-up roll of the stage in the schedule and event buffers.
+void nextStage(Game& g);
+
 // Schedule type 12: the next stage of a story.
 void performStage(Game& g);
 

@@ -4,6 +4,7 @@
 
 #include "events/story_events.h"
 #include "support/album_world.h"
+#include "world/strings.h"
 
 using namespace trovane;
 using test::AlbumWorld;
@@ -98,4 +99,89 @@ TEST(StoryCast, BandsAndLabels) {
     c.labelRule = AlbumWorld::kRival;
     EXPECT_EQ(w.test(c, w.c), "");
     EXPECT_EQ(w.test(c, w.a), "label");
+}
+
+namespace {
+
+// A root event (1) for two of the player's men whose only follow-up (2) comes
+// on a roll of 0 to 99 after 0 days, which counts as 1.
+void twoStageStory(Cast& w, uint8_t secondType) {
+    Game& g = w.g;
+    g.gameDate = serialFromCivil(2005, 6, 1);
+    g.event.rec = EventRecord{};
+    g.event->participantCount = 2;
+    g.event->eventType = 2;
+    g.event->title = std::string("<an1> and <an2>");
+    g.event->nextEvent[0] = 2;
+    g.event->rollLow[0] = 0;
+    g.event->rollHigh[0] = 99;
+    g.event->conditions[0].money = -500;
+    g.event->conditions[0].boundChange = {0, 0, 0, 0, 95, -200};
+    g.event.append();
+    g.event.rec = EventRecord{};
+    g.event->participantCount = 2;
+    g.event->eventType = secondType;
+    g.event->title = std::string("Later");
+    g.event.append();
+}
+
+ScheduleRecord entry(Game& g, int32_t n) {
+    g.schedule.read(n);
+    return g.schedule.rec;
+}
+
+}  // namespace
+
+TEST(Stories, AStageMovesMoneyAndBoundsThenFilesItsFollowUpAndTheLastEndsIt) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    g.artist.read(w.a);
+    g.artist->wealth = 1000;
+    g.artist->angst = 10;
+    g.artist->morale = 60;
+    g.artist.write();
+    g.event.read(1);
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    const ScheduleRecord root = entry(g, 1);
+    EXPECT_EQ(std::tuple(root.type, root.date, root.offer, root.artist),
+              std::tuple(uint8_t{12}, g.gameDate, 1, int16_t(w.a)));
+    g.artist.read(w.b);
+    EXPECT_EQ(g.artist->storyUnderWay[2], 1);
+
+    const int32_t news = w.newsCount();
+    performStage(g);
+    g.artist.read(w.a);
+    // 1000 - 500; angst 10 + 95 held at 100; morale 60 - 200 held at 0.
+    EXPECT_EQ(std::tuple(g.artist->wealth, g.artist->angst, g.artist->morale), std::tuple(500, 100, 0));
+    ASSERT_EQ(w.newsCount(), news + 1) << "the player's band";
+    EXPECT_EQ(trim(w.lastNews().title.value), "Member1 Duo and Member2 Duo");
+    EXPECT_EQ(w.lastNews().scheduleLink, 1);
+    const ScheduleRecord next = entry(g, 2);
+    EXPECT_EQ(std::tuple(next.eventRecord, next.date, next.offer), std::tuple(int16_t{2}, g.gameDate + 1, 1));
+
+    performStage(g);  // stage 2 has no follow-up: the marks clear
+    g.artist.read(w.a);
+    EXPECT_EQ(g.artist->storyUnderWay[2], 0);
+    g.artist.read(w.b);
+    EXPECT_EQ(g.artist->storyUnderWay[2], 0);
+}
+
+TEST(Stories, ADeathEndsTheStoryForBoth) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 6);
+    g.event.read(1);
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    g.schedule.read(1);
+    performStage(g);
+    g.schedule.read(2);
+    g.event.read(2);
+    performStage(g);  // a dies: out of the duo, which cannot go on
+    g.artist.read(w.a);
+    EXPECT_EQ(std::pair(g.artist->retired, g.artist->band), std::pair(kTrue, int16_t{0}));
+    g.band.read(w.duo);
+    EXPECT_EQ(g.band->retired, kTrue);
+    g.artist.read(w.b);
+    EXPECT_EQ(std::pair(g.artist->band, g.artist->storyUnderWay[2]), std::pair(int16_t{0}, int16_t{0}));
 }
