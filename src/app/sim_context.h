@@ -85,6 +85,7 @@ void addDiscVerbs(CLI::App& app, SimContext& ctx);  // release, forecast, press,
 // A "Distributor required" item answered with ok: the form is confirmed at once.
 void confirmDistributorForm(Game& g);
 void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
+void addLivesVerbs(CLI::App& app, SimContext& ctx);  // stories, story
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);
