@@ -1,7 +1,10 @@
 #include "events/story_text.h"
 
+#include <algorithm>
 #include <optional>
 
+#include "label/finances.h"
+#include "schedule/schedule.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -161,10 +164,48 @@ std::string expandMacros(Game& g, std::string_view text, int16_t firstArtist, in
     return out;
 }
 
-// Not built yet: an answer to a story changes nothing until story stages are written.
 void applyStoryReply(Game& g, int choice) {
-    static_cast<void>(g);
-    static_cast<void>(choice);
+    if (choice < 0 || choice > 2) return;
+    const EventRecord ev = g.event.rec;
+    const ScheduleRecord stage = g.schedule.rec;
+    const auto at = [&](int i) { return ev.replyEffect[static_cast<std::size_t>(3 * choice + i)]; };
+    const int chance = at(0), next = at(1), money = at(2);
+    const int16_t player = g.player.playerLabel;
+    if (money != 0 && player > 0 && player < g.label.recordCount()) {
+        g.label.read(player);
+        if (money > 0)
+            addIncome(g, moneyUnits(money), 113);
+        else
+            addExpense(g, moneyUnits(-money), 107);
+    }
+    if (next > 0 && next < g.event.recordCount() && stage.type == 12 && g.rng.between(0, 99) < chance) {
+        ScheduleRecord e = stage;
+        e.id = 0;
+        e.date = g.gameDate;
+        e.eventRecord = narrow<int16_t>(next);
+        addSchedule(g, e);
+        // The story is under way again for its cast, under its root's type.
+        int type = ev.eventType;
+        if (stage.offer > 0 && stage.offer < g.schedule.recordCount()) {
+            g.schedule.read(stage.offer);
+            const int16_t root = g.schedule->eventRecord;
+            if (root > 0 && root < g.event.recordCount()) {
+                g.event.read(root);
+                type = g.event->eventType;
+            }
+        }
+        if (type >= 0 && type <= 10) {
+            for (int16_t n : {stage.artist, stage.artist2}) {
+                if (n < 1 || n >= g.artist.recordCount()) continue;
+                g.artist.read(n);
+                g.artist->storyUnderWay[static_cast<std::size_t>(type)] =
+                    narrow<int16_t>(std::min<int32_t>(stage.offer, 32767));
+                g.artist.write();
+            }
+        }
+    }
+    g.event.rec = ev;
+    g.schedule.rec = stage;
 }
 
 }  // namespace trovane

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "events/story_events.h"
+#include "events/story_text.h"
 #include "support/album_world.h"
 #include "world/strings.h"
 
@@ -184,4 +185,28 @@ TEST(Stories, ADeathEndsTheStoryForBoth) {
     EXPECT_EQ(g.band->retired, kTrue);
     g.artist.read(w.b);
     EXPECT_EQ(std::pair(g.artist->band, g.artist->storyUnderWay[2]), std::pair(int16_t{0}, int16_t{0}));
+}
+
+TEST(Stories, ADefenceCostsTheLabelAndFilesItsStageForTheSameCast) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    g.event.read(1);
+    g.event->replyEffect = {100, 2, -300, 0, 0, 0, 0, 0, 0};
+    g.event.write();
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    g.schedule.read(1);
+    g.event.read(1);
+    const Money before = w.cash(AlbumWorld::kPlayer);
+    const Money booked = w.ledger(AlbumWorld::kPlayer, 107);
+    applyStoryReply(g, 0);
+    EXPECT_EQ(before - w.cash(AlbumWorld::kPlayer), moneyUnits(300));
+    EXPECT_NE(w.ledger(AlbumWorld::kPlayer, 107), booked) << "booked as category 107";
+    const ScheduleRecord filed = entry(g, 2);
+    EXPECT_EQ(std::tuple(filed.type, filed.date, filed.eventRecord, filed.offer, filed.artist2),
+              std::tuple(uint8_t{12}, g.gameDate, int16_t{2}, 1, int16_t(w.b)));
+    g.event.read(1);
+    g.schedule.read(1);
+    applyStoryReply(g, 1);  // condemning: no money, no follow-up
+    EXPECT_EQ(g.schedule.recordCount(), 3);
 }
