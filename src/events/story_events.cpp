@@ -237,6 +237,31 @@ void tryStartEvent(Game& g) {
     startEvent(g, cast[0], cast[1]);
 }
 
+int16_t verdictEvent(Game& g, const ScheduleRecord& stage) {
+    if (stage.value < 1 || stage.value >= g.crime.recordCount()) return 0;
+    int defence = 0;
+    if (stage.artist > 0 && stage.artist < g.artist.recordCount()) {
+        g.artist.read(stage.artist);
+        const int16_t band = g.artist->band;
+        if (band > 0 && band < g.band.recordCount()) {
+            g.band.read(band);
+            const int16_t label = g.band->label;
+            if (label > 0 && label < g.label.recordCount()) {
+                g.label.read(label);
+                defence = g.label->department[1].rating;
+            }
+        }
+    }
+    g.crime.read(stage.value);
+    const CrimeRecord crime = g.crime.rec;
+    const double r1 = g.rng.draw(), r2 = g.rng.draw(), r = g.rng.draw();
+    const int score =
+        defence + static_cast<int>(intFloor(defence / 10.0 * r1)) - static_cast<int>(intFloor(defence / 10.0 * r2));
+    const int open = 100 - crime.defensibility;
+    const int line = open + static_cast<int>(intFloor(open / 10.0 * r));
+    return score <= line ? crime.guiltyEvent : crime.acquittalEvent;
+}
+
 void nextStage(Game& g) {
     const ScheduleRecord stage = g.schedule.rec;
     const EventRecord ev = g.event.rec;
@@ -253,6 +278,21 @@ void nextStage(Game& g) {
         addSchedule(g, next);
         return;
     }
+    const bool hasRows = std::any_of(ev.rollLow.begin(), ev.rollLow.end(), [](uint8_t v) { return v != 0; }) ||
+                         std::any_of(ev.rollHigh.begin(), ev.rollHigh.end(), [](uint8_t v) { return v != 0; });
+    if (!hasRows && ev.eventType == 3) {
+        const int16_t verdict = verdictEvent(g, stage);
+        if (verdict > 0 && verdict < g.event.recordCount()) {
+            ScheduleRecord next = stage;
+            next.id = 0;
+            next.date = g.gameDate + 1;
+            next.eventRecord = verdict;
+            addSchedule(g, next);
+            g.event.rec = ev;
+            return;
+        }
+    }
+    g.event.rec = ev;
     // No follow-up: the story ends for its cast.
     markCast(g, stage.artist, stage.artist2, rootType(g, stage), 0);
 }

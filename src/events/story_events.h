@@ -25,6 +25,10 @@ std::string failedCondition(Game& g, const EventCondition& c, int place, int16_t
 // The event in the event buffer starts as a story with that cast: its root is
 // filed as a type 12 entry dated today (its own root), each participant marked.
 void startEvent(Game& g, int16_t first, int16_t second);
+// The verdict of the crime story of the stage: the crime's guilty event when
+// the label's Finance and Law rating with noise comes in at or under the
+// crime's line, else its acquittal; 0 without a crime.
+int16_t verdictEvent(Game& g, const ScheduleRecord& stage);
 // The follow-up roll of the stage in the schedule and event buffers.
 void nextStage(Game& g);
 

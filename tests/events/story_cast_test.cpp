@@ -210,3 +210,28 @@ TEST(Stories, ADefenceCostsTheLabelAndFilesItsStageForTheSameCast) {
     applyStoryReply(g, 1);  // condemning: no money, no follow-up
     EXPECT_EQ(g.schedule.recordCount(), 3);
 }
+
+TEST(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
+    Cast w;
+    Game& g = w.g;
+    g.crime.rec = CrimeRecord{};
+    g.crime->acquittalEvent = 7;
+    g.crime->guiltyEvent = 8;
+    g.crime->defensibility = 100;  // line (100 - 100) + 0 = 0, score 0: 0 <= 0
+    g.crime.append();
+    g.artist.read(w.d);
+    g.artist->band = 0;  // no band, no label: defence 0
+    g.artist.write();
+    ScheduleRecord stage{};
+    stage.artist = narrow<int16_t>(w.d);
+    stage.value = 1;
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 8);
+    stage.artist = narrow<int16_t>(w.a);  // the player's label, Finance and Law at 90
+    g.label.read(AlbumWorld::kPlayer);
+    g.label->department[1].rating = 90;
+    g.label.write();
+    g.crime.read(1);
+    g.crime->defensibility = 50;  // line 50 to 54, score 81 to 99
+    g.crime.write();
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 7);
+}
