@@ -87,6 +87,8 @@ void confirmDistributorForm(Game& g);
 void addBooksVerbs(CLI::App& app, SimContext& ctx);
 void addLiveVerbs(CLI::App& app,
                   SimContext& ctx);  // venues, gig, gigs  // label, books, department, staff, approach, ...
+void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
+void addLivesVerbs(CLI::App& app, SimContext& ctx);  // stories, story
 
 void addBrowseVerbs(CLI::App& app, SimContext& ctx);  // browse, image, birthday, highscores
 // The body and the replies of an item that holds the calendar, for advance to print.

@@ -328,6 +328,35 @@ std::optional<InvariantBreak> looksAndAchievementsPointWithin(Game& g) {
     return std::nullopt;
 }
 
+// An active act's members are alive and name it; no artist names an act that
+// has ended.
+std::optional<InvariantBreak> actsAndMembersAgree(Game& g) {
+    const int32_t artists = g.artist.recordCount() - 1;
+    for (int32_t n = 1; n != g.band.recordCount(); ++n) {
+        const BandRecord b = copyOf(g.band, n);
+        if (b.retired != kFalse) continue;
+        for (std::size_t i = 0; i < b.memberCount && i < 10; ++i) {
+            const int16_t m = b.members[i];
+            if (m < 1 || m > artists) continue;
+            const ArtistRecord a = copyOf(g.artist, m);
+            if (a.retired != kFalse)
+                return InvariantBreak{"band", n, fmt::format("members[{}]", i), "actsAndMembersAgree",
+                                      fmt::format("artist {} has retired", m)};
+            if (a.band != n)
+                return InvariantBreak{"band", n, fmt::format("members[{}]", i), "actsAndMembersAgree",
+                                      fmt::format("artist {} names band {}", m, a.band)};
+        }
+    }
+    for (int32_t n = 1; n <= artists; ++n) {
+        const ArtistRecord a = copyOf(g.artist, n);
+        if (a.band < 1 || a.band >= g.band.recordCount()) continue;
+        if (copyOf(g.band, a.band).retired != kFalse)
+            return InvariantBreak{"artist", n, "band", "actsAndMembersAgree",
+                                  fmt::format("names band {}, which has ended", a.band)};
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -342,6 +371,7 @@ constexpr std::array kRules = {
     InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
     InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
     InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
+    InvariantRule{"actsAndMembersAgree", actsAndMembersAgree},
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "session/new_game.h"
 
+#include "events/scores.h"
+
 #include <fmt/format.h>
 
 #include "events/ceremonies.h"

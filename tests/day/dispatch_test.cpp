@@ -138,12 +138,13 @@ TEST(ScheduleScenario, EachHandlerRunsOnceOnItsDateInFilingOrder) {
     const double first = day(2004, 12, 27);
     g.gameDate = first;
     int16_t band = addBand(g, {100, 100, 100});
+    int16_t ending = addBand(g, {100, 100, 100});  // the act that ends, so the others still run for band
     std::vector<std::vector<std::pair<int, int32_t>>> byDay(9);
     for (int i = 0; i <= 32; ++i) {
         int type = i == 32 ? 255 : (i * 13) % 32;  // every type once, out of order
         std::size_t d = static_cast<std::size_t>(i * 5) % 9;
         int32_t gig = type == 8 ? addGig(g, band, first + d) : 0;
-        byDay[d].push_back({type, file(g, static_cast<uint8_t>(type), first + d, band, gig)});
+        byDay[d].push_back({type, file(g, static_cast<uint8_t>(type), first + d, type == 28 ? ending : band, gig)});
     }
     std::vector<Call> expected;
     for (std::size_t d = 0; d < byDay.size(); ++d)

@@ -1,0 +1,237 @@
+// Who a story can happen to: each test of a participant's condition block at
+// its bound and one past.
+#include <gtest/gtest.h>
+
+#include "events/story_events.h"
+#include "events/story_text.h"
+#include "support/album_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::AlbumWorld;
+
+namespace {
+
+struct Cast : AlbumWorld {
+    int16_t duo, trio, solo;
+    int32_t a, b, c, d;
+    Cast() {
+        duo = addBand("Duo", kPlayer, 2);
+        trio = addBand("Trio", kRival, 3);
+        solo = addBand("Solo", 0, 1);
+        g.band.read(duo);
+        a = g.band->members[0];
+        b = g.band->members[1];
+        g.band.read(trio);
+        c = g.band->members[0];
+        g.band.read(solo);
+        d = g.band->members[0];
+        g.artist.read(b);
+        g.artist->male = 0;
+        g.artist.write();
+    }
+    std::string test(const EventCondition& cond, int32_t who, int place = 0, int32_t first = 0) {
+        g.artist.read(who);
+        return failedCondition(g, cond, place, narrow<int16_t>(first));
+    }
+};
+
+}  // namespace
+
+TEST(StoryCast, BoundsAreInclusiveMinimaAndMaxima) {
+    Cast w;
+    w.g.artist.read(w.a);
+    w.g.artist->age = 30;
+    w.g.artist->angst = 40;
+    w.g.artist.write();
+    EventCondition c{};
+    EXPECT_EQ(w.test(c, w.a), "");
+    for (auto [age, fails] : {std::pair{30, false}, {31, true}, {-30, false}, {-29, true}}) {
+        c.age = narrow<int16_t>(age);
+        EXPECT_EQ(w.test(c, w.a), fails ? "age" : "") << age;
+    }
+    c.age = 0;
+    for (auto [angst, fails] : {std::pair{40, false}, {41, true}, {-40, false}, {-39, true}}) {
+        c.bounds[4] = narrow<int16_t>(angst);
+        EXPECT_EQ(w.test(c, w.a), fails ? "angst" : "") << angst;
+    }
+    c.bounds[4] = 0;
+    w.g.artist.read(w.a);
+    c.job = narrow<int16_t>(w.g.artist->job + 1);
+    EXPECT_EQ(w.test(c, w.a), "job");
+}
+
+TEST(StoryCast, GenderAgainstTheRuleOrTheFirstParticipant) {
+    Cast w;
+    EventCondition c{};
+    c.genderRule = 1;
+    EXPECT_EQ(w.test(c, w.b), "gender");
+    c.genderRule = 2;
+    EXPECT_EQ(w.test(c, w.b), "");
+    c.genderRule = 3;  // a is a man, b a woman, c a man
+    EXPECT_EQ(w.test(c, w.b, 1, w.a), "gender");
+    EXPECT_EQ(w.test(c, w.c, 1, w.a), "");
+    c.genderRule = 4;
+    EXPECT_EQ(w.test(c, w.b, 1, w.a), "");
+    EXPECT_EQ(w.test(c, w.c, 1, w.a), "gender");
+}
+
+TEST(StoryCast, BandsAndLabels) {
+    Cast w;
+    EventCondition c{};
+    c.bandRule = -3;  // a band of at most two; the second in the first's band
+    EXPECT_EQ(w.test(c, w.a), "");
+    EXPECT_EQ(w.test(c, w.c), "band") << "three members";
+    EXPECT_EQ(w.test(c, w.b, 1, w.a), "");
+    EXPECT_EQ(w.test(c, w.d, 1, w.a), "band");
+    c.bandRule = -2;
+    EXPECT_EQ(w.test(c, w.b, 1, w.a), "");
+    EXPECT_EQ(w.test(c, w.c, 1, w.a), "band");
+    c.bandRule = AlbumWorld::kRival;
+    EXPECT_EQ(w.test(c, w.c), "");
+    EXPECT_EQ(w.test(c, w.a), "band");
+    c.bandRule = 0;
+    c.labelRule = -2;
+    EXPECT_EQ(w.test(c, w.a), "");
+    EXPECT_EQ(w.test(c, w.d), "label");
+    c.labelRule = -1;
+    EXPECT_EQ(w.test(c, w.d), "");
+    EXPECT_EQ(w.test(c, w.a), "label");
+    c.labelRule = AlbumWorld::kRival;
+    EXPECT_EQ(w.test(c, w.c), "");
+    EXPECT_EQ(w.test(c, w.a), "label");
+}
+
+namespace {
+
+// A root event (1) for two of the player's men whose only follow-up (2) comes
+// on a roll of 0 to 99 after 0 days, which counts as 1.
+void twoStageStory(Cast& w, uint8_t secondType) {
+    Game& g = w.g;
+    g.gameDate = serialFromCivil(2005, 6, 1);
+    g.event.rec = EventRecord{};
+    g.event->participantCount = 2;
+    g.event->eventType = 2;
+    g.event->title = std::string("<an1> and <an2>");
+    g.event->nextEvent[0] = 2;
+    g.event->rollLow[0] = 0;
+    g.event->rollHigh[0] = 99;
+    g.event->conditions[0].money = -500;
+    g.event->conditions[0].boundChange = {0, 0, 0, 0, 95, -200};
+    g.event.append();
+    g.event.rec = EventRecord{};
+    g.event->participantCount = 2;
+    g.event->eventType = secondType;
+    g.event->title = std::string("Later");
+    g.event.append();
+}
+
+ScheduleRecord entry(Game& g, int32_t n) {
+    g.schedule.read(n);
+    return g.schedule.rec;
+}
+
+}  // namespace
+
+TEST(Stories, AStageMovesMoneyAndBoundsThenFilesItsFollowUpAndTheLastEndsIt) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    g.artist.read(w.a);
+    g.artist->wealth = 1000;
+    g.artist->angst = 10;
+    g.artist->morale = 60;
+    g.artist.write();
+    g.event.read(1);
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    const ScheduleRecord root = entry(g, 1);
+    EXPECT_EQ(std::tuple(root.type, root.date, root.offer, root.artist),
+              std::tuple(uint8_t{12}, g.gameDate, 1, int16_t(w.a)));
+    g.artist.read(w.b);
+    EXPECT_EQ(g.artist->storyUnderWay[2], 1);
+
+    const int32_t news = w.newsCount();
+    performStage(g);
+    g.artist.read(w.a);
+    // 1000 - 500; angst 10 + 95 held at 100; morale 60 - 200 held at 0.
+    EXPECT_EQ(std::tuple(g.artist->wealth, g.artist->angst, g.artist->morale), std::tuple(500, 100, 0));
+    ASSERT_EQ(w.newsCount(), news + 1) << "the player's band";
+    EXPECT_EQ(trim(w.lastNews().title.value), "Member1 Duo and Member2 Duo");
+    EXPECT_EQ(w.lastNews().scheduleLink, 1);
+    const ScheduleRecord next = entry(g, 2);
+    EXPECT_EQ(std::tuple(next.eventRecord, next.date, next.offer), std::tuple(int16_t{2}, g.gameDate + 1, 1));
+
+    performStage(g);  // stage 2 has no follow-up: the marks clear
+    g.artist.read(w.a);
+    EXPECT_EQ(g.artist->storyUnderWay[2], 0);
+    g.artist.read(w.b);
+    EXPECT_EQ(g.artist->storyUnderWay[2], 0);
+}
+
+TEST(Stories, ADeathEndsTheStoryForBoth) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 6);
+    g.event.read(1);
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    g.schedule.read(1);
+    performStage(g);
+    g.schedule.read(2);
+    g.event.read(2);
+    performStage(g);  // a dies: out of the duo, which cannot go on
+    g.artist.read(w.a);
+    EXPECT_EQ(std::pair(g.artist->retired, g.artist->band), std::pair(kTrue, int16_t{0}));
+    g.band.read(w.duo);
+    EXPECT_EQ(g.band->retired, kTrue);
+    g.artist.read(w.b);
+    EXPECT_EQ(std::pair(g.artist->band, g.artist->storyUnderWay[2]), std::pair(int16_t{0}, int16_t{0}));
+}
+
+TEST(Stories, ADefenceCostsTheLabelAndFilesItsStageForTheSameCast) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    g.event.read(1);
+    g.event->replyEffect = {100, 2, -300, 0, 0, 0, 0, 0, 0};
+    g.event.write();
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    g.schedule.read(1);
+    g.event.read(1);
+    const Money before = w.cash(AlbumWorld::kPlayer);
+    const Money booked = w.ledger(AlbumWorld::kPlayer, 107);
+    applyStoryReply(g, 0);
+    EXPECT_EQ(before - w.cash(AlbumWorld::kPlayer), moneyUnits(300));
+    EXPECT_NE(w.ledger(AlbumWorld::kPlayer, 107), booked) << "booked as category 107";
+    const ScheduleRecord filed = entry(g, 2);
+    EXPECT_EQ(std::tuple(filed.type, filed.date, filed.eventRecord, filed.offer, filed.artist2),
+              std::tuple(uint8_t{12}, g.gameDate, int16_t{2}, 1, int16_t(w.b)));
+    g.event.read(1);
+    g.schedule.read(1);
+    applyStoryReply(g, 1);  // condemning: no money, no follow-up
+    EXPECT_EQ(g.schedule.recordCount(), 3);
+}
+
+TEST(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
+    Cast w;
+    Game& g = w.g;
+    g.crime.rec = CrimeRecord{};
+    g.crime->acquittalEvent = 7;
+    g.crime->guiltyEvent = 8;
+    g.crime->defensibility = 100;  // line (100 - 100) + 0 = 0, score 0: 0 <= 0
+    g.crime.append();
+    g.artist.read(w.d);
+    g.artist->band = 0;  // no band, no label: defence 0
+    g.artist.write();
+    ScheduleRecord stage{};
+    stage.artist = narrow<int16_t>(w.d);
+    stage.value = 1;
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 8);
+    stage.artist = narrow<int16_t>(w.a);  // the player's label, Finance and Law at 90
+    g.label.read(AlbumWorld::kPlayer);
+    g.label->department[1].rating = 90;
+    g.label.write();
+    g.crime.read(1);
+    g.crime->defensibility = 50;  // line 50 to 54, score 81 to 99
+    g.crime.write();
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 7);
+}

@@ -1,0 +1,281 @@
+// Acts forming and ending: the drawn style and size, the home markets, the
+// search for a replacement and the chain it opens, and the ends of acts.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "schedule/schedule_types.h"
+#include "support/album_world.h"
+#include "talent/band_creation.h"
+#include "talent/lifecycle.h"
+#include "talent/retirement.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::AlbumWorld;
+
+namespace {
+
+struct Lives : AlbumWorld {
+    Lives() { g.gameDate = serialFromCivil(2005, 3, 1); }
+    // A popular style for the acts that replace those that end, and the last
+    // record no act is drawn from.
+    void readyForNewActs() {
+        for (const char* name : {"Pop", "Last"}) {
+            g.style.rec = StyleRecord{};
+            g.style->name = std::string(name);
+            g.style->popularity = {100, 100, 100, 100, 100};
+            g.style->commerciality = 100;
+            g.style->membersUsual = 3;
+            g.style->membersHigh = 3;
+            g.style->membersLow = 3;
+            g.style->lifeSpan = 20;
+            g.style.append();
+        }
+    }
+    void setArtist(int32_t n, auto change) {
+        g.artist.read(n);
+        change(g.artist.rec);
+        g.artist.write();
+    }
+    void setBandRec(int16_t n, auto change) {
+        g.band.read(n);
+        change(g.band.rec);
+        g.band.write();
+    }
+    int32_t member(int16_t band, int i) {
+        g.band.read(band);
+        return g.band->members[static_cast<std::size_t>(i)];
+    }
+    // A free artist of job 1 and style 1 with every market at rep.
+    int32_t freeArtist(uint8_t rep, uint8_t ability, int16_t band = 0, uint8_t stamina = 100) {
+        g.artist.rec = ArtistRecord{};
+        g.artist->forename = std::string("Cand");
+        g.artist->surname = std::to_string(g.artist.recordCount());
+        g.artist->style = 1;
+        g.artist->job = 1;
+        g.artist->reputation = {rep, rep, rep, rep, rep};
+        g.artist->ability = ability;
+        g.artist->stamina = stamina;
+        g.artist->band = band;
+        return g.artist.append();
+    }
+    // A group of two whose markets all stand at 50 (rating 50), its members of
+    // job 1 with 50 everywhere and ability 50.
+    int16_t group(const std::string& name, uint8_t rep = 50, int members = 2) {
+        int16_t b = addBand(name, 0, members);
+        setBandRec(b, [&](BandRecord& r) { r.reputation = {rep, rep, rep, rep, rep}; });
+        for (int i = 0; i < members; ++i)
+            setArtist(member(b, i), [&](ArtistRecord& a) {
+                a.job = 1;
+                a.ability = 50;
+                a.reputation = {rep, rep, rep, rep, rep};
+            });
+        return b;
+    }
+    std::vector<ScheduleRecord> entries() {
+        std::vector<ScheduleRecord> out;
+        for (int32_t n = 1; n < g.schedule.recordCount(); ++n) {
+            g.schedule.read(n);
+            out.push_back(g.schedule.rec);
+        }
+        return out;
+    }
+};
+
+}  // namespace
+
+TEST(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
+    Lives w;
+    Game& g = w.g;
+    // Style 1 (Rock, popularity 0, commerciality 60: 30) exists; then a hit
+    // style (100 everywhere: always kept), Legend, a middling one (25: kept only
+    // on a draw of 0, 1 in 75) and a last record that is never drawn.
+    for (auto [name, level] : {std::pair{"Hit", 100}, {"Legend", 100}, {"Middling", 25}, {"Last", 100}}) {
+        g.style.rec = StyleRecord{};
+        g.style->name = std::string(name);
+        uint8_t v = narrow<uint8_t>(level);
+        g.style->popularity = {v, v, v, v, v};
+        g.style->commerciality = v;
+        g.style.append();
+    }
+    std::map<int, int> seen;
+    for (int i = 0; i < 3000; ++i) seen[pickStyle(g)]++;
+    EXPECT_EQ(seen.count(3), 0u) << "Legend";
+    EXPECT_EQ(seen.count(5), 0u) << "the last record";
+    // Rock: (30 - 25)^2 = 25 keeps draws 0 to 5 of 75, 6 in 75.
+    EXPECT_GT(seen[2], 2000);
+    EXPECT_LT(seen[4], seen[1]);
+    EXPECT_GT(seen[4], 0);
+}
+
+TEST(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
+    Lives w;
+    Game& g = w.g;
+    g.style->membersUsual = 4;
+    g.style->membersHigh = 6;
+    g.style->membersLow = 3;
+    // 4 + Int(rnd * 4) - 2 gives 2 to 5; 2 is raised to 3; 6 is never reached.
+    std::map<int, int> seen;
+    for (int i = 0; i < 4000; ++i) seen[pickBandSize(g)]++;
+    EXPECT_EQ(seen.size(), 3u);
+    EXPECT_EQ(seen.begin()->first, 3);
+    EXPECT_EQ(seen.rbegin()->first, 5);
+    EXPECT_NEAR(seen[4] / 4000.0, 0.51 + 0.49 / 4, 0.03);
+}
+
+TEST(NewActs, HomeMarketsFollowWhereTheActFormed) {
+    Lives w;
+    Game& g = w.g;
+    using Order = std::array<int, 5>;
+    for (auto [name, region, order] : {std::tuple{"Scotland", "E", Order{0, 2, 1, 3, 4}},
+                                       {"France", "E", {2, 0, 1, 3, 4}},
+                                       {"Canada", "N", {1, 0, 3, 2, 4}},
+                                       {"New Zealand", "O", {3, 1, 0, 2, 4}},
+                                       {"Brazil", "S", {4, 3, 2, 0, 1}}}) {
+        g.country->name = std::string(name);
+        g.country->region = std::string(region);
+        EXPECT_EQ(homeOrder(g), order) << name;
+    }
+}
+
+TEST(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
+    Lives w;
+    Game& g = w.g;
+    int16_t x = w.group("X");
+    int32_t leaver = w.member(x, 0);
+    // Rating 50, leaver at 50 in the US and ability 50: a free candidate at rep r
+    // everywhere and ability a scores (2r + 2r + 4a) / 4 = r + a.
+    int32_t low = w.freeArtist(20, 49);  // 69
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
+    int32_t at70 = w.freeArtist(20, 50);  // 70
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
+    w.freeArtist(65, 66);                  // 131
+    int32_t at130 = w.freeArtist(65, 65);  // 130
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at130);
+    int32_t second = w.freeArtist(65, 65);  // 130 again: the first stays
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at130);
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x, {at130, second}), at70) << "chosen in the chain";
+    w.setArtist(at130, [](ArtistRecord& a) { a.job = 2; });
+    w.setArtist(second, [](ArtistRecord& a) { a.retirementDate = a.birthDate + 9000; });
+    w.setArtist(at70, [](ArtistRecord& a) { a.style = 2; });
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0) << "another job, style, or retiring";
+    static_cast<void>(low);
+}
+
+TEST(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
+    Lives w;
+    Game& g = w.g;
+    int16_t x = w.group("X");
+    int16_t y = w.group("Y", 25);  // rating 25 of 50: 100 - stamina must reach 50
+    for (int i = 0; i < 2; ++i) w.setArtist(w.member(y, i), [](ArtistRecord& a) { a.job = 2; });
+    int32_t leaver = w.member(x, 0);
+    int32_t tired = w.freeArtist(50, 50, y, 51);
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
+    int32_t able = w.freeArtist(50, 50, y, 50);
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), able);
+    static_cast<void>(tired);
+}
+
+TEST(Replacements, ALeaverWithNoFollowingCountsAsOne) {
+    Lives w;
+    Game& g = w.g;
+    int16_t x = w.group("X");
+    int32_t leaver = w.member(x, 0);
+    w.setArtist(leaver, [](ArtistRecord& a) { a.reputation = {}; });
+    // (100 * 1 / 1 + 100 * 1 / 50 + 200 * 45 / 50) = 282, / 4 = 70.5.
+    int32_t c = w.freeArtist(1, 45);
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), c);
+}
+
+TEST(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
+    Lives w;
+    Game& g = w.g;
+    w.readyForNewActs();
+    int16_t x = w.group("X"), y = w.group("Y", 50), z = w.group("Z", 50);
+    int32_t a = w.member(x, 0), b = w.member(y, 0), c = w.member(z, 0);
+    // Each post's replacement comes from the next band; nobody can replace c.
+    w.setArtist(a, [](ArtistRecord& r) { r.job = 3; });
+    for (int32_t n : {w.member(x, 1), w.member(y, 1), w.member(z, 1)})
+        w.setArtist(n, [](ArtistRecord& r) { r.job = 9; });
+    w.setArtist(a, [](ArtistRecord& r) { r.job = 1; });
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->type = 29;
+    g.schedule->artist = narrow<int16_t>(a);
+    announceArtistRetirement(g);
+    auto filed = w.entries();
+    const double tomorrow = g.gameDate + 1;
+    ASSERT_EQ(filed.size(), 3u);
+    EXPECT_EQ(std::tuple(filed[0].type, filed[0].date, filed[0].band, filed[0].artist, filed[0].artist2),
+              std::tuple(uint8_t{30}, tomorrow, x, int16_t(a), int16_t(b)));
+    EXPECT_EQ(std::tuple(filed[1].type, filed[1].band, filed[1].artist, filed[1].artist2),
+              std::tuple(uint8_t{31}, y, int16_t(b), int16_t(c)));
+    EXPECT_EQ(std::tuple(filed[2].type, filed[2].date, filed[2].band, filed[2].artist, filed[2].artist2),
+              std::tuple(uint8_t{31}, tomorrow, z, int16_t(c), int16_t{0}));
+
+    const int32_t bands = g.band.recordCount(), artists = g.artist.recordCount();
+    g.schedule.rec = filed[0];
+    retireArtist(g, 1, filed[0].artist);
+    g.schedule.rec = filed[1];
+    memberLeaves(g);
+    g.schedule.rec = filed[2];
+    memberLeaves(g);
+    EXPECT_EQ(w.member(x, 0), b);
+    EXPECT_EQ(w.member(y, 0), c);
+    g.band.read(z);
+    EXPECT_EQ(g.band->retired, kTrue) << "no one for c's post";
+    g.artist.read(a);
+    EXPECT_EQ(std::pair(g.artist->retired, g.artist->band), std::pair(kTrue, int16_t{0}));
+    g.artist.read(b);
+    EXPECT_EQ(g.artist->band, x);
+    g.artist.read(c);
+    EXPECT_EQ(g.artist->band, y);
+    g.artist.read(w.member(z, 1));
+    EXPECT_EQ(g.artist->band, 0);
+    EXPECT_EQ(g.band.recordCount(), bands + 1) << "Z's end makes a new act";
+    EXPECT_GT(g.artist.recordCount(), artists) << "a's retirement makes an artist";
+
+    // A second end of Z does nothing.
+    const int32_t after = g.band.recordCount();
+    g.schedule.rec = ScheduleRecord{};
+    g.schedule->band = z;
+    retireBand(g, false);
+    EXPECT_EQ(g.band.recordCount(), after);
+}
+
+TEST(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
+    Lives w;
+    Game& g = w.g;
+    w.readyForNewActs();
+    int16_t x = w.group("X", 90);  // rated 90: of interest
+    w.setBandRec(x, [](BandRecord& b) { b.monthsUnsigned = 9; });
+    const int32_t news = w.newsCount(), bands = g.band.recordCount();
+    updateBandTimeWithoutADeal(g);
+    g.band.read(x);
+    EXPECT_EQ(g.band->retired, kTrue);
+    EXPECT_EQ(w.newsCount(), news);
+    EXPECT_EQ(g.band.recordCount(), bands + 1);
+}
+
+TEST(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
+    Lives w;
+    Game& g = w.g;
+    g.style.read(1);
+    g.style->lifeSpan = 100;
+    g.style.write();
+    int16_t x = w.group("X");
+    for (auto [age, filed] : {std::pair{50, false}, {51, true}}) {
+        w.setBandRec(x, [&](BandRecord& b) { b.age = narrow<uint8_t>(age); });
+        int count = 0;
+        // At 51 the chance is 2 in 100: 2,000 tries see it, at 50 none.
+        for (int i = 0; i < 2000; ++i) {
+            g.band.read(x);
+            const int32_t before = g.schedule.recordCount();
+            considerRetirement(g);
+            count += g.schedule.recordCount() - before;
+        }
+        EXPECT_EQ(count > 0, filed) << "age " << age;
+        if (count) EXPECT_NEAR(count / 2000.0, 0.02, 0.012);
+    }
+}
