@@ -84,6 +84,10 @@ void addDiscVerbs(CLI::App& app, SimContext& ctx);  // release, forecast, press,
 
 // A "Distributor required" item answered with ok: the form is confirmed at once.
 void confirmDistributorForm(Game& g);
+// The held item in the news buffer gets the first reply it offers; false when
+// it offers none that answers it.
+bool answerHeldItem(Game& g);
+void addRivalVerbs(CLI::App& app, SimContext& ctx);  // offers, list labels during a game
 void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
 
 // The body and the replies of an item that holds the calendar, for advance to print.

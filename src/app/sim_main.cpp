@@ -74,6 +74,7 @@ int main(int argc, char** argv) {
     addBandVerbs(app, ctx);
     addDiscVerbs(app, ctx);
     addBooksVerbs(app, ctx);
+    addRivalVerbs(app, ctx);
     // --json is seen even when the command line fails before the parser reaches it.
     bool json = false;
     for (int i = 1; i < argc; ++i) json = json || std::strcmp(argv[i], "--json") == 0;
