@@ -144,6 +144,8 @@ void rivalRecordingComplete(Game& g) {
     announceCompletion(g);
     g.disc.read(disc);
     g.band.read(band);
+    // Every album comes with a first single.
+    if (dated.isSingle == 0 && g.band->label > 0) rivalMakeSingle(g);
 }
 
 }  // namespace trovane

@@ -186,7 +186,19 @@ INSTANTIATE_TEST_SUITE_P(
                   g.business->open = 1;
                   g.business.append();
               },
-              "business", 1, "open", "firmsHoldTheirFields"}),
+              "business", 1, "open", "firmsHoldTheirFields"},
+        Fault{"ARecordingBandNamingAnotherBandsDisc",
+              [](Game& g) {
+                  addBand(g, [](auto& b) {});
+                  addBand(g, [](auto& b) {
+                      b.albumStatus = 2;
+                      b.songsWritten = 1;  // disc 1 is the first band's
+                  });
+                  g.disc.rec = DiscRecord{};
+                  g.disc->band = 1;
+                  g.disc.append();
+              },
+              "band", 2, "songsWritten", "recordingBandsNameTheirDisc"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Invariants, AVoidOfferAndSongsAwaitingADiscPass) {
