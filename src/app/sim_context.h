@@ -87,8 +87,11 @@ void confirmDistributorForm(Game& g);
 // The held item in the news buffer gets the first reply it offers; false when
 // it offers none that answers it.
 bool answerHeldItem(Game& g);
-void addRivalVerbs(CLI::App& app, SimContext& ctx);  // offers, list labels during a game
-void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
+void addRivalVerbs(CLI::App& app, SimContext& ctx);
+// During a game, what list labels adds to a label's row: bands/maxBands, cash,
+// reserve, targets, reputation, and the player's mark. Reads the label table.
+std::string labelStandingOf(Game& g, int32_t id, bool json);  // offers, list labels during a game
+void addBooksVerbs(CLI::App& app, SimContext& ctx);           // label, books, department, staff, approach, ...
 
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);

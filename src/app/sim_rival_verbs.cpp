@@ -63,6 +63,23 @@ bool answerHeldItem(Game& g) {
     return g.news->replied != 0;
 }
 
+std::string labelStandingOf(Game& g, int32_t id, bool json) {
+    g.label.read(id);
+    const LabelRecord& l = g.label.rec;
+    const auto& t = l.reputationTarget;
+    const auto& r = l.reputation;
+    const bool players = g.player.playerLabel > 0 && id == g.player.playerLabel;
+    if (json)
+        return fmt::format(
+            ",\"bands\":{},\"maxBands\":{},\"cash\":{},\"reserve\":{},\"targets\":[{},{},{},{},{}],"
+            "\"reputation\":[{},{},{},{},{}],\"player\":{}",
+            l.bandCount, l.maxBands, l.cashBalance, l.cashReserve, t[0], t[1], t[2], t[3], t[4], r[0], r[1], r[2], r[3],
+            r[4], players);
+    return fmt::format("  {:>3}/{:<3} {:>16.0f} {:>14.0f}  targets {}/{}/{}/{}/{}  reputation {}/{}/{}/{}/{}{}",
+                       l.bandCount, l.maxBands, moneyToDouble(l.cashBalance), moneyToDouble(l.cashReserve), t[0], t[1],
+                       t[2], t[3], t[4], r[0], r[1], r[2], r[3], r[4], players ? "  (yours)" : "");
+}
+
 void addRivalVerbs(CLI::App& app, SimContext& ctx) {
     auto opts = std::make_shared<OffersOptions>();
     auto* offers = app.add_subcommand("offers", "Show the offers on file for an act, with today's rating of each");
