@@ -84,8 +84,8 @@ void addDiscVerbs(CLI::App& app, SimContext& ctx);  // release, forecast, press,
 
 // A "Distributor required" item answered with ok: the form is confirmed at once.
 void confirmDistributorForm(Game& g);
-// The held item in the news buffer gets the first reply it offers; false when
-// it offers none that answers it.
+// The held item in the news buffer gets the first reply it offers, and is
+// then answered.
 bool answerHeldItem(Game& g);
 void addRivalVerbs(CLI::App& app, SimContext& ctx);
 // During a game, what list labels adds to a label's row: bands/maxBands, cash,

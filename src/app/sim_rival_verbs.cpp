@@ -60,7 +60,12 @@ bool answerHeldItem(Game& g) {
     }
     g.currentScreen = Screen::frmNews;
     g.news.read(item);
-    return g.news->replied != 0;
+    if (g.news->replied == 0) {
+        // An ok item carries no action of its own: pressing it is the answer.
+        g.news->replied = kTrue;
+        g.news.write();
+    }
+    return true;
 }
 
 std::string labelStandingOf(Game& g, int32_t id, bool json) {
