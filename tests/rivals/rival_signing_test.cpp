@@ -6,6 +6,7 @@
 #include "label/scouting.h"
 #include "rivals/rival_bands.h"
 #include "rivals/rival_signing.h"
+#include "schedule/schedule.h"
 #include "support/album_world.h"
 #include "talent/contract_terms.h"
 #include "talent/contracts.h"
@@ -311,6 +312,45 @@ TEST_F(RivalSigning, RivalsJudgeEveryActButThePlayerDoesNot) {
     // Twenty weeks of 49-in-100 draws list each rival once (a pair is never listed twice).
     std::sort(listers.begin(), listers.end());
     EXPECT_EQ(listers, (std::vector<int16_t>{kRival, second}));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(RivalSigning, AContestedActDecidesOnceOnThePlayersDateAndTheBestOfferWins) {
+    list(kPlayer, act);
+    list(kRival, act);
+    list(second, act);
+    g.offer.rec = OfferRecord{};
+    g.offer->band = act;
+    g.offer->label = kPlayer;
+    g.offer->decisionDate = g.gameDate + 5;
+    g.offer->initialAdvance = 1000;  // a poor offer: a tenth of what is asked
+    g.offer->additionalAdvance = 500;
+    g.offer->additionalAdvanceCount = 3;
+    g.offer->optionLength = 18;
+    g.offer->royalty = 15;
+    const int32_t players = g.offer.append();
+    ScheduleRecord e{};
+    e.type = 4;
+    e.date = g.gameDate + 5;
+    e.band = act;
+    e.label = kPlayer;
+    e.offer = players;
+    const int32_t decision = addSchedule(g, e);
+    computerApproachBands(g);
+    EXPECT_EQ(typeFourEntries(), 1);
+    const NewsRecord& n = lastNews();
+    EXPECT_EQ(trim(n.title.value), "Rival offers for The Wanted");
+    EXPECT_NE(trim(n.text.value).find("- Rival Records\r\n- Second Records\r\n"), std::string::npos);
+    g.gameDate += 5;
+    g.schedule.read(decision);
+    decideOffers(g);
+    g.schedule.read(decision);
+    ASSERT_GT(g.schedule->offer, 0);
+    g.offer.read(g.schedule->offer);
+    EXPECT_NE(g.offer->label, kPlayer);  // both rivals rate at least 81; the player's far less
 }
 
 }  // namespace
