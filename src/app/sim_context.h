@@ -89,6 +89,14 @@ void addLiveVerbs(CLI::App& app,
                   SimContext& ctx);  // venues, gig, gigs  // label, books, department, staff, approach, ...
 void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
 void addLivesVerbs(CLI::App& app, SimContext& ctx);  // stories, story
+// The held item in the news buffer gets the first reply it offers, and is
+// then answered.
+bool answerHeldItem(Game& g);
+void addRivalVerbs(CLI::App& app, SimContext& ctx);
+// During a game, what list labels adds to a label's row: bands/maxBands, cash,
+// reserve, targets, reputation, and the player's mark. Reads the label table.
+std::string labelStandingOf(Game& g, int32_t id, bool json);  // offers, list labels during a game
+void addBooksVerbs(CLI::App& app, SimContext& ctx);           // label, books, department, staff, approach, ...
 
 void addBrowseVerbs(CLI::App& app, SimContext& ctx);  // browse, image, birthday, highscores
 // The body and the replies of an item that holds the calendar, for advance to print.

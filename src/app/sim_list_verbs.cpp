@@ -10,6 +10,7 @@
 #include "app/sim_context.h"
 #include "floor/list_fillers.h"
 #include "session/new_game.h"
+#include "session/session_record.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -105,22 +106,30 @@ void addListVerbs(CLI::App& app, SimContext& ctx) {
         for (FileNo f : {FileNo::fileCountry, FileNo::fileCity, FileNo::fileStyle, FileNo::fileLabel})
             openTable(g, f, ext);
         std::vector<Row> rows = rowsOf(g, *opts);
-        closeAllTables(g);
         bool labels = opts->what == "labels";
+        std::vector<std::string> standing(rows.size());
+        if (labels && inGame) {
+            readSessionFile(g, workingSessionFile(g));
+            for (std::size_t i = 0; i < rows.size(); ++i) standing[i] = labelStandingOf(g, rows[i].id, ctx.json);
+        }
+        closeAllTables(g);
         if (ctx.json) {
             std::string out = "[";
             for (std::size_t i = 0; i < rows.size(); ++i) {
                 out += fmt::format("{}{{\"id\":{},\"name\":{}", i ? "," : "", rows[i].id, jsonQuote(rows[i].name));
                 if (labels)
-                    out += fmt::format(",\"city\":{},\"style\":{}", jsonQuote(rows[i].city), jsonQuote(rows[i].style));
+                    out += fmt::format(",\"city\":{},\"style\":{}", jsonQuote(rows[i].city), jsonQuote(rows[i].style)) +
+                           standing[i];
                 out += "}";
             }
             std::printf("%s]\n", out.c_str());
             return;
         }
-        for (const Row& r : rows) {
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const Row& r = rows[i];
             if (labels)
-                std::printf("%4d  %-32s  %-20s  %s\n", r.id, r.name.c_str(), r.city.c_str(), r.style.c_str());
+                std::printf("%4d  %-32s  %-20s  %s%s\n", r.id, r.name.c_str(), r.city.c_str(), r.style.c_str(),
+                            standing[i].c_str());
             else if (r.id == 0)
                 std::printf("      %s\n", r.name.c_str());
             else

@@ -28,6 +28,7 @@ struct AdvanceOptions {
     int days = 1;
     bool trace = false;
     bool check = false;
+    bool autoReply = false;
 };
 struct DumpOptions {
     std::string table;
@@ -69,16 +70,20 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
     auto adv = std::make_shared<AdvanceOptions>();
     advance->add_option("N", adv->days, "How many days")->required()->check(CLI::Range(0, 100000));
     advance->add_flag("--trace", adv->trace, "Show each step each day runs");
+    advance->add_flag("--auto", adv->autoReply,
+                      "An item that holds the calendar gets the first reply it offers, and play goes on");
     advance->add_flag("--check", adv->check, "Check the invariants after every day; stop at the first break");
     advance->callback([&ctx, adv] {
         const int days = adv->days;
         const bool trace = adv->trace;
         const bool check = adv->check;
+        const bool autoReply = adv->autoReply;
         Game& g = ctx.openGame();
         std::vector<std::string> steps;
         if (trace) g.trace = [&steps](std::string_view step) { steps.emplace_back(step); };
         std::string json = "[";
         for (int d = 0; d < days; ++d) {
+            while (autoReply && !allRepliesGiven(g) && answerHeldItem(g)) {}
             if (!allRepliesGiven(g)) {
                 ctx.exitCode = kExitHeld;
                 const NewsRecord& n = g.news.rec;

@@ -33,4 +33,12 @@ struct NewsItem {
 // must read its record again.
 int32_t postNews(Game& g, const NewsItem& item);
 
+// The most items the list holds; posting into a full list first compacts it.
+inline constexpr int32_t kNewsRoom = 32767;
+// Keeps at most keepAtMost items, dropping deleted ones first, then the
+// oldest read, then the oldest unread; an item awaiting its answer is always
+// kept. The rest keep their order and are numbered again from 1. Returns the
+// count kept. The news buffer is left as it was.
+int32_t compactNews(Game& g, int32_t keepAtMost);
+
 }  // namespace trovane

@@ -106,7 +106,9 @@ int positionValue(int position) {
 }
 
 void addDiscPoints(Game& g, int t, int32_t points) {
-    g.disc->chartPoints[at(t)] = narrow<int16_t>(g.disc->chartPoints[at(t)] + points);
+    // A disc that has charted for years holds its points at the field's top.
+    g.disc->chartPoints[at(t)] =
+        static_cast<int16_t>(std::min<int32_t>(g.disc->chartPoints[at(t)] + points, INT16_MAX));
     g.disc.write();
     const DiscRecord disc = g.disc.rec;
     const BandRecord band = g.band.rec;

@@ -357,6 +357,22 @@ std::optional<InvariantBreak> actsAndMembersAgree(Game& g) {
     return std::nullopt;
 }
 
+// A band recording an album (albumStatus 2) names in songsWritten a disc of its own.
+std::optional<InvariantBreak> recordingBandsNameTheirDisc(Game& g) {
+    const int32_t discs = g.disc.recordCount() - 1;
+    for (int32_t n = 1; n != g.band.recordCount(); ++n) {
+        const BandRecord b = copyOf(g.band, n);
+        if (b.albumStatus != 2 || b.retired != 0) continue;
+        if (b.songsWritten < 1 || b.songsWritten > discs)
+            return outside("band", n, "songsWritten", "recordingBandsNameTheirDisc", b.songsWritten, discs);
+        const DiscRecord d = copyOf(g.disc, b.songsWritten);
+        if (d.band != n)
+            return InvariantBreak{"band", n, "songsWritten", "recordingBandsNameTheirDisc",
+                                  fmt::format("disc {} is of band {}", b.songsWritten, d.band)};
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -372,6 +388,7 @@ constexpr std::array kRules = {
     InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
     InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
     InvariantRule{"actsAndMembersAgree", actsAndMembersAgree},
+    InvariantRule{"recordingBandsNameTheirDisc", recordingBandsNameTheirDisc},
 };
 
 }  // namespace

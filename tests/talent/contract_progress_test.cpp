@@ -137,6 +137,9 @@ TEST(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilentl
         b.reputation = {90, 90, 90, 90, 90};  // big enough for release news, which stays silent here
     });
     setBand(g, rival, [](BandRecord& b) { b.optionsRemaining = 1; });
+    g.style.read(1);
+    g.style->lifeSpan = 10;  // the rival weighs its deal by the band's career age
+    g.style.write();
     for (int16_t b : {asks, done, rival}) {
         ScheduleRecord e{};
         e.type = 18;

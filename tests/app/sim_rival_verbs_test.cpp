@@ -1,0 +1,87 @@
+// trovane-sim's rival verbs: the offers on an act, and advance --auto
+// answering an item that holds the calendar.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <string>
+
+#include "floor/news_post.h"
+#include "session/session_record.h"
+#include "support/album_world.h"
+
+using namespace trovane;
+using test::AlbumWorld;
+
+namespace {
+
+struct RivalSim : AlbumWorld {
+    int16_t act = addBand("Wanted", 0, 1);
+    RivalSim() {
+        g.style.read(1);
+        g.style->lifeSpan = 10;
+        g.style.write();
+        g.band.read(act);
+        g.band->initialAdvance = moneyUnits(1000);
+        g.band->additionalAdvance = moneyUnits(500);
+        g.band->additionalAdvanceCount = 2;
+        g.band->optionLength = 18;
+        g.band->royaltyRate = 10;
+        g.band.write();
+        g.gameDate = serialFromCivil(2005, 3, 7);
+        for (double date : {g.gameDate + 7, g.gameDate - 1}) {
+            g.offer.rec = OfferRecord{};
+            g.offer->band = act;
+            g.offer->label = kRival;
+            g.offer->decisionDate = date;
+            g.offer->initialAdvance = 1000;
+            g.offer->additionalAdvance = 500;
+            g.offer->additionalAdvanceCount = 2;
+            g.offer->optionLength = 18;
+            g.offer->royalty = 10;
+            g.offer.append();
+        }
+    }
+    void save() {
+        writeSessionFile(g, workingSessionFile(g));
+        closeAllTables(g);
+    }
+    std::pair<int, std::string> sim(const std::string& args) {
+        std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + eg.folder.path().string() + " " + args + " 2>&1";
+        std::string out;
+        FILE* p = popen(cmd.c_str(), "r");
+        char buf[4096];
+        while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
+        int status = pclose(p);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+    }
+};
+
+}  // namespace
+
+TEST(SimRivalVerbs, OffersListsEachOfferMarkingTheStaleOneVoid) {
+    RivalSim w;
+    w.save();
+    auto [status, json] = w.sim("--json offers Wanted");
+    EXPECT_EQ(status, 0) << json;
+    EXPECT_NE(json.find("\"id\":1,\"label\":1,\"labelName\":\"Rival Records\",\"decision\":\"2005-03-14\","
+                        "\"initialAdvance\":10000000,\"additionalAdvance\":5000000,\"count\":2,\"months\":18,"
+                        "\"royalty\":10,\"void\":false"),
+              std::string::npos)
+        << json;
+    EXPECT_NE(json.find("\"id\":2,\"label\":1,\"labelName\":\"Rival Records\",\"decision\":\"2005-03-06\""),
+              std::string::npos);
+    EXPECT_NE(json.find("\"void\":true"), std::string::npos);
+    EXPECT_EQ(w.sim("offers Nobody").first, 2);
+}
+
+TEST(SimRivalVerbs, AutoAnswersAHeldItemAndPlayGoesOn) {
+    RivalSim w;
+    postNews(w.g, {.date = w.g.gameDate, .title = "Held", .text = "Answer me", .mustReply = true});
+    w.save();
+    EXPECT_EQ(w.sim("advance 2").first, 3);
+    auto [status, out] = w.sim("advance 2 --auto");
+    EXPECT_EQ(status, 0) << out;
+    EXPECT_EQ(w.sim("advance 1").first, 0);
+}

@@ -1,0 +1,58 @@
+// A full news list makes room: what goes first and what always stays.
+#include <gtest/gtest.h>
+
+#include "floor/news_post.h"
+#include "support/empty_game.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class NewsCompaction : public ::testing::Test {
+protected:
+    test::EmptyGame eg;
+    Game& g = eg.g;
+
+    void post(const std::string& title, bool read, bool deleted = false, bool mustReply = false) {
+        postNews(g, {.date = 100, .title = title, .text = "t", .mustReply = mustReply});
+        g.news->read = read ? kTrue : kFalse;
+        g.news->deleted = deleted ? kTrue : kFalse;
+        g.news.write();
+    }
+    std::vector<std::string> titles() {
+        std::vector<std::string> out;
+        for (int32_t n = 1; n < g.news.recordCount(); ++n) {
+            g.news.read(n);
+            EXPECT_EQ(g.news->id, n);
+            out.push_back(trim(g.news->title.value));
+        }
+        return out;
+    }
+};
+
+TEST_F(NewsCompaction, DeletedThenOldestReadThenOldestUnreadGo) {
+    post("unread old", false);
+    post("read old", false);
+    post("held", false, false, true);
+    post("deleted", true, true);
+    post("read new", true);
+    post("unread new", false);
+    g.news.read(2);
+    g.news->read = kTrue;
+    g.news.write();
+    EXPECT_EQ(compactNews(g, 4), 4);  // six items: the deleted one, then "read old"
+    EXPECT_EQ(titles(), (std::vector<std::string>{"unread old", "held", "read new", "unread new"}));
+    EXPECT_EQ(compactNews(g, 2), 2);  // "read new", then the oldest unread
+    EXPECT_EQ(titles(), (std::vector<std::string>{"held", "unread new"}));
+}
+
+TEST_F(NewsCompaction, AnItemAwaitingItsAnswerIsNeverDropped) {
+    post("held one", true, false, true);
+    post("held two", false, false, true);
+    post("plain", true);
+    EXPECT_EQ(compactNews(g, 0), 2);
+    EXPECT_EQ(titles(), (std::vector<std::string>{"held one", "held two"}));
+}
+
+}  // namespace
