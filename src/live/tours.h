@@ -44,4 +44,8 @@ struct BookedGig {
 // has had an empty refusal.
 BookedGig bookGig(Game& g, const GigBooking& booking);
 
+// Removes tour `tour`: its entries become type 255 and its gigCount 0;
+// nothing is deleted.
+void cancelTour(Game& g, int16_t tour);
+
 }  // namespace trovane

@@ -13,6 +13,15 @@ void planTour(Game& g, int mode) {
     static_cast<void>(mode);
 }
 
+// Not built yet: the assistant plans no tour until the planner is written.
+AssistantTour planAssistantTour(Game& g, int16_t band, const std::string& areaCode, uint8_t nation) {
+    static_cast<void>(g);
+    static_cast<void>(band);
+    static_cast<void>(areaCode);
+    static_cast<void>(nation);
+    return {.tour = 0, .question = {}, .refusal = "The assistant cannot plan tours yet."};
+}
+
 // Not built yet: rivals book no promotion until promotion is written.
 void bookAllPromotion(Game& g, int flags) {
     static_cast<void>(g);

@@ -1,5 +1,8 @@
 #pragma once
-// How the computer-run labels tour and promote their acts.
+// How the computer-run labels tour and promote their acts, and the assistant's
+// tour for the player.
+#include <cstdint>
+#include <string>
 
 namespace trovane {
 
@@ -9,6 +12,17 @@ class Game;
 void offerSupportSlot(Game& g);
 // A tour for the current band after its album; mode 1 follows a new album.
 void planTour(Game& g, int mode);
+// The assistant's tour for the player's band `band` in an area (and nation,
+// 0 for none): the tour and its gigs are filed and `question` holds the
+// "Confirm Tour" text; with too few venues nothing is filed, `tour` is 0 and
+// `refusal` holds the assistant's message.
+struct AssistantTour {
+    int16_t tour = 0;
+    std::string question;
+    std::string refusal;
+};
+AssistantTour planAssistantTour(Game& g, int16_t band, const std::string& areaCode, uint8_t nation);
+
 // Promotion for the current band's current disc.
 void bookAllPromotion(Game& g, int flags);
 
