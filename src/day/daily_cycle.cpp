@@ -20,6 +20,7 @@
 #include "rivals/rival_albums.h"
 #include "rivals/rival_bands.h"
 #include "rivals/rival_signing.h"
+#include "rivals/rival_touring.h"
 #include "schedule/schedule.h"
 #include "talent/band_condition.h"
 #include "talent/contract_progress.h"
@@ -46,6 +47,7 @@ void runWeekdaySteps(Game& g, int weekday) {
     case Sunday:
         run(g, "computerCheckBands", computerCheckBands);
         run(g, "calculateWeeklySales", calculateWeeklySales);
+        run(g, "planFollowUpTours", planFollowUpTours);
         break;
     case Monday:
         run(g, "updateSongs", updateSongs);

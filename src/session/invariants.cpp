@@ -1,5 +1,6 @@
 #include "session/invariants.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -303,6 +304,36 @@ std::optional<InvariantBreak> gigsAndToursPointWithin(Game& g) {
     return std::nullopt;
 }
 
+// A tour's gigs come in date order and it carries at most three support acts;
+// no act appears twice on one bill.
+std::optional<InvariantBreak> rivalToursAreOrdered(Game& g) {
+    const int32_t gigs = g.gig.recordCount();
+    for (int32_t n = 1; n != g.tour.recordCount(); ++n) {
+        const TourRecord t = copyOf(g.tour, n);
+        if (t.supportCount > 3)
+            return InvariantBreak{"tour", n, "supportCount", "rivalToursAreOrdered",
+                                  fmt::format("{}, above 3", t.supportCount)};
+        double previous = 0;
+        for (std::size_t i = 0; i < std::min<std::size_t>(t.gigCount, t.gigs.size()); ++i) {
+            if (t.gigs[i] < 1 || t.gigs[i] >= gigs) continue;
+            const double date = copyOf(g.gig, t.gigs[i]).gigDate;
+            if (i > 0 && date <= previous)
+                return InvariantBreak{"tour", n, fmt::format("gigs[{}]", i), "rivalToursAreOrdered",
+                                      fmt::format("gig {} on day {}, not after day {}", t.gigs[i], date, previous)};
+            previous = date;
+        }
+    }
+    for (int32_t n = 1; n != gigs; ++n) {
+        const GigRecord r = copyOf(g.gig, n);
+        for (std::size_t i = 0; i < r.bill.size() && r.bill[i] != 0; ++i)
+            for (std::size_t j = 0; j < i; ++j)
+                if (r.bill[j] == r.bill[i])
+                    return InvariantBreak{"gig", n, fmt::format("bill[{}]", i), "rivalToursAreOrdered",
+                                          fmt::format("act {} already at place {}", r.bill[i], j)};
+    }
+    return std::nullopt;
+}
+
 // An artist's look is one of the table's (0 before any is chosen), its image
 // rating held 0 to 100; an achievement names a record of the table its kind names.
 std::optional<InvariantBreak> looksAndAchievementsPointWithin(Game& g) {
@@ -386,6 +417,7 @@ constexpr std::array kRules = {
     InvariantRule{"songsAndDiscsPointWithin", songsAndDiscsPointWithin},
     InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
     InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
+    InvariantRule{"rivalToursAreOrdered", rivalToursAreOrdered},
     InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
     InvariantRule{"actsAndMembersAgree", actsAndMembersAgree},
     InvariantRule{"recordingBandsNameTheirDisc", recordingBandsNameTheirDisc},

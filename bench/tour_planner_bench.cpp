@@ -1,0 +1,91 @@
+// The tour planner over the shipped world a year into a game: a rival's album
+// tour with its support acts, and Sunday's follow-up tours.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "floor/preferences.h"
+#include "rivals/rival_touring.h"
+#include "session/new_game.h"
+#include "world/record_store.h"
+
+using namespace trovane;
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path plannerWorld(const char* name) {
+    fs::path p = fs::temp_directory_path() / name;
+    fs::remove_all(p);
+    fs::create_directories(p);
+    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
+        if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
+    return p;
+}
+
+struct YearOnGame {
+    Game g;
+    explicit YearOnGame(const char* name) : g(plannerWorld(name), 1) {
+        readPrefs(g);
+        beginNewGame(g);
+        PlayerChoices p;
+        p.forename = "Ann";
+        p.surname = "Lee";
+        p.nationality = "Scottish";
+        takeOverLabel(g, confirmPlayer(g, p), 1);
+        for (int d = 0; d < 365; ++d) {
+            while (!allRepliesGiven(g)) {
+                openNewsItem(g);
+                pressNewsCmd1(g);
+                g.news->replied = kTrue;
+                g.news.write();
+            }
+            checkDaysSchedule(g);
+        }
+    }
+    ~YearOnGame() { closeAllTables(g); }
+};
+
+// The best-known rival act that is still together.
+int16_t bigRivalAct(Game& g) {
+    int16_t best = 0;
+    int32_t bestSum = -1;
+    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+        g.band.read(n);
+        if (g.band->retired != 0 || g.band->label < 1 || g.band->label == g.player.playerLabel) continue;
+        int32_t sum = 0;
+        for (uint8_t r : g.band->reputation) sum += r;
+        if (sum > bestSum) {
+            bestSum = sum;
+            best = static_cast<int16_t>(n);
+        }
+    }
+    return best;
+}
+
+// Each run files a tour; a fixed count keeps the day files far from full.
+void BM_PlanTourAlbumWithSupports(benchmark::State& state) {
+    static YearOnGame game("trovane-bench-planner");
+    Game& g = game.g;
+    const int16_t act = bigRivalAct(g);
+    for (auto _ : state) {
+        g.band.read(act);
+        planTour(g, 1);
+    }
+    state.counters["tours"] = g.tour.recordCount() - 1;
+}
+BENCHMARK(BM_PlanTourAlbumWithSupports)->Unit(benchmark::kMillisecond)->Iterations(40);
+
+// The first call does the Sunday's work; later ones find every act booked.
+void BM_SundayFollowUpTours(benchmark::State& state) {
+    static YearOnGame game("trovane-bench-planner-sunday");
+    Game& g = game.g;
+    const int32_t before = g.tour.recordCount();
+    for (auto _ : state) planFollowUpTours(g);
+    state.counters["newTours"] = g.tour.recordCount() - before;
+}
+BENCHMARK(BM_SundayFollowUpTours)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+}  // namespace

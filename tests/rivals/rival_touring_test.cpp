@@ -1,0 +1,327 @@
+// Rival labels' tours, their support acts and the assistant's tour for the player.
+#include <gtest/gtest.h>
+
+#include "live/tour_planner.h"
+#include "rivals/rival_touring.h"
+#include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
+#include "session/invariants.h"
+#include "support/tour_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using namespace trovane::test;
+
+namespace {
+
+class RivalTouring : public ::testing::Test, public TourWorld {
+protected:
+    RivalTouring() { g.rng.seed(7); }
+
+    void planFor(int16_t act, int mode) {
+        g.band.read(act);
+        planTour(g, mode);
+    }
+    TourRecord lastTour() {
+        g.tour.read(g.tour.recordCount() - 1);
+        return g.tour.rec;
+    }
+    double gigDate(const TourRecord& t, int i) {
+        g.gig.read(t.gigs[static_cast<std::size_t>(i)]);
+        return g.gig->gigDate;
+    }
+    void retireOn(int16_t act, double date) {
+        g.band.read(act);
+        g.artist.read(g.band->members[1]);
+        g.artist->retirementDate = date;
+        g.artist.write();
+    }
+    int16_t addAct(const char* name, int16_t actLabel, uint8_t rep) {
+        int16_t act = addBand(name, actLabel);
+        setReputation(act, {rep, rep, rep, rep, rep});
+        return act;
+    }
+    // A tour of the rival act by hand: gigs at a Leeds venue on the given days from today.
+    int16_t handTour(std::initializer_list<int> days) {
+        int16_t venue = addRatedVenue("Leeds Hall", 8000, leeds);
+        g.band.read(rivalBand);
+        int16_t tour = createTour(g, "E", 0);
+        for (int d : days) {
+            g.tour.read(tour);
+            g.venue.read(venue);
+            addGigToTour(g, g.gameDate + d, 0);
+        }
+        return tour;
+    }
+    std::vector<int16_t> billOf(int32_t gig) {
+        g.gig.read(gig);
+        std::vector<int16_t> out;
+        for (int16_t act : g.gig->bill)
+            if (act > 0) out.push_back(act);
+        return out;
+    }
+    std::vector<ScheduleRecord> entriesOn(double date, ScheduleType type) {
+        std::vector<ScheduleRecord> out;
+        for (int32_t id : entriesOfDay(g, date)) {
+            g.schedule.read(id);
+            if (g.schedule->type == static_cast<uint8_t>(type)) out.push_back(g.schedule.rec);
+        }
+        return out;
+    }
+};
+
+TEST_F(RivalTouring, FiveVenuesMakeNoTour) {
+    addEnglishVenues(5, 8000);
+    planFor(rivalBand, 1);
+    EXPECT_EQ(liveTours(), 0);
+}
+
+TEST_F(RivalTouring, SixVenuesMakeATourPlayingEachOfThem) {
+    addEnglishVenues(6, 8000);
+    planFor(rivalBand, 1);
+    ASSERT_EQ(liveTours(), 1);
+    TourRecord t = lastTour();
+    std::vector<int16_t> venues;
+    for (int i = 0; i < t.gigCount; ++i) {
+        g.gig.read(t.gigs[static_cast<std::size_t>(i)]);
+        if (std::find(venues.begin(), venues.end(), g.gig->venue) == venues.end()) venues.push_back(g.gig->venue);
+    }
+    EXPECT_EQ(venues.size(), 6u);
+    EXPECT_EQ(t.band, rivalBand);
+}
+
+TEST_F(RivalTouring, TheAlbumTourStartsSixWeeksAheadTheFollowUpOne) {
+    addEnglishVenues(6, 8000);
+    planFor(rivalBand, 1);
+    EXPECT_EQ(gigDate(lastTour(), 0), g.gameDate + 42);
+    g.gameDate += 200;
+    planFor(rivalBand, 3);
+    EXPECT_EQ(gigDate(lastTour(), 0), g.gameDate + 7);
+}
+
+TEST_F(RivalTouring, TheTourTakesItsAreaLevelsAndSponsorFromTheAct) {
+    addEnglishVenues(6, 8000);
+    g.band.read(rivalBand);
+    g.band->topAttitudeLevel = 45;  // 40 to 69: level 2
+    g.band.write();
+    planFor(rivalBand, 1);
+    TourRecord t = lastTour();
+    EXPECT_EQ(trim(t.areaCode.value), "E");
+    EXPECT_EQ(t.hospitalityLevel, 2);
+    EXPECT_EQ(t.accommodationLevel, 2);
+    EXPECT_EQ(t.contentLevel, 0);  // the style's content weight 20
+    EXPECT_EQ(t.sponsorProduct, -1);
+}
+
+TEST_F(RivalTouring, AMemberRetiringOnTheLastGigVoidsTheTourADayLaterDoesNot) {
+    addEnglishVenues(6, 8000);
+    const Random start = g.rng;
+    planFor(rivalBand, 1);
+    TourRecord t = lastTour();
+    const double last = gigDate(t, t.gigCount - 1);
+    const int32_t tours = g.tour.recordCount();
+    g.rng = start;
+    retireOn(rivalBand, last);
+    planFor(rivalBand, 1);
+    EXPECT_EQ(g.tour.recordCount(), tours);
+    g.rng = start;
+    retireOn(rivalBand, last + 1);
+    planFor(rivalBand, 1);
+    EXPECT_EQ(g.tour.recordCount(), tours + 1);
+}
+
+TEST_F(RivalTouring, SupportsAreDoubledForAnotherLabelAndRatedByLabel) {
+    // The headliner's figure is 50. Same label: 50 joins rated 100, 51 is out;
+    // another label's figure is doubled: 25 -> 50 joins rated 25, 26 -> 52 is out;
+    // same label 13 is rated 26 and goes ahead of the other label's 25; 24 is fourth.
+    const int16_t other = addLabel("Third Records");
+    setReputation(band, {30, 30, 30, 30, 30});  // the player's act: 60 doubled, out
+    const int16_t a = addAct("A", rival, 50);
+    addAct("Too Big", rival, 51);
+    const int16_t b = addAct("B", other, 25);
+    addAct("Also Too Big", other, 26);
+    const int16_t c = addAct("C", rival, 13);
+    addAct("D", other, 24);
+    int16_t tour = handTour({50, 52});
+    EXPECT_EQ(chooseSupportBands(g, tour), 3);
+    g.tour.read(tour);
+    const TourRecord t = g.tour.rec;
+    EXPECT_EQ(billOf(t.gigs[0]), (std::vector<int16_t>{rivalBand, a, c, b}));
+    EXPECT_EQ(billOf(t.gigs[1]), (std::vector<int16_t>{rivalBand, a, c, b}));
+}
+
+TEST_F(RivalTouring, AnActWithAnEntryDuringTheTourIsNoSupport) {
+    setReputation(band, {30, 30, 30, 30, 30});
+    const int16_t a = addAct("A", rival, 40);
+    const int16_t busy = addAct("Busy", rival, 45);
+    ScheduleRecord e{};
+    e.type = static_cast<uint8_t>(ScheduleType::recordingDay);
+    e.band = busy;
+    e.date = g.gameDate + 52;  // the last gig's day
+    addSchedule(g, e);
+    int16_t tour = handTour({50, 52});
+    EXPECT_EQ(chooseSupportBands(g, tour), 1);
+    g.tour.read(tour);
+    EXPECT_EQ(billOf(g.tour->gigs[0]), (std::vector<int16_t>{rivalBand, a}));
+}
+
+TEST_F(RivalTouring, APlayersActIsAskedOnceAndNotPlaced) {
+    setReputation(band, {20, 20, 20, 20, 20});  // 40 doubled, rated 20
+    const int16_t a = addAct("A", rival, 40);
+    int16_t tour = handTour({50, 52, 53});
+    EXPECT_EQ(chooseSupportBands(g, tour), 1);
+    g.tour.read(tour);
+    const TourRecord t = g.tour.rec;
+    EXPECT_EQ(billOf(t.gigs[2]), (std::vector<int16_t>{rivalBand, a}));
+    auto offers = entriesOn(g.gameDate + 1, ScheduleType::supportSlotOffer);
+    ASSERT_EQ(offers.size(), 1u);
+    EXPECT_EQ(offers[0].band, band);
+    EXPECT_EQ(offers[0].gig, t.gigs[0]);
+}
+
+TEST_F(RivalTouring, TheSupportOfferReadsAsTheGameWordsIt) {
+    int16_t tour = handTour({42, 44});
+    g.tour.read(tour);
+    ScheduleRecord e{};
+    e.type = static_cast<uint8_t>(ScheduleType::supportSlotOffer);
+    e.date = g.gameDate;
+    e.band = band;
+    e.label = label;
+    e.gig = g.tour->gigs[0];
+    g.schedule.read(addSchedule(g, e));
+    offerSupportSlot(g);
+    g.news.read(g.news.recordCount() - 1);
+    // Today is 5 January 2004: the gigs are on 16 and 18 February.
+    EXPECT_EQ(trim(g.news->title.value), "The Testers invited to tour with The Others");
+    EXPECT_EQ(trim(g.news->text.value),
+              "The Others invited The Testers to support them on their forthcoming european tour. The tour takes "
+              "place from 16/2/2004 to 18/2/2004 and will consist of 2 gigs. Allow The Testers to play the tour?");
+    EXPECT_EQ(g.news->kind, 1);
+    EXPECT_EQ(g.news->mustReply, 0);
+}
+
+class FollowUpTours : public RivalTouring {
+protected:
+    FollowUpTours() { addEnglishVenues(6, 8000); }
+    void albumOut(int16_t act, int daysAgo) {
+        g.disc.rec = DiscRecord{};
+        g.disc->band = act;
+        g.disc->label = rival;
+        g.disc->releaseDate.fill(g.gameDate - daysAgo);
+        g.disc.append();
+    }
+};
+
+TEST_F(FollowUpTours, AnAlbumOut61DaysAgoStillTours) {
+    albumOut(rivalBand, 61);
+    planFollowUpTours(g);
+    EXPECT_EQ(liveTours(), 1);
+}
+
+TEST_F(FollowUpTours, AnAlbumOut62DaysAgoDoesNot) {
+    albumOut(rivalBand, 62);
+    planFollowUpTours(g);
+    EXPECT_EQ(liveTours(), 0);
+}
+
+TEST_F(FollowUpTours, AnActWithAGigTodayIsLeftAlone) {
+    albumOut(rivalBand, 10);
+    handTour({0});
+    planFollowUpTours(g);
+    EXPECT_EQ(liveTours(), 1);  // only the hand-made one
+}
+
+TEST_F(FollowUpTours, ThePlayersOwnAlbumBringsNoTour) {
+    albumOut(band, 10);
+    g.disc.read(g.disc.recordCount() - 1);
+    g.disc->label = label;
+    g.disc.write();
+    planFollowUpTours(g);
+    EXPECT_EQ(liveTours(), 0);
+}
+
+TEST_F(RivalTouring, TheAssistantSaysSoWhenTooFewVenuesSuit) {
+    addEnglishVenues(5, 8000);
+    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
+    EXPECT_EQ(a.tour, 0);
+    EXPECT_EQ(a.refusal,
+              "Your assistant has informed you he feels there are not enough suitable venues for The Testers to "
+              "tour there.");
+    EXPECT_EQ(liveTours(), 0);
+}
+
+TEST_F(RivalTouring, TheAssistantsTourListsEveryGig) {
+    addEnglishVenues(6, 8000);
+    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
+    ASSERT_GT(a.tour, 0);
+    g.tour.read(a.tour);
+    const TourRecord t = g.tour.rec;
+    EXPECT_EQ(t.band, band);
+    EXPECT_EQ(t.nation, england);
+    EXPECT_EQ(t.sponsorProduct, -1);
+    // The first gig is six weeks from 5 January 2004: 16 February.
+    const std::string opening = "Your assistant has presented his plan for The Testers's tour, which consists of " +
+                                std::to_string(t.gigCount) + " gigs :-\n16 Feb 2004 - Hall (";
+    EXPECT_EQ(a.question.substr(0, opening.size()), opening);
+    EXPECT_EQ(std::count(a.question.begin(), a.question.end(), '\n'), t.gigCount);
+}
+
+TEST_F(RivalTouring, TheAssistantStartsAWeekAfterTheActsLastGig) {
+    addEnglishVenues(6, 8000);
+    g.band.read(band);
+    int16_t earlier = createTour(g, "E", 0);
+    g.tour.read(earlier);
+    g.venue.read(1);
+    addGigToTour(g, g.gameDate + 40, 0);  // later than 42 - 7
+    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
+    ASSERT_GT(a.tour, 0);
+    g.tour.read(a.tour);
+    EXPECT_EQ(gigDate(g.tour.rec, 0), g.gameDate + 47);
+}
+
+TEST_F(RivalTouring, TheAssistantKeepsTheSixWeeksWhenTheLastGigIsAWeekBefore) {
+    addEnglishVenues(6, 8000);
+    g.band.read(band);
+    int16_t earlier = createTour(g, "E", 0);
+    g.tour.read(earlier);
+    g.venue.read(1);
+    addGigToTour(g, g.gameDate + 35, 0);  // exactly 42 - 7: not later
+    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
+    ASSERT_GT(a.tour, 0);
+    g.tour.read(a.tour);
+    EXPECT_EQ(gigDate(g.tour.rec, 0), g.gameDate + 42);
+}
+
+std::optional<InvariantBreak> orderRule(Game& g) {
+    for (const InvariantRule& r : invariantRules())
+        if (std::string(r.name) == "rivalToursAreOrdered") return r.check(g);
+    return InvariantBreak{.rule = "missing"};
+}
+
+TEST_F(RivalTouring, TheCheckerFindsGigsOutOfOrder) {
+    int16_t tour = handTour({50, 52});
+    EXPECT_FALSE(orderRule(g).has_value());
+    g.tour.read(tour);
+    g.gig.read(g.tour->gigs[1]);
+    g.gig->gigDate = g.gameDate + 50;  // the same day as the first
+    g.gig.write();
+    auto broken = orderRule(g);
+    ASSERT_TRUE(broken.has_value());
+    EXPECT_EQ(broken->field, "gigs[1]");
+}
+
+TEST_F(RivalTouring, TheCheckerFindsAnActTwiceOnABill) {
+    int16_t tour = handTour({50});
+    g.tour.read(tour);
+    g.gig.read(g.tour->gigs[0]);
+    g.gig->bill[1] = band;
+    g.gig.write();
+    EXPECT_FALSE(orderRule(g).has_value());
+    g.gig->bill[2] = band;
+    g.gig.write();
+    auto broken = orderRule(g);
+    ASSERT_TRUE(broken.has_value());
+    EXPECT_EQ(broken->field, "bill[2]");
+}
+
+}  // namespace
