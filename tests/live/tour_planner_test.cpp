@@ -117,6 +117,20 @@ TEST_F(TourVenues, TheAssistantsUkTourTakesTheFourHomeNationsAndAnotherNationOnl
     EXPECT_EQ(venuesFound(2, {}, "E", 0), (std::vector<int16_t>{uk, fr, sc}));
 }
 
+TEST_F(TourVenues, TheAssistantSizesByTheMarketOfTheNationOrArea) {
+    // UK 80, Europe 50: standing round(990 / 7) = 141, its fifth 28; a = 784, b = round(784 / 73) = 11.
+    // r 80: d 56, e = 84 x 56 = 4704; 9 x 4715 + 250 = 42685; x 0.66 -> 28172.
+    // r 50: d 35, e = 1470; 6 x 1481 + 250 = 9136; x 0.66 = 6029.76 -> 6030.
+    setReputation(band, {80, 0, 50, 0, 0});
+    int16_t arena = addRatedVenue("Leeds Arena", 30000, leeds, 79);
+    int16_t paris1 = addRatedVenue("Paris Hall", 8000, paris, 49);
+    addRatedVenue("Paris Club", 8000, paris, 50);
+    EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), std::vector<int16_t>{arena});
+    EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(france)), std::vector<int16_t>{paris1});
+    // Europe as a whole goes by the European 50 too.
+    EXPECT_EQ(venuesFound(2, {}, "E", 0), std::vector<int16_t>{paris1});
+}
+
 TEST(TourVenueOrder, LargestFirstAndEqualsKeepTheirOrder) {
     std::vector<TourVenue> v{{.venue = 1, .capacity = 500},
                              {.venue = 2, .capacity = 900},
@@ -243,6 +257,18 @@ TEST_F(GigPlan, AVenueThatCannotBeTakenShortensTheTour) {
     auto plan = planTourGigs(g, v, g.gameDate + 42, 0);
     EXPECT_GE(plan.size(), 7u);
     EXPECT_LE(plan.size(), 8u);  // the gig that made it 7 may have had a second night
+}
+
+TEST_F(GigPlan, ATourNeverPassesFortyGigs) {
+    // Sixty venues in one city: the planner stops once 39 gigs stand, a second night making 40 at most.
+    for (uint64_t seed = 1; seed <= 5; ++seed) {
+        std::vector<TourVenue> v;
+        for (int16_t i = 1; i <= 60; ++i) v.push_back(at(i, leeds, england, "E"));
+        g.rng.seed(seed);
+        auto plan = planTourGigs(g, v, g.gameDate + 42, 1);
+        EXPECT_GE(plan.size(), 39u);
+        EXPECT_LE(plan.size(), 40u);
+    }
 }
 
 TEST(TourLevels, DemandsSetHospitalityAndBeds) {

@@ -142,6 +142,10 @@ TEST_F(RivalTouring, SupportsAreDoubledForAnotherLabelAndRatedByLabel) {
     addAct("Also Too Big", other, 26);
     const int16_t c = addAct("C", rival, 13);
     addAct("D", other, 24);
+    const int16_t gone = addAct("Gone", rival, 50);  // would tie A, but it has split
+    g.band.read(gone);
+    g.band->retired = kTrue;
+    g.band.write();
     int16_t tour = handTour({50, 52});
     EXPECT_EQ(chooseSupportBands(g, tour), 3);
     g.tour.read(tour);
@@ -200,6 +204,44 @@ TEST_F(RivalTouring, TheSupportOfferReadsAsTheGameWordsIt) {
     EXPECT_EQ(g.news->mustReply, 0);
 }
 
+TEST_F(RivalTouring, TheTourAreaFollowsTheFlagsWorldFirst) {
+    auto areaOf = [&](TourFlags f) {
+        g.band.read(rivalBand);
+        g.tour.read(createRivalTour(g, f));
+        return trim(g.tour->areaCode.value);
+    };
+    EXPECT_EQ(areaOf({true, true, false, true}), "X");
+    EXPECT_EQ(areaOf({true, true, false, false}), "E");
+    EXPECT_EQ(areaOf({false, true, true, false}), "N");
+    EXPECT_EQ(areaOf({false, false, true, false}), "O");
+}
+
+TEST_F(RivalTouring, OnlyTheAlbumTourTakesSupports) {
+    addEnglishVenues(6, 8000);
+    setReputation(band, {30, 30, 30, 30, 30});
+    const int16_t a = addAct("A", rival, 40);
+    planFor(rivalBand, 3);
+    TourRecord t = lastTour();
+    EXPECT_EQ(t.supportCount, 0);
+    EXPECT_EQ(billOf(t.gigs[0]), std::vector<int16_t>{rivalBand});
+    g.gameDate += 300;
+    planFor(rivalBand, 1);
+    t = lastTour();
+    EXPECT_EQ(t.supportCount, 1);
+    EXPECT_EQ(billOf(t.gigs[0]), (std::vector<int16_t>{rivalBand, a}));
+}
+
+TEST_F(RivalTouring, TheAssistantWillNotTourPastARetirement) {
+    addEnglishVenues(6, 8000);
+    retireOn(band, g.gameDate + 42);  // the first gig's own day
+    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
+    EXPECT_EQ(a.tour, 0);
+    EXPECT_EQ(a.refusal,
+              "Your assistant has informed you he feels there is insufficient time before The Testers's retirement "
+              "to book a tour.");
+    EXPECT_EQ(liveTours(), 0);
+}
+
 class FollowUpTours : public RivalTouring {
 protected:
     FollowUpTours() { addEnglishVenues(6, 8000); }
@@ -220,6 +262,24 @@ TEST_F(FollowUpTours, AnAlbumOut61DaysAgoStillTours) {
 
 TEST_F(FollowUpTours, AnAlbumOut62DaysAgoDoesNot) {
     albumOut(rivalBand, 62);
+    planFollowUpTours(g);
+    EXPECT_EQ(liveTours(), 0);
+}
+
+TEST_F(FollowUpTours, ASplitActBringsNoTour) {
+    albumOut(rivalBand, 10);
+    g.band.read(rivalBand);
+    g.band->retired = kTrue;
+    g.band.write();
+    planFollowUpTours(g);
+    EXPECT_EQ(liveTours(), 0);
+}
+
+TEST_F(FollowUpTours, ASingleBringsNoTour) {
+    albumOut(rivalBand, 10);
+    g.disc.read(g.disc.recordCount() - 1);
+    g.disc->isSingle = 1;
+    g.disc.write();
     planFollowUpTours(g);
     EXPECT_EQ(liveTours(), 0);
 }
