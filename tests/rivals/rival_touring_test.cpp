@@ -169,6 +169,29 @@ TEST_F(RivalTouring, AnActWithAnEntryDuringTheTourIsNoSupport) {
     EXPECT_EQ(billOf(g.tour->gigs[0]), (std::vector<int16_t>{rivalBand, a}));
 }
 
+TEST_F(RivalTouring, AnActOfADescendantStyleSupportsOneOfTheParentStyleDoesNot) {
+    setReputation(band, {30, 30, 30, 30, 30});
+    g.style.rec = StyleRecord{};
+    const auto parent = static_cast<uint8_t>(g.style.append());
+    g.style.read(style);
+    g.style->parentStyle = parent;  // the headliner's style descends from parent
+    g.style.write();
+    g.style.rec = StyleRecord{};
+    g.style->parentStyle = static_cast<uint8_t>(style);
+    const auto child = static_cast<uint8_t>(g.style.append());
+    const int16_t young = addAct("Young", rival, 40);
+    const int16_t old = addAct("Old", rival, 45);
+    for (auto [act, s] : {std::pair{young, child}, std::pair{old, parent}}) {
+        g.band.read(act);
+        g.band->style = s;
+        g.band.write();
+    }
+    int16_t tour = handTour({50});
+    EXPECT_EQ(chooseSupportBands(g, tour), 1);
+    g.tour.read(tour);
+    EXPECT_EQ(billOf(g.tour->gigs[0]), (std::vector<int16_t>{rivalBand, young}));
+}
+
 TEST_F(RivalTouring, APlayersActIsAskedOnceAndNotPlaced) {
     setReputation(band, {20, 20, 20, 20, 20});  // 40 doubled, rated 20
     const int16_t a = addAct("A", rival, 40);
@@ -326,30 +349,18 @@ TEST_F(RivalTouring, TheAssistantsTourListsEveryGig) {
     EXPECT_EQ(std::count(a.question.begin(), a.question.end(), '\n'), t.gigCount);
 }
 
-TEST_F(RivalTouring, TheAssistantStartsAWeekAfterTheActsLastGig) {
+TEST_F(RivalTouring, TheAssistantStartsAWeekAfterTheActsLastGigWhenThatIsLater) {
     addEnglishVenues(6, 8000);
-    g.band.read(band);
-    int16_t earlier = createTour(g, "E", 0);
-    g.tour.read(earlier);
-    g.venue.read(1);
-    addGigToTour(g, g.gameDate + 40, 0);  // later than 42 - 7
-    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
-    ASSERT_GT(a.tour, 0);
-    g.tour.read(a.tour);
-    EXPECT_EQ(gigDate(g.tour.rec, 0), g.gameDate + 47);
-}
-
-TEST_F(RivalTouring, TheAssistantKeepsTheSixWeeksWhenTheLastGigIsAWeekBefore) {
-    addEnglishVenues(6, 8000);
-    g.band.read(band);
-    int16_t earlier = createTour(g, "E", 0);
-    g.tour.read(earlier);
-    g.venue.read(1);
-    addGigToTour(g, g.gameDate + 35, 0);  // exactly 42 - 7: not later
-    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
-    ASSERT_GT(a.tour, 0);
-    g.tour.read(a.tour);
-    EXPECT_EQ(gigDate(g.tour.rec, 0), g.gameDate + 42);
+    auto firstGigAfter = [&](int16_t act, int lastGig) {
+        g.band.read(act);
+        g.tour.read(createTour(g, "E", 0));
+        g.venue.read(1);
+        addGigToTour(g, g.gameDate + lastGig, 0);
+        g.tour.read(planAssistantTour(g, act, "E", static_cast<uint8_t>(england)).tour);
+        return gigDate(g.tour.rec, 0) - g.gameDate;
+    };
+    EXPECT_EQ(firstGigAfter(band, 35), 42);       // 35 is not later than 42 - 7
+    EXPECT_EQ(firstGigAfter(rivalBand, 40), 47);  // 40 + 7
 }
 
 std::optional<InvariantBreak> orderRule(Game& g) {
