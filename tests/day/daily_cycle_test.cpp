@@ -98,9 +98,10 @@ TEST_F(TwoYearsOfDays, PlaysConsecutiveDaysFromThursdayFifthOfAugust2004) {
 
 TEST_F(TwoYearsOfDays, WeekdayStepsRunOnlyOnTheirWeekday) {
     const std::map<std::string, weekday> weekly = {
-        {"computerCheckBands", Sunday},    {"calculateWeeklySales", Sunday},       {"updateSongs", Monday},
-        {"computerApproachBands", Monday}, {"computerCheckAlbumProgress", Monday}, {"computerRecordAlbum", Tuesday},
-        {"dropBandHype", Wednesday},       {"checkBandEnergy", Thursday},          {"takeLabelWages", Friday},
+        {"computerCheckBands", Sunday},   {"calculateWeeklySales", Sunday},  {"planFollowUpTours", Sunday},
+        {"updateSongs", Monday},          {"computerApproachBands", Monday}, {"computerCheckAlbumProgress", Monday},
+        {"computerRecordAlbum", Tuesday}, {"dropBandHype", Wednesday},       {"checkBandEnergy", Thursday},
+        {"takeLabelWages", Friday},
     };
     for (const auto& d : *days_) {
         weekday wd{sys_days{d.date}};
@@ -147,10 +148,10 @@ TEST_F(TwoYearsOfDays, MonthlyStepsKeepTheirDates) {
 
 TEST_F(TwoYearsOfDays, TheFirstOfTheMonthOnASundayRunsTheWeekThenTheMonth) {
     const auto& d = on(year{2005} / May / 1);  // a Sunday
-    std::vector<std::string> expected = {"runRandomEvents",         "computerCheckBands",     "calculateWeeklySales",
-                                         "deliverMarketingReports", "deliverScoutingReports", "tidyShortlist",
-                                         "updateLabelFinances",     "performDaysEvents",      "updateHighScoreTable",
-                                         "increaseArtistEnergy"};
+    std::vector<std::string> expected = {"runRandomEvents",      "computerCheckBands",      "calculateWeeklySales",
+                                         "planFollowUpTours",    "deliverMarketingReports", "deliverScoutingReports",
+                                         "tidyShortlist",        "updateLabelFinances",     "performDaysEvents",
+                                         "updateHighScoreTable", "increaseArtistEnergy"};
     EXPECT_EQ(d.steps, expected);
 }
 
