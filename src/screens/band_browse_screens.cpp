@@ -158,7 +158,8 @@ frmBandFilter::frmBandFilter(mdiParentForm& main, BandFilter& filter) : QDialog(
         auto* b = new QPushButton(caption, this);
         b->setObjectName(QString::fromLatin1(name));
         b->setAutoDefault(false);
-        b->setFixedWidth(36);
+        b->setFixedSize(36, 34);
+        b->setStyleSheet(QStringLiteral("padding: 0px; font-weight: bold;"));
         return b;
     };
     auto combo = [this](const QString& name, int top, bool editable = false) {
@@ -176,7 +177,7 @@ frmBandFilter::frmBandFilter(mdiParentForm& main, BandFilter& filter) : QDialog(
         grid->addWidget(loDec, row, 1);
         grid->addWidget(lo, row, 2);
         grid->addWidget(loInc, row, 3);
-        grid->addWidget(makeCaption(tr("to"), this), row, 4);
+        grid->addWidget(makeBody(tr("to"), this), row, 4);
         grid->addWidget(hiDec, row, 5);
         grid->addWidget(hi, row, 6);
         grid->addWidget(hiInc, row, 7);

@@ -142,7 +142,7 @@ TEST_F(BrowseScreens, TheBandFilterTakesMoneyInTheDisplayCurrency) {
         click(form.cmdAgeMaxInc);
         EXPECT_EQ(form.cmbAgeMax->currentText(), "51");
         form.cmdOkClick();
-        screenshot("browse_02_band_filter");
+        screenshotOf(&form, "browse_02_band_filter");
     }
     EXPECT_EQ(kept.advanceMax, moneyUnits(100'000));
     EXPECT_EQ(kept.ageMax, 51);
