@@ -70,7 +70,7 @@ BrowseGridWidget::BrowseGridWidget(const QString& objectName, QWidget* parent)
     verticalHeader()->setDefaultSectionSize(26);
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setSortIndicatorShown(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int section) { emit labelClicked(model_->gridColumn(section)); });
@@ -88,6 +88,8 @@ void BrowseGridWidget::showGrid(Grid grid, const GridSort& sort, int row) {
         const int c = model_->gridColumn(s);
         setColumnWidth(s, std::max(70, g.columns[static_cast<std::size_t>(c)].width / 15 + 20));
     }
+    // The name takes the room the other columns leave.
+    if (model_->columnCount() > 0) horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     if (sort.clicked) {
         // The hidden value column shows its sort on the label before it.
         int shown = model_->shownColumn(sort.column);
@@ -114,7 +116,14 @@ bool BrowseGridWidget::typeAhead(const QString& prefix) {
     const auto& rows = model_->grid().rows;
     const int n = static_cast<int>(rows.size());
     if (n == 0 || prefix.isEmpty()) return false;
-    const int nameColumn = model_->gridColumn(0);
+    // Typing looks for a name: the "Name" column, else the first shown.
+    int nameColumn = model_->gridColumn(0);
+    const auto& columns = model_->grid().columns;
+    for (std::size_t c = 0; c < columns.size(); ++c)
+        if (!columns[c].hidden && columns[c].label == "Name") {
+            nameColumn = static_cast<int>(c);
+            break;
+        }
     const int from = std::max(currentRow(), 0);
     for (int k = 0; k < n; ++k) {
         const int r = (from + k) % n;

@@ -168,6 +168,23 @@ TEST_F(BrowseScreens, TheBandFilterTakesMoneyInTheDisplayCurrency) {
     EXPECT_EQ(screens::browseMemory().band.filter.name, "");
 }
 
+TEST_F(BrowseScreens, TheBookingListHandsTheChosenBandToItsCaller) {
+    const int16_t support = addBand(*game, "Support Act", 100);
+    int16_t chosen = 0;
+    screens::frmBandBrowse::openBooking(*window, 1, [&chosen](int16_t b) { chosen = b; });
+    ASSERT_EQ(screen(), Screen::frmBandBrowse);
+    auto* grid = shownGrid("flxBands");
+    EXPECT_EQ(grid->model()->headerData(0, Qt::Horizontal).toString(), "Added");
+    EXPECT_TRUE(findShown("cmdConfirm")->isVisible());
+    EXPECT_FALSE(qobject_cast<screens::frmBandBrowse*>(findShown("frmBandBrowse"))->cmdFilter->isVisible());
+    ASSERT_TRUE(grid->typeAhead(QStringLiteral("Support")));
+    click("cmdConfirm");
+    EXPECT_EQ(chosen, support);
+    findEntry("lblBands");
+    EXPECT_FALSE(qobject_cast<screens::frmBandBrowse*>(findShown("frmBandBrowse"))->cmdConfirm->isVisible())
+        << "Find opens the search, not the booking";
+}
+
 TEST_F(BrowseScreens, AVenueListSortsChoosesAndResets) {
     addVenue(*game, "Olympia", 12'500);
     addVenue(*game, "Roxy", 900);
