@@ -86,7 +86,10 @@ void BrowseGridWidget::showGrid(Grid grid, const GridSort& sort, int row) {
     // Widths are in the old twips: fifteen to a pixel.
     for (int s = 0; s < model_->columnCount(); ++s) {
         const int c = model_->gridColumn(s);
-        setColumnWidth(s, std::max(70, g.columns[static_cast<std::size_t>(c)].width / 15 + 20));
+        const GridColumn& column = g.columns[static_cast<std::size_t>(c)];
+        // Never narrower than its label, with room for the sort arrow.
+        const int label = horizontalHeader()->fontMetrics().horizontalAdvance(QString::fromStdString(column.label));
+        setColumnWidth(s, std::max({70, column.width / 15 + 20, label + 56}));
     }
     // The name takes the room the other columns leave.
     if (model_->columnCount() > 0) horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);

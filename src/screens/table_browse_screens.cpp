@@ -80,10 +80,12 @@ frmTableBrowse::frmTableBrowse(mdiParentForm& main, Screen which)
     // The choices are made from every record, so that none is lost by another choice.
     const Grid all = fill(false);
     titleLabel()->setText(QString::fromStdString(all.caption));
-    filters->addWidget(captioned(tr("Name"), txtName), 2);
+    filters->addWidget(captioned(tr("Name"), txtName), 3);
     cmbColumn.assign(all.columns.size(), nullptr);
     for (std::size_t c = 1; c < all.columns.size(); ++c) {
         if (all.columns[c].hidden) continue;
+        // Figures are sorted, not chosen: a choice is offered on a column of words.
+        if (!all.rows.empty() && all.rows.front().cells[c].key) continue;
         const std::vector<std::string> values = columnValues(all, static_cast<int>(c));
         if (values.size() < 2 || values.size() > kMostChoices) continue;
         auto* combo = new ComboBox(this);

@@ -26,11 +26,11 @@ int16_t addBand(Game& g, const char* name, int64_t advance) {
     return static_cast<int16_t>(g.band.append());
 }
 
-int16_t addVenue(Game& g, const char* name, int32_t capacity) {
+int16_t addVenue(Game& g, const char* name, int32_t capacity, int16_t city = 1) {
     g.venue.rec = VenueRecord{};
     g.venue->name = name;
     g.venue->capacity = capacity;
-    g.venue->city = 1;
+    g.venue->city = city;
     return static_cast<int16_t>(g.venue.append());
 }
 
@@ -187,14 +187,15 @@ TEST_F(BrowseScreens, TheBookingListHandsTheChosenBandToItsCaller) {
 
 TEST_F(BrowseScreens, AVenueListSortsChoosesAndResets) {
     addVenue(*game, "Olympia", 12'500);
-    addVenue(*game, "Roxy", 900);
+    addVenue(*game, "Roxy", 900, 4);  // in Toronto
     addVenue(*game, "Arena", 12'500);
     findEntry("lblVenues");
     auto* grid = qobject_cast<screens::BrowseGridWidget*>(findShown("flxGrid"));
     grid->horizontalHeader()->sectionClicked(4);
     EXPECT_EQ(column(grid), (QStringList{"Roxy", "Olympia", "Arena"})) << "by capacity; ties in table order";
-    auto* capacity = qobject_cast<QComboBox*>(findShown("cmbColumn4"));
-    capacity->setCurrentText("12,500");
+    EXPECT_EQ(window->findChild<QComboBox*>("cmbColumn4"), nullptr) << "figures are sorted, not chosen";
+    auto* city = qobject_cast<QComboBox*>(findShown("cmbColumn1"));
+    city->setCurrentText("London");
     EXPECT_EQ(column(grid), (QStringList{"Olympia", "Arena"}));
     screenshot("browse_03_venues", {"flxGrid", "cmdReset"});
     click(window->sideBar()->btnNews);
