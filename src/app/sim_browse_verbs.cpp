@@ -13,6 +13,7 @@
 #include "browse/artist_browse.h"
 #include "browse/band_browse.h"
 #include "browse/people_browse.h"
+#include "browse/table_browse.h"
 #include "events/scores.h"
 #include "floor/formats.h"
 #include "label/image.h"
@@ -34,6 +35,7 @@ struct BrowseOptions {
     std::string advance, royalty, gig, age, name;
     std::vector<std::string> reputation;
     bool shortlist = false;
+    std::string band;
 };
 
 struct Range {
@@ -189,11 +191,90 @@ void runArtistBrowse(SimContext& ctx, const BrowseOptions& o, bool richList) {
     ctx.closeGame();
 }
 
+// Whether any of the band browser's own flags was given.
+bool bandFlagsGiven(const BrowseOptions& o) {
+    return !o.style.empty() || o.unsignedOnly || !o.advance.empty() || !o.royalty.empty() || !o.gig.empty() ||
+           !o.age.empty() || !o.name.empty() || !o.reputation.empty() || o.shortlist;
+}
+
+// A band by number or exact name, 0 if there is none.
+int16_t bandNamedOrNone(Game& g, const std::string& which) {
+    if (!which.empty() && which.find_first_not_of("0123456789") == std::string::npos && which.size() < 7) {
+        const int n = std::stoi(which);
+        return n >= 1 && n < g.band.recordCount() ? static_cast<int16_t>(n) : 0;
+    }
+    return static_cast<int16_t>(findRecordByName(g, FileNo::fileBand, which));
+}
+
+// The other tables: --where by any column's header, a text or MIN..MAX; --band
+// for a band's own discs, songs, tours and gigs.
+void runTableBrowse(SimContext& ctx, const BrowseOptions& o, BrowseTable table) {
+    if (bandFlagsGiven(o))
+        throw SimError(kExitBadArgs, fmt::format("browse {} takes --where and --sort; those flags are the band "
+                                                 "browser's",
+                                                 o.table));
+    const bool ownsBand = table == BrowseTable::disc || table == BrowseTable::song || table == BrowseTable::tour ||
+                          table == BrowseTable::gig;
+    if (!o.band.empty() && !ownsBand)
+        throw SimError(kExitBadArgs, fmt::format("browse {} does not take --band", o.table));
+    if (o.desc && o.sort.empty()) throw SimError(kExitBadArgs, "--desc goes with --sort");
+    Game& g = ctx.openGame();
+    auto fail = [&](std::string why) {
+        ctx.closeGame();
+        throw SimError(kExitBadArgs, std::move(why));
+    };
+    BrowseFilter filter;
+    if (!o.band.empty()) {
+        filter.band = bandNamedOrNone(g, o.band);
+        if (filter.band == 0) fail(fmt::format("There is no band called {}", o.band));
+    }
+    GridSort sort;
+    Grid grid;
+    populateTableGrid(g, table, filter, sort, grid);  // for its headers
+    for (const std::string& w : o.where) {
+        const auto eq = w.find('=');
+        if (eq == std::string::npos) fail(fmt::format("--where takes COLUMN=TEXT or COLUMN=MIN..MAX, not \"{}\"", w));
+        const std::string column = w.substr(0, eq), value = w.substr(eq + 1);
+        int index = -1;
+        for (std::size_t i = 0; i < grid.columns.size(); ++i)
+            if (grid.columns[i].label == column) index = static_cast<int>(i);
+        if (index < 0) fail(fmt::format("There is no column \"{}\"", column));
+        ColumnChoice choice{.column = index};
+        if (value.find("..") != std::string::npos) {
+            Range r{0, 0};
+            try {
+                r = parseRange("--where " + column, value);
+            } catch (const SimError& e) { fail(e.what()); }
+            choice.min = r.min;
+            choice.max = r.max;
+        } else {
+            choice.text = value;
+        }
+        filter.choices.push_back(choice);
+    }
+    int clicked = -1;
+    if (!o.sort.empty()) {
+        for (std::size_t i = 0; i < grid.columns.size(); ++i)
+            if (grid.columns[i].label == o.sort) clicked = static_cast<int>(i);
+        if (clicked < 0) fail(fmt::format("There is no column \"{}\"", o.sort));
+        clickColumnLabel(sort, grid, clicked);
+        if (o.desc) clickColumnLabel(sort, grid, clicked);
+    }
+    populateTableGrid(g, table, filter, sort, grid);
+    printGrid(ctx, o.table, grid, sort);
+    ctx.closeGame();
+}
+
 void runBrowse(SimContext& ctx, const BrowseOptions& o) {
+    if (o.table != "band" && !o.band.empty() && !browseTableNamed(o.table))
+        throw SimError(kExitBadArgs, fmt::format("browse {} does not take --band", o.table));
+    if (auto t = browseTableNamed(o.table)) return runTableBrowse(ctx, o, *t);
+    if (o.table != "band" && bandFlagsGiven(o))
+        throw SimError(kExitBadArgs, fmt::format("browse {} takes --where and --sort; those flags are the band "
+                                                 "browser's",
+                                                 o.table));
+    if (o.table == "band" && !o.band.empty()) throw SimError(kExitBadArgs, "browse band does not take --band");
     if (o.table == "artist" || o.table == "staff" || o.table == "label") return runArtistBrowse(ctx, o, false);
-    if (o.table != "band")
-        throw SimError(kExitBadArgs,
-                       fmt::format("browse {} is not built yet; band, artist, staff and label are", o.table));
     Game& g = ctx.openGame();
     BandFilter filter = bandFilterFrom(g, o);
     GridSort sort;
@@ -233,11 +314,15 @@ int16_t artistNamed(SimContext& ctx, Game& g, const std::string& which) {
 void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
     auto o = std::make_shared<BrowseOptions>();
     auto* browse = app.add_subcommand("browse", "List a table through its browser's filter and sort");
-    browse->add_option("TABLE", o->table, "band, artist, staff or label (the others are not built yet)")
+    browse
+        ->add_option("TABLE", o->table,
+                     "band artist staff label venue disc song business media festival ceremony style tour gig")
         ->required()
         ->check(CLI::IsMember({"band", "artist", "staff", "label", "venue", "disc", "song", "business", "media",
-                               "festival", "ceremony", "style", "tour"}));
-    browse->add_option("--where", o->where, "COLUMN=TEXT: the band browser takes Name");
+                               "festival", "ceremony", "style", "tour", "gig"}));
+    browse->add_option("--where", o->where,
+                       "COLUMN=TEXT or COLUMN=MIN..MAX by a column's header (band, artist, staff, label: Name)");
+    browse->add_option("--band", o->band, "disc, song, tour, gig: only this band's (number or exact name)");
     browse->add_option("--sort", o->sort, "A column's header: one click on it");
     browse->add_flag("--desc", o->desc, "A second click: descending");
     browse->add_option("--style", o->style, "band: only this style");

@@ -66,6 +66,17 @@ std::string_view screenName(Screen s) {
     case Screen::frmLabelDetails: return "frmLabelDetails";
     case Screen::frmStaffDetails: return "frmStaffDetails";
     case Screen::frmStaffList: return "frmStaffList";
+    case Screen::frmBandBrowse: return "frmBandBrowse";
+    case Screen::frmArtistBrowse: return "frmArtistBrowse";
+    case Screen::frmRichList: return "frmRichList";
+    case Screen::frmStaffBrowse: return "frmStaffBrowse";
+    case Screen::frmLabelBrowse: return "frmLabelBrowse";
+    case Screen::frmVenueBrowse: return "frmVenueBrowse";
+    case Screen::frmBusinessBrowse: return "frmBusinessBrowse";
+    case Screen::frmMediaBrowse: return "frmMediaBrowse";
+    case Screen::frmSongBrowse: return "frmSongBrowse";
+    case Screen::frmFestivalBrowse: return "frmFestivalBrowse";
+    case Screen::frmCeremonyBrowse: return "frmCeremonyBrowse";
     }
     return "unknown";
 }

@@ -1,5 +1,8 @@
 #include "browse/band_browse.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "floor/formats.h"
 #include "label/scouting.h"
 #include "schedule/band_calendar.h"
@@ -22,6 +25,17 @@ Money moneyFromDisplay(const Game& g, double displayAmount) {
 void resetBandFilter(const Game& g, BandFilter& filter) {
     filter = BandFilter{};
     filter.advanceMax = moneyFromDisplay(g, 50'000'000);
+}
+
+double stepAdvance(double shown, int direction) {
+    if (direction > 0) {
+        for (double step : kAdvanceSteps)
+            if (step > shown) return step;
+    } else {
+        for (auto it = kAdvanceSteps.rbegin(); it != kAdvanceSteps.rend(); ++it)
+            if (*it < shown) return *it;
+    }
+    return shown;
 }
 
 namespace {
@@ -71,17 +85,37 @@ std::vector<int16_t> billInHand(Game& g, int mode) {
     return bill;
 }
 
-GridCell cellFor(Game& g, int code, int pos, const std::vector<int16_t>& bill) {
-    const BandRecord band = g.band.rec;
+// Names of styles and labels, each read once in a filling.
+struct NameCache {
+    std::vector<std::optional<std::string>> styles, labels;
+
+    const std::string& style(Game& g, int32_t n) {
+        if (styles.empty()) styles.resize(static_cast<std::size_t>(std::max(g.style.recordCount(), 1)));
+        auto& slot = styles[static_cast<std::size_t>(n)];
+        if (!slot) {
+            g.style.read(n);
+            slot = trim(g.style->name.value);
+        }
+        return *slot;
+    }
+    const std::string& label(Game& g, int32_t n) {
+        if (labels.empty()) labels.resize(static_cast<std::size_t>(std::max(g.label.recordCount(), 1)));
+        auto& slot = labels[static_cast<std::size_t>(n)];
+        if (!slot) {
+            g.label.read(n);
+            slot = trim(g.label->name.value);
+        }
+        return *slot;
+    }
+};
+
+GridCell cellFor(Game& g, const BandRecord& band, int code, int pos, const std::vector<int16_t>& bill,
+                 NameCache& names) {
     switch (code) {
     case bcName: return {trim(band.name.value), {}};
     case bcStyle: {
-        std::string style;
-        if (band.style > 0 && band.style < g.style.recordCount()) {
-            g.style.read(band.style);
-            style = trim(g.style->name.value);
-        }
-        return {style, {}};
+        if (band.style > 0 && band.style < g.style.recordCount()) return {names.style(g, band.style), {}};
+        return {"", {}};
     }
     case bcAdvance:
         return {formatMoneyValue(g, moneyToDouble(band.advanceToPay), "###,###,###,##0"),
@@ -89,8 +123,7 @@ GridCell cellFor(Game& g, int code, int pos, const std::vector<int16_t>& bill) {
     case bcAdvanceValue: return {std::to_string(band.advanceToPay / kMoneyUnit), moneyToDouble(band.advanceToPay)};
     case bcLabel: {
         if (band.label <= 0 || band.label >= g.label.recordCount()) return {"Unsigned", {}};
-        g.label.read(band.label);
-        return {trim(g.label->name.value), {}};
+        return {names.label(g, band.label), {}};
     }
     case bcAdded: {
         for (int16_t b : bill)
@@ -122,26 +155,28 @@ void populateBandGrid(Game& g, int mode, const BandFilter& filter, const std::ve
         filter.referenceBand < g.band.recordCount())
         g.band.read(filter.referenceBand);
 
+    NameCache names;
     auto writeRow = [&](const std::vector<int16_t>& bill) {
         GridRow row;
         row.record = g.band->id;
+        row.cells.reserve(columns.size());
         const int pos = static_cast<int>(grid.rows.size()) + 1;
-        for (int code : columns) {
-            const BandRecord keep = g.band.rec;
-            row.cells.push_back(cellFor(g, code, pos, bill));
-            g.band.rec = keep;
-        }
+        const BandRecord band = g.band.rec;
+        for (int code : columns) row.cells.push_back(cellFor(g, band, code, pos, bill, names));
+        g.band.rec = band;
         grid.rows.push_back(std::move(row));
     };
 
     if (mode == 1) {
-        const std::vector<int16_t> noBill;
+        // The booking list marks the bands already on the bill in hand.
+        const bool marksBill = std::find(columns.begin(), columns.end(), int{bcAdded}) != columns.end();
+        const std::vector<int16_t> bill = marksBill ? billInHand(g, 2) : std::vector<int16_t>{};
         const int32_t count = g.band.recordCount();
         for (int32_t n = 1; n < count && static_cast<int>(grid.rows.size()) < kMaxRows; ++n) {
             g.band.read(n);
             if (g.band->retired != 0) continue;
             if (!passes(g, filter)) continue;
-            writeRow(noBill);
+            writeRow(bill);
         }
     } else {
         const std::vector<int16_t> bill = billInHand(g, mode);

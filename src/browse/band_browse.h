@@ -50,6 +50,14 @@ double displayRate(const Game& g);
 // A whole amount typed in the display currency, in the base currency.
 Money moneyFromDisplay(const Game& g, double displayAmount);
 
+// The amounts the filter's money combos offer, in the display currency.
+inline constexpr std::array<double, 12> kAdvanceSteps = {0,          50'000,     100'000,    250'000,
+                                                         500'000,    1'000'000,  2'500'000,  5'000'000,
+                                                         10'000'000, 15'000'000, 20'000'000, 25'000'000};
+// The next listed amount above `shown` (direction 1) or below it (-1); at
+// either end of the list the amount stays.
+double stepAdvance(double shown, int direction);
+
 // Fills the grid. Mode 1 walks every band that has not retired through the
 // filter; modes 2 and 3 list the bands on the bill of the gig buffer, as
 // many as the tour buffer holds (mode 2 one more than mode 3), unfiltered.

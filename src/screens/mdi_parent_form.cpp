@@ -15,8 +15,10 @@
 #include "day/daily_cycle.h"
 #include "floor/formats.h"
 #include "floor/preferences.h"
+#include "screens/band_browse_screens.h"
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
+#include "screens/browse_memory.h"
 #include "screens/chart_screens.h"
 #include "screens/disc_screens.h"
 #include "screens/game_option_screens.h"
@@ -31,6 +33,7 @@
 #include "screens/staff_screens.h"
 #include "screens/start_screens.h"
 #include "screens/status_bar.h"
+#include "screens/table_browse_screens.h"
 #include "screens/theme.h"
 #include "session/save_load.h"
 #include "session/session_record.h"
@@ -125,7 +128,10 @@ void mdiParentForm::showSplash() {
     setStartScreen(new frmQuellmarkGames(*this, startArea_), Screen::frmQuellmarkGames);
 }
 
-void mdiParentForm::showStartForm() { setStartScreen(new frmStartForm(*this, startArea_), Screen::frmStartForm); }
+void mdiParentForm::showStartForm() {
+    forgetBrowsers();
+    setStartScreen(new frmStartForm(*this, startArea_), Screen::frmStartForm);
+}
 
 void mdiParentForm::showStartNewGame(bool freshWorkingSet) {
     if (freshWorkingSet && !guarded([this] { beginNewGame(g_); })) return;
@@ -196,6 +202,7 @@ void mdiParentForm::loadSavedGame(int slot) {
                 return false;
             }
             readPrefs(g_);
+            forgetBandBrowserSort();
             g_.label.read(g_.player.playerLabel);
             g_.previousScreen = Screen::none;
             g_.currentScreen = Screen::frmNews;
@@ -259,6 +266,17 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmLabelDetails: return new frmLabelDetails(*this, labelOnScreen);
     case Screen::frmStaffDetails: return new frmStaffDetails(*this, staffOnScreen);
     case Screen::frmStaffList: return new frmStaffList(*this);
+    case Screen::frmBandBrowse: return new frmBandBrowse(*this);
+    case Screen::frmArtistBrowse:
+    case Screen::frmRichList:
+    case Screen::frmStaffBrowse:
+    case Screen::frmLabelBrowse:
+    case Screen::frmVenueBrowse:
+    case Screen::frmBusinessBrowse:
+    case Screen::frmMediaBrowse:
+    case Screen::frmSongBrowse:
+    case Screen::frmFestivalBrowse:
+    case Screen::frmCeremonyBrowse: return new frmTableBrowse(*this, s);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "screens/band_browse_screens.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
@@ -92,23 +93,21 @@ void OptionPanel::keyPressEvent(QKeyEvent* event) {
 
 frmFindOptions::frmFindOptions(mdiParentForm& main, QWidget* parent)
     : OptionPanel(QStringLiteral("frmFindOptions"), tr("Find"), parent) {
-    addEntry(QStringLiteral("lblArtists"), tr("Artists"), Glyph::person);
-    addEntry(QStringLiteral("lblBands"), tr("Bands"), Glyph::record, [&main] {
-        main.bandListIsShortlist = false;
-        main.openScreen(Screen::frmBandList);
-    });
-    addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person,
-             [&main] { main.openScreen(Screen::frmStaffList); });
-    addEntry(QStringLiteral("lblLabels"), tr("Labels"), Glyph::label);
-    addEntry(QStringLiteral("lblVenues"), tr("Venues"), Glyph::label);
-    addEntry(QStringLiteral("lblBusinesses"), tr("Businesses"), Glyph::coins);
-    addEntry(QStringLiteral("lblAwards"), tr("Awards"), Glyph::star);
-    addEntry(QStringLiteral("lblFestivals"), tr("Festivals"), Glyph::calendar);
-    addEntry(QStringLiteral("lblRichList"), tr("Rich List"), Glyph::coins);
-    addEntry(QStringLiteral("lblShortlist"), tr("Shortlist"), Glyph::find, [&main] {
-        main.bandListIsShortlist = true;
-        main.openScreen(Screen::frmBandList);
-    });
+    auto open = [&main](Screen s) { return [&main, s] { main.openScreen(s); }; };
+    addEntry(QStringLiteral("lblArtists"), tr("Artists"), Glyph::person, open(Screen::frmArtistBrowse));
+    addEntry(QStringLiteral("lblBands"), tr("Bands"), Glyph::record,
+             [&main] { frmBandBrowse::openSearch(main, false); });
+    addEntry(QStringLiteral("lblStaff"), tr("Staff"), Glyph::person, open(Screen::frmStaffBrowse));
+    addEntry(QStringLiteral("lblLabels"), tr("Labels"), Glyph::label, open(Screen::frmLabelBrowse));
+    addEntry(QStringLiteral("lblVenues"), tr("Venues"), Glyph::label, open(Screen::frmVenueBrowse));
+    addEntry(QStringLiteral("lblBusinesses"), tr("Businesses"), Glyph::coins, open(Screen::frmBusinessBrowse));
+    addEntry(QStringLiteral("lblMedia"), tr("Media"), Glyph::news, open(Screen::frmMediaBrowse));
+    addEntry(QStringLiteral("lblSongs"), tr("Songs"), Glyph::record, open(Screen::frmSongBrowse));
+    addEntry(QStringLiteral("lblAwards"), tr("Awards"), Glyph::star, open(Screen::frmCeremonyBrowse));
+    addEntry(QStringLiteral("lblFestivals"), tr("Festivals"), Glyph::calendar, open(Screen::frmFestivalBrowse));
+    addEntry(QStringLiteral("lblRichList"), tr("Rich List"), Glyph::coins, open(Screen::frmRichList));
+    addEntry(QStringLiteral("lblShortlist"), tr("Shortlist"), Glyph::find,
+             [&main] { frmBandBrowse::openSearch(main, true); });
 }
 
 frmChartOptions::frmChartOptions(mdiParentForm& main, QWidget* parent)

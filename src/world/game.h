@@ -40,6 +40,17 @@ enum class Screen {
     frmLabelDetails,
     frmStaffDetails,
     frmStaffList,
+    frmBandBrowse,
+    frmArtistBrowse,
+    frmRichList,
+    frmStaffBrowse,
+    frmLabelBrowse,
+    frmVenueBrowse,
+    frmBusinessBrowse,
+    frmMediaBrowse,
+    frmSongBrowse,
+    frmFestivalBrowse,
+    frmCeremonyBrowse,
 };
 
 // The tables that openAllTables opens: member name, record, file number.

@@ -95,3 +95,36 @@ TEST(SimBrowseVerbs, AnotherLabelsArtistIsRefusedAndNothingIsFiled) {
     EXPECT_EQ(sim(data, "image 3").first, 0);
     EXPECT_NE(contents(data.path() / "schedule.vel"), before);
 }
+
+TEST(SimBrowseVerbs, AnyTableIsListedByItsBrowserWithItsChoicesAndSort) {
+    test::TempFolder data;
+    makeGame(data);
+    {
+        Game g(data.path(), 1);
+        openAllTables(g);
+        for (auto [title, band, single, released] :
+             {std::tuple{"Early", 1, 0, 12000.0}, std::tuple{"Other", 2, 0, 0.0}, std::tuple{"Late", 1, 0, 13000.0},
+              std::tuple{"Song", 1, 1, 0.0}}) {
+            g.disc.rec = DiscRecord{};
+            g.disc->title = title;
+            g.disc->band = static_cast<int16_t>(band);
+            g.disc->isSingle = static_cast<uint8_t>(single);
+            g.disc->releaseDate[0] = released;
+            g.disc.append();
+        }
+        closeAllTables(g);
+    }
+    // Dear's albums, latest release first: day 13000 is 04/08/1935, day 12000 is 07/11/1932.
+    auto [status, out] =
+        sim(data, "--json browse disc --band Dear --where \"Disc Type=Album\" --sort \"Release Date\" --desc");
+    EXPECT_EQ(status, 0) << out;
+    EXPECT_EQ(out,
+              "{\"table\":\"disc\",\"caption\":\"Disc Search\",\"columns\":[\"Name\",\"Band\",\"Disc Type\",\"Label\","
+              "\"Release Date\"],\"sort\":{\"column\":\"Release Date\",\"direction\":\"descending\"},\"rows\":["
+              "{\"id\":3,\"cells\":[\"Late\",\"Dear\",\"Album\",\"\",\"04/08/1935\"]},"
+              "{\"id\":1,\"cells\":[\"Early\",\"Dear\",\"Album\",\"\",\"07/11/1932\"]}]}\n");
+    for (const char* args :
+         {"browse disc --band Nobody", "browse style --band 1", "browse song --unsigned", "browse disc --where Nope=1",
+          "browse disc --where \"Release Date=9..1\"", "browse disc --sort Nope", "browse disc --desc"})
+        EXPECT_EQ(sim(data, args).first, 2) << args;
+}

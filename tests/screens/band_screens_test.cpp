@@ -6,6 +6,7 @@
 #include "label/scouting.h"
 #include "schedule/schedule.h"
 #include "screen_fixture.h"
+#include "screens/browse_grid_widget.h"
 #include "screens/side_bar.h"
 #include "talent/contracts.h"
 #include "world/strings.h"
@@ -53,11 +54,9 @@ protected:
     void openFromSearch(const QString& name) {
         click(window->sideBar()->btnFind);
         click(window->sideBar()->findOptions()->entry("lblBands"));
-        ASSERT_EQ(screen(), Screen::frmBandList);
-        auto* list = find<QTableWidget>("flxBands");
-        auto rows = list->findItems(name, Qt::MatchExactly);
-        ASSERT_EQ(rows.size(), 1);
-        list->setCurrentItem(rows[0]);
+        ASSERT_EQ(screen(), Screen::frmBandBrowse);
+        auto* list = find<screens::BrowseGridWidget>("flxBands");
+        ASSERT_TRUE(list->typeAhead(name));
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Return);
         ASSERT_EQ(screen(), Screen::frmBandDetails);
@@ -76,8 +75,8 @@ protected:
 TEST_F(BandScreens, TheBandSearchOpensBandDetails) {
     click(window->sideBar()->btnFind);
     click("lblBands");
-    auto* list = find<QTableWidget>("flxBands");
-    EXPECT_EQ(list->horizontalHeaderItem(2)->text(), "Advance");
+    auto* list = find<screens::BrowseGridWidget>("flxBands");
+    EXPECT_EQ(list->model()->headerData(2, Qt::Horizontal).toString(), "Advance");
     screenshot("band_01_band_search");
     openFromSearch("The Marsh Lights");
     EXPECT_EQ(find<QLabel>("lblLabel")->text(), "Unsigned");
@@ -100,7 +99,7 @@ TEST_F(BandScreens, TheShortlistEntrySaysWhetherItAddsOrRemoves) {
     click(window->sideBar()->cmdExtra);  // closes
     click(window->sideBar()->btnFind);
     click(window->sideBar()->findOptions()->entry("lblShortlist"));
-    EXPECT_EQ(find<QTableWidget>("flxBands")->rowCount(), 1);
+    EXPECT_EQ(find<screens::BrowseGridWidget>("flxBands")->model()->rowCount(), 1);
     screenshot("band_04_shortlisted_bands");
 }
 

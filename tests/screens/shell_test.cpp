@@ -68,9 +68,9 @@ TEST_F(ScreenTest, ExtraDoesNothingOnTheNewsAndInertEntriesGoNowhere) {
     EXPECT_EQ(window->currentScreenWidget(), news);
     EXPECT_EQ(screen(), Screen::frmNews);
     // A list whose screen is not in the game yet is shown, and cannot be used.
-    click(window->sideBar()->btnFind);
-    EXPECT_TRUE(find<QPushButton>("lblArtists")->isVisible());
-    EXPECT_FALSE(find<QPushButton>("lblArtists")->isEnabled());
+    click(window->sideBar()->btnGameOptions);
+    EXPECT_TRUE(find<QPushButton>("lblHallOfFame")->isVisible());
+    EXPECT_FALSE(find<QPushButton>("lblHallOfFame")->isEnabled());
 }
 
 TEST_F(ScreenTest, ContinueHasKeysAndShowsTheLoadingScreenBeforeTheDayRuns) {

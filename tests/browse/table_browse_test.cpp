@@ -1,0 +1,194 @@
+// The browsers of venues, firms, media, discs, tours and styles: what their
+// cells show, which rows a choice keeps, and how a click sorts them.
+#include <gtest/gtest.h>
+
+#include "browse/table_browse.h"
+#include "support/empty_game.h"
+#include "support/signing_world.h"
+#include "world/dates.h"
+
+using namespace trovane;
+using namespace trovane::test;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class TableBrowse : public ::testing::Test {
+protected:
+    EmptyGame eg;
+    Game& g = eg.g;
+    BrowseFilter filter;
+    GridSort sort;
+    Grid grid;
+    int16_t france = country("France", "E"), brazil = country("Brazil", "S");
+    int16_t paris = city("Paris", france), rio = city("Rio", brazil);
+
+    int16_t country(const char* name, const char* region) {
+        g.country.rec = CountryRecord{};
+        g.country->name = name;
+        g.country->region = region;
+        return static_cast<int16_t>(g.country.append());
+    }
+    int16_t city(const char* name, int16_t in) {
+        g.city.rec = CityRecord{};
+        g.city->name = name;
+        g.city->country = static_cast<uint8_t>(in);
+        return static_cast<int16_t>(g.city.append());
+    }
+    int16_t venue(const char* name, int32_t capacity, int16_t in) {
+        g.venue.rec = VenueRecord{};
+        g.venue->name = name;
+        g.venue->capacity = capacity;
+        g.venue->city = in;
+        return static_cast<int16_t>(g.venue.append());
+    }
+    Names names(BrowseTable t, int column = 0) {
+        populateTableGrid(g, t, filter, sort, grid);
+        Names v;
+        for (const GridRow& r : grid.rows) v.push_back(r.cells[static_cast<std::size_t>(column)].text);
+        return v;
+    }
+};
+
+TEST_F(TableBrowse, AVenueShowsItsPlaceAndSortsCapacityByValue) {
+    venue("Olympia", 12500, paris);
+    venue("Maracana", 9000, rio);
+    venue("Bataclan", 12500, paris);
+    EXPECT_EQ(names(BrowseTable::venue), (Names{"Olympia", "Maracana", "Bataclan"}));  // table order
+    EXPECT_EQ(grid.rows[1].cells[1].text, "Rio");
+    EXPECT_EQ(grid.rows[1].cells[2].text, "Brazil");
+    EXPECT_EQ(grid.rows[1].cells[3].text, "South America");
+    EXPECT_EQ(grid.rows[0].cells[4].text, "12,500");
+    // By text "12,500" would stand before "9,000"; by value 9,000 comes first and
+    // the two of 12,500 keep their table order, both ways round.
+    clickColumnLabel(sort, grid, 4);
+    EXPECT_EQ(names(BrowseTable::venue), (Names{"Maracana", "Olympia", "Bataclan"}));
+    clickColumnLabel(sort, grid, 4);
+    EXPECT_EQ(names(BrowseTable::venue), (Names{"Olympia", "Bataclan", "Maracana"}));
+}
+
+TEST_F(TableBrowse, AChoiceOfRangeKeepsBothEndsAndDropsOnePast) {
+    venue("Under", 999, paris);
+    venue("Low", 1000, paris);
+    venue("High", 2000, paris);
+    venue("Over", 2001, paris);
+    filter.choices = {{.column = 4, .min = 1000, .max = 2000}};
+    EXPECT_EQ(names(BrowseTable::venue), (Names{"Low", "High"}));
+}
+
+TEST_F(TableBrowse, AChoiceOfTextAndANameKeepOnlyWholeMatches) {
+    venue(" Olympia  ", 100, paris);
+    venue("Olympia Hall", 100, paris);
+    venue("Maracana", 100, rio);
+    filter.name = "  ";
+    EXPECT_EQ(names(BrowseTable::venue).size(), 3u);  // a blank name keeps all
+    filter.name = "Olympia ";
+    EXPECT_EQ(names(BrowseTable::venue), (Names{"Olympia"}));
+    filter.name = "olympia";
+    EXPECT_TRUE(names(BrowseTable::venue).empty());
+    filter.name.clear();
+    filter.choices = {{.column = 2, .text = "Brazil"}};
+    EXPECT_EQ(names(BrowseTable::venue), (Names{"Maracana"}));
+    EXPECT_EQ(columnValues(grid, 3), (Names{"South America"}));
+}
+
+TEST_F(TableBrowse, AFirmInBuildingAndAnIndependentOneSaySo) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Mine");
+    g.business.rec = BusinessRecord{};
+    g.business->name = "Abbey";
+    g.business->kind = 0;
+    g.business->city = paris;
+    g.business->quality = 40;
+    g.business->open = -1;
+    g.business.append();
+    g.business->name = "Press";
+    g.business->kind = 1;
+    g.business->owner = label;
+    g.business->open = 0;
+    g.business.append();
+    EXPECT_EQ(names(BrowseTable::business), (Names{"Abbey", "Press (In Construction)"}));
+    EXPECT_EQ(names(BrowseTable::business, 1), (Names{"Studio", "Manufacturing Plant"}));
+    EXPECT_EQ(names(BrowseTable::business, 5), (Names{"40%", "40%"}));
+    EXPECT_EQ(names(BrowseTable::business, 6), (Names{"Independent Company", "Mine"}));
+    EXPECT_EQ(grid.rows[0].cells[7].text, "");  // a studio has no daily capacity
+}
+
+TEST_F(TableBrowse, MediaShowScopeAndType) {
+    g.media.rec = MediaRecord{};
+    g.media->mediaName = "Le Monde";
+    g.media->mediaType = 0;
+    g.media->country = static_cast<uint8_t>(france);
+    g.media->smallValue = 7;
+    g.media->largeValue = 12;
+    g.media.append();
+    g.media->mediaName = "World TV";
+    g.media->mediaType = 3;
+    g.media->reach = 2;
+    g.media.append();
+    EXPECT_EQ(names(BrowseTable::media, 1), (Names{"France", "France"}));
+    EXPECT_EQ(names(BrowseTable::media, 2), (Names{"National", "Global"}));
+    EXPECT_EQ(names(BrowseTable::media, 3), (Names{"12", "12"}));  // the larger of 7 and 12
+    EXPECT_EQ(names(BrowseTable::media, 4), (Names{"Newspaper", "TV Show"}));
+}
+
+TEST_F(TableBrowse, ABandsDiscsShowTheirFirstReleaseDate) {
+    int16_t a = addAct(g, {.name = "Kites"});
+    int16_t b = addAct(g, {.name = "Other"});
+    g.disc.rec = DiscRecord{};
+    g.disc->title = "First";
+    g.disc->band = a;
+    g.disc->releaseDate = {serialFromCivil(2004, 3, 1), 0, serialFromCivil(2004, 2, 9), 0, 0};
+    g.disc.append();
+    g.disc->title = "Theirs";
+    g.disc->band = b;
+    g.disc.append();
+    g.disc->title = "Second";
+    g.disc->band = a;
+    g.disc->isSingle = 1;
+    g.disc->releaseDate = {};
+    g.disc.append();
+    filter.band = a;
+    EXPECT_EQ(names(BrowseTable::disc), (Names{"First", "Second"}));
+    EXPECT_EQ(names(BrowseTable::disc, 2), (Names{"Album", "Single"}));
+    EXPECT_EQ(names(BrowseTable::disc, 4), (Names{"09/02/2004", ""}));  // Europe's 9 February beat the UK's 1 March
+}
+
+TEST_F(TableBrowse, ABandsToursSayWhetherItHeadsOrSupports) {
+    int16_t head = addAct(g, {.name = "Head"});
+    int16_t other = addAct(g, {.name = "Other"});
+    g.tour.rec = TourRecord{};
+    g.tour->band = head;
+    g.tour->areaCode = "E";
+    const int16_t own = static_cast<int16_t>(g.tour.append());
+    g.tour->band = other;
+    g.tour->areaCode = "N";
+    const int16_t theirs = static_cast<int16_t>(g.tour.append());
+    g.tour->band = other;
+    g.tour->nation = static_cast<uint8_t>(brazil);
+    const int16_t notOn = static_cast<int16_t>(g.tour.append());
+    g.gig.rec = GigRecord{};
+    g.gig->tour = theirs;
+    g.gig->bill = {other, head};
+    g.gig.append();
+    g.gig->tour = notOn;
+    g.gig->bill = {other};
+    g.gig.append();
+    filter.band = head;
+    EXPECT_EQ(names(BrowseTable::tour), (Names{"Europe Tour", "North America Tour"}));
+    EXPECT_EQ(names(BrowseTable::tour, 1), (Names{"Headliner", "Support"}));
+    EXPECT_EQ(grid.rows[0].record, own);
+    filter.band = other;
+    EXPECT_EQ(names(BrowseTable::tour, 2), (Names{"North America", "Brazil"}));
+}
+
+TEST_F(TableBrowse, AStylesPopularityIsTheWeightedOverallFigure) {
+    addStyle(g, 10, 100, 0, "Rock");
+    g.style.read(1);
+    g.style->popularity = {50, 100, 0, 0, 0};
+    g.style.write();
+    // (8 x 50 + 10 x 100) / 33 = 1400 / 33 = 42.4 -> 42.
+    EXPECT_EQ(names(BrowseTable::style, 1), (Names{"42%"}));
+}
+
+}  // namespace
