@@ -1,5 +1,6 @@
 #include "session/invariants.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -303,6 +304,34 @@ std::optional<InvariantBreak> gigsAndToursPointWithin(Game& g) {
     return std::nullopt;
 }
 
+// A tour's gigs stand in date order, each later than the one before.
+std::optional<InvariantBreak> tourGigsInDateOrder(Game& g) {
+    for (int32_t n = 1; n != g.tour.recordCount(); ++n) {
+        const TourRecord t = copyOf(g.tour, n);
+        double previous = 0;
+        for (std::size_t i = 0; i < std::min<std::size_t>(t.gigCount, t.gigs.size()); ++i) {
+            if (t.gigs[i] < 1 || t.gigs[i] >= g.gig.recordCount()) break;
+            const double date = copyOf(g.gig, t.gigs[i]).gigDate;
+            if (i > 0 && date <= previous)
+                return InvariantBreak{"tour", n, fmt::format("gigs[{}]", i), "tourGigsInDateOrder",
+                                      fmt::format("played on day {}, not after day {}", date, previous)};
+            previous = date;
+        }
+    }
+    return std::nullopt;
+}
+
+// A band's own tour has at most 3 support acts.
+std::optional<InvariantBreak> supportCountsWithinThree(Game& g) {
+    for (int32_t n = 1; n != g.tour.recordCount(); ++n) {
+        const TourRecord t = copyOf(g.tour, n);
+        if (t.festival == 0 && t.supportCount > 3)
+            return InvariantBreak{"tour", n, "supportCount", "supportCountsWithinThree",
+                                  fmt::format("{}, above 3", t.supportCount)};
+    }
+    return std::nullopt;
+}
+
 // An artist's look is one of the table's (0 before any is chosen), its image
 // rating held 0 to 100; an achievement names a record of the table its kind names.
 std::optional<InvariantBreak> looksAndAchievementsPointWithin(Game& g) {
@@ -386,6 +415,8 @@ constexpr std::array kRules = {
     InvariantRule{"songsAndDiscsPointWithin", songsAndDiscsPointWithin},
     InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
     InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
+    InvariantRule{"tourGigsInDateOrder", tourGigsInDateOrder},
+    InvariantRule{"supportCountsWithinThree", supportCountsWithinThree},
     InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
     InvariantRule{"actsAndMembersAgree", actsAndMembersAgree},
     InvariantRule{"recordingBandsNameTheirDisc", recordingBandsNameTheirDisc},
