@@ -246,10 +246,9 @@ frmTourVenues::frmTourVenues(mdiParentForm& main, int16_t tour)
     buttons_->addWidget(cmdFinalise);
     connect(flxVenues, &QTableWidget::cellActivated, this, [this](int, int) { addGig(); });
     connect(cmdAddGig, &QPushButton::clicked, this, [this] { addGig(); });
-    connect(cmdCancel, &QPushButton::clicked, this, [this] {
-        main_.guarded([this] { cancelTour(main_.game(), tour_); });
-        reject();
-    });
+    // Cancel, or Escape, removes the tour as it stands.
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &QDialog::rejected, this, [this] { main_.guarded([this] { cancelTour(main_.game(), tour_); }); });
     connect(cmdFinalise, &QPushButton::clicked, this, [this] {
         Game& g = main_.game();
         g.tour.read(tour_);
@@ -383,10 +382,9 @@ frmChooseProvisions::frmChooseProvisions(mdiParentForm& main, int16_t tour)
     auto enable = [this] { cmdConfirm->setEnabled(provisionsConfirmable(main_.game(), tour_, chosenSponsor())); };
     connect(flxSponsors, &QTableWidget::itemSelectionChanged, this, enable);
     enable();
-    connect(cmdCancel, &QPushButton::clicked, this, [this] {
-        main_.guarded([this] { cancelTour(main_.game(), tour_); });
-        reject();
-    });
+    // Cancel, or Escape, removes the tour as it stands.
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &QDialog::rejected, this, [this] { main_.guarded([this] { cancelTour(main_.game(), tour_); }); });
     connect(cmdConfirm, &QPushButton::clicked, this, [this] { confirm(); });
     lstSupports->setFocus();
 }
