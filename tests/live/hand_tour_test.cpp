@@ -103,6 +103,20 @@ TEST_F(HandTour, AFarGigIsReachedByTravelThenRest) {
     EXPECT_EQ(g.tour->gigs[1], second);
 }
 
+TEST_F(HandTour, ABusyDayOnTheRoadStopsTheGig) {
+    int16_t t = tour();
+    addTourGig(g, t, hall, first);
+    ScheduleRecord studio{};
+    studio.type = 7;
+    studio.date = first + 1;
+    studio.band = band;
+    addSchedule(g, studio);
+    EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 5), "The Testers are already busy on that day or on the way.");
+    EXPECT_EQ(tourGigRefusal(g, t, club, first + 2), "The Testers are already busy on that day or on the way.");
+    EXPECT_EQ(confirmGigDateText(g, band, hall, first),
+              "Are you sure you want The Testers to play Hall on Monday 16/2/2004?");  // 5 January 2004 was a Monday
+}
+
 TEST_F(HandTour, ANextNightInTheSameCityHasNoRoad) {
     int16_t t = tour();
     addTourGig(g, t, hall, first);
