@@ -44,8 +44,60 @@ struct BookedGig {
 // has had an empty refusal.
 BookedGig bookGig(Game& g, const GigBooking& booking);
 
-// Removes tour `tour`: its entries become type 255 and its gigCount 0;
-// nothing is deleted.
+// Removes tour `tour`: the entries of its gigs and of the travel and rest
+// days between them become type 255 and its gigCount 0; nothing is deleted.
 void cancelTour(Game& g, int16_t tour);
+
+// The days a band needs from one venue to the next: 1 within a city, 2 within
+// a country, 3 within an area, 5 to another area.
+int32_t gapToNextGig(Game& g, int16_t fromVenue, int16_t toVenue);
+
+// The first date the tour in the tour buffer may play `venue`: its last gig's
+// date plus the gap, with `rest` the gap in days; with no gig yet, today plus
+// `firstNotice` days and no rest. The tour buffer is kept.
+struct NextGig {
+    double date = 0;
+    int32_t rest = 0;
+};
+NextGig earliestNextGig(Game& g, int16_t venue, int32_t firstNotice = 42);
+
+// Whether tour `tour` may play `venue`: a nation takes its own venues (England,
+// the UK, takes the four home nations'), an area without one takes the area's
+// and a world tour takes any.
+bool tourTakesVenue(Game& g, int16_t tour, int16_t venue);
+bool venueInArea(Game& g, const std::string& area, uint8_t nation, int16_t venue);
+
+// The message of a tour that already holds 40 gigs.
+extern const char* const kCantAddGigText;
+
+// Why the player's tour can't be started for the band, in the game's words;
+// empty when it can.
+std::string tourStartRefusal(Game& g, int16_t band);
+
+// Where a tour stands while gigs are added to it: what the next gig is
+// tested against.
+struct TourSoFar {
+    int16_t band = 0;
+    std::string area;
+    uint8_t nation = 0;
+    int gigCount = 0;
+    int16_t lastVenue = 0;
+    double lastDate = 0;
+};
+TourSoFar tourSoFar(Game& g, int16_t tour);
+
+// Why `venue` on `date` can't follow the gigs so far; empty when it can. A
+// 41st gig gets kCantAddGigText; the band must be free on the night and on
+// the road to it. Changes nothing the game keeps.
+std::string nextGigRefusal(Game& g, const TourSoFar& so, int16_t venue, double date);
+// The same for the player's tour `tour` as it stands.
+std::string tourGigRefusal(Game& g, int16_t tour, int16_t venue, double date);
+
+// Adds the gig to the tour, with the gap less one of travel days after the
+// previous gig and rest days after them. The caller has had an empty refusal.
+int32_t addTourGig(Game& g, int16_t tour, int16_t venue, double date);
+
+// The "Confirm Gig Date" question.
+std::string confirmGigDateText(Game& g, int16_t band, int16_t venue, double date);
 
 }  // namespace trovane

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "floor/formats.h"
+#include "live/tours.h"
 #include "production/recording.h"
 #include "production/songwriting.h"
 #include "screens/business_screens.h"
@@ -17,6 +18,7 @@
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
+#include "screens/tour_screens.h"
 #include "world/strings.h"
 
 namespace trovane::screens {
@@ -78,7 +80,14 @@ frmBandOptionsSigned::frmBandOptionsSigned(mdiParentForm& main, int16_t band, QW
     lblAlbumProgress = addEntry(QStringLiteral("lblAlbumProgress"), tr("Album Progress"), Glyph::info,
                                 [this] { openAlbumProgress(); });
     lblReleaseSingle = addEntry(QStringLiteral("lblReleaseSingle"), tr("Release Single"), Glyph::record);
-    lblTour = addEntry(QStringLiteral("lblTour"), tr("Tour"), Glyph::calendar);
+    lblTour = addEntry(QStringLiteral("lblTour"), tr("Tour"), Glyph::calendar, [this] {
+        hide();
+        std::string why = tourStartRefusal(main_.game(), band_);
+        if (!why.empty())
+            main_.showRefusal(tr("Tour"), QString::fromStdString(why));
+        else
+            (new frmArrangeTour(main_, band_))->open();
+    });
     lblPromote = addEntry(QStringLiteral("lblPromote"), tr("Promote"), Glyph::star);
     lblAlbum->setEnabled(b.albumStatus < 1 || b.albumStatus > 3);
     lblAlbumProgress->setEnabled(b.songsWritten != 0);

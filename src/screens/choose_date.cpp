@@ -27,7 +27,8 @@ QPushButton* arrow(const char* name, const QString& caption, const QString& tip,
 
 }  // namespace
 
-frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), main_(main) {
+frmChooseDate::frmChooseDate(mdiParentForm& main, int mode, double earliest)
+    : QDialog(&main), main_(main), earliest_(earliest) {
     setObjectName(QStringLiteral("frmChooseDate"));
     setWindowTitle(tr("Choose a Date"));
     setModal(true);
@@ -109,6 +110,10 @@ frmChooseDate::frmChooseDate(mdiParentForm& main, int mode) : QDialog(&main), ma
         connect(new QShortcut(k.key, this), &QShortcut::activated, this, [this, k] { step(k.months); });
 
     month_ = firstCalendarMonth(main.game(), mode);
+    if (earliest_ > 0) {
+        const CivilDate c = civilFromSerial(earliest_);
+        month_ = CalendarMonth{c.year, c.month};
+    }
     updateSchedule();
     for (std::size_t i = 0; i < 31; ++i)
         if (view_.cells[i].choosable) {
@@ -125,6 +130,8 @@ void frmChooseDate::step(int months) {
 // underlineDates as well: every cell shows its day and what the band does on it.
 void frmChooseDate::updateSchedule() {
     if (!main_.guarded([this] { view_ = monthCalendar(main_.game(), month_); })) return;
+    for (CalendarCell& c : view_.cells)
+        if (c.date < earliest_) c.choosable = false;
     lblMonth->setText(QString::fromStdString(view_.monthText));
     lblYear->setText(QString::fromStdString(view_.yearText));
     // Sunday is weekday 1: Monday-first columns put it last.

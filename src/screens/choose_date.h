@@ -18,7 +18,9 @@ class frmChooseDate : public QDialog {
     Q_OBJECT
 public:
     // For the band in the band buffer; mode 1 opens on next month, mode 2 six weeks on.
-    frmChooseDate(mdiParentForm& main, int mode);
+    // With `earliest` set, no day before it can be chosen and the calendar opens
+    // on its month.
+    frmChooseDate(mdiParentForm& main, int mode, double earliest = 0);
 
     QLabel* lblMonth;
     QLabel* lblYear;
@@ -43,6 +45,7 @@ private:
     mdiParentForm& main_;
     CalendarMonth month_;
     MonthCalendarView view_;
+    double earliest_ = 0;
     std::array<QLabel*, 31> dayText_{};
     QGridLayout* grid_ = nullptr;
 };

@@ -304,31 +304,43 @@ std::optional<InvariantBreak> gigsAndToursPointWithin(Game& g) {
     return std::nullopt;
 }
 
-// A tour's gigs come in date order and it carries at most three support acts;
-// no act appears twice on one bill.
-std::optional<InvariantBreak> rivalToursAreOrdered(Game& g) {
-    const int32_t gigs = g.gig.recordCount();
+// A tour's gigs stand in date order, each later than the one before.
+std::optional<InvariantBreak> tourGigsInDateOrder(Game& g) {
     for (int32_t n = 1; n != g.tour.recordCount(); ++n) {
         const TourRecord t = copyOf(g.tour, n);
-        if (t.supportCount > 3)
-            return InvariantBreak{"tour", n, "supportCount", "rivalToursAreOrdered",
-                                  fmt::format("{}, above 3", t.supportCount)};
         double previous = 0;
         for (std::size_t i = 0; i < std::min<std::size_t>(t.gigCount, t.gigs.size()); ++i) {
-            if (t.gigs[i] < 1 || t.gigs[i] >= gigs) continue;
+            if (t.gigs[i] < 1 || t.gigs[i] >= g.gig.recordCount()) break;
             const double date = copyOf(g.gig, t.gigs[i]).gigDate;
             if (i > 0 && date <= previous)
-                return InvariantBreak{"tour", n, fmt::format("gigs[{}]", i), "rivalToursAreOrdered",
-                                      fmt::format("gig {} on day {}, not after day {}", t.gigs[i], date, previous)};
+                return InvariantBreak{"tour", n, fmt::format("gigs[{}]", i), "tourGigsInDateOrder",
+                                      fmt::format("played on day {}, not after day {}", date, previous)};
             previous = date;
         }
     }
+    return std::nullopt;
+}
+
+// A band's own tour has at most 3 support acts.
+std::optional<InvariantBreak> supportCountsWithinThree(Game& g) {
+    for (int32_t n = 1; n != g.tour.recordCount(); ++n) {
+        const TourRecord t = copyOf(g.tour, n);
+        if (t.festival == 0 && t.supportCount > 3)
+            return InvariantBreak{"tour", n, "supportCount", "supportCountsWithinThree",
+                                  fmt::format("{}, above 3", t.supportCount)};
+    }
+    return std::nullopt;
+}
+
+// No act stands twice on one gig's bill.
+std::optional<InvariantBreak> billsHoldNoActTwice(Game& g) {
+    const int32_t gigs = g.gig.recordCount();
     for (int32_t n = 1; n != gigs; ++n) {
         const GigRecord r = copyOf(g.gig, n);
         for (std::size_t i = 0; i < r.bill.size() && r.bill[i] != 0; ++i)
             for (std::size_t j = 0; j < i; ++j)
                 if (r.bill[j] == r.bill[i])
-                    return InvariantBreak{"gig", n, fmt::format("bill[{}]", i), "rivalToursAreOrdered",
+                    return InvariantBreak{"gig", n, fmt::format("bill[{}]", i), "billsHoldNoActTwice",
                                           fmt::format("act {} already at place {}", r.bill[i], j)};
     }
     return std::nullopt;
@@ -417,7 +429,9 @@ constexpr std::array kRules = {
     InvariantRule{"songsAndDiscsPointWithin", songsAndDiscsPointWithin},
     InvariantRule{"firmsHoldTheirFields", firmsHoldTheirFields},
     InvariantRule{"gigsAndToursPointWithin", gigsAndToursPointWithin},
-    InvariantRule{"rivalToursAreOrdered", rivalToursAreOrdered},
+    InvariantRule{"tourGigsInDateOrder", tourGigsInDateOrder},
+    InvariantRule{"supportCountsWithinThree", supportCountsWithinThree},
+    InvariantRule{"billsHoldNoActTwice", billsHoldNoActTwice},
     InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
     InvariantRule{"actsAndMembersAgree", actsAndMembersAgree},
     InvariantRule{"recordingBandsNameTheirDisc", recordingBandsNameTheirDisc},

@@ -53,6 +53,10 @@ void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
     const auto wearOf = scheduleTypeInfo(entry.type).wear;
     if (wearOf == nullptr) return;
     const Wear wear = wearOf(g, entry);
+    // Gigs, travel and rest feed a habit already begun.
+    const bool onTheRoad = entry.type == static_cast<uint8_t>(ScheduleType::gig) ||
+                           entry.type == static_cast<uint8_t>(ScheduleType::travelDay) ||
+                           entry.type == static_cast<uint8_t>(ScheduleType::restDay);
     g.band.read(entry.band);
     int members = std::min<int>(g.band->memberCount, static_cast<int>(g.band->members.size()));
     int energySum = 0;
@@ -66,6 +70,7 @@ void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
             a.energy = static_cast<int16_t>(heldPercent(a.energy - wear.energy));
             if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(heldPercent(a.writingFocus - wear.energy));
             a.morale = static_cast<uint8_t>(heldPercent(a.morale + wear.morale));
+            if (onTheRoad && a.drugHabit > 0) a.drugHabit = static_cast<uint8_t>(std::min(100, a.drugHabit + 1));
             g.artist.write(who);
         }
         energySum += a.energy;

@@ -1,0 +1,68 @@
+// trovane-sim's tour verbs: a tour by hand through the road's rules, a
+// refusal that files nothing, and a bad area.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <string>
+
+#include "session/session_record.h"
+#include "support/gig_world.h"
+
+using namespace trovane;
+
+namespace {
+
+struct TourSim : test::GigWorld {
+    TourSim() {
+        g.gameDate = serialFromCivil(2005, 1, 3);
+        addVenue("Hall", 1000, leeds);
+        addVenue("Salle", 1000, paris);
+        writeSessionFile(g, workingSessionFile(g));
+        closeAllTables(g);
+    }
+    std::pair<int, std::string> sim(const std::string& args) {
+        std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + eg.folder.path().string() + " " + args + " 2>&1";
+        std::string out;
+        FILE* p = popen(cmd.c_str(), "r");
+        char buf[4096];
+        while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
+        int status = pclose(p);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+    }
+};
+
+}  // namespace
+
+TEST(SimTourVerbs, ALaterGigTooSoonIsRefusedAndNothingIsFiled) {
+    TourSim w;
+    // 3 January 2005 + 42 days is 14 February; Leeds to Paris takes 3 days, so 17 February at the earliest.
+    auto [status, out] = w.sim("tour 'The Testers' --area europe --gig Hall@2005-02-14 --gig Salle@2005-02-16");
+    EXPECT_EQ(status, 1) << out;
+    EXPECT_NE(out.find("The tour can't reach Salle before 17/2/2005."), std::string::npos) << out;
+    EXPECT_EQ(w.sim("--json tours").second, "[]\n");
+}
+
+TEST(SimTourVerbs, ATourByHandIsFiledWithItsRoad) {
+    TourSim w;
+    auto [status, json] = w.sim("--json tour 'The Testers' --area europe --gig Hall@2005-02-14 --gig Salle@2005-02-18");
+    ASSERT_EQ(status, 0) << json;
+    EXPECT_NE(json.find("\"gigs\":[{\"gig\":1,\"date\":\"2005-02-14\",\"venue\":\"Hall\"},{\"gig\":2,\"date\":"
+                        "\"2005-02-18\",\"venue\":\"Salle\"}]"),
+              std::string::npos)
+        << json;
+    auto [infoStatus, info] = w.sim("--json tourinfo 1");
+    EXPECT_EQ(infoStatus, 0);
+    // Two travel days, then rest up to the day before Paris.
+    EXPECT_NE(info.find("\"road\":[{\"date\":\"2005-02-15\",\"kind\":\"travel\"},{\"date\":\"2005-02-16\",\"kind\":"
+                        "\"travel\"},{\"date\":\"2005-02-17\",\"kind\":\"rest\"}]"),
+              std::string::npos)
+        << info;
+    EXPECT_EQ(w.sim("unsupport 1 'The Testers'").first, 1);
+}
+
+TEST(SimTourVerbs, AnUnknownAreaIsABadArgument) {
+    TourSim w;
+    EXPECT_EQ(w.sim("tour 'The Testers' --area mars --gig Hall@2005-02-14").first, 2);
+}

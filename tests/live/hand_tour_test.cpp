@@ -1,0 +1,370 @@
+// A tour booked by hand: the road between gigs, the 40-gig limit, support
+// acts, sponsors, cancelling and what the road does to a habit.
+#include <gtest/gtest.h>
+
+#include "live/sponsors.h"
+#include "live/tour_provisions.h"
+#include "schedule/band_calendar.h"
+#include "schedule/schedule.h"
+#include "session/invariants.h"
+#include "support/gig_world.h"
+#include "talent/event_fatigue.h"
+
+using namespace trovane;
+
+namespace {
+
+class HandTour : public test::GigWorld, public ::testing::Test {
+protected:
+    int16_t scotland = 0, york = 0, glasgow = 0;
+    int16_t hall = 0, arena = 0, club = 0, bowl = 0, stadium = 0;
+    double first = 0;
+    HandTour() {
+        scotland = addCountry("Scotland", "E");
+        york = addCity("York", england);
+        glasgow = addCity("Glasgow", scotland);
+        hall = addVenue("Hall", 1000, leeds);
+        arena = addVenue("Arena", 5000, leeds);
+        club = addVenue("Club", 500, york);
+        bowl = addVenue("Bowl", 2000, glasgow);
+        stadium = addVenue("Stadium", 9000, paris);
+        first = g.gameDate + 42;
+    }
+    int16_t tour(const char* area = "E", uint8_t nation = 0) {
+        g.band.read(band);
+        return createTour(g, area, nation);
+    }
+    std::vector<uint8_t> typesOn(double date) {
+        std::vector<uint8_t> out;
+        for (int32_t id : entriesOfDay(g, date)) {
+            g.schedule.read(id);
+            out.push_back(g.schedule->type);
+        }
+        return out;
+    }
+    int16_t addProduct(const char* name, uint8_t minimum, const char* area, std::array<uint8_t, 5> countries = {},
+                       uint8_t minC = 0, uint8_t maxC = 100) {
+        g.product.rec = ProductRecord{};
+        g.product->name = name;
+        g.product->minimumReputation = minimum;
+        g.product->area = area;
+        g.product->regionWeights = countries;
+        g.product->minControversy = minC;
+        g.product->maxControversy = maxC;
+        return static_cast<int16_t>(g.product.append());
+    }
+    std::vector<int16_t> sponsorsOf(int16_t t) {
+        std::vector<int16_t> out;
+        for (const SponsorOffer& o : fittingSponsors(g, t)) out.push_back(o.product);
+        return out;
+    }
+    std::array<int16_t, 4> billOf(int32_t gig) {
+        g.gig.read(gig);
+        return {g.gig->bill[0], g.gig->bill[1], g.gig->bill[2], g.gig->bill[3]};
+    }
+};
+
+TEST_F(HandTour, TheRoadBetweenVenuesTakesOneToFiveDays) {
+    EXPECT_EQ(gapToNextGig(g, hall, arena), 1);    // both in Leeds
+    EXPECT_EQ(gapToNextGig(g, hall, club), 2);     // Leeds to York, England
+    EXPECT_EQ(gapToNextGig(g, hall, stadium), 3);  // England to France, both Europe
+    int16_t samba = addVenue("Samba", 3000, rio);
+    EXPECT_EQ(gapToNextGig(g, stadium, samba), 5);  // Europe to South America
+}
+
+TEST_F(HandTour, TheFirstGigIsSixWeeksOutAndLaterOnesAGapAfterTheLast) {
+    int16_t t = tour();
+    NextGig opening = earliestNextGig(g, hall);
+    EXPECT_EQ(opening.date, g.gameDate + 42);
+    EXPECT_EQ(opening.rest, 0);
+    EXPECT_EQ(tourGigRefusal(g, t, hall, first - 1), "A gig must be booked at least six weeks ahead.");
+    addTourGig(g, t, hall, first);
+    g.tour.read(t);
+    NextGig next = earliestNextGig(g, stadium);
+    EXPECT_EQ(next.date, first + 3);
+    EXPECT_EQ(next.rest, 3);
+    EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 2),
+              "The tour can't reach Stadium before 19/2/2004.");  // 5 January + 42 days + 3
+    EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 3), "");
+}
+
+TEST_F(HandTour, AFarGigIsReachedByTravelThenRest) {
+    int16_t t = tour();
+    addTourGig(g, t, hall, first);
+    // Paris is 3 days away: 2 travel days, then rest up to the day before.
+    int32_t second = addTourGig(g, t, stadium, first + 5);
+    EXPECT_EQ(typesOn(first + 1), std::vector<uint8_t>{10});
+    EXPECT_EQ(typesOn(first + 2), std::vector<uint8_t>{10});
+    EXPECT_EQ(typesOn(first + 3), std::vector<uint8_t>{11});
+    EXPECT_EQ(typesOn(first + 4), std::vector<uint8_t>{11});
+    EXPECT_EQ(typesOn(first + 5), std::vector<uint8_t>{8});
+    g.tour.read(t);
+    EXPECT_EQ(g.tour->gigCount, 2);
+    EXPECT_EQ(g.tour->gigs[1], second);
+}
+
+TEST_F(HandTour, ABusyDayOnTheRoadStopsTheGig) {
+    int16_t t = tour();
+    addTourGig(g, t, hall, first);
+    ScheduleRecord studio{};
+    studio.type = 7;
+    studio.date = first + 1;
+    studio.band = band;
+    addSchedule(g, studio);
+    EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 5), "The Testers are already busy on that day or on the way.");
+    EXPECT_EQ(tourGigRefusal(g, t, club, first + 2), "The Testers are already busy on that day or on the way.");
+    EXPECT_EQ(confirmGigDateText(g, band, hall, first),
+              "Are you sure you want The Testers to play Hall on Monday 16/2/2004?");  // 5 January 2004 was a Monday
+}
+
+TEST_F(HandTour, ANextNightInTheSameCityHasNoRoad) {
+    int16_t t = tour();
+    addTourGig(g, t, hall, first);
+    addTourGig(g, t, arena, first + 1);
+    EXPECT_EQ(typesOn(first + 1), std::vector<uint8_t>{8});
+    EXPECT_EQ(typesOn(first), std::vector<uint8_t>{8});
+}
+
+TEST_F(HandTour, TheFortyFirstGigIsRefusedAndAddsNothing) {
+    int16_t t = tour();
+    for (int i = 0; i < 40; ++i) addTourGig(g, t, i % 2 ? hall : arena, first + i);
+    const int32_t gigs = g.gig.recordCount();
+    EXPECT_EQ(tourGigRefusal(g, t, hall, first + 45), kCantAddGigText);
+    g.tour.read(t);
+    g.venue.read(hall);
+    EXPECT_EQ(addGigToTour(g, first + 45, 0), 0);
+    EXPECT_EQ(g.gig.recordCount(), gigs);
+    g.tour.read(t);
+    EXPECT_EQ(g.tour->gigCount, 40);
+    EXPECT_TRUE(typesOn(first + 45).empty());
+}
+
+TEST_F(HandTour, TheThirtyNinthGigStillLeavesRoomForAFortieth) {
+    int16_t t = tour();
+    for (int i = 0; i < 39; ++i) addTourGig(g, t, i % 2 ? hall : arena, first + i);
+    EXPECT_EQ(tourGigRefusal(g, t, hall, first + 40), "");
+}
+
+TEST_F(HandTour, TheUnitedKingdomTakesTheHomeNationsAndAnAreaItsCountries) {
+    int16_t uk = tour("E", static_cast<uint8_t>(england));
+    EXPECT_TRUE(tourTakesVenue(g, uk, bowl));  // Glasgow, Scotland
+    EXPECT_FALSE(tourTakesVenue(g, uk, stadium));
+    int16_t europe = tour("E", 0);
+    EXPECT_TRUE(tourTakesVenue(g, europe, stadium));
+    int16_t samba = addVenue("Samba", 3000, rio);
+    EXPECT_FALSE(tourTakesVenue(g, europe, samba));
+    int16_t parisOnly = tour("E", static_cast<uint8_t>(france));
+    EXPECT_FALSE(tourTakesVenue(g, parisOnly, hall));
+    EXPECT_TRUE(tourTakesVenue(g, tour("X", 0), samba));
+    EXPECT_EQ(tourGigRefusal(g, uk, stadium, first), "Stadium lies outside the tour's area.");
+}
+
+TEST_F(HandTour, SponsorsPayByTheirMinimumBestFirst) {
+    int16_t low = addProduct("Low", 0, "E");    // 0 + 450 = 450
+    int16_t mid = addProduct("Mid", 40, "E");   // 40^4 = 2,560,000; / 5 = 512,000; / 100 = 5,120; + 450 = 5,570
+    int16_t top = addProduct("Top", 100, "E");  // 10^8 / 5 = 20,000,000; / 100 = 200,000; + 450 = 200,450
+    g.band.read(band);
+    g.band->reputation = {100, 100, 100, 100, 100};
+    g.band.write();
+    std::vector<SponsorOffer> offers = fittingSponsors(g, tour());
+    ASSERT_EQ(offers.size(), 3u);
+    EXPECT_EQ(offers[0].product, top);
+    EXPECT_EQ(offers[0].feePerGig, 200450);
+    EXPECT_EQ(offers[1].product, mid);
+    EXPECT_EQ(offers[1].feePerGig, 5570);
+    EXPECT_EQ(offers[2].product, low);
+    EXPECT_EQ(offers[2].feePerGig, 450);
+}
+
+TEST_F(HandTour, AProductFitsByAreaByNationOrByNamingNeither) {
+    int16_t europe = addProduct("Euro", 0, "E");
+    int16_t french = addProduct("French", 0, "N", {0, 0, 0, static_cast<uint8_t>(france), 0});
+    int16_t anywhere = addProduct("Anywhere", 0, "");
+    addProduct("Yankee", 0, "N");
+    addProduct("Scottish", 0, "", {static_cast<uint8_t>(scotland), 0, 0, 0, 0});
+    EXPECT_EQ(sponsorsOf(tour("E", static_cast<uint8_t>(france))), (std::vector<int16_t>{europe, french, anywhere}));
+    EXPECT_EQ(sponsorsOf(tour("E", 0)), (std::vector<int16_t>{europe, anywhere}));
+}
+
+TEST_F(HandTour, AProductWantsControversyInItsRange) {
+    addProduct("Tame", 0, "E", {}, 10, 30);
+    int16_t t = tour();
+    for (auto [controversy, fits] : {std::pair{9, false}, {10, true}, {30, true}, {31, false}}) {
+        g.band.read(band);
+        g.band->controversy = static_cast<uint8_t>(controversy);
+        g.band.write();
+        EXPECT_EQ(productFitsTour(g, t, 1), fits) << controversy;
+    }
+}
+
+TEST_F(HandTour, TheRatingOfTheTourMustReachTheMinimum) {
+    g.band.read(band);
+    g.band->reputation = {50, 20, 40, 10, 0};
+    g.band.write();
+    // A world tour: (50 x 8 + 20 x 10 + 40 x 7 + 10 x 5 + 0) / 33 = 930 / 33 = 28.2, so 28.
+    int16_t world = tour("X", 0);
+    EXPECT_EQ(tourRating(g, world), 28);
+    int16_t at = addProduct("At", 28, "X");
+    addProduct("Past", 29, "X");
+    EXPECT_EQ(sponsorsOf(world), std::vector<int16_t>{at});
+    // England is the UK market (50); France and a Europe-wide tour are Europe (40).
+    EXPECT_EQ(tourRating(g, tour("E", static_cast<uint8_t>(england))), 50);
+    EXPECT_EQ(tourRating(g, tour("E", static_cast<uint8_t>(france))), 40);
+    EXPECT_EQ(tourRating(g, tour("E", 0)), 40);
+    EXPECT_EQ(tourRating(g, tour("N", 0)), 20);
+    EXPECT_EQ(tourRating(g, tour("O", 0)), 10);
+    EXPECT_EQ(tourRating(g, tour("S", 0)), 0);
+}
+
+TEST_F(HandTour, ProvisionsWaitForASponsorOnlyWhileOneFits) {
+    int16_t t = tour();
+    addTourGig(g, t, hall, first);
+    EXPECT_TRUE(provisionsConfirmable(g, t, 0));
+    int16_t p = addProduct("Fizz", 10, "E");
+    EXPECT_FALSE(provisionsConfirmable(g, t, 0));
+    EXPECT_TRUE(provisionsConfirmable(g, t, p));
+    setTourSponsor(g, t, p);
+    EXPECT_TRUE(provisionsConfirmable(g, t, 0));
+    // 470 per gig (10^4 / 5 / 100 + 450), one gig.
+    EXPECT_EQ(confirmSponsorText(g, t, p),
+              "You have chosen Fizz to sponsor The Testers's tour, they are willing to pay £470 (£470 per gig) for "
+              "this, finalise?");
+}
+
+class Supports : public HandTour {
+protected:
+    int16_t t = 0, a = 0, b = 0, c = 0;
+    int32_t one = 0, two = 0;
+    Supports() {
+        a = addBand("Alpha", label);
+        b = addBand("Beta", label);
+        c = addBand("Gamma", label);
+        t = tour();
+        one = addTourGig(g, t, hall, first);
+        two = addTourGig(g, t, club, first + 4);
+    }
+};
+
+TEST_F(Supports, RemovingASupportClosesTheGapOnEveryGig) {
+    for (int16_t s : {a, b, c}) addSupportBand(g, t, s);
+    EXPECT_EQ(billOf(two), (std::array<int16_t, 4>{band, a, b, c}));
+    removeSupportBand(g, t, b);
+    EXPECT_EQ(billOf(one), (std::array<int16_t, 4>{band, a, c, 0}));
+    EXPECT_EQ(billOf(two), (std::array<int16_t, 4>{band, a, c, 0}));
+    g.tour.read(t);
+    EXPECT_EQ(g.tour->supportCount, 2);
+}
+
+TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
+    EXPECT_EQ(supportRefusal(g, t, band), "An act can't support its own tour.");
+    int16_t theirs = addBand("Theirs", rival);
+    EXPECT_EQ(supportRefusal(g, t, theirs), "Theirs isn't signed to your label.");
+    // A rest day of the tour's last leg is as busy as a gig.
+    ScheduleRecord e{};
+    e.type = 7;
+    e.date = first + 4;
+    e.band = c;
+    addSchedule(g, e);
+    EXPECT_EQ(supportRefusal(g, t, c), "Gamma isn't free for the whole tour.");
+    EXPECT_EQ(supportCandidates(g, t), (std::vector<int16_t>{a, b}));
+    int16_t d = addBand("Delta", label);
+    for (int16_t s : {a, b, d}) addSupportBand(g, t, s);
+    int16_t e2 = addBand("Epsilon", label);
+    EXPECT_EQ(supportRefusal(g, t, e2), "The tour already has three support bands.");
+}
+
+TEST_F(Supports, CancellingCallsOffTheTourButNotOthersDays) {
+    ScheduleRecord other{};
+    other.type = 7;
+    other.date = first + 2;
+    other.band = a;
+    addSchedule(g, other);
+    cancelTour(g, t);
+    for (double d = first; d <= first + 4; ++d)
+        for (int32_t id : entriesOfDay(g, d)) {
+            g.schedule.read(id);
+            EXPECT_EQ(g.schedule->type, g.schedule->band == a ? 7 : 255) << d - first;
+        }
+    g.tour.read(t);
+    EXPECT_EQ(g.tour->gigCount, 0);
+    g.band.read(band);
+    EXPECT_EQ(bandEngagement(g, 1, first), 0);
+}
+
+TEST_F(Supports, FinalisingATourWithoutGigsRemovesItAndAnUnchosenSponsorIsNone) {
+    g.tour.read(t);
+    EXPECT_EQ(g.tour->sponsorProduct, -1);
+    EXPECT_TRUE(finaliseTour(g, t));
+    g.tour.read(t);
+    EXPECT_EQ(g.tour->sponsorProduct, 0);
+    int16_t empty = tour();
+    EXPECT_FALSE(finaliseTour(g, empty));
+    g.tour.read(empty);
+    EXPECT_EQ(g.tour->gigCount, 0);
+}
+
+TEST_F(Supports, TheSummaryNamesLengthSupportsAndLevels) {
+    addSupportBand(g, t, a);
+    setTourLevels(g, t, 0, 4, 2);
+    EXPECT_EQ(finaliseTourText(g, t),
+              "Tour Length : 2 gigs between 16/2/2004 and 20/2/2004"
+              ".\nSupport Bands : Alpha\nContent : Extravagant\nHospitality : None\n"
+              "Accommodation : Upmarket. Finalise the tour?");
+}
+
+TEST_F(HandTour, TheRoadFeedsAHabitAlreadyBegunUpToAHundred) {
+    g.band.read(band);
+    const int16_t m0 = g.band->members[0], m1 = g.band->members[1];
+    auto habit = [&](int16_t who, int value) {
+        g.artist.read(who);
+        g.artist->drugHabit = static_cast<uint8_t>(value);
+        g.artist->energy = 80;
+        g.artist.write();
+    };
+    auto habitOf = [&](int16_t who) {
+        g.artist.read(who);
+        return static_cast<int>(g.artist->drugHabit);
+    };
+    ScheduleRecord e{};
+    e.band = band;
+    for (uint8_t type : {8, 10, 11}) {
+        habit(m0, 5);
+        habit(m1, 0);
+        e.type = type;
+        applyEventFatigue(g, e);
+        EXPECT_EQ(habitOf(m0), 6) << int(type);
+        EXPECT_EQ(habitOf(m1), 0) << int(type);
+    }
+    habit(m0, 100);
+    e.type = 10;
+    applyEventFatigue(g, e);
+    EXPECT_EQ(habitOf(m0), 100);
+    habit(m0, 5);
+    e.type = 7;  // a studio day wears, but feeds nothing
+    applyEventFatigue(g, e);
+    EXPECT_EQ(habitOf(m0), 5);
+}
+
+std::optional<InvariantBreak> ruleOn(Game& g, std::string_view name) {
+    for (const InvariantRule& r : invariantRules())
+        if (std::string_view(r.name) == name) return r.check(g);
+    return InvariantBreak{.rule = "missing"};
+}
+
+TEST_F(Supports, TheCheckerFindsGigsOutOfOrderAndAFourthSupport) {
+    EXPECT_FALSE(ruleOn(g, "tourGigsInDateOrder").has_value());
+    g.gig.read(two);
+    g.gig->gigDate = first;  // the same day as the first gig
+    g.gig.write();
+    ASSERT_TRUE(ruleOn(g, "tourGigsInDateOrder").has_value());
+    EXPECT_EQ(ruleOn(g, "tourGigsInDateOrder")->field, "gigs[1]");
+    g.tour.read(t);
+    g.tour->supportCount = 3;
+    g.tour.write();
+    EXPECT_FALSE(ruleOn(g, "supportCountsWithinThree").has_value());
+    g.tour->supportCount = 4;
+    g.tour.write();
+    EXPECT_TRUE(ruleOn(g, "supportCountsWithinThree").has_value());
+}
+
+}  // namespace

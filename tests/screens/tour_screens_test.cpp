@@ -1,0 +1,138 @@
+// A tour booked on screen: from the signed band's panel through the area, two
+// venues with their dates, the finalising, the provisions with a sponsor, to
+// the tour's details with its days on the road.
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTableWidget>
+
+#include "screen_fixture.h"
+#include "screens/album_screens.h"
+#include "screens/choose_date.h"
+#include "screens/tour_screens.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::ScreenTest;
+
+namespace {
+
+int16_t addSignedBand(Game& g) {
+    g.artist.rec = ArtistRecord{};
+    g.artist->forename = std::string("Nia");
+    g.artist->surname = std::string("Hart");
+    g.artist->male = -1;
+    g.artist->energy = 100;
+    const auto artist = static_cast<int16_t>(g.artist.append());
+    g.band.rec = BandRecord{};
+    g.band->name = std::string("The Hartbeats");
+    g.band->label = g.player.playerLabel;
+    g.band->memberCount = 1;
+    g.band->members = {artist};
+    g.band->reputation = {30, 30, 30, 30, 30};
+    return static_cast<int16_t>(g.band.append());
+}
+
+int16_t addVenue(Game& g, const char* name, int16_t city) {
+    g.venue.rec = VenueRecord{};
+    g.venue->name = std::string(name);
+    g.venue->capacity = 800;
+    g.venue->city = city;
+    return static_cast<int16_t>(g.venue.append());
+}
+
+int rowOf(QTableWidget* t, const char* name) {
+    for (int r = 0; r < t->rowCount(); ++r)
+        if (t->item(r, 0)->text() == QLatin1String(name)) return r;
+    return -1;
+}
+
+}  // namespace
+
+TEST_F(ScreenTest, ATourFromTheBandsPanelToItsDetails) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    const int16_t band = addSignedBand(g);
+    const int16_t london = addVenue(g, "The Long Room", 1);  // London, England
+    const int16_t paris = addVenue(g, "Le Grand Salon", 3);  // Paris, France
+    g.product.rec = ProductRecord{};
+    g.product->name = std::string("Fizzco Cola");
+    g.product->area = std::string("E");
+    g.product->minimumReputation = 20;  // 20^4 / 5 = 32,000; / 100 = 320; + 450 = 770 a gig
+    g.product->maxControversy = 100;
+    g.product.append();
+
+    auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());
+    panel->show();
+    click(panel->lblTour);
+    auto* arrange = dialog<screens::frmArrangeTour>("frmArrangeTour");
+    ASSERT_NE(arrange, nullptr);
+    EXPECT_EQ(arrange->lblPrompt->text().toStdString(),
+              "Please choose the area you would like The Hartbeats to tour :-");
+    click(arrange->optAreas[6]);
+    EXPECT_FALSE(arrange->cmdAuto->isEnabled()) << "no assistant for Africa";
+    click(arrange->optAreas[1]);
+    EXPECT_TRUE(arrange->cmdAuto->isEnabled());
+    screenshotOf(arrange, "70_frmArrangeTour");
+    click(arrange->cmdOk);
+
+    auto* venues = dialog<screens::frmTourVenues>("frmTourVenues");
+    ASSERT_NE(venues, nullptr);
+    const double first = g.gameDate + 42;
+    for (auto [name, venue, date] :
+         {std::tuple{"The Long Room", london, first}, {"Le Grand Salon", paris, first + 3}}) {
+        venues->flxVenues->selectRow(rowOf(venues->flxVenues, name));
+        click(venues->cmdAddGig);
+        auto* calendar = dialog<screens::frmChooseDate>("frmChooseDate");
+        ASSERT_NE(calendar, nullptr);
+        emit calendar->dateChosen(date);
+        calendar->accept();
+        QApplication::processEvents();
+        auto* ask = dialog<screens::frmConfirm>("frmConfirm");
+        ASSERT_NE(ask, nullptr);
+        EXPECT_EQ(ask->windowTitle().toStdString(), "Confirm Gig Date");
+        EXPECT_TRUE(
+            ask->lblQuestion->text().startsWith(QStringLiteral("Are you sure you want The Hartbeats to play ")));
+        if (venue == paris) screenshotOf(ask, "72_frmConfirm_gig_date");
+        click(ask->cmdYes);
+    }
+    screenshotOf(venues, "71_frmTourVenues");
+    click(venues->cmdFinalise);
+    auto* finalise = dialog<screens::frmConfirm>("frmConfirm");
+    ASSERT_NE(finalise, nullptr);
+    EXPECT_EQ(finalise->windowTitle().toStdString(), "Finalise Tour");
+    EXPECT_TRUE(finalise->lblQuestion->text().endsWith(QStringLiteral(". Finalise the tour?")));
+    click(finalise->cmdYes);
+
+    auto* provisions = dialog<screens::frmChooseProvisions>("frmChooseProvisions");
+    ASSERT_NE(provisions, nullptr);
+    ASSERT_EQ(provisions->flxSponsors->rowCount(), 1);
+    EXPECT_FALSE(provisions->cmdConfirm->isEnabled()) << "a sponsor fits, so one must be chosen";
+    provisions->flxSponsors->selectRow(0);
+    EXPECT_TRUE(provisions->cmdConfirm->isEnabled());
+    provisions->cmbContent->setCurrentIndex(0);
+    screenshotOf(provisions, "73_frmChooseProvisions");
+    click(provisions->cmdConfirm);
+    auto* sponsor = dialog<screens::frmConfirm>("frmConfirm");
+    ASSERT_NE(sponsor, nullptr);
+    EXPECT_EQ(sponsor->lblQuestion->text().toStdString(),
+              "You have chosen Fizzco Cola to sponsor The Hartbeats's tour, they are willing to pay £1,540 (£770 per "
+              "gig) for this, finalise?");
+    click(sponsor->cmdYes);
+
+    auto* details = dialog<screens::frmTourDetails>("frmTourDetails");
+    ASSERT_NE(details, nullptr);
+    ASSERT_EQ(details->flxGigs->rowCount(), 2);
+    EXPECT_EQ(details->flxGigs->item(1, 0)->text().toStdString(), "Le Grand Salon");
+    // England to France: 3 days, so 2 of travel and none of rest.
+    EXPECT_EQ(details->flxGigs->item(1, 4)->data(Qt::DisplayRole).toInt(), 2);
+    EXPECT_EQ(details->flxGigs->item(1, 5)->data(Qt::DisplayRole).toInt(), 0);
+    EXPECT_TRUE(details->lblSummary->text().contains(QStringLiteral("Content : Extravagant")));
+    screenshotOf(details, "74_frmTourDetails");
+    g.band.read(band);
+    g.tour.read(g.tour.recordCount() - 1);
+    EXPECT_EQ(g.tour->gigCount, 2);
+    EXPECT_EQ(g.tour->sponsorProduct, 1);
+    click(details->cmdClose);
+}
