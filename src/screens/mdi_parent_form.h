@@ -91,6 +91,12 @@ public:
     bool bandListIsShortlist = false;
     // Band Details of an act, from a list or a panel.
     void openBand(int16_t band);
+    // The artist frmArtistDetails shows, and the way there.
+    int16_t artistOnScreen = 0;
+    void openArtist(int16_t artist);
+    // frmBirthday and frmHighScoreTable, over the screen on show.
+    void openBirthday();
+    void openHighScores();
     // The chart frmChartForm opens on (0 to 9).
     int chartShown = 0;
     // The label frmLabelDetails shows and the person frmStaffDetails shows.
