@@ -83,8 +83,6 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
         addFigure(grid, r++, tr("Ends"), QStringLiteral("lblAnnouncedEnd"),
                   tr("Retiring on %1").arg(qs(formatDate(d.announcedEnd, "d/m/yyyy"))), about);
     addFigure(grid, r++, tr("Current activity"), QStringLiteral("lblActivity"), qs(d.activity), about);
-    addFigure(grid, r++, tr("Best share"), QStringLiteral("lblBestShare"),
-              d.bestShare.empty() ? tr("None") : qs(d.bestShare), about);
     addFigure(grid, r++, tr("Age"), QStringLiteral("lblAge"), QString::number(d.age), about);
     const char* markets[] = {"UK", "US", "Europe", "Oceania", "Rest of the world"};
     QString reps;
@@ -98,15 +96,19 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
         for (const auto& c : d.complaints) feelings += (feelings.isEmpty() ? "" : "\n") + qs(c);
         addFigure(grid, r++, tr("Complaints"), QStringLiteral("lblComplaints"), feelings, about);
         QString attributes;
-        for (const auto& a : d.attributes)
-            attributes +=
-                QStringLiteral("%1%2 %3").arg(attributes.isEmpty() ? "" : "   ").arg(qs(a.caption)).arg(qs(a.value));
+        for (std::size_t i = 0; i < d.attributes.size(); ++i)
+            attributes += QStringLiteral("%1%2 %3")
+                              .arg(i == 0 ? "" : (i == 4 ? "\n" : "   "))
+                              .arg(qs(d.attributes[i].caption))
+                              .arg(qs(d.attributes[i].value));
         addFigure(grid, r++, tr("Attributes"), QStringLiteral("lblAttributes"), attributes, about);
     }
     if (d.asked) addFigure(grid, r++, tr("Asks"), QStringLiteral("lblDemands"), qs(d.asked->demands), about);
     grid->setColumnStretch(1, 1);
     about->content()->addLayout(grid);
     about->content()->addStretch(1);
+    // The figures keep their height; the lists below give way.
+    about->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     row->addWidget(about, 3);
 
     auto* side = new QVBoxLayout;
@@ -141,7 +143,7 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     interest->content()->addWidget(lstInterested);
     side->addWidget(interest, 1);
     row->addLayout(side, 2);
-    body()->addLayout(row, 1);
+    body()->addLayout(row, 3);
 
     auto* lower = new Card(this);
     auto* tabs = new QTabWidget(lower);
@@ -210,8 +212,12 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     for (const auto& a : d.achievements) lstAchievements->addItem(qs(formatDate(a.date, "d/m/yyyy") + "   " + a.text));
     if (d.achievements.empty()) lstAchievements->addItem(tr("No achievements yet."));
     tabs->addTab(lstAchievements, tr("Achievements"));
+    tabs->setMinimumHeight(150);
+    for (QWidget* list :
+         {static_cast<QWidget*>(flxDiscs), static_cast<QWidget*>(flxTours), static_cast<QWidget*>(lstAchievements)})
+        list->setMinimumHeight(80);
     lower->content()->addWidget(tabs);
-    body()->addWidget(lower, 1);
+    body()->addWidget(lower, 2);
 
     QPushButton* back = makeButton(QStringLiteral("cmdBack"), tr("Back"), Glyph::back, ButtonRole::secondary, this);
     headingExtras()->addWidget(back, 0, Qt::AlignTop);

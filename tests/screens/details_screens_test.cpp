@@ -2,8 +2,10 @@
 // question, the hall of fame, the birthday note and a story's answers.
 #include <QLabel>
 #include <QListWidget>
+#include <QTabWidget>
 #include <QTableWidget>
 
+#include "events/scores.h"
 #include "events/story_text.h"
 #include "floor/news_post.h"
 #include "schedule/schedule.h"
@@ -66,7 +68,12 @@ protected:
         click(window->sideBar()->cmdExtra);
         return window->sideBar()->extraPanel();
     }
-    QLabel* label(const char* name) { return qobject_cast<QLabel*>(findShown(name)); }
+    // A figure of the screen on show (the status bar has names of its own).
+    QLabel* label(const char* name) {
+        auto* l = window->currentScreenWidget()->findChild<QLabel*>(QString::fromLatin1(name));
+        EXPECT_NE(l, nullptr) << name;
+        return l;
+    }
     void shoot(const QString& name) {
         for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
             window->resize(size);
@@ -84,6 +91,7 @@ TEST_F(DetailsScreens, BandDetailsListsToursAndAMemberOpensArtistDetails) {
     EXPECT_EQ(tours->item(0, 1)->text(), "Headliner");
     EXPECT_EQ(tours->item(0, 2)->text(), "Europe");
     EXPECT_EQ(label("lblActivity")->text(), "None");
+    find<QTabWidget>("tabRecord")->setCurrentWidget(tours);
     shoot("40_frmBandDetails_tours");
 
     auto* members = find<QTableWidget>("flxArtists");
@@ -179,11 +187,16 @@ TEST_F(DetailsScreens, NoToTheImageQuestionFilesNothing) {
 }
 
 TEST_F(DetailsScreens, TheHallOfFameAndTheBirthdayNoteOpenFromTheGameOptions) {
+    updateHighScoreTable(*game);  // this career's row, as a day writes it
     click(window->sideBar()->btnGameOptions);
     click(window->sideBar()->gameOptions()->entry("lblHallOfFame"));
     auto* fame = dialog<screens::frmHighScoreTable>("frmHighScoreTable");
     ASSERT_NE(fame, nullptr);
     EXPECT_EQ(fame->flxScores->horizontalHeaderItem(0)->text(), "Pos");
+    ASSERT_GE(fame->flxScores->rowCount(), 1);
+    EXPECT_EQ(fame->markedRow, 0) << "the only career is this one, first";
+    EXPECT_EQ(fame->flxScores->item(0, 0)->text(), "1");
+    EXPECT_TRUE(fame->flxScores->item(0, 2)->font().bold());
     screenshotOf(fame, "44_frmHighScoreTable");
     fame->close();
 
