@@ -3,10 +3,12 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "browse/achievement_browse.h"
 #include "events/scores.h"
 #include "floor/formats.h"
 #include "live/venue_details.h"
@@ -141,6 +143,15 @@ frmBirthday::frmBirthday(Game& g, QWidget* parent) : QDialog(parent) {
     lblText->setTextFormat(Qt::PlainText);
     l->addWidget(lblText, 1);
     cmdOk = okRow(this, l);
+}
+
+QListWidget* achievementList(Game& g, int kind, int16_t who, QWidget* parent) {
+    auto* list = new QListWidget(parent);
+    list->setObjectName(QStringLiteral("lstAchievements"));
+    for (const AchievementRow& r : achievementsOf(g, kind, who))
+        list->addItem(qs(formatDate(r.date, "d/m/yyyy") + "   " + r.text));
+    if (list->count() == 0) list->addItem(QObject::tr("No achievements yet."));
+    return list;
 }
 
 QDialog* confirmImageAnalysis(QWidget* parent, const QString& question, std::function<void()> onYes) {

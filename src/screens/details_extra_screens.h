@@ -6,6 +6,7 @@
 #include <functional>
 
 class QLabel;
+class QListWidget;
 class QPushButton;
 class QTableWidget;
 
@@ -45,6 +46,10 @@ public:
     QLabel* lblText;
     QPushButton* cmdOk;
 };
+
+// lstAchievements: the achievements of a band, artist, label or staff member
+// (kind 0 to 3), newest first, each "d/m/yyyy   text".
+QListWidget* achievementList(Game& g, int kind, int16_t who, QWidget* parent);
 
 // frmConfirm in its "Confirm Image Analysis" mode: yes runs onYes. The
 // dialog is modal to the window and deletes itself.

@@ -13,6 +13,7 @@
 #include "screens/details_extra_screens.h"
 #include "screens/option_panels.h"
 #include "screens/side_bar.h"
+#include "support/calendar_world.h"
 #include "world/strings.h"
 
 namespace trovane::test {
@@ -239,6 +240,37 @@ TEST_F(DetailsScreens, AStorysAnswersShowTheirStatementsAndDefendPostsIt) {
     click(defend);
     g.news.read(g.news.recordCount() - 1);
     EXPECT_EQ(trim(g.news->text.value), "We stand by Sol Marsh.");
+}
+
+TEST_F(DetailsScreens, LabelAndStaffDetailsListTheirAchievementsNewestFirst) {
+    Game& g = *game;
+    auto addMark = [&](int kind, int16_t who, double date, const char* text) {
+        g.achieve.rec = AchievementRecord{};
+        g.achieve->kind = static_cast<uint8_t>(kind);
+        g.achieve->who = who;
+        g.achieve->date = date;
+        g.achieve->text = std::string(text);
+        g.achieve.append();
+    };
+    const double day = test::day(2004, 8, 1);
+    addMark(2, g.player.playerLabel, day, "First signing");
+    addMark(2, g.player.playerLabel, day + 2, "First hit");
+    addMark(3, g.player.playerStaff, day + 1, "Boss of the month");
+    click(window->sideBar()->btnLabelOptions);
+    ASSERT_EQ(screen(), Screen::frmLabelDetails);
+    auto* label = window->currentScreenWidget()->findChild<QListWidget*>("lstAchievements");
+    ASSERT_NE(label, nullptr);
+    ASSERT_EQ(label->count(), 2);
+    EXPECT_EQ(label->item(0)->text(), "3/8/2004   First hit");
+    EXPECT_EQ(label->item(1)->text(), "1/8/2004   First signing");
+
+    window->staffOnScreen = g.player.playerStaff;
+    window->openScreen(Screen::frmStaffDetails);
+    auto* staff = window->currentScreenWidget()->findChild<QListWidget*>("lstAchievements");
+    ASSERT_NE(staff, nullptr);
+    ASSERT_EQ(staff->count(), 1);
+    EXPECT_EQ(staff->item(0)->text(), "2/8/2004   Boss of the month");
+    shoot("47_frmStaffDetails_achievements");
 }
 
 }  // namespace trovane::test
