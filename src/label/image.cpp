@@ -112,6 +112,14 @@ int16_t bestLook(Game& g) {
 
 void deliverMarketingReports(Game& g) {
     const LookTable looks = readLookTable(g);
+    // The acts of each label that have not retired, in table order, gathered in one walk.
+    std::vector<std::vector<BandRecord>> actsOf(static_cast<std::size_t>(std::max(1, g.label.recordCount())));
+    for (int32_t b = 1; b < g.band.recordCount(); ++b) {
+        g.band.read(b);
+        const int16_t owner = g.band->label;
+        if (owner < 1 || owner >= g.label.recordCount() || g.band->retired != 0) continue;
+        actsOf[static_cast<std::size_t>(owner)].push_back(g.band.rec);
+    }
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         g.label.read(l);
         const bool player = l == g.player.playerLabel;
@@ -119,10 +127,8 @@ void deliverMarketingReports(Game& g) {
         int complaints = 0;
         std::string lines;
         bool done = false;
-        for (int32_t b = 1; b < g.band.recordCount() && !done; ++b) {
-            g.band.read(b);
-            if (g.band->label != l || g.band->retired != 0) continue;
-            const BandRecord band = g.band.rec;
+        for (std::size_t b = 0; b < actsOf[static_cast<std::size_t>(l)].size() && !done; ++b) {
+            const BandRecord& band = actsOf[static_cast<std::size_t>(l)][b];
             const int members = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
             for (int m = 0; m < members && !done; ++m) {
                 const int16_t who = band.members[static_cast<std::size_t>(m)];

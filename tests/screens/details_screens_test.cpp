@@ -13,6 +13,7 @@
 #include "screens/details_extra_screens.h"
 #include "screens/option_panels.h"
 #include "screens/side_bar.h"
+#include "session/save_load.h"
 #include "support/calendar_world.h"
 #include "world/strings.h"
 
@@ -130,6 +131,17 @@ TEST_F(DetailsScreens, ExtraOpensTheOptionsOfEachDetailsScreenAndClosesOnASecond
     panel = pressExtra();
     ASSERT_NE(panel, nullptr);
     EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned");
+
+    const int16_t rival = game->player.playerLabel == 1 ? 2 : 1;
+    ASSERT_LT(rival, game->label.recordCount());
+    game->band.read(theirs);
+    game->band->label = rival;
+    game->band.write();
+    window->openBand(theirs);
+    panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned") << "signed elsewhere";
+    EXPECT_FALSE(panel->entry("lblApproach")->isEnabled());
 
     window->openArtist(member(ours, 1));
     panel = pressExtra();
@@ -271,6 +283,19 @@ TEST_F(DetailsScreens, LabelAndStaffDetailsListTheirAchievementsNewestFirst) {
     ASSERT_EQ(staff->count(), 1);
     EXPECT_EQ(staff->item(0)->text(), "2/8/2004   Boss of the month");
     shoot("47_frmStaffDetails_achievements");
+}
+
+TEST_F(DetailsScreens, ASessionThatStartsOnThePlayersBirthdayOpensTheNote) {
+    Game& g = *game;
+    EXPECT_EQ(dialog("frmBirthday"), nullptr) << "the new game did not start on the player's day";
+    g.staff.read(g.player.playerStaff);
+    const CivilDate today = civilFromSerial(g.gameDate);
+    g.staff->birthDate = serialFromCivil(1970, today.month, today.day);
+    g.staff.write();
+    saveGame(g, 1, "Birthday");
+    window->loadSavedGame(1);
+    ASSERT_TRUE(waitFor([&] { return dialog("frmBirthday") != nullptr; }));
+    EXPECT_EQ(screen(), Screen::frmNews);
 }
 
 }  // namespace trovane::test
