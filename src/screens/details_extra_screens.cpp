@@ -62,10 +62,14 @@ frmVenueCard::frmVenueCard(Game& g, int16_t venue, QWidget* parent) : QDialog(pa
     lblName = makeBody(qs(d.name), this);
     lblName->setObjectName(QStringLiteral("lblName"));
     l->addWidget(lblName);
-    auto* facts = makeBody(tr("%1, %2   Capacity %3   Rating %4")
-                               .arg(qs(d.city), qs(d.country), qs(formatNumber(d.capacity, "###,###,##0")))
-                               .arg(d.rating),
-                           this);
+    QStringList place;
+    for (const std::string& part : {d.city, d.country})
+        if (!part.empty()) place << qs(part);
+    if (!place.isEmpty()) place.last() += QStringLiteral("   ");
+    auto* facts =
+        makeBody(place.join(QStringLiteral(", ")) +
+                     tr("Capacity %1   Rating %2").arg(qs(formatNumber(d.capacity, "###,###,##0"))).arg(d.rating),
+                 this);
     facts->setObjectName(QStringLiteral("lblFacts"));
     l->addWidget(facts);
     flxGigs = readOnlyTable({tr("Date"), tr("Headliner"), tr("Attendance"), tr("Quality")}, this);

@@ -241,6 +241,14 @@ void mdiParentForm::openBirthday() {
     note->open();
 }
 
+void mdiParentForm::openVenue(int16_t venue) {
+    if (venue < 1 || venue >= g_.venue.recordCount()) return;
+    frmVenueCard* card = nullptr;
+    if (!guarded([&] { card = new frmVenueCard(g_, venue, this); })) return;
+    card->setAttribute(Qt::WA_DeleteOnClose);
+    card->open();
+}
+
 void mdiParentForm::openHighScores() {
     auto* table = new frmHighScoreTable(g_, this);
     table->setAttribute(Qt::WA_DeleteOnClose);

@@ -97,6 +97,8 @@ public:
     // frmBirthday and frmHighScoreTable, over the screen on show.
     void openBirthday();
     void openHighScores();
+    // A venue's card (frmVenueCard), over the screen on show.
+    void openVenue(int16_t venue);
     // The chart frmChartForm opens on (0 to 9).
     int chartShown = 0;
     // The label frmLabelDetails shows and the person frmStaffDetails shows.

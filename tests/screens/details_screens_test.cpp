@@ -298,4 +298,30 @@ TEST_F(DetailsScreens, ASessionThatStartsOnThePlayersBirthdayOpensTheNote) {
     EXPECT_EQ(screen(), Screen::frmNews);
 }
 
+TEST_F(DetailsScreens, AVenueCardListsItsGigsLatestFirst) {
+    Game& g = *game;
+    g.venue.rec = VenueRecord{};
+    g.venue->name = std::string("The Marsh Hall");
+    g.venue->capacity = 2500;
+    const int16_t venue = static_cast<int16_t>(g.venue.append());
+    for (auto [date, attendance] : {std::pair{test::day(2004, 3, 2), 900}, {test::day(2004, 6, 9), 2100}}) {
+        const int32_t gig = test::addGig(g, ours, date);
+        g.gig.read(gig);
+        g.gig->venue = venue;
+        g.gig->attendance = attendance;
+        g.gig.write();
+    }
+    window->openVenue(venue);
+    auto* card = dialog<screens::frmVenueCard>("frmVenueCard");
+    ASSERT_NE(card, nullptr);
+    EXPECT_EQ(card->lblName->text(), "The Marsh Hall");
+    ASSERT_EQ(card->flxGigs->rowCount(), 2);
+    EXPECT_EQ(card->flxGigs->item(0, 0)->text(), "9/6/2004");
+    EXPECT_EQ(card->flxGigs->item(0, 1)->text(), "The Marsh Lights");
+    EXPECT_EQ(card->flxGigs->item(0, 2)->text(), "2,100");
+    EXPECT_EQ(card->flxGigs->item(1, 0)->text(), "2/3/2004");
+    screenshotOf(card, "48_frmVenueCard");
+    card->close();
+}
+
 }  // namespace trovane::test
