@@ -87,7 +87,7 @@ std::vector<TourLine> toursOf(Game& g, int16_t band) {
             if (!support) continue;
         }
         const std::string area = areaName(trim(tour.areaCode.value));
-        std::string name = area + " Tour";
+        std::string name = trim(area + " Tour");
         if (tour.festival > 0 && tour.festival < g.festival.recordCount()) {
             g.festival.read(tour.festival);
             name = trim(g.festival->festivalName.value);

@@ -51,6 +51,9 @@ void makeGame(const test::TempFolder& data) {
     g.gig->venue = 1;
     g.gig->attendance = 1234;
     g.gig.write();
+    g.tour.read(1);
+    g.tour->areaCode = std::string("O");
+    g.tour.write();
     writeSessionFile(g, workingSessionFile(g));
     closeAllTables(g);
 }
@@ -89,4 +92,19 @@ TEST(SimDetailsVerbs, VenueListsItsGigs) {
               "{\"id\":1,\"name\":\"The Hall\",\"city\":\"\",\"country\":\"\",\"capacity\":2500,\"rating\":0,"
               "\"gigs\":[{\"gig\":1,\"date\":\"2004-02-03\",\"headliner\":\"Ours\",\"attendance\":1234,"
               "\"quality\":0}]}\n");
+}
+
+TEST(SimDetailsVerbs, BandShowsItsToursActivityAndShare) {
+    test::TempFolder data;
+    makeGame(data);
+    auto [status, out] = sim(data, "band Ours --json");
+    EXPECT_EQ(status, 0) << out;
+    EXPECT_NE(out.find("\"activity\":\"None\",\"announcedEnd\":null,\"bestShare\":\"\""), std::string::npos) << out;
+    EXPECT_NE(out.find("\"tours\":[{\"tour\":1,\"name\":\"Oceania Tour\",\"role\":\"Headliner\",\"area\":"
+                       "\"Oceania\"}]"),
+              std::string::npos)
+        << out;
+    auto [status2, out2] = sim(data, "band Taken --json");
+    EXPECT_EQ(status2, 0) << out2;
+    EXPECT_NE(out2.find("\"tours\":[]"), std::string::npos) << out2;
 }
