@@ -104,32 +104,6 @@ TEST(BandDetailsFigures, OnlyThePlayersActsShowTheirAttributes) {
     EXPECT_TRUE(bandDetails(w.g, them).attributes.empty());
 }
 
-TEST(ArtistDetailsFigures, LookAndImageOnlyForThePlayersArtists) {
-    AlbumWorld w;
-    Game& g = w.g;
-    g.look.rec = LookRecord{};
-    g.look->name = std::string("Leather");
-    g.look.append();
-    const int16_t us = w.addBand("Us", AlbumWorld::kPlayer);
-    const int16_t them = w.addBand("Them", AlbumWorld::kRival);
-    for (int16_t b : {us, them}) {
-        g.band.read(b);
-        g.artist.read(g.band->members[0]);
-        g.artist->look = 1;
-        g.artist->imageRating = 64;
-        g.artist.write();
-    }
-    g.band.read(us);
-    const ArtistDetails mine = artistDetails(g, g.band->members[0]);
-    EXPECT_EQ(std::tuple(mine.players, mine.look, mine.imageRating, mine.band),
-              std::tuple(true, std::string("Leather"), 64, std::string("Us")));
-    g.band.read(them);
-    const ArtistDetails theirs = artistDetails(g, g.band->members[0]);
-    EXPECT_EQ(std::tuple(theirs.players, theirs.look, theirs.attributes.size()),
-              std::tuple(false, std::string(""), std::size_t{0}));
-    EXPECT_EQ(theirs.feelings, std::vector<std::string>{"Happy with conditions."});
-}
-
 TEST(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
     AlbumWorld w;
     Game& g = w.g;
