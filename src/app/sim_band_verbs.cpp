@@ -64,7 +64,16 @@ std::string detailsText(const BandDetails& d) {
     if (d.players) {
         out += fmt::format("Ability:    {}\nEnergy:     {}\n", d.ability, d.energy);
         for (const auto& c : d.complaints) out += "Feelings:   " + c + "\n";
+        for (const auto& a : d.attributes) out += fmt::format("{:<12}{}\n", a.caption + ":", a.value);
     }
+    out += "Activity:   " + d.activity + "\n";
+    if (d.announcedEnd > 0) out += "Ends:       " + formatDate(d.announcedEnd, "d/m/yyyy") + "\n";
+    for (const auto& f : d.record) out += fmt::format("{:<20}{}\n", f.caption + ":", f.value);
+    out += "Tours:\n";
+    if (d.tours.empty()) out += "  None\n";
+    for (const auto& t : d.tours) out += fmt::format("  {}  {}  {}\n", t.name, t.role, t.area);
+    if (!d.achievements.empty()) out += "Achievements:\n";
+    for (const auto& a : d.achievements) out += "  " + formatDate(a.date, "d/m/yyyy") + "  " + a.text + "\n";
     return out;
 }
 
@@ -93,8 +102,25 @@ std::string detailsJson(const BandDetails& d) {
         std::string complaints = "[";
         for (std::size_t i = 0; i < d.complaints.size(); ++i) complaints += (i ? "," : "") + jsonQuote(d.complaints[i]);
         out += fmt::format(",\"ability\":{},\"energy\":{},\"feelings\":{}]", d.ability, d.energy, complaints);
+        out += ",\"attributes\":{";
+        for (std::size_t i = 0; i < d.attributes.size(); ++i)
+            out += fmt::format("{}{}:{}", i ? "," : "", jsonQuote(d.attributes[i].caption), d.attributes[i].value);
+        out += "}";
     }
-    return out + "}";
+    out += fmt::format(",\"activity\":{},\"announcedEnd\":{},\"bestShare\":{}", jsonQuote(d.activity),
+                       d.announcedEnd > 0 ? jsonQuote(isoDate(d.announcedEnd)) : "null", jsonQuote(d.bestShare));
+    out += ",\"record\":{";
+    for (std::size_t i = 0; i < d.record.size(); ++i)
+        out += fmt::format("{}{}:{}", i ? "," : "", jsonQuote(d.record[i].caption), jsonQuote(d.record[i].value));
+    out += "},\"tours\":[";
+    for (std::size_t i = 0; i < d.tours.size(); ++i)
+        out += fmt::format("{}{{\"tour\":{},\"name\":{},\"role\":{},\"area\":{}}}", i ? "," : "", d.tours[i].tour,
+                           jsonQuote(d.tours[i].name), jsonQuote(d.tours[i].role), jsonQuote(d.tours[i].area));
+    out += "],\"achievements\":[";
+    for (std::size_t i = 0; i < d.achievements.size(); ++i)
+        out += fmt::format("{}{{\"date\":{},\"text\":{}}}", i ? "," : "", jsonQuote(isoDate(d.achievements[i].date)),
+                           jsonQuote(d.achievements[i].text));
+    return out + "]}";
 }
 
 // The panel of an unsigned act is there for scouting and the shortlist.

@@ -6,6 +6,7 @@
 
 #include "app/sim_context.h"
 #include "floor/preferences.h"
+#include "session/invariants.h"
 #include "session/session_record.h"
 #include "session/working_set_check.h"
 #include "world/record_dump.h"
@@ -77,6 +78,7 @@ Game& SimContext::openGame() {
     readPrefs(g);
     readSessionFile(g, workingSessionFile(g));
     openAllTables(g, "vel");
+    noteActiveActs(g);
     return g;
 }
 

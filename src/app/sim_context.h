@@ -99,7 +99,8 @@ void addTourVerbs(CLI::App& app, SimContext& ctx);  // tour, tours, tourinfo, un
 std::string labelStandingOf(Game& g, int32_t id, bool json);  // offers, list labels during a game
 void addBooksVerbs(CLI::App& app, SimContext& ctx);           // label, books, department, staff, approach, ...
 
-void addBrowseVerbs(CLI::App& app, SimContext& ctx);  // browse, image, birthday, highscores
+void addDetailsVerbs(CLI::App& app, SimContext& ctx);  // artist, venue
+void addBrowseVerbs(CLI::App& app, SimContext& ctx);   // browse, image, birthday, highscores
 // The body and the replies of an item that holds the calendar, for advance to print.
 std::string heldItemDetails(const NewsRecord& n, bool json);
 

@@ -234,6 +234,28 @@ void answerMediaStory(Game& g, int choice) {
         {.date = g.gameDate, .title = trim(g.player.playerLabelName.value) + " boss responds to media", .text = text});
 }
 
+std::string mediaStoryStatement(Game& g, int choice) {
+    const NewsRecord item = g.news.rec;
+    const EventRecord event = g.event.rec;
+    const ScheduleRecord entry = g.schedule.rec;
+    std::string text;
+    if (item.eventLink > 0 && item.eventLink < g.event.recordCount() && choice >= 0 && choice < 3) {
+        g.event.read(item.eventLink);
+        int16_t first = 0;
+        int16_t second = 0;
+        if (item.scheduleLink > 0 && item.scheduleLink < g.schedule.recordCount()) {
+            g.schedule.read(item.scheduleLink);
+            first = g.schedule->artist;
+            second = g.schedule->artist2;
+        }
+        text = expandMacros(g, g.event->replyText[static_cast<std::size_t>(choice)].value, first, second);
+    }
+    g.news.rec = item;
+    g.event.rec = event;
+    g.schedule.rec = entry;
+    return text;
+}
+
 bool deleteNewsItem(Game& g) {
     NewsRecord& n = g.news.rec;
     if (n.mustReply != kFalse && n.replied == kFalse) return false;

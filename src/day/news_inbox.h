@@ -82,6 +82,9 @@ inline void pressNewsCmd3(Game&) {}
 // defends the act, 1 condemns it. Posts the label's response, which is then
 // in the news buffer.
 void answerMediaStory(Game& g, int choice);
+// The statement answerMediaStory would post for the choice, with nothing
+// changed: the news, event and schedule buffers are kept.
+std::string mediaStoryStatement(Game& g, int choice);
 
 // cmdDelete: removes the open item from the list and returns to frmNews.
 // Refused (false) while a compulsory item is unanswered.

@@ -1,6 +1,8 @@
 #include "label/image.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <vector>
 
 #include "floor/news_post.h"
 #include "label/departments.h"
@@ -26,37 +28,98 @@ struct LookReading {
     int value = 0;  // through Marketing's error
 };
 
+// The looks and each style's liking for them, read once for a pass over many
+// artists: the first asslook row of a look and a style gives its bonus.
+struct LookTable {
+    std::vector<LookRecord> looks;  // in table order
+    std::unordered_map<uint32_t, int> bonus;
+};
+
+uint32_t bonusKey(int look, int style) { return (static_cast<uint32_t>(look) << 8) | static_cast<uint8_t>(style); }
+
+LookTable readLookTable(Game& g) {
+    LookTable t;
+    const LookRecord held = g.look.rec;
+    t.looks.reserve(static_cast<std::size_t>(std::max(0, g.look.recordCount() - 1)));
+    for (int32_t n = 1; n < g.look.recordCount(); ++n) {
+        g.look.read(n);
+        t.looks.push_back(g.look.rec);
+    }
+    g.look.rec = held;
+    const AssRecord heldAss = g.asslook.rec;
+    for (int32_t n = 1; n < g.asslook.recordCount(); ++n) {
+        g.asslook.read(n);
+        t.bonus.try_emplace(bonusKey(static_cast<uint16_t>(g.asslook->a), g.asslook->b), g.asslook->weight);
+    }
+    g.asslook.rec = heldAss;
+    return t;
+}
+
+// 50 less the distance of each attribute outside the look's bounds, plus the bonus.
+int rateAgainst(const ArtistRecord& a, const LookRecord& look, int bonus) {
+    // Attributes in the order of the look's bounds.
+    const int values[8] = {a.charisma, a.controversy, a.flair, a.dancing, a.live, a.attitude, a.angst, a.visual};
+    int penalty = 0;
+    for (std::size_t i = 0; i < 8; ++i) {
+        int low = look.bounds[2 * i], high = look.bounds[2 * i + 1];
+        if (values[i] < low)
+            penalty += low - values[i];
+        else if (values[i] > high)
+            penalty += values[i] - high;
+    }
+    return std::clamp(50 - penalty + bonus, 0, 100);
+}
+
+int16_t bestLookIn(Game& g, const LookTable& t, int* rated = nullptr) {
+    const ArtistRecord& a = g.artist.rec;
+    const uint8_t sex = a.male != 0 ? 1 : 2;
+    int16_t best = 0;
+    int bestRating = -1;
+    for (const LookRecord& look : t.looks) {
+        if (look.sex != 0 && look.sex != sex) continue;
+        const auto found = t.bonus.find(bonusKey(static_cast<uint16_t>(look.id), a.style));
+        const int rating = rateAgainst(a, look, found == t.bonus.end() ? 0 : found->second);
+        if (rating > bestRating) {
+            bestRating = rating;
+            best = look.id;
+        }
+    }
+    if (rated != nullptr) *rated = bestRating;
+    if (best != 0)
+        g.look.read(best);
+    else if (!t.looks.empty())
+        g.look.rec = t.looks.back();
+    return best;
+}
+
 // The best look for the artist in the buffer and Marketing's reading of it,
 // by the current label's department.
-LookReading readLook(Game& g) {
+LookReading readLook(Game& g, const LookTable& t) {
     LookReading r;
-    r.candidate = bestLook(g);
+    int rating = 0;
+    r.candidate = bestLookIn(g, t, &rating);
     if (r.candidate == 0) return r;
-    g.look.read(r.candidate);
-    r.value = applyDepartmentError(g, rateLook(g), marketing);
+    r.value = applyDepartmentError(g, rating, marketing);
     return r;
 }
 
 }  // namespace
 
 int16_t bestLook(Game& g) {
-    const uint8_t sex = g.artist->male != 0 ? 1 : 2;
-    int16_t best = 0;
-    int bestRating = -1;
-    for (int32_t n = 1; n < g.look.recordCount(); ++n) {
-        g.look.read(n);
-        if (g.look->sex != 0 && g.look->sex != sex) continue;
-        const int rating = rateLook(g);
-        if (rating > bestRating) {
-            bestRating = rating;
-            best = g.look->id;
-        }
-    }
-    if (best != 0) g.look.read(best);
-    return best;
+    const LookTable table = readLookTable(g);
+    return bestLookIn(g, table);
 }
 
 void deliverMarketingReports(Game& g) {
+    const LookTable looks = readLookTable(g);
+    // The acts of each label that have not retired, in table order, gathered in one walk.
+    std::vector<std::vector<BandRecord>> actsOf(static_cast<std::size_t>(std::max(1, g.label.recordCount())));
+    for (int32_t b = 1; b < g.band.recordCount(); ++b) {
+        g.band.read(b);
+        const int16_t owner = g.band->label;
+        if (owner < 1 || owner >= g.label.recordCount() || g.band->retired != 0) continue;
+        actsOf[static_cast<std::size_t>(owner)].push_back(g.band.rec);
+    }
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         g.label.read(l);
         const bool player = l == g.player.playerLabel;
@@ -64,17 +127,15 @@ void deliverMarketingReports(Game& g) {
         int complaints = 0;
         std::string lines;
         bool done = false;
-        for (int32_t b = 1; b < g.band.recordCount() && !done; ++b) {
-            g.band.read(b);
-            if (g.band->label != l || g.band->retired != 0) continue;
-            const BandRecord band = g.band.rec;
+        for (std::size_t b = 0; b < actsOf[static_cast<std::size_t>(l)].size() && !done; ++b) {
+            const BandRecord& band = actsOf[static_cast<std::size_t>(l)][b];
             const int members = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
             for (int m = 0; m < members && !done; ++m) {
                 const int16_t who = band.members[static_cast<std::size_t>(m)];
                 if (who < 1 || who >= g.artist.recordCount()) continue;
                 g.artist.read(who);
                 g.label.read(l);
-                const LookReading r = readLook(g);
+                const LookReading r = readLook(g, looks);
                 if (r.candidate != 0 && r.value > g.artist->imageRating) {
                     ++complaints;
                     if (!player) {
@@ -113,6 +174,26 @@ std::string checkImageAnalysis(Game& g, int16_t artist) {
     return {};
 }
 
+std::string imageAnalysisQuestion(Game& g, int16_t artist) {
+    g.artist.read(artist);
+    const ArtistRecord a = g.artist.rec;
+    std::string band;
+    int members = 0;
+    if (a.band > 0 && a.band < g.band.recordCount()) {
+        g.band.read(a.band);
+        band = trim(g.band->name.value);
+        members = g.band->memberCount;
+    }
+    std::string who = fullName(a);
+    if (members > 1 && a.job > 0 && a.job < g.job.recordCount()) {
+        g.job.read(a.job);
+        const std::string female = trim(g.job->titleFemale.value);
+        const std::string job = a.male != 0 || female.empty() ? trim(g.job->title.value) : female;
+        who = job + " " + who;
+    }
+    return "Are you sure you want your marketing department to analyse " + band + " " + who + "'s image?";
+}
+
 int32_t requestImageAnalysis(Game& g, int16_t artist) {
     ScheduleRecord r{};
     r.type = 9;
@@ -125,26 +206,17 @@ int32_t requestImageAnalysis(Game& g, int16_t artist) {
 uint8_t rateLook(Game& g) {
     const ArtistRecord& a = g.artist.rec;
     const LookRecord& look = g.look.rec;
-    // Attributes in the order of the look's bounds.
-    const int values[8] = {a.charisma, a.controversy, a.flair, a.dancing, a.live, a.attitude, a.angst, a.visual};
-    int penalty = 0;
-    for (std::size_t i = 0; i < 8; ++i) {
-        int low = look.bounds[2 * i], high = look.bounds[2 * i + 1];
-        if (values[i] < low)
-            penalty += low - values[i];
-        else if (values[i] > high)
-            penalty += values[i] - high;
-    }
-    int rating = 50 - penalty;
+    int bonus = 0;
     for (int32_t n = 1; n != g.asslook.recordCount(); ++n) {
         g.asslook.read(n);
         if (g.asslook->a == look.id && g.asslook->b == a.style) {
-            rating += g.asslook->weight;
+            bonus = g.asslook->weight;
             break;
         }
     }
-    return static_cast<uint8_t>(std::clamp(rating, 0, 100));
+    return static_cast<uint8_t>(rateAgainst(a, look, bonus));
 }
+
 void imageReport(Game& g) {
     ScheduleRecord entry = g.schedule.rec;
     if (entry.artist < 1 || entry.artist >= g.artist.recordCount() || entry.label < 1 ||
@@ -152,7 +224,7 @@ void imageReport(Game& g) {
         return;
     g.label.read(entry.label);
     g.artist.read(entry.artist);
-    const LookReading r = readLook(g);
+    const LookReading r = readLook(g, readLookTable(g));
     g.artist.read(entry.artist);
     const ArtistRecord a = g.artist.rec;
     const bool change = r.candidate != 0 && r.candidate != a.look && r.value > a.imageRating;

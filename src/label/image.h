@@ -18,6 +18,10 @@ int16_t bestLook(Game& g);
 
 // Why the player cannot ask for an analysis of the artist's image, or "".
 std::string checkImageAnalysis(Game& g, int16_t artist);
+// "Confirm Image Analysis"'s question for the artist: "Are you sure you want
+// your marketing department to analyse " + band + " " + job + " " + name +
+// "'s image?", where a solo act has only the name after the band.
+std::string imageAnalysisQuestion(Game& g, int16_t artist);
 // Files the image report (type 9) a week from today; returns its entry.
 int32_t requestImageAnalysis(Game& g, int16_t artist);
 

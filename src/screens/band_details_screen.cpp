@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -77,6 +78,11 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     addFigure(grid, r++, tr("Label"), QStringLiteral("lblLabel"), qs(d.label) + (d.retired ? tr(" (retired)") : ""),
               about);
     addFigure(grid, r++, tr("Formed"), QStringLiteral("lblFormed"), qs(d.formed), about);
+    if (d.retired) addFigure(grid, r++, tr("Status"), QStringLiteral("lblRetired"), tr("Retired"), about);
+    if (d.announcedEnd > 0)
+        addFigure(grid, r++, tr("Ends"), QStringLiteral("lblAnnouncedEnd"),
+                  tr("Retiring on %1").arg(qs(formatDate(d.announcedEnd, "d/m/yyyy"))), about);
+    addFigure(grid, r++, tr("Current activity"), QStringLiteral("lblActivity"), qs(d.activity), about);
     addFigure(grid, r++, tr("Age"), QStringLiteral("lblAge"), QString::number(d.age), about);
     const char* markets[] = {"UK", "US", "Europe", "Oceania", "Rest of the world"};
     QString reps;
@@ -89,11 +95,20 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
         QString feelings;
         for (const auto& c : d.complaints) feelings += (feelings.isEmpty() ? "" : "\n") + qs(c);
         addFigure(grid, r++, tr("Complaints"), QStringLiteral("lblComplaints"), feelings, about);
+        QString attributes;
+        for (std::size_t i = 0; i < d.attributes.size(); ++i)
+            attributes += QStringLiteral("%1%2 %3")
+                              .arg(i == 0 ? "" : (i == 4 ? "\n" : "   "))
+                              .arg(qs(d.attributes[i].caption))
+                              .arg(qs(d.attributes[i].value));
+        addFigure(grid, r++, tr("Attributes"), QStringLiteral("lblAttributes"), attributes, about);
     }
     if (d.asked) addFigure(grid, r++, tr("Asks"), QStringLiteral("lblDemands"), qs(d.asked->demands), about);
     grid->setColumnStretch(1, 1);
     about->content()->addLayout(grid);
     about->content()->addStretch(1);
+    // The figures keep their height; the lists below give way.
+    about->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     row->addWidget(about, 3);
 
     auto* side = new QVBoxLayout;
@@ -104,12 +119,19 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     flxArtists->setRowCount(static_cast<int>(d.members.size()));
     for (std::size_t i = 0; i < d.members.size(); ++i) {
         const int at = static_cast<int>(i);
-        flxArtists->setItem(at, 0, new QTableWidgetItem(qs(d.members[i].name)));
+        auto* name = new QTableWidgetItem(qs(d.members[i].name));
+        name->setData(Qt::UserRole, d.members[i].id);
+        flxArtists->setItem(at, 0, name);
         flxArtists->setItem(at, 1, new QTableWidgetItem(qs(d.members[i].job)));
         flxArtists->setItem(at, 2, new NumberItem(QString::number(d.members[i].age), d.members[i].age));
     }
     flxArtists->resizeColumnsToContents();
     flxArtists->horizontalHeader()->setStretchLastSection(true);
+    // Enter or a double click on a member opens "Artist Details".
+    connect(flxArtists, &QTableWidget::activated, this, [this, &main](const QModelIndex& index) {
+        if (!index.isValid()) return;
+        main.openArtist(static_cast<int16_t>(flxArtists->item(index.row(), 0)->data(Qt::UserRole).toInt()));
+    });
     members->content()->addWidget(flxArtists);
     side->addWidget(members, 2);
 
@@ -121,10 +143,14 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     interest->content()->addWidget(lstInterested);
     side->addWidget(interest, 1);
     row->addLayout(side, 2);
-    body()->addLayout(row, 1);
+    body()->addLayout(row, 3);
 
-    auto* discs = new Card(this);
-    discs->content()->addWidget(makeCaption(tr("Discs"), discs));
+    auto* lower = new Card(this);
+    auto* tabs = new QTabWidget(lower);
+    tabs->setObjectName(QStringLiteral("tabRecord"));
+    auto* discs = new QWidget(tabs);
+    auto* discsLayout = new QVBoxLayout(discs);
+    discsLayout->setContentsMargins(0, 6, 0, 0);
     flxDiscs = plainTable({tr("Title"), tr("Type"), tr("Released")}, discs);
     flxDiscs->setObjectName(QStringLiteral("flxDiscs"));
     main.guarded([&] {
@@ -151,8 +177,47 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
         main.discOnScreen = static_cast<int16_t>(flxDiscs->item(item->row(), 0)->data(Qt::UserRole).toInt());
         main.openScreen(Screen::frmDiscDetails);
     });
-    discs->content()->addWidget(flxDiscs);
-    body()->addWidget(discs, 1);
+    discsLayout->addWidget(flxDiscs);
+    tabs->addTab(discs, tr("Discs"));
+
+    // The tours headlined or supported; their rows open nothing yet.
+    flxTours = plainTable({tr("Name"), tr("Role"), tr("Area")}, tabs);
+    flxTours->setObjectName(QStringLiteral("flxTours"));
+    flxTours->setRowCount(static_cast<int>(d.tours.size()));
+    for (std::size_t i = 0; i < d.tours.size(); ++i) {
+        const int at = static_cast<int>(i);
+        auto* name = new QTableWidgetItem(qs(d.tours[i].name));
+        name->setData(Qt::UserRole, d.tours[i].tour);
+        flxTours->setItem(at, 0, name);
+        flxTours->setItem(at, 1, new QTableWidgetItem(qs(d.tours[i].role)));
+        flxTours->setItem(at, 2, new QTableWidgetItem(qs(d.tours[i].area)));
+    }
+    flxTours->resizeColumnsToContents();
+    flxTours->horizontalHeader()->setStretchLastSection(true);
+    tabs->addTab(flxTours, tr("Tours"));
+
+    auto* record = new QWidget(tabs);
+    auto* recordGrid = new QGridLayout(record);
+    recordGrid->setHorizontalSpacing(18);
+    recordGrid->setVerticalSpacing(6);
+    for (std::size_t i = 0; i < d.record.size(); ++i)
+        addFigure(recordGrid, static_cast<int>(i), qs(d.record[i].caption), QStringLiteral("lblRecord%1").arg(i),
+                  qs(d.record[i].value), record);
+    recordGrid->setColumnStretch(1, 1);
+    recordGrid->setRowStretch(static_cast<int>(d.record.size()), 1);
+    tabs->addTab(record, tr("Record"));
+
+    lstAchievements = new QListWidget(tabs);
+    lstAchievements->setObjectName(QStringLiteral("lstAchievements"));
+    for (const auto& a : d.achievements) lstAchievements->addItem(qs(formatDate(a.date, "d/m/yyyy") + "   " + a.text));
+    if (d.achievements.empty()) lstAchievements->addItem(tr("No achievements yet."));
+    tabs->addTab(lstAchievements, tr("Achievements"));
+    tabs->setMinimumHeight(150);
+    for (QWidget* list :
+         {static_cast<QWidget*>(flxDiscs), static_cast<QWidget*>(flxTours), static_cast<QWidget*>(lstAchievements)})
+        list->setMinimumHeight(80);
+    lower->content()->addWidget(tabs);
+    body()->addWidget(lower, 2);
 
     QPushButton* back = makeButton(QStringLiteral("cmdBack"), tr("Back"), Glyph::back, ButtonRole::secondary, this);
     headingExtras()->addWidget(back, 0, Qt::AlignTop);

@@ -19,6 +19,10 @@ public:
     // The act's discs, newest first; a row opens "Disc Details".
     QTableWidget* flxDiscs;
     QListWidget* lstInterested;
+    // The tours the act headlines or supports: name, role, area.
+    QTableWidget* flxTours;
+    // The act's achievements, newest first.
+    QListWidget* lstAchievements;
 };
 
 // Find's "Band Search" (every act) and "Shortlisted Bands" (the player's

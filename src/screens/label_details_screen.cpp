@@ -23,6 +23,7 @@
 
 #include "floor/formats.h"
 #include "label/departments.h"
+#include "screens/details_extra_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/theme.h"
@@ -77,6 +78,7 @@ frmLabelDetails::frmLabelDetails(mdiParentForm& main, int16_t label)
     tabs->addTab(departmentsTab(), tr("Departments"));
     // The player's own studios, plants and distribution firms, and building more.
     if (label_ == main_.game().player.playerLabel) tabs->addTab(new LabelFacilities(main_, tabs), tr("Facilities"));
+    main_.guarded([&] { tabs->addTab(achievementList(main_.game(), 2, label_, tabs), tr("Achievements")); });
     fill();
 }
 

@@ -13,13 +13,16 @@
 #include <memory>
 
 #include "day/daily_cycle.h"
+#include "events/scores.h"
 #include "floor/formats.h"
 #include "floor/preferences.h"
 #include "screens/band_browse_screens.h"
+#include "screens/artist_details_screen.h"
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
 #include "screens/browse_memory.h"
 #include "screens/chart_screens.h"
+#include "screens/details_extra_screens.h"
 #include "screens/disc_screens.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
@@ -233,6 +236,30 @@ void mdiParentForm::enterShell() {
     pages_->setCurrentWidget(shell_);
     tmrGameTime_->start();
     showCurrentScreen();
+    // A session that starts on the player's birthday opens with the note.
+    bool birthday = false;
+    guarded([&] { birthday = isPlayersBirthday(g_); });
+    if (birthday) openBirthday();
+}
+
+void mdiParentForm::openBirthday() {
+    auto* note = new frmBirthday(g_, this);
+    note->setAttribute(Qt::WA_DeleteOnClose);
+    note->open();
+}
+
+void mdiParentForm::openVenue(int16_t venue) {
+    if (venue < 1 || venue >= g_.venue.recordCount()) return;
+    frmVenueCard* card = nullptr;
+    if (!guarded([&] { card = new frmVenueCard(g_, venue, this); })) return;
+    card->setAttribute(Qt::WA_DeleteOnClose);
+    card->open();
+}
+
+void mdiParentForm::openHighScores() {
+    auto* table = new frmHighScoreTable(g_, this);
+    table->setAttribute(Qt::WA_DeleteOnClose);
+    table->open();
 }
 
 // ---------------------------------------------------------------- the running game
@@ -277,6 +304,7 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmSongBrowse:
     case Screen::frmFestivalBrowse:
     case Screen::frmCeremonyBrowse: return new frmTableBrowse(*this, s);
+    case Screen::frmArtistDetails: return new frmArtistDetails(*this, artistOnScreen);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.
@@ -318,6 +346,16 @@ void mdiParentForm::openBand(int16_t band) {
         return;
     }
     openScreen(Screen::frmBandDetails);
+}
+
+void mdiParentForm::openArtist(int16_t artist) {
+    artistOnScreen = artist;
+    if (g_.currentScreen == Screen::frmArtistDetails) {
+        sideBar_->CloseOtherWindows();
+        showCurrentScreen();
+        return;
+    }
+    openScreen(Screen::frmArtistDetails);
 }
 
 void mdiParentForm::openSaveScreen(bool loading) {

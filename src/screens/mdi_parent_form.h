@@ -91,6 +91,14 @@ public:
     bool bandListIsShortlist = false;
     // Band Details of an act, from a list or a panel.
     void openBand(int16_t band);
+    // The artist frmArtistDetails shows, and the way there.
+    int16_t artistOnScreen = 0;
+    void openArtist(int16_t artist);
+    // frmBirthday and frmHighScoreTable, over the screen on show.
+    void openBirthday();
+    void openHighScores();
+    // A venue's card (frmVenueCard), over the screen on show.
+    void openVenue(int16_t venue);
     // The chart frmChartForm opens on (0 to 9).
     int chartShown = 0;
     // The label frmLabelDetails shows and the person frmStaffDetails shows.

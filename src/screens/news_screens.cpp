@@ -233,6 +233,14 @@ frmNewsFull::frmNewsFull(mdiParentForm& main, QWidget* parent)
         b->setMinimumWidth(120);
         buttons->addWidget(b);
     }
+    // A media story: each answer shows the statement it would post.
+    if (item.kind == kNewsMediaStory) {
+        main.guarded([&] {
+            g.news.read(item_);
+            cmd1->setToolTip(qs(mediaStoryStatement(g, 0)));
+            cmd2->setToolTip(qs(mediaStoryStatement(g, 1)));
+        });
+    }
     c->addLayout(buttons);
     body()->addWidget(card);
     body()->addStretch(1);

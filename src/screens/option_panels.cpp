@@ -137,8 +137,14 @@ frmGameOptions::frmGameOptions(mdiParentForm& main, QWidget* parent)
         auto* dialog = new frmChangeCurrency(main);
         dialog->open();
     });
-    addEntry(QStringLiteral("lblHallOfFame"), tr("Hall of Fame"), Glyph::star);
-    addEntry(QStringLiteral("lblBirthday"), tr("Birthdays"), Glyph::calendar);
+    addEntry(QStringLiteral("lblHallOfFame"), tr("Hall of Fame"), Glyph::star, [&main] {
+        main.sideBar()->CloseOtherWindows();
+        main.openHighScores();
+    });
+    addEntry(QStringLiteral("lblBirthday"), tr("Birthdays"), Glyph::calendar, [&main] {
+        main.sideBar()->CloseOtherWindows();
+        main.openBirthday();
+    });
     addEntry(QStringLiteral("lblCredits"), tr("Credits"), Glyph::star,
              [&main] { main.openScreen(Screen::frmCredits); });
     addEntry(QStringLiteral("lblDisclaimer"), tr("Disclaimer"), Glyph::info,

@@ -6,10 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "screens/artist_details_screen.h"
 #include "screens/band_contract_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/option_panels.h"
+#include "screens/screen_page.h"
 #include "screens/staff_screens.h"
 #include "screens/theme.h"
 
@@ -142,9 +144,11 @@ bool frmSideBar::eventFilter(QObject* watched, QEvent* event) {
     return QFrame::eventFilter(watched, event);
 }
 
-// The options of what is on screen: a band's (Band Details) or a person's
-// (Staff Details, none on the player's own record). On a screen with no
-// options (the news, the save screen...) the button does nothing.
+// The options of what is on screen, by its caption: a band's (Band Details),
+// an artist's (Artist Details, the player's own only), a person's (Staff
+// Details, none on the player's own record) or a disc's (Disc Details, the
+// screen's own options). On a screen with no options (the news, the save
+// screen...) the button does nothing.
 void frmSideBar::extraOptions() {
     if (extraPanel_ && extraPanel_->isVisible()) {
         CloseOtherWindows();
@@ -152,11 +156,29 @@ void frmSideBar::extraOptions() {
     }
     CloseOtherWindows();
     delete extraPanel_;
-    if (main_.game().currentScreen == Screen::frmBandDetails)
+    const QString caption = screenCaption();
+    if (caption == QLatin1String("Band Details"))
         extraPanel_ = makeBandOptions(main_, panelHost_, main_.bandOnScreen);
-    else if (main_.game().currentScreen == Screen::frmStaffDetails)
+    else if (caption == QLatin1String("Artist Details"))
+        extraPanel_ = makeArtistOptions(main_, panelHost_, main_.artistOnScreen);
+    else if (caption == QLatin1String("Staff Details"))
         extraPanel_ = makeStaffOptions(main_, panelHost_, main_.staffOnScreen);
+    else if (caption == QLatin1String("Disc Details"))
+        return loadDiscOptions();
     if (extraPanel_) togglePanel(extraPanel_, cmdExtra);
+}
+
+// The caption of the screen on show: its title.
+QString frmSideBar::screenCaption() const {
+    auto* page = qobject_cast<ScreenPage*>(main_.currentScreenWidget());
+    return page && page->titleLabel() ? page->titleLabel()->text() : QString();
+}
+
+// Disc Details carries its own options: the same as its own button.
+void frmSideBar::loadDiscOptions() {
+    QWidget* screen = main_.currentScreenWidget();
+    auto* own = screen ? screen->findChild<QPushButton*>(QStringLiteral("cmdExtra")) : nullptr;
+    if (own && own->isEnabled()) own->click();
 }
 
 }  // namespace trovane::screens

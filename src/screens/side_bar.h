@@ -58,6 +58,8 @@ private:
     void placePanel(OptionPanel* panel, QPushButton* anchor);
     void syncChecks();
     void extraOptions();
+    QString screenCaption() const;
+    void loadDiscOptions();
 
     mdiParentForm& main_;
     QWidget* panelHost_;

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QIcon>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -14,6 +15,7 @@
 #include "floor/number_helpers.h"
 #include "label/departments.h"
 #include "label/staff.h"
+#include "screens/details_extra_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/option_panels.h"
@@ -149,7 +151,10 @@ frmStaffDetails::frmStaffDetails(mdiParentForm& main, int16_t staff)
     put(4, 0, tr("Aptitudes"), aptitudes.join(QStringLiteral("   ")), "lblAptitudesR");
     grid->setColumnStretch(3, 1);
     body()->addWidget(card);
-    body()->addStretch(1);
+    auto* marks = new Card(this);
+    marks->content()->addWidget(makeCaption(tr("Achievements"), marks));
+    main_.guarded([&] { marks->content()->addWidget(achievementList(main_.game(), 3, staff, marks)); });
+    body()->addWidget(marks, 1);
 }
 
 // ---------------------------------------------------------------- the options on a person

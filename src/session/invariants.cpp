@@ -8,6 +8,7 @@
 
 #include "label/departments.h"
 #include "label/finances.h"
+#include "schedule/schedule_types.h"
 #include "world/game.h"
 
 namespace trovane {
@@ -416,6 +417,58 @@ std::optional<InvariantBreak> recordingBandsNameTheirDisc(Game& g) {
     return std::nullopt;
 }
 
+// Every act that ends makes a new one, so the count of acts that have not
+// retired stays what it was when the game was made or opened.
+std::optional<InvariantBreak> activeActsKeepTheirCount(Game& g) {
+    if (g.activeActsAtStart < 0) return std::nullopt;
+    const int32_t now = countActiveActs(g);
+    if (now != g.activeActsAtStart)
+        return InvariantBreak{"band", 0, "retired", "activeActsKeepTheirCount",
+                              fmt::format("{} acts are active, the game began with {}", now, g.activeActsAtStart)};
+    return std::nullopt;
+}
+
+// The event type a story's stage belongs to: its root entry's event's type
+// (the stage's own when the root is out of reach), or -1 without an event.
+int storyTypeOf(Game& g, const ScheduleRecord& stage) {
+    int16_t ev = stage.eventRecord;
+    if (stage.offer > 0 && stage.offer < g.schedule.recordCount()) {
+        const ScheduleRecord root = copyOf(g.schedule, stage.offer);
+        if (root.type == static_cast<uint8_t>(ScheduleType::storyStage)) ev = root.eventRecord;
+    }
+    if (ev < 1 || ev >= g.event.recordCount()) return -1;
+    return copyOf(g.event, ev).eventType;
+}
+
+// An artist is marked under way in a story type exactly while a stage of a
+// story of that type, naming the artist in its cast, waits to be run.
+std::optional<InvariantBreak> storyMarksFollowPendingStages(Game& g) {
+    constexpr std::size_t kTypes = 11;
+    const int32_t artists = g.artist.recordCount() - 1;
+    std::vector<std::array<bool, kTypes>> pending(static_cast<std::size_t>(artists) + 1);
+    for (int32_t n = 1; n != g.schedule.recordCount(); ++n) {
+        const ScheduleRecord e = copyOf(g.schedule, n);
+        if (e.type != static_cast<uint8_t>(ScheduleType::storyStage) || e.date < g.gameDate) continue;
+        const int type = storyTypeOf(g, e);
+        if (type < 0 || type >= static_cast<int>(kTypes)) continue;
+        for (int16_t a : {e.artist, e.artist2})
+            if (a >= 1 && a <= artists) pending[static_cast<std::size_t>(a)][static_cast<std::size_t>(type)] = true;
+    }
+    for (int32_t n = 1; n <= artists; ++n) {
+        const ArtistRecord a = copyOf(g.artist, n);
+        for (std::size_t t = 0; t < kTypes; ++t) {
+            const bool marked = a.storyUnderWay[t] != 0;
+            const bool waits = pending[static_cast<std::size_t>(n)][t];
+            if (marked != waits)
+                return InvariantBreak{"artist", n, fmt::format("storyUnderWay[{}]", t), "storyMarksFollowPendingStages",
+                                      marked
+                                          ? fmt::format("holds {}, no stage of such a story waits", a.storyUnderWay[t])
+                                          : std::string("holds 0, a stage of such a story waits")};
+        }
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -435,6 +488,8 @@ constexpr std::array kRules = {
     InvariantRule{"looksAndAchievementsPointWithin", looksAndAchievementsPointWithin},
     InvariantRule{"actsAndMembersAgree", actsAndMembersAgree},
     InvariantRule{"recordingBandsNameTheirDisc", recordingBandsNameTheirDisc},
+    InvariantRule{"activeActsKeepTheirCount", activeActsKeepTheirCount},
+    InvariantRule{"storyMarksFollowPendingStages", storyMarksFollowPendingStages},
 };
 
 }  // namespace
@@ -443,6 +498,15 @@ std::string describeBreak(const InvariantBreak& b) {
     return fmt::format("table {}, record {}, field {}: rule {} broken ({})", b.table, b.record, b.field, b.rule,
                        b.detail);
 }
+
+int32_t countActiveActs(Game& g) {
+    int32_t active = 0;
+    for (int32_t n = 1; n != g.band.recordCount(); ++n)
+        if (copyOf(g.band, n).retired == kFalse) ++active;
+    return active;
+}
+
+void noteActiveActs(Game& g) { g.activeActsAtStart = countActiveActs(g); }
 
 std::span<const InvariantRule> invariantRules() { return kRules; }
 

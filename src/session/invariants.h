@@ -33,6 +33,12 @@ struct InvariantRule {
 // Every rule, in the order they are checked.
 std::span<const InvariantRule> invariantRules();
 
+// The bands that have not retired.
+int32_t countActiveActs(Game& g);
+
+// Notes countActiveActs as the count the game must keep.
+void noteActiveActs(Game& g);
+
 // The first break of the first rule that fails, or nothing.
 std::optional<InvariantBreak> checkInvariants(Game& g);
 

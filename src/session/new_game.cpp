@@ -24,6 +24,7 @@
 #include "production/songwriting.h"
 #include "schedule/schedule.h"
 #include "session/empty_world.h"
+#include "session/invariants.h"
 #include "talent/band_creation.h"
 #include "world/dates.h"
 #include "world/record_store.h"
@@ -388,6 +389,7 @@ void startNewGame(Game& g, StaffRecord player) {
     g.player.playerLabelCash = g.label->cashBalance;
     g.previousScreen = Screen::none;
     g.currentScreen = Screen::frmNews;
+    noteActiveActs(g);
     report(g, 100);
 }
 

@@ -11,6 +11,7 @@
 #include <fmt/format.h>
 
 #include "floor/preferences.h"
+#include "session/invariants.h"
 #include "session/session_record.h"
 #include "world/dates.h"
 #include "world/manifest.h"
@@ -243,6 +244,7 @@ void loadGame(Game& g, int slot) {
     commitStaging(staging, g.dataDir);
     applySessionRecord(g, session);
     openAllTables(g, "vel");
+    noteActiveActs(g);
 }
 
 std::string slotName(Game& g, int slot) {

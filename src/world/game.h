@@ -51,6 +51,7 @@ enum class Screen {
     frmSongBrowse,
     frmFestivalBrowse,
     frmCeremonyBrowse,
+    frmArtistDetails,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
@@ -131,6 +132,10 @@ public:
     int16_t currentYear = 0;
     Screen currentScreen = Screen::none;
     Screen previousScreen = Screen::none;
+    // The number of acts that had not retired when this game was made, loaded
+    // or opened; every act that ends makes another, so it holds all game.
+    // -1 for a world built by hand, which the count's rule leaves alone.
+    int32_t activeActsAtStart = -1;
 
     // The computer's calendar date as a day serial (the player's age and first
     // contract are reckoned from it when a game starts); tests fix it.

@@ -205,3 +205,30 @@ TEST_F(Image, AnotherLabelsArtistCannotBeAnalysed) {
 }
 
 }  // namespace
+
+TEST_F(Image, TheFirstLikingOfAStyleForALookCountsAndLaterRowsDoNot) {
+    int16_t plain = addLook("Plain", 0);      // 50
+    int16_t cape = addLook("Cape", 5, 0, 4);  // charisma 0 below 5: 45 + 4 = 49
+    g.asslook.rec = AssRecord{};              // a second row for the same look and style
+    g.asslook->a = static_cast<uint8_t>(cape);
+    g.asslook->b = static_cast<uint8_t>(rock);
+    g.asslook->weight = 10;  // would give 55
+    g.asslook.append();
+    g.artist.rec = ArtistRecord{};
+    g.artist->style = static_cast<uint8_t>(rock);
+    EXPECT_EQ(bestLook(g), plain);
+    g.look.read(cape);
+    EXPECT_EQ(rateLook(g), 49);
+}
+
+TEST_F(Image, TheAnalysisQuestionNamesTheJobInAGroupAndOnlyTheNameForASoloAct) {
+    const int16_t group = addAct(g, {.ranks = {1, 2}, .name = "The Testers"});
+    const int16_t solo = addAct(g, {.ranks = {1}, .name = "Solo"});
+    g.band.read(group);
+    const int16_t second = g.band->members[1];
+    EXPECT_EQ(imageAnalysisQuestion(g, second),
+              "Are you sure you want your marketing department to analyse The Testers Singer Member 2's image?");
+    g.band.read(solo);
+    EXPECT_EQ(imageAnalysisQuestion(g, g.band->members[0]),
+              "Are you sure you want your marketing department to analyse Solo Member 1's image?");
+}

@@ -179,7 +179,7 @@ TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {
     click(window->sideBar()->btnLabelOptions);
     ASSERT_EQ(screen(), Screen::frmLabelDetails);
     auto* page = find<screens::frmLabelDetails>("frmLabelDetails");
-    ASSERT_EQ(page->tabs->count(), 4);
+    ASSERT_EQ(page->tabs->count(), 5);  // Details, Finances, Departments, Facilities, Achievements
     EXPECT_EQ(page->tabs->tabText(3), "Facilities");
     page->tabs->setCurrentIndex(3);
     auto* facilities = find<screens::LabelFacilities>("LabelFacilities");

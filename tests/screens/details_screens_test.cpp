@@ -1,0 +1,327 @@
+// Band and Artist Details, the options of what is on screen, the image
+// question, the hall of fame, the birthday note and a story's answers.
+#include <QLabel>
+#include <QListWidget>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "events/scores.h"
+#include "events/story_text.h"
+#include "floor/news_post.h"
+#include "schedule/schedule.h"
+#include "screen_fixture.h"
+#include "screens/details_extra_screens.h"
+#include "screens/option_panels.h"
+#include "screens/side_bar.h"
+#include "session/save_load.h"
+#include "support/calendar_world.h"
+#include "world/strings.h"
+
+namespace trovane::test {
+
+namespace {
+
+// An act of two on the label: Rae 'Sparky' Marsh, a woman, and Sol Marsh.
+int16_t addAct(Game& g, const std::string& name, int16_t label) {
+    std::array<int16_t, 10> members{};
+    for (int i = 0; i < 2; ++i) {
+        g.artist.rec = ArtistRecord{};
+        g.artist->forename = i == 0 ? "Rae" : "Sol";
+        g.artist->nickname = i == 0 ? "Sparky" : "";
+        g.artist->surname = "Marsh";
+        g.artist->age = static_cast<uint8_t>(24 + i);
+        g.artist->male = i == 0 ? kFalse : kTrue;
+        g.artist->energy = 100;
+        g.artist->band = static_cast<int16_t>(g.band.recordCount());
+        members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
+    }
+    g.band.rec = BandRecord{};
+    g.band->name = name;
+    g.band->style = 1;
+    g.band->label = label;
+    g.band->memberCount = 2;
+    g.band->members = members;
+    g.band->reputation = {12, 3, 4, 2, 2};
+    return static_cast<int16_t>(g.band.append());
+}
+
+}  // namespace
+
+class DetailsScreens : public ScreenTest {
+protected:
+    int16_t ours = 0, theirs = 0;
+
+    void SetUp() override {
+        ScreenTest::SetUp();
+        startNewGameAsPlayer();
+        Game& g = *game;
+        ours = addAct(g, "The Marsh Lights", g.player.playerLabel);
+        theirs = addAct(g, "The Far Lights", 0);
+        g.tour.rec = TourRecord{};
+        g.tour->band = ours;
+        g.tour->areaCode = std::string("E");
+        g.tour.append();
+    }
+    int16_t member(int16_t band, int i) {
+        game->band.read(band);
+        return game->band->members[static_cast<std::size_t>(i)];
+    }
+    screens::OptionPanel* pressExtra() {
+        click(window->sideBar()->cmdExtra);
+        return window->sideBar()->extraPanel();
+    }
+    // A figure of the screen on show (the status bar has names of its own).
+    QLabel* label(const char* name) {
+        auto* l = window->currentScreenWidget()->findChild<QLabel*>(QString::fromLatin1(name));
+        EXPECT_NE(l, nullptr) << name;
+        return l;
+    }
+    void shoot(const QString& name) {
+        for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
+            window->resize(size);
+            QApplication::processEvents();
+            screenshotOf(window.get(), QStringLiteral("%1_%2x%3").arg(name).arg(size.width()).arg(size.height()));
+        }
+    }
+};
+
+TEST_F(DetailsScreens, BandDetailsListsToursAndAMemberOpensArtistDetails) {
+    window->openBand(ours);
+    auto* tours = find<QTableWidget>("flxTours");
+    ASSERT_EQ(tours->rowCount(), 1);
+    EXPECT_EQ(tours->item(0, 0)->text(), "Europe Tour");
+    EXPECT_EQ(tours->item(0, 1)->text(), "Headliner");
+    EXPECT_EQ(tours->item(0, 2)->text(), "Europe");
+    EXPECT_EQ(label("lblActivity")->text(), "None");
+    find<QTabWidget>("tabRecord")->setCurrentWidget(tours);
+    shoot("40_frmBandDetails_tours");
+
+    auto* members = find<QTableWidget>("flxArtists");
+    members->setCurrentCell(0, 0);
+    members->setFocus();
+    QTest::keyClick(members, Qt::Key_Return);
+    ASSERT_EQ(screen(), Screen::frmArtistDetails);
+    EXPECT_EQ(window->artistOnScreen, member(ours, 0));
+    EXPECT_EQ(label("lblName")->text(), "Rae 'Sparky' Marsh");
+    EXPECT_EQ(label("lblBorn")->text(), "Unknown");
+    EXPECT_EQ(find<QListWidget>("lstFeelings")->item(0)->text(), "Happy with conditions.");
+    EXPECT_NE(window->findChild<QLabel*>("lblImageRating"), nullptr) << "the player's artist";
+    shoot("41_frmArtistDetails");
+    click("cmdBack");
+    EXPECT_EQ(screen(), Screen::frmBandDetails);
+}
+
+TEST_F(DetailsScreens, AnotherLabelsArtistShowsNoImageAndHasNoOptions) {
+    window->openArtist(member(theirs, 1));
+    EXPECT_EQ(label("lblName")->text(), "Sol Marsh");
+    EXPECT_EQ(window->findChild<QLabel*>("lblImageRating"), nullptr);
+    EXPECT_EQ(pressExtra(), nullptr);
+}
+
+TEST_F(DetailsScreens, ExtraOpensTheOptionsOfEachDetailsScreenAndClosesOnASecondPress) {
+    window->openBand(ours);
+    screens::OptionPanel* panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->objectName(), "frmBandOptionsSigned");
+    EXPECT_TRUE(panel->isVisible());
+    click(window->sideBar()->cmdExtra);
+    EXPECT_FALSE(panel->isVisible());
+
+    window->openBand(theirs);
+    panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned");
+
+    const int16_t rival = game->player.playerLabel == 1 ? 2 : 1;
+    ASSERT_LT(rival, game->label.recordCount());
+    game->band.read(theirs);
+    game->band->label = rival;
+    game->band.write();
+    window->openBand(theirs);
+    panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned") << "signed elsewhere";
+    EXPECT_FALSE(panel->entry("lblApproach")->isEnabled());
+
+    window->openArtist(member(ours, 1));
+    panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->objectName(), "frmArtistOptionsSigned");
+    EXPECT_NE(panel->entry("lblChangeImage"), nullptr);
+    screenshotOf(window.get(), "42_frmArtistOptionsSigned");
+
+    window->staffOnScreen = game->player.playerStaff;
+    window->openScreen(Screen::frmStaffDetails);
+    EXPECT_EQ(pressExtra(), nullptr) << "the player's own record has no options";
+
+    window->openScreen(Screen::frmNews);
+    EXPECT_EQ(pressExtra(), nullptr) << "a screen without options";
+}
+
+TEST_F(DetailsScreens, ContinueClosesTheOptions) {
+    window->openArtist(member(ours, 0));
+    screens::OptionPanel* panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    continueOneDay();
+    EXPECT_FALSE(panel && panel->isVisible());
+}
+
+TEST_F(DetailsScreens, ChangeImageAsksAndYesFilesTheReportForAWeekOn) {
+    const int16_t rae = member(ours, 0);
+    window->openArtist(rae);
+    screens::OptionPanel* panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    const int32_t entries = game->schedule.recordCount();
+    click(panel->entry("lblChangeImage"));
+    QWidget* ask = dialog("frmConfirm");
+    ASSERT_NE(ask, nullptr);
+    EXPECT_EQ(ask->windowTitle(), "Confirm Image Analysis");
+    // No job in the tiny world's table for her: the name alone after the band.
+    EXPECT_EQ(ask->findChild<QLabel*>("lblQuestion")->text(),
+              "Are you sure you want your marketing department to analyse The Marsh Lights Rae Marsh's image?");
+    screenshotOf(ask, "43_frmConfirm_image");
+    click(ask->findChild<QPushButton*>("cmdYes"));
+    ASSERT_EQ(game->schedule.recordCount(), entries + 1);
+    game->schedule.read(entries);
+    EXPECT_EQ(std::tuple(game->schedule->type, game->schedule->date, game->schedule->label, game->schedule->artist),
+              std::tuple(uint8_t{9}, game->gameDate + 7, game->player.playerLabel, rae));
+}
+
+TEST_F(DetailsScreens, NoToTheImageQuestionFilesNothing) {
+    window->openArtist(member(ours, 0));
+    screens::OptionPanel* panel = pressExtra();
+    ASSERT_NE(panel, nullptr);
+    const int32_t entries = game->schedule.recordCount();
+    click(panel->entry("lblChangeImage"));
+    QWidget* ask = dialog("frmConfirm");
+    ASSERT_NE(ask, nullptr);
+    click(ask->findChild<QPushButton*>("cmdNo"));
+    EXPECT_EQ(game->schedule.recordCount(), entries);
+}
+
+TEST_F(DetailsScreens, TheHallOfFameAndTheBirthdayNoteOpenFromTheGameOptions) {
+    updateHighScoreTable(*game);  // this career's row, as a day writes it
+    click(window->sideBar()->btnGameOptions);
+    click(window->sideBar()->gameOptions()->entry("lblHallOfFame"));
+    auto* fame = dialog<screens::frmHighScoreTable>("frmHighScoreTable");
+    ASSERT_NE(fame, nullptr);
+    EXPECT_EQ(fame->flxScores->horizontalHeaderItem(0)->text(), "Pos");
+    ASSERT_GE(fame->flxScores->rowCount(), 1);
+    EXPECT_EQ(fame->markedRow, 0) << "the only career is this one, first";
+    EXPECT_EQ(fame->flxScores->item(0, 0)->text(), "1");
+    EXPECT_TRUE(fame->flxScores->item(0, 2)->font().bold());
+    screenshotOf(fame, "44_frmHighScoreTable");
+    fame->close();
+
+    click(window->sideBar()->btnGameOptions);
+    click(window->sideBar()->gameOptions()->entry("lblBirthday"));
+    auto* note = dialog<screens::frmBirthday>("frmBirthday");
+    ASSERT_NE(note, nullptr);
+    EXPECT_EQ(note->lblTitle->text(), QString::fromStdString(trim(game->player.playerForename.value)) + "'s Birthday");
+    screenshotOf(note, "45_frmBirthday");
+    note->close();
+}
+
+TEST_F(DetailsScreens, AStorysAnswersShowTheirStatementsAndDefendPostsIt) {
+    Game& g = *game;
+    g.event.rec = EventRecord{};
+    g.event->eventNumber = static_cast<int16_t>(g.event.recordCount());
+    g.event->participantCount = 1;
+    g.event->replyCount = 2;
+    g.event->replyText[0] = std::string("We stand by <an1>.");
+    g.event->replyText[1] = std::string("<an1> has let us all down.");
+    const int16_t event = static_cast<int16_t>(g.event.append());
+    ScheduleRecord stage{};
+    stage.type = 12;
+    stage.date = g.gameDate;
+    stage.eventRecord = event;
+    stage.artist = member(ours, 1);
+    const int32_t entry = addSchedule(g, stage);
+    postNews(g, {.date = g.gameDate,
+                 .title = "Sol Marsh in a row",
+                 .text = "A row.",
+                 .kind = kNewsMediaStory,
+                 .scheduleLink = entry,
+                 .eventLink = event});
+    window->newsItemOnScreen = g.news.recordCount() - 1;
+    window->openScreen(Screen::frmNewsFull);
+    auto* defend = find<QPushButton>("cmd1");
+    EXPECT_EQ(defend->toolTip(), "We stand by Sol Marsh.");
+    EXPECT_EQ(find<QPushButton>("cmd2")->toolTip(), "Sol Marsh has let us all down.");
+    shoot("46_frmNewsFull_story_answers");
+    click(defend);
+    g.news.read(g.news.recordCount() - 1);
+    EXPECT_EQ(trim(g.news->text.value), "We stand by Sol Marsh.");
+}
+
+TEST_F(DetailsScreens, LabelAndStaffDetailsListTheirAchievementsNewestFirst) {
+    Game& g = *game;
+    auto addMark = [&](int kind, int16_t who, double date, const char* text) {
+        g.achieve.rec = AchievementRecord{};
+        g.achieve->kind = static_cast<uint8_t>(kind);
+        g.achieve->who = who;
+        g.achieve->date = date;
+        g.achieve->text = std::string(text);
+        g.achieve.append();
+    };
+    const double day = test::day(2004, 8, 1);
+    addMark(2, g.player.playerLabel, day, "First signing");
+    addMark(2, g.player.playerLabel, day + 2, "First hit");
+    addMark(3, g.player.playerStaff, day + 1, "Boss of the month");
+    click(window->sideBar()->btnLabelOptions);
+    ASSERT_EQ(screen(), Screen::frmLabelDetails);
+    auto* label = window->currentScreenWidget()->findChild<QListWidget*>("lstAchievements");
+    ASSERT_NE(label, nullptr);
+    ASSERT_EQ(label->count(), 2);
+    EXPECT_EQ(label->item(0)->text(), "3/8/2004   First hit");
+    EXPECT_EQ(label->item(1)->text(), "1/8/2004   First signing");
+
+    window->staffOnScreen = g.player.playerStaff;
+    window->openScreen(Screen::frmStaffDetails);
+    auto* staff = window->currentScreenWidget()->findChild<QListWidget*>("lstAchievements");
+    ASSERT_NE(staff, nullptr);
+    ASSERT_EQ(staff->count(), 1);
+    EXPECT_EQ(staff->item(0)->text(), "2/8/2004   Boss of the month");
+    shoot("47_frmStaffDetails_achievements");
+}
+
+TEST_F(DetailsScreens, ASessionThatStartsOnThePlayersBirthdayOpensTheNote) {
+    Game& g = *game;
+    EXPECT_EQ(dialog("frmBirthday"), nullptr) << "the new game did not start on the player's day";
+    g.staff.read(g.player.playerStaff);
+    const CivilDate today = civilFromSerial(g.gameDate);
+    g.staff->birthDate = serialFromCivil(1970, today.month, today.day);
+    g.staff.write();
+    saveGame(g, 1, "Birthday");
+    window->loadSavedGame(1);
+    ASSERT_TRUE(waitFor([&] { return dialog("frmBirthday") != nullptr; }));
+    EXPECT_EQ(screen(), Screen::frmNews);
+}
+
+TEST_F(DetailsScreens, AVenueCardListsItsGigsLatestFirst) {
+    Game& g = *game;
+    g.venue.rec = VenueRecord{};
+    g.venue->name = std::string("The Marsh Hall");
+    g.venue->capacity = 2500;
+    const int16_t venue = static_cast<int16_t>(g.venue.append());
+    for (auto [date, attendance] : {std::pair{test::day(2004, 3, 2), 900}, {test::day(2004, 6, 9), 2100}}) {
+        const int32_t gig = test::addGig(g, ours, date);
+        g.gig.read(gig);
+        g.gig->venue = venue;
+        g.gig->attendance = attendance;
+        g.gig.write();
+    }
+    window->openVenue(venue);
+    auto* card = dialog<screens::frmVenueCard>("frmVenueCard");
+    ASSERT_NE(card, nullptr);
+    EXPECT_EQ(card->lblName->text(), "The Marsh Hall");
+    ASSERT_EQ(card->flxGigs->rowCount(), 2);
+    EXPECT_EQ(card->flxGigs->item(0, 0)->text(), "9/6/2004");
+    EXPECT_EQ(card->flxGigs->item(0, 1)->text(), "The Marsh Lights");
+    EXPECT_EQ(card->flxGigs->item(0, 2)->text(), "2,100");
+    EXPECT_EQ(card->flxGigs->item(1, 0)->text(), "2/3/2004");
+    screenshotOf(card, "48_frmVenueCard");
+    card->close();
+}
+
+}  // namespace trovane::test
