@@ -1,5 +1,7 @@
 #include "screens/band_details_screen.h"
 
+#include "screens/tour_screens.h"
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -180,7 +182,7 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     discsLayout->addWidget(flxDiscs);
     tabs->addTab(discs, tr("Discs"));
 
-    // The tours headlined or supported; their rows open nothing yet.
+    // The tours headlined or supported; a row opens the tour's details.
     flxTours = plainTable({tr("Name"), tr("Role"), tr("Area")}, tabs);
     flxTours->setObjectName(QStringLiteral("flxTours"));
     flxTours->setRowCount(static_cast<int>(d.tours.size()));
@@ -194,6 +196,10 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     }
     flxTours->resizeColumnsToContents();
     flxTours->horizontalHeader()->setStretchLastSection(true);
+    connect(flxTours, &QTableWidget::itemActivated, this, [this, &main](QTableWidgetItem* item) {
+        const auto tour = static_cast<int16_t>(flxTours->item(item->row(), 0)->data(Qt::UserRole).toInt());
+        (new frmTourDetails(main, tour))->open();
+    });
     tabs->addTab(flxTours, tr("Tours"));
 
     auto* record = new QWidget(tabs);

@@ -209,8 +209,11 @@ void frmTableBrowse::openRow(int32_t record) {
         }
         break;
     }
+    case Screen::frmArtistBrowse:
+    case Screen::frmRichList: main_.openArtist(static_cast<int16_t>(record)); break;
+    case Screen::frmVenueBrowse: main_.openVenue(static_cast<int16_t>(record)); break;
     default:
-        // Artists, venues, firms, media, festivals and ceremonies have no details screen here yet.
+        // Firms, media, festivals and ceremonies have no details screen here yet.
         break;
     }
 }
