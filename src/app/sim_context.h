@@ -93,6 +93,7 @@ void addLivesVerbs(CLI::App& app, SimContext& ctx);  // stories, story
 // then answered.
 bool answerHeldItem(Game& g);
 void addRivalVerbs(CLI::App& app, SimContext& ctx);
+void addMediaVerbs(CLI::App& app, SimContext& ctx);  // media, promote, appearances
 // During a game, what list labels adds to a label's row: bands/maxBands, cash,
 // reserve, targets, reputation, and the player's mark. Reads the label table.
 std::string labelStandingOf(Game& g, int32_t id, bool json);  // offers, list labels during a game

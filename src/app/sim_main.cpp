@@ -78,6 +78,7 @@ int main(int argc, char** argv) {
     addLiveVerbs(app, ctx);
     addLivesVerbs(app, ctx);
     addRivalVerbs(app, ctx);
+    addMediaVerbs(app, ctx);
     // --json is seen even when the command line fails before the parser reaches it.
     bool json = false;
     for (int i = 1; i < argc; ++i) json = json || std::strcmp(argv[i], "--json") == 0;

@@ -1,5 +1,6 @@
 #include "rivals/rival_touring.h"
 
+#include "rivals/rival_promotion.h"
 #include "world/game.h"
 
 namespace trovane {
@@ -22,10 +23,6 @@ AssistantTour planAssistantTour(Game& g, int16_t band, const std::string& areaCo
     return {.tour = 0, .question = {}, .refusal = "The assistant cannot plan tours yet."};
 }
 
-// Not built yet: rivals book no promotion until promotion is written.
-void bookAllPromotion(Game& g, int flags) {
-    static_cast<void>(g);
-    static_cast<void>(flags);
-}
+void bookAllPromotion(Game& g, int flags) { bookAllPromotionNow(g, flags); }
 
 }  // namespace trovane
