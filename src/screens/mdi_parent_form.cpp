@@ -17,6 +17,7 @@
 #include "floor/preferences.h"
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
+#include "screens/ceremony_screens.h"
 #include "screens/chart_screens.h"
 #include "screens/disc_screens.h"
 #include "screens/game_option_screens.h"
@@ -259,11 +260,12 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmLabelDetails: return new frmLabelDetails(*this, labelOnScreen);
     case Screen::frmStaffDetails: return new frmStaffDetails(*this, staffOnScreen);
     case Screen::frmStaffList: return new frmStaffList(*this);
-    case Screen::frmNews:
-    default:
-        // The award ceremony is not in this version: a day that ends in one ends on the news.
+    case Screen::frmAwardCeremony:
+        if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
         g_.currentScreen = Screen::frmNews;
         return new frmNews(*this);
+    case Screen::frmNews:
+    default: g_.currentScreen = Screen::frmNews; return new frmNews(*this);
     }
 }
 
