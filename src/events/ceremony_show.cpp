@@ -112,7 +112,8 @@ bool findSpeaker(Game& g, const AwardRecord& a, Speaker& sp) {
     sp.solo = g.band->memberCount < 2;
     if (sp.solo && g.band->memberCount == 1 && g.artist.readIfPresent(g.band->members[0]))
         sp.male = g.artist->male != 0;
-    takeBand(g, sp, 0);
+    // A solo act does not thank itself.
+    takeBand(g, sp, sp.solo ? g.band->members[0] : 0);
     return true;
 }
 

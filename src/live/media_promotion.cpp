@@ -284,6 +284,18 @@ int32_t bookAppearance(Game& g, int16_t media, double date, int kind) {
     return ids.empty() ? 0 : ids.front();
 }
 
+std::string mediaConfirmText(const std::string& band, const std::string& outlet, int kind, double date) {
+    static const char* const kPhrases[] = {
+        " to be the subject of an interview on ",
+        " to perform live on ",
+        " to do both an interview and a live performance on ",
+        " to appear in a small article in ",
+        " to appear in a large article in ",
+    };
+    const char* phrase = kind >= 0 && kind < 5 ? kPhrases[kind] : kPhrases[0];
+    return "You have selected " + band + phrase + outlet + " on " + formatDate(date, "d/m/yyyy") + " confirm?";
+}
+
 void performAppearance(Game& g) {
     const ScheduleRecord entry = g.schedule.rec;
     if (!g.band.readIfPresent(entry.band) || !g.media.readIfPresent(entry.media)) return;

@@ -62,6 +62,10 @@ std::string checkAppearance(Game& g, int16_t media, int kind, double date);
 // Files a type 17 for the current band (and its label) in the outlet; returns the entry.
 int32_t bookAppearance(Game& g, int16_t media, double date, int kind);
 
+// The question before a booking: "You have selected " + band + " to appear in
+// a large article in " + outlet + " on " + date + " confirm?" and so on by kind.
+std::string mediaConfirmText(const std::string& band, const std::string& outlet, int kind, double date);
+
 // Schedule type 17: the entry's band appears in the entry's outlet.
 void performAppearance(Game& g);
 

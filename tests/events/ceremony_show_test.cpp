@@ -146,8 +146,11 @@ TEST_F(Show, ASoloActOnTourSpeaksInTheSingular) {
     g.artist->male = 0;
     g.artist.write();
     busy(solo, 10);
-    EXPECT_EQ(speechOf(solo, "Ann Smith")[1],
+    auto lines = speechOf(solo, "Ann Smith");
+    EXPECT_EQ(lines[1],
               "Ann Smith is currently touring so couldn't be here tonight, however she did record this message...");
+    // No thank-you lines in the table: the opening, then ours, which does not thank herself.
+    EXPECT_EQ(lines.at(3), "And thanks to everyone at Our Records.'");
 }
 
 TEST_F(Show, AnyOtherEngagementMeansTheActCouldNotMakeIt) {

@@ -31,6 +31,17 @@ TEST(AppearanceEffect, AValueOf65MovesNothing) {
     EXPECT_FLOAT_EQ(appearanceEffect(80, 65, 40), 0.0f);
 }
 
+TEST(MediaConfirm, EachKindAsksInItsWords) {
+    double on = serialFromCivil(2005, 3, 9);
+    EXPECT_EQ(mediaConfirmText("The Testers", "Daily Beat", largeArticle, on),
+              "You have selected The Testers to appear in a large article in Daily Beat on 9/3/2005 confirm?");
+    EXPECT_EQ(mediaConfirmText("The Testers", "Sofa", bothKind, on),
+              "You have selected The Testers to do both an interview and a live performance on Sofa on 9/3/2005 "
+              "confirm?");
+    EXPECT_EQ(mediaConfirmText("Ann", "Sofa", interviewKind, on),
+              "You have selected Ann to be the subject of an interview on Sofa on 9/3/2005 confirm?");
+}
+
 TEST(IssueDays, EachFrequencyComesOutOnItsDays) {
     MediaRecord m{};
     auto day = [](unsigned month, unsigned d) { return serialFromCivil(2005, month, d); };
