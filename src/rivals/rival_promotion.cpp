@@ -1,5 +1,8 @@
 #include "rivals/rival_promotion.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "live/media_promotion.h"
 #include "schedule/band_calendar.h"
 #include "world/dates.h"
@@ -14,16 +17,27 @@ constexpr int kEnough = 150;
 
 }  // namespace
 
-int bookOutlet(Game& g, double day, double release, uint8_t kind, int value) {
+FreeDays freeDaysOf(Game& g, double from, double to) {
+    const BandRecord band = g.band.rec;
+    FreeDays out{.first = std::max(from, g.gameDate + 1)};
+    for (double d = out.first; d <= to; ++d) {
+        g.band.rec = band;
+        out.free.push_back(bandEngagement(g, 1, d) == 0);
+    }
+    g.band.rec = band;
+    return out;
+}
+
+int bookOutlet(Game& g, double day, double release, uint8_t kind, int value, FreeDays& days) {
     const BandRecord band = g.band.rec;
     const MediaRecord m = g.media.rec;
     if (band.retired != 0) return 0;
     for (double d = day; d >= release - kSixWeeks && d > g.gameDate; --d) {
-        if (!isIssueDay(m, d)) continue;
-        g.band.rec = band;
-        if (bandEngagement(g, 1, d) != 0) continue;
-        g.band.rec = band;
+        auto at = static_cast<std::ptrdiff_t>(d - days.first);
+        if (at < 0 || at >= static_cast<std::ptrdiff_t>(days.free.size())) continue;
+        if (!days.free[static_cast<std::size_t>(at)] || !isIssueDay(m, d)) continue;
         bookAppearance(g, m.mediaNumber, d, kind);
+        days.free[static_cast<std::size_t>(at)] = false;
         g.band.rec = band;
         g.media.rec = m;
         return value;
@@ -41,10 +55,14 @@ void bookRivalPromotion(Game& g, int territory) {
     if (release <= kNoDate) return;
     int demand = disc.promotion[t];
     if (demand > kEnough) return;
-    for (const MediaOffer& o : findMediaOffers(g, territory)) {
+    std::vector<MediaOffer> offers = findMediaOffers(g, territory);
+    if (offers.empty()) return;
+    g.band.rec = band;
+    FreeDays days = freeDaysOf(g, release - kSixWeeks, release - 1);
+    for (const MediaOffer& o : offers) {
         g.band.rec = band;
         g.media.read(o.media);
-        demand += bookOutlet(g, release - 1, release, o.kind, o.value);
+        demand += bookOutlet(g, release - 1, release, o.kind, o.value, days);
         if (demand > kEnough) break;
     }
     g.band.rec = band;

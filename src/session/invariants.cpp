@@ -393,8 +393,8 @@ std::optional<InvariantBreak> appearancesPointWithin(Game& g) {
     const int32_t bands = g.band.recordCount() - 1;
     const int32_t outlets = g.media.recordCount() - 1;
     for (int32_t n = 1; n != g.schedule.recordCount(); ++n) {
+        if (g.schedule.bytesOf(n)[0] != 17) continue;  // the type is the record's first byte
         const ScheduleRecord e = copyOf(g.schedule, n);
-        if (e.type != 17) continue;
         if (e.band < 1 || e.band > bands)
             return outside("schedule", n, "band", "appearancesPointWithin", e.band, bands);
         if (e.media < 1 || e.media > outlets)
