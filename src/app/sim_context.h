@@ -94,6 +94,7 @@ void addLivesVerbs(CLI::App& app, SimContext& ctx);  // stories, story
 bool answerHeldItem(Game& g);
 void addRivalVerbs(CLI::App& app, SimContext& ctx);
 void addTourVerbs(CLI::App& app, SimContext& ctx);  // tour, tours, tourinfo, unsupport, sponsors
+void addMediaVerbs(CLI::App& app, SimContext& ctx);  // media, promote, appearances
 // During a game, what list labels adds to a label's row: bands/maxBands, cash,
 // reserve, targets, reputation, and the player's mark. Reads the label table.
 std::string labelStandingOf(Game& g, int32_t id, bool json);  // offers, list labels during a game

@@ -80,6 +80,7 @@ int main(int argc, char** argv) {
     addRivalVerbs(app, ctx);
     addTourVerbs(app, ctx);
     addDetailsVerbs(app, ctx);
+    addMediaVerbs(app, ctx);
     // --json is seen even when the command line fails before the parser reaches it.
     bool json = false;
     for (int i = 1; i < argc; ++i) json = json || std::strcmp(argv[i], "--json") == 0;

@@ -23,6 +23,18 @@ namespace trovane::sim {
 
 namespace {
 
+// The ceremony night the player watched today: {"id", "name", "steps": [[line, ...]]}.
+std::string showJson(Game& g) {
+    std::string name = g.ceremony.readIfPresent(g.showCeremony) ? trim(g.ceremony->name.value) : "";
+    std::string out = fmt::format("{{\"id\":{},\"name\":{},\"steps\":[", g.showCeremony, jsonQuote(name));
+    for (std::size_t i = 0; i < g.showSteps.size(); ++i) {
+        out += i ? ",[" : "[";
+        for (std::size_t k = 0; k < g.showSteps[i].size(); ++k) out += (k ? "," : "") + jsonQuote(g.showSteps[i][k]);
+        out += "]";
+    }
+    return out + "]}";
+}
+
 // The options of each verb, held by the verb's callback.
 struct AdvanceOptions {
     int days = 1;
@@ -98,6 +110,7 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
             }
             double day = g.gameDate;
             steps.clear();
+            g.showCeremony = 0;
             checkDaysSchedule(g);
             // Each day reaches the disk whole: a run killed later keeps it.
             commitWorkingGame(g);
@@ -115,13 +128,19 @@ void addWorldVerbs(CLI::App& app, SimContext& ctx) {
                     for (std::size_t i = 0; i < steps.size(); ++i) json += (i ? "," : "") + jsonQuote(steps[i]);
                     json += "]";
                 }
+                if (g.showCeremony > 0) json += ",\"ceremony\":" + showJson(g);
                 json += "}";
             } else {
                 std::printf("%s", formatDate(day, "dddd d/m/yyyy").c_str());
                 if (trace)
                     for (const auto& s : steps) std::printf("\n  %s", s.c_str());
                 std::printf("\n");
+                if (g.showCeremony > 0)
+                    for (const auto& step : g.showSteps)
+                        for (const auto& line : step) std::printf("  %s\n", line.c_str());
             }
+            // The night has been shown; the run goes on from the news.
+            if (g.showCeremony > 0 && g.currentScreen == Screen::frmAwardCeremony) g.currentScreen = g.previousScreen;
         }
         if (ctx.json) std::printf("%s]\n", json.c_str());
         ctx.closeGame();

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "events/ceremony_judging.h"
+#include "events/ceremony_show.h"
 #include "events/scores.h"
 #include "floor/formats.h"
 #include "floor/news_post.h"
@@ -57,7 +58,8 @@ void scheduleCeremonies(Game& g, int year) {
 void inviteToCeremony(Game& g) {
     const ScheduleRecord entry = g.schedule.rec;
     if (!g.ceremony.readIfPresent(entry.ceremony)) return;
-    int year = yearOf(entry.date);
+    // The night is three weeks on, which may be in the next year.
+    int year = yearOf(entry.date + kInvitationNotice);
     const auto& c = g.ceremony->calendar;
     double night = ceremonyNight(year, c[0], c[1]);
     g.ceremony->date = night;
@@ -115,6 +117,12 @@ void finishCeremony(Game& g) {
     const CeremonyRecord ceremony = g.ceremony.rec;
     const auto year = static_cast<int16_t>(yearOf(g.gameDate));
     const std::string ceremonyName = trim(ceremony.name.value);
+    // The show is built first: an act that wins tonight has not won before.
+    const bool attended = ceremony.playerInvited == kTrue;
+    if (attended) {
+        g.showSteps = buildCeremonyShow(g, ceremony.id, g.gameDate);
+        g.showCeremony = ceremony.id;
+    }
     for (int16_t award : ceremony.awards) {
         if (award < 1 || !g.award.readIfPresent(award)) continue;
         g.award->held = year;
@@ -132,7 +140,7 @@ void finishCeremony(Game& g) {
     g.ceremony.read(ceremony.id);
     g.ceremony->held = year;
     g.ceremony.write();
-    if (ceremony.playerInvited == kTrue) {
+    if (attended) {
         g.previousScreen = Screen::frmNews;
         g.currentScreen = Screen::frmAwardCeremony;
     }

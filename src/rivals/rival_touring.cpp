@@ -9,6 +9,7 @@
 #include "floor/news_post.h"
 #include "live/tour_planner.h"
 #include "live/tours.h"
+#include "rivals/rival_promotion.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -176,10 +177,6 @@ AssistantTour planAssistantTour(Game& g, int16_t band, const std::string& areaCo
     return out;
 }
 
-// Not built yet: rivals book no promotion until promotion is written.
-void bookAllPromotion(Game& g, int flags) {
-    static_cast<void>(g);
-    static_cast<void>(flags);
-}
+void bookAllPromotion(Game& g, int flags) { bookAllPromotionNow(g, flags); }
 
 }  // namespace trovane

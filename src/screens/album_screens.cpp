@@ -17,6 +17,7 @@
 #include "screens/disc_screens.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
+#include "screens/media_screens.h"
 #include "screens/theme.h"
 #include "screens/tour_screens.h"
 #include "world/strings.h"
@@ -88,7 +89,10 @@ frmBandOptionsSigned::frmBandOptionsSigned(mdiParentForm& main, int16_t band, QW
         else
             (new frmArrangeTour(main_, band_))->open();
     });
-    lblPromote = addEntry(QStringLiteral("lblPromote"), tr("Promote"), Glyph::star);
+    lblPromote = addEntry(QStringLiteral("lblPromote"), tr("Promote"), Glyph::star, [this] {
+        hide();
+        (new frmPromotion(main_, band_))->open();
+    });
     lblAlbum->setEnabled(b.albumStatus < 1 || b.albumStatus > 3);
     lblAlbumProgress->setEnabled(b.songsWritten != 0);
     if (b.albumStatus == 3) lblAlbumProgress->setText(tr("Release Album"));

@@ -21,6 +21,7 @@
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
 #include "screens/browse_memory.h"
+#include "screens/ceremony_screens.h"
 #include "screens/chart_screens.h"
 #include "screens/details_extra_screens.h"
 #include "screens/disc_screens.h"
@@ -305,11 +306,12 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmFestivalBrowse:
     case Screen::frmCeremonyBrowse: return new frmTableBrowse(*this, s);
     case Screen::frmArtistDetails: return new frmArtistDetails(*this, artistOnScreen);
-    case Screen::frmNews:
-    default:
-        // The award ceremony is not in this version: a day that ends in one ends on the news.
+    case Screen::frmAwardCeremony:
+        if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
         g_.currentScreen = Screen::frmNews;
         return new frmNews(*this);
+    case Screen::frmNews:
+    default: g_.currentScreen = Screen::frmNews; return new frmNews(*this);
     }
 }
 

@@ -469,6 +469,39 @@ std::optional<InvariantBreak> storyMarksFollowPendingStages(Game& g) {
     return std::nullopt;
 }
 
+// An award keeps at most ten nominees, each scored 0 to 100.
+std::optional<InvariantBreak> awardsHoldTheirNominees(Game& g) {
+    for (int32_t n = 1; n != g.award.recordCount(); ++n) {
+        const AwardRecord a = copyOf(g.award, n);
+        if (a.nomineeCount > a.nominees.size())
+            return InvariantBreak{"award", n, "nomineeCount", "awardsHoldTheirNominees",
+                                  fmt::format("{}, above 10", a.nomineeCount)};
+        for (std::size_t i = 0; i < a.nomineeCount; ++i)
+            if (a.scores[i] > 100)
+                return InvariantBreak{"award", n, fmt::format("scores[{}]", i), "awardsHoldTheirNominees",
+                                      fmt::format("{}, above 100", a.scores[i])};
+    }
+    return std::nullopt;
+}
+
+// An appearance in the media names an act, an outlet and one of the five kinds.
+std::optional<InvariantBreak> appearancesPointWithin(Game& g) {
+    const int32_t bands = g.band.recordCount() - 1;
+    const int32_t outlets = g.media.recordCount() - 1;
+    for (int32_t n = 1; n != g.schedule.recordCount(); ++n) {
+        if (g.schedule.bytesOf(n)[0] != 17) continue;  // the type is the record's first byte
+        const ScheduleRecord e = copyOf(g.schedule, n);
+        if (e.band < 1 || e.band > bands)
+            return outside("schedule", n, "band", "appearancesPointWithin", e.band, bands);
+        if (e.media < 1 || e.media > outlets)
+            return outside("schedule", n, "media", "appearancesPointWithin", e.media, outlets);
+        if (e.mediaOption > 4)
+            return InvariantBreak{"schedule", n, "mediaOption", "appearancesPointWithin",
+                                  fmt::format("{}, above 4", e.mediaOption)};
+    }
+    return std::nullopt;
+}
+
 constexpr std::array kRules = {
     InvariantRule{"playerCashIsTheLabels", playerCashIsTheLabels},
     InvariantRule{"labelCashMatchesLedger", labelCashMatchesLedger},
@@ -490,6 +523,8 @@ constexpr std::array kRules = {
     InvariantRule{"recordingBandsNameTheirDisc", recordingBandsNameTheirDisc},
     InvariantRule{"activeActsKeepTheirCount", activeActsKeepTheirCount},
     InvariantRule{"storyMarksFollowPendingStages", storyMarksFollowPendingStages},
+    InvariantRule{"awardsHoldTheirNominees", awardsHoldTheirNominees},
+    InvariantRule{"appearancesPointWithin", appearancesPointWithin},
 };
 
 }  // namespace

@@ -6,7 +6,9 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "world/random.h"
 #include "world/records.h"
@@ -136,6 +138,10 @@ public:
     // or opened; every act that ends makes another, so it holds all game.
     // -1 for a world built by hand, which the count's rule leaves alone.
     int32_t activeActsAtStart = -1;
+    // The last ceremony night the player attended, as frmAwardCeremony plays
+    // it: the ceremony's number and its lines, step by step. Not saved.
+    int16_t showCeremony = 0;
+    std::vector<std::vector<std::string>> showSteps;
 
     // The computer's calendar date as a day serial (the player's age and first
     // contract are reckoned from it when a game starts); tests fix it.

@@ -1,0 +1,213 @@
+// Appearances in the media: what they are worth, who is offered one, the days
+// outlets come out, the rivals' bookings and the night itself.
+#include <gtest/gtest.h>
+
+#include "floor/news_post.h"
+#include "live/media_promotion.h"
+#include "rivals/rival_promotion.h"
+#include "schedule/schedule.h"
+#include "support/gig_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+TEST(AppearanceEffect, ARepOfZeroCountsAsOne) {
+    // q = (1 / 1)^3 = 1: (-(25) x 65 + 75 x 35) / 10000 = 0.1.
+    EXPECT_FLOAT_EQ(appearanceEffect(1, 75, 0), 0.1f);
+    EXPECT_FLOAT_EQ(appearanceEffect(2, 75, 0), 0.8f);  // q = 8
+}
+
+TEST(AppearanceEffect, IsHeldAtTwentyEitherWay) {
+    EXPECT_FLOAT_EQ(appearanceEffect(100, 95, 1), 20.0f);   // 1,000,000 x 0.30
+    EXPECT_FLOAT_EQ(appearanceEffect(100, 30, 1), -20.0f);  // 1,000,000 x -0.35
+    // q = (60 / 40)^3 = 3.375: (-15 x 3.375 x 65 + 85 x 3.375 x 35) / 10000 = 0.675.
+    EXPECT_FLOAT_EQ(appearanceEffect(60, 85, 40), 0.675f);
+}
+
+TEST(AppearanceEffect, AValueOf65MovesNothing) {
+    // q = 8: (-35 x 8 x 65 + 65 x 8 x 35) / 10000 = 0.
+    EXPECT_FLOAT_EQ(appearanceEffect(80, 65, 40), 0.0f);
+}
+
+TEST(MediaConfirm, EachKindAsksInItsWords) {
+    double on = serialFromCivil(2005, 3, 9);
+    EXPECT_EQ(mediaConfirmText("The Testers", "Daily Beat", largeArticle, on),
+              "You have selected The Testers to appear in a large article in Daily Beat on 9/3/2005 confirm?");
+    EXPECT_EQ(mediaConfirmText("The Testers", "Sofa", bothKind, on),
+              "You have selected The Testers to do both an interview and a live performance on Sofa on 9/3/2005 "
+              "confirm?");
+    EXPECT_EQ(mediaConfirmText("Ann", "Sofa", interviewKind, on),
+              "You have selected Ann to be the subject of an interview on Sofa on 9/3/2005 confirm?");
+}
+
+TEST(IssueDays, EachFrequencyComesOutOnItsDays) {
+    MediaRecord m{};
+    auto day = [](unsigned month, unsigned d) { return serialFromCivil(2005, month, d); };
+    m.frequency = 0;
+    EXPECT_TRUE(isIssueDay(m, day(3, 1)));
+    m.frequency = 1;
+    m.airDay = {0, 0, -1, 0, 0, 0, 0};  // Wednesdays
+    EXPECT_TRUE(isIssueDay(m, day(3, 2)));
+    EXPECT_FALSE(isIssueDay(m, day(3, 1)));  // a Tuesday
+    EXPECT_TRUE(isIssueDay(m, day(3, 9)));
+    m.frequency = 2;
+    m.issueMonth = 5;  // the second Thursday: 3 March is the first
+    m.issueWeek = 2;
+    EXPECT_TRUE(isIssueDay(m, day(3, 10)));
+    EXPECT_FALSE(isIssueDay(m, day(3, 3)));
+    EXPECT_FALSE(isIssueDay(m, day(3, 17)));
+    m.frequency = 3;
+    m.issueDay = 31;
+    m.issueMonth = 12;
+    EXPECT_TRUE(isIssueDay(m, day(12, 31)));
+    EXPECT_FALSE(isIssueDay(m, day(12, 30)));
+}
+
+class Media : public test::GigWorld, public ::testing::Test {
+protected:
+    Media() {
+        // Controversy 5 and full energy make an interview's skill exactly 5:
+        // a tenth of 5 is below 1, so the spread takes nothing either way.
+        setMembers(100);
+        g.band.read(band);
+        g.band->controversy = 5;
+        g.band->reputation = {1, 1, 1, 1, 1};
+        g.band.write();
+    }
+    // A daily paper in England taking small articles of the value.
+    int16_t paper(const char* name, uint8_t value, uint8_t minimum = 1) {
+        g.media.rec = MediaRecord{};
+        g.media->mediaName = name;
+        g.media->reach = 1;
+        g.media->country = static_cast<uint8_t>(england);
+        g.media->smallMinimum = minimum;
+        g.media->smallValue = value;
+        g.media->maxControversy = 100;
+        return static_cast<int16_t>(g.media.append());
+    }
+    std::vector<int16_t> offered(int territory) {
+        g.band.read(band);
+        std::vector<int16_t> out;
+        for (const MediaOffer& o : findMediaOffers(g, territory)) out.push_back(o.media);
+        return out;
+    }
+    // The type 17 entries filed on the date: (outlet, band).
+    std::vector<int16_t> bookedOn(double date) {
+        std::vector<int16_t> out;
+        for (int32_t id : entriesOfDay(g, date)) {
+            g.schedule.read(id);
+            if (g.schedule->type == 17) out.push_back(g.schedule->media);
+        }
+        return out;
+    }
+};
+
+TEST_F(Media, OffersNeedANonZeroMinimumTheBandReaches) {
+    // Skill 5 against reputation 1: q = 125, and a value of 69 is 125 x 4 / 100 = 5, worth 50.
+    int16_t open = paper("Open", 69);
+    paper("Never", 69, 0);
+    paper("Too Grand", 69, 2);
+    paper("Flat", 65);                     // worth 0: not an offer
+    int16_t better = paper("Better", 73);  // 125 x 8 / 100 = 10, worth 100
+    EXPECT_EQ(offered(0), (std::vector<int16_t>{better, open}));
+    EXPECT_TRUE(offered(2).empty());  // England is the UK market
+    g.media.read(open);
+    g.band.read(band);
+    EXPECT_EQ(bestMediaOffer(g).value, 50);
+}
+
+TEST_F(Media, ControversyBoundsAreInclusiveAndAStyleTakesItsDescendants) {
+    int16_t exact = paper("Exact", 69);
+    g.media->minControversy = 5;
+    g.media->maxControversy = 5;
+    g.media.write(exact);
+    int16_t below = paper("Below", 69);
+    g.media->maxControversy = 4;
+    g.media.write(below);
+    EXPECT_EQ(offered(0), std::vector<int16_t>{exact});
+
+    g.style.rec = StyleRecord{};
+    int16_t parent = static_cast<int16_t>(g.style.append());
+    g.style.read(style);
+    g.style->parentStyle = static_cast<uint8_t>(parent);
+    g.style.write();
+    g.media.read(exact);
+    g.media->mediaStyle = static_cast<uint8_t>(parent);  // the band's style descends from it
+    g.media.write();
+    g.media.read(below);
+    g.media->maxControversy = 100;
+    g.style.rec = StyleRecord{};
+    g.media->mediaStyle = static_cast<uint8_t>(g.style.append());  // unrelated
+    g.media.write(below);
+    EXPECT_EQ(offered(0), std::vector<int16_t>{exact});
+}
+
+TEST_F(Media, RivalsBookBestFirstUntilPromotionPasses150) {
+    for (const char* name : {"A", "B", "C", "D"}) paper(name, 69);  // 50 each
+    double release = g.gameDate + 30;
+    auto promote = [&](uint8_t promotion) {
+        int16_t disc = addDisc("Out Soon", 1000, band);
+        g.disc.read(disc);
+        g.disc->releaseDate = {release, 0, 0, 0, 0};
+        g.disc->promotion[0] = promotion;
+        g.disc.write();
+        g.band.read(band);
+        bookRivalPromotion(g, 0);
+        int n = 0;
+        for (double d = release - 42; d < release; ++d) n += static_cast<int>(bookedOn(d).size());
+        return n;
+    };
+    EXPECT_EQ(promote(51), 2);  // 101, 151
+    // Back from the day before release, a day each while the band is busy.
+    EXPECT_EQ(bookedOn(release - 1).size(), 1u);
+    EXPECT_EQ(bookedOn(release - 2).size(), 1u);
+    release -= 10;
+    EXPECT_EQ(promote(50), 3);  // 100, 150, 200
+    release -= 10;
+    EXPECT_EQ(promote(150), 1);
+    release -= 5;
+    EXPECT_EQ(promote(151), 0);
+}
+
+TEST_F(Media, AnAnnualIssueIsBookedOnlyWithinSixWeeks) {
+    MediaRecord m{};
+    m.frequency = 3;
+    m.issueDay = 31;
+    m.issueMonth = 12;
+    g.band.read(band);
+    double eve = serialFromCivil(2005, 12, 31);
+    EXPECT_EQ(freeIssueDays(g, m, eve - 42, 400), std::vector<double>{eve});
+    EXPECT_TRUE(freeIssueDays(g, m, eve - 43, 400).empty());
+}
+
+TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
+    int16_t daily = paper("Daily Beat", 73);  // effect 10
+    int16_t disc = addDisc("Out Now", 1000, band);
+    g.disc.read(disc);
+    g.disc->releaseDate = {g.gameDate - 7, 0, 0, 0, 0};
+    g.disc->promotion = {95, 20, 20, 20, 20};
+    g.disc.write();
+    g.band.read(band);
+    double on = serialFromCivil(2004, 1, 20);
+    ASSERT_EQ(checkAppearance(g, daily, smallArticle, on), "");
+    EXPECT_EQ(checkAppearance(g, daily, largeArticle, on), "Daily Beat is not offering The Testers a Large Article.");
+    g.band.read(band);
+    int32_t entry = bookAppearance(g, daily, on, smallArticle);
+    g.gameDate = on;
+    g.schedule.read(entry);
+    int32_t item = g.news.recordCount();
+    performAppearance(g);
+    g.disc.read(disc);
+    EXPECT_EQ(g.disc->promotion, (std::array<uint8_t, 5>{100, 20, 20, 20, 20}));  // 95 + 10, held
+    g.schedule.read(entry);
+    EXPECT_EQ(g.schedule->value, 1000);  // the effect in hundredths
+    g.news.read(item);
+    EXPECT_EQ(trim(g.news->title.value), "The Testers in Daily Beat");
+    EXPECT_EQ(trim(g.news->text.value),
+              "The Testers featured in a small article in the 20 January 2004 edition of Daily Beat newspaper. "
+              "Readers found it thoroughly lacking in substance, and it did little for their standing.");
+}
+
+}  // namespace

@@ -1,0 +1,104 @@
+// A taken-over label books its act into an outlet that wants it, plays every
+// day to the issue and past it with the invariants checked daily, and reads
+// the review.
+#include <gtest/gtest.h>
+
+#include "day/daily_cycle.h"
+#include "day/news_inbox.h"
+#include "floor/preferences.h"
+#include "live/media_promotion.h"
+#include "session/invariants.h"
+#include "session/new_game.h"
+#include "support/temp_folder.h"
+#include "support/tiny_world.h"
+#include "world/dates.h"
+#include "world/record_store.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class MediaDay : public ::testing::Test {
+protected:
+    test::TempFolder folder;
+    Game g{folder.path(), 41};
+    int16_t label = 1, band = 0;
+
+    void SetUp() override {
+        test::writeTinyBaseWorld(folder.path());
+        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
+        readPrefs(g);
+        beginNewGame(g);
+        PlayerChoices p;
+        p.forename = "Kim";
+        p.surname = "Rowe";
+        p.nationality = "Scottish";
+        takeOverLabel(g, confirmPlayer(g, p), label);
+        for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
+            g.band.read(n);
+            if (g.band->label == label && g.band->retired == kFalse) band = static_cast<int16_t>(n);
+        }
+    }
+    void TearDown() override { closeAllTables(g); }
+
+    void playDay() {
+        for (int held = 0; !allRepliesGiven(g); ++held) {
+            ASSERT_LT(held, 20);
+            pressNewsCmd1(g);
+        }
+        checkDaysSchedule(g);
+        auto broken = checkInvariants(g);
+        ASSERT_FALSE(broken) << describeBreak(*broken);
+    }
+};
+
+}  // namespace
+
+TEST_F(MediaDay, ABookedAppearanceIsPlayedAndReviewed) {
+    ASSERT_GT(band, 0);
+    // An outlet of any kind that takes the act; the act stands high enough everywhere.
+    g.band.read(band);
+    g.band->reputation = {90, 90, 90, 90, 90};
+    g.band->controversy = 50;
+    g.band.write();
+    g.media.rec = MediaRecord{};
+    g.media->mediaName = "Morning Beat";
+    g.media->mediaType = 0;
+    g.media->reach = 2;
+    g.media->frequency = 1;
+    g.media->airDay = {0, 0, 0, -1, 0, 0, 0};  // Thursdays
+    g.media->smallMinimum = 10;
+    g.media->smallValue = 80;
+    g.media->maxControversy = 100;
+    const int16_t outlet = static_cast<int16_t>(g.media.append());
+
+    g.band.read(band);
+    g.media.read(outlet);
+    std::vector<double> days = freeIssueDays(g, g.media.rec, g.gameDate, 28);
+    ASSERT_FALSE(days.empty());
+    const double on = days.front();
+    EXPECT_EQ(weekdayOf(on), 5);  // a Thursday
+    g.band.read(band);
+    ASSERT_EQ(checkAppearance(g, outlet, smallArticle, on), "");
+    g.band.read(band);
+    const int32_t entry = bookAppearance(g, outlet, on, smallArticle);
+    g.band.read(band);
+    EXPECT_NE(checkAppearance(g, outlet, smallArticle, on), "");  // the day is taken now
+
+    const int32_t firstItem = g.news.recordCount();
+    while (g.gameDate <= on) ASSERT_NO_FATAL_FAILURE(playDay());
+
+    g.schedule.read(entry);
+    EXPECT_EQ(g.schedule->mediaFlag, 1);
+    g.band.read(band);
+    const std::string title = trim(g.band->name.value) + " in Morning Beat";
+    bool reviewed = false;
+    for (int32_t n = firstItem; n < g.news.recordCount() && !reviewed; ++n) {
+        g.news.read(n);
+        reviewed =
+            trim(g.news->title.value) == title &&
+            trim(g.news->text.value).starts_with(trim(g.band->name.value) + " featured in a small article in the");
+    }
+    EXPECT_TRUE(reviewed) << title;
+}

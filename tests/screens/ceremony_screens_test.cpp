@@ -1,0 +1,83 @@
+// The ceremony night on screen: a day that ends at an attended ceremony opens
+// it, Next completes a step or goes on, and the last press returns to the news.
+#include <QLabel>
+
+#include "schedule/schedule.h"
+#include "screen_fixture.h"
+#include "screens/ceremony_screens.h"
+
+using namespace trovane;
+
+namespace {
+
+class CeremonyScreen : public test::ScreenTest {
+protected:
+    // An attended ceremony of one award with two nominees, held tomorrow night.
+    void attendTonight() {
+        Game& g = *game;
+        g.award.rec = AwardRecord{};
+        g.award->name = "Best Act";
+        g.award->kind = 3;  // a label wins: no speech, so the steps are known
+        g.award->nomineeCount = 2;
+        g.award->nominees = {1, 2};
+        g.award->nomineeNames[0] = "Nightjar Records";
+        g.award->nomineeNames[1] = "Another Label";
+        int16_t award = static_cast<int16_t>(g.award.append());
+        g.ceremony.rec = CeremonyRecord{};
+        g.ceremony->name = "Brit Night";
+        g.ceremony->awards[0] = award;
+        g.ceremony->date = g.gameDate;
+        g.ceremony->playerInvited = kTrue;
+        int16_t ceremony = static_cast<int16_t>(g.ceremony.append());
+        ScheduleRecord e{};
+        e.type = 13;
+        e.date = g.gameDate;
+        e.ceremony = ceremony;
+        addSchedules(g, {e});
+    }
+    screens::frmAwardCeremony* form() {
+        return qobject_cast<screens::frmAwardCeremony*>(window->currentScreenWidget());
+    }
+};
+
+TEST_F(CeremonyScreen, ANightPlaysStepByStepAndEndsOnTheNews) {
+    startNewGameAsPlayer();
+    attendTonight();
+    screens::frmAwardCeremony::revealInterval = 0;
+    continueOneDay();
+    ASSERT_EQ(screen(), Screen::frmAwardCeremony);
+    ASSERT_NE(form(), nullptr);
+    EXPECT_EQ(form()->titleLabel()->text(), "Award Ceremony");
+    // Opening, the award with its nominees, the winner.
+    ASSERT_EQ(game->showSteps.size(), 3u);
+    ASSERT_TRUE(waitFor([&] { return form()->linesShown() == 1; }));
+    EXPECT_TRUE(form()->lblCeremony->text().startsWith("Good evening and welcome to the"));
+    click(form()->cmdNext);
+    ASSERT_TRUE(waitFor([&] { return form()->linesShown() == 4; }));  // the timer at 0 shows the whole step
+    EXPECT_EQ(form()->lblCeremony->text(),
+              "The first award of the evening is the Best Act award. And the nominees are...\n\n- Nightjar "
+              "Records\n\n- Another Label\n\nAnd the winner is...");
+    screenshot("frmAwardCeremony", {"cmdNext", "lblCeremony"});
+    click(form()->cmdNext);
+    EXPECT_EQ(form()->stepShown(), 2u);
+    EXPECT_EQ(form()->cmdNext->text(), "Back to the News");
+    click(form()->cmdNext);
+    EXPECT_EQ(screen(), Screen::frmNews);
+}
+
+TEST_F(CeremonyScreen, NextCompletesAStepBeforeGoingOn) {
+    startNewGameAsPlayer();
+    attendTonight();
+    screens::frmAwardCeremony::revealInterval = 60000;
+    continueOneDay();
+    ASSERT_NE(form(), nullptr);
+    click(form()->cmdNext);  // on to the award: its first line only
+    EXPECT_EQ(form()->stepShown(), 1u);
+    EXPECT_EQ(form()->linesShown(), 1u);
+    click(form()->cmdNext);  // the rest of it at once
+    EXPECT_EQ(form()->stepShown(), 1u);
+    EXPECT_EQ(form()->linesShown(), 4u);
+    screens::frmAwardCeremony::revealInterval = 0;
+}
+
+}  // namespace

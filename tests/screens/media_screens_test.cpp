@@ -1,0 +1,78 @@
+// Promotion on screen: the band's Promote opens the outlets that want it, an
+// outlet shows its details and free issue days, and Book asks before it books.
+#include <QLabel>
+#include <QListWidget>
+#include <QTableWidget>
+
+#include "screen_fixture.h"
+#include "screens/media_screens.h"
+#include "screens/save_game_screen.h"
+#include "screens/theme.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+class PromotionScreen : public test::ScreenTest {
+protected:
+    // A new label has no acts: the first act of the world signs for it.
+    int16_t ourBand() {
+        Game& g = *game;
+        g.band.read(1);
+        g.band->label = g.player.playerLabel;
+        g.band->retired = kFalse;
+        g.band.write();
+        return 1;
+    }
+};
+
+TEST_F(PromotionScreen, AnOutletIsChosenADayPickedAndTheBookingConfirmed) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    int16_t band = ourBand();
+    ASSERT_GT(band, 0);
+    g.band.read(band);
+    // An outspoken act of modest standing: an article is worth a lot to it.
+    g.band->reputation = {30, 30, 30, 30, 30};
+    g.band->controversy = 100;
+    g.band.write();
+    g.media.rec = MediaRecord{};
+    g.media->mediaName = "Worldwide Weekly";
+    g.media->mediaType = 1;
+    g.media->reach = 2;
+    g.media->frequency = 1;
+    g.media->airDay = {-1, 0, 0, 0, 0, 0, 0};  // Mondays
+    g.media->largeMinimum = 20;
+    g.media->largeValue = 90;
+    g.media->maxControversy = 100;
+    int16_t outlet = static_cast<int16_t>(g.media.append());
+
+    auto* form = new screens::frmPromotion(*window, band);
+    form->show();
+    form->cmbTerritory->setCurrentIndex(4);  // a global outlet is of the Other territory
+    ASSERT_GE(form->flxMedia->rowCount(), 1);
+    EXPECT_EQ(form->flxMedia->item(0, 0)->text(), "Worldwide Weekly");
+    EXPECT_EQ(form->flxMedia->item(0, 2)->text(), "Global");
+    EXPECT_EQ(form->flxMedia->item(0, 4)->text(), "Large Article");
+    EXPECT_TRUE(form->lblMediaDetails->text().contains("Weekly: Monday"));
+    // Six weeks hold six Mondays; a day the act is busy is left out.
+    ASSERT_GE(form->lstDates->count(), 1);
+    EXPECT_LE(form->lstDates->count(), 6);
+    EXPECT_FALSE(form->cmdBook->isEnabled());
+    form->lstDates->setCurrentRow(0);
+    ASSERT_TRUE(form->cmdBook->isEnabled());
+    screenshotOf(form, "frmPromotion");
+    const double day = form->lstDates->item(0)->data(Qt::UserRole).toDouble();
+    click(form->cmdBook);
+    auto* sure = dialog<screens::frmSure>("frmSure");
+    ASSERT_NE(sure, nullptr);
+    click(sure->lblConfirm);
+    g.schedule.read(g.schedule.recordCount() - 1);
+    EXPECT_EQ(g.schedule->type, 17);
+    EXPECT_EQ(g.schedule->media, outlet);
+    EXPECT_EQ(g.schedule->mediaOption, 4);
+    EXPECT_EQ(g.schedule->date, day);
+}
+
+}  // namespace
