@@ -66,6 +66,9 @@ std::string_view screenName(Screen s) {
     case Screen::frmLabelDetails: return "frmLabelDetails";
     case Screen::frmStaffDetails: return "frmStaffDetails";
     case Screen::frmStaffList: return "frmStaffList";
+    case Screen::frmFestivalBrowse: return "frmFestivalBrowse";
+    case Screen::frmFestivalDetails: return "frmFestivalDetails";
+    case Screen::frmHistoricalFestivalDetails: return "frmHistoricalFestivalDetails";
     }
     return "unknown";
 }

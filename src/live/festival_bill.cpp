@@ -166,7 +166,7 @@ void fillFestivalBill(Game& g) {
         candidates.push_back({b.id, b.reputation[territory], playersAct(g, b)});
     }
 
-    // `minimum` is worked out but tests nothing: the bills are sized to fill from the top.
+    // No minimum standing is asked for: the bills are sized to fill from the top.
     const int size = std::min<int>(festival.billSize, kBillRoom);
     std::vector<bool> taken(candidates.size(), false);
     std::vector<int16_t> bill;

@@ -60,6 +60,14 @@ FestivalNights gatherNights(Game& g, const TourRecord& tour) {
     return out;
 }
 
+// Adds a piece of the review; pieces that each bring a space between them keep just one.
+void append(std::string& text, const std::string& piece) {
+    if (!text.empty() && text.back() == ' ' && !piece.empty() && piece.front() == ' ')
+        text += piece.substr(1);
+    else
+        text += piece;
+}
+
 int meanOf(const std::vector<ActNight>& acts) {
     double sum = 0;
     for (const ActNight& a : acts) sum += a.quality;
@@ -183,9 +191,8 @@ void writeFestivalReview(Game& g) {
         text += verdict >= 1 ? "but few of them left thinking it wasn't worth the wait. "
                              : "and few of them left thinking it had been worth the wait. ";
     }
-    const std::string headliners = headlinersText(g, nights.headliners);
-    text += headliners;
-    text += supportText(g, nights.support, festivalVerdict(meanOf(nights.headliners)));
+    append(text, headlinersText(g, nights.headliners));
+    append(text, supportText(g, nights.support, festivalVerdict(meanOf(nights.headliners))));
 
     for (const auto* group : {&nights.headliners, &nights.support}) {
         for (const ActNight& act : *group) {
@@ -193,13 +200,14 @@ void writeFestivalReview(Game& g) {
             if (g.player.playerLabel < 1 || g.band->label != g.player.playerLabel) continue;
             const std::string actName = trim(g.band->name.value);
             if (act.quality > 80)
-                text += " " + actName + " will be delighted with " + grammarWord(g, 5, false) +
-                        " performance, which won over a good many new fans.";
+                append(text, " " + actName + " will be delighted with " + grammarWord(g, 5, false) +
+                                 " performance, which won over a good many new fans. ");
             else if (act.quality <= 60)
-                text += " " + actName + " will want to forget " + grammarWord(g, 5, false) +
-                        " performance as quickly as possible.";
+                append(text, " " + actName + " will want to forget " + grammarWord(g, 5, false) +
+                                 " performance as quickly as possible. ");
         }
     }
+    while (!text.empty() && text.back() == ' ') text.pop_back();
     postNews(g, {.date = g.gameDate, .title = title, .text = text});
     g.band.rec = band;
     g.tour.rec = tour;

@@ -19,6 +19,7 @@
 #include "screens/band_details_screen.h"
 #include "screens/chart_screens.h"
 #include "screens/disc_screens.h"
+#include "screens/festival_screens.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/label_details_screen.h"
@@ -259,6 +260,9 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmLabelDetails: return new frmLabelDetails(*this, labelOnScreen);
     case Screen::frmStaffDetails: return new frmStaffDetails(*this, staffOnScreen);
     case Screen::frmStaffList: return new frmStaffList(*this);
+    case Screen::frmFestivalBrowse: return new frmFestivalBrowse(*this);
+    case Screen::frmFestivalDetails: return new frmFestivalDetails(*this, festivalOnScreen);
+    case Screen::frmHistoricalFestivalDetails: return new frmHistoricalFestivalDetails(*this, festivalOnScreen);
     case Screen::frmNews:
     default:
         // The award ceremony is not in this version: a day that ends in one ends on the news.

@@ -103,7 +103,8 @@ frmFindOptions::frmFindOptions(mdiParentForm& main, QWidget* parent)
     addEntry(QStringLiteral("lblVenues"), tr("Venues"), Glyph::label);
     addEntry(QStringLiteral("lblBusinesses"), tr("Businesses"), Glyph::coins);
     addEntry(QStringLiteral("lblAwards"), tr("Awards"), Glyph::star);
-    addEntry(QStringLiteral("lblFestivals"), tr("Festivals"), Glyph::calendar);
+    addEntry(QStringLiteral("lblFestivals"), tr("Festivals"), Glyph::calendar,
+             [&main] { main.openScreen(Screen::frmFestivalBrowse); });
     addEntry(QStringLiteral("lblRichList"), tr("Rich List"), Glyph::coins);
     addEntry(QStringLiteral("lblShortlist"), tr("Shortlist"), Glyph::find, [&main] {
         main.bandListIsShortlist = true;

@@ -40,6 +40,9 @@ enum class Screen {
     frmLabelDetails,
     frmStaffDetails,
     frmStaffList,
+    frmFestivalBrowse,
+    frmFestivalDetails,
+    frmHistoricalFestivalDetails,
 };
 
 // The tables that openAllTables opens: member name, record, file number.
