@@ -84,6 +84,8 @@ frmFestivalBrowse::frmFestivalBrowse(mdiParentForm& main)
         auto acts = f.dayList.empty() ? 0 : static_cast<int>(f.dayList.front().bill.size());
         flxFestivals->setItem(row, 6, new NumberItem(acts, QString::number(acts)));
     }
+    flxFestivals->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    flxFestivals->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     flxFestivals->setSortingEnabled(true);
     flxFestivals->sortByColumn(5, Qt::AscendingOrder);
     body()->addWidget(flxFestivals, 1);
