@@ -87,8 +87,9 @@ void confirmDistributorForm(Game& g);
 void addBooksVerbs(CLI::App& app, SimContext& ctx);
 void addLiveVerbs(CLI::App& app,
                   SimContext& ctx);  // venues, gig, gigs  // label, books, department, staff, approach, ...
-void addBooksVerbs(CLI::App& app, SimContext& ctx);  // label, books, department, staff, approach, ...
-void addLivesVerbs(CLI::App& app, SimContext& ctx);  // stories, story
+void addBooksVerbs(CLI::App& app, SimContext& ctx);     // label, books, department, staff, approach, ...
+void addFestivalVerbs(CLI::App& app, SimContext& ctx);  // festivals, festival
+void addLivesVerbs(CLI::App& app, SimContext& ctx);     // stories, story
 // The held item in the news buffer gets the first reply it offers, and is
 // then answered.
 bool answerHeldItem(Game& g);

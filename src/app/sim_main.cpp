@@ -76,6 +76,7 @@ int main(int argc, char** argv) {
     addDiscVerbs(app, ctx);
     addBooksVerbs(app, ctx);
     addLiveVerbs(app, ctx);
+    addFestivalVerbs(app, ctx);
     addLivesVerbs(app, ctx);
     addRivalVerbs(app, ctx);
     addTourVerbs(app, ctx);

@@ -77,6 +77,8 @@ std::string_view screenName(Screen s) {
     case Screen::frmSongBrowse: return "frmSongBrowse";
     case Screen::frmFestivalBrowse: return "frmFestivalBrowse";
     case Screen::frmCeremonyBrowse: return "frmCeremonyBrowse";
+    case Screen::frmFestivalDetails: return "frmFestivalDetails";
+    case Screen::frmHistoricalFestivalDetails: return "frmHistoricalFestivalDetails";
     }
     return "unknown";
 }

@@ -339,6 +339,7 @@ void performGig(Game& g) {
         settleGigMoney(g, rep);
     } else {
         g.festival.readIfPresent(g.tour->festival);
+        dropUnfitFestivalActs(g);
         int16_t standing = 0;
         g.gig->attendance = expectedAttendance(g, 0, 0, standing);
         g.gig.write();

@@ -25,6 +25,7 @@
 #include "screens/chart_screens.h"
 #include "screens/details_extra_screens.h"
 #include "screens/disc_screens.h"
+#include "screens/festival_screens.h"
 #include "screens/game_option_screens.h"
 #include "screens/glyphs.h"
 #include "screens/label_details_screen.h"
@@ -308,6 +309,8 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmArtistDetails: return new frmArtistDetails(*this, artistOnScreen);
     case Screen::frmAwardCeremony:
         if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
+    case Screen::frmFestivalDetails: return new frmFestivalDetails(*this, festivalOnScreen);
+    case Screen::frmHistoricalFestivalDetails: return new frmHistoricalFestivalDetails(*this, festivalOnScreen);
         g_.currentScreen = Screen::frmNews;
         return new frmNews(*this);
     case Screen::frmNews:

@@ -104,6 +104,8 @@ public:
     // The label frmLabelDetails shows and the person frmStaffDetails shows.
     int16_t labelOnScreen = 0;
     int16_t staffOnScreen = 0;
+    // The festival frmFestivalDetails and frmHistoricalFestivalDetails show.
+    int16_t festivalOnScreen = 0;
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

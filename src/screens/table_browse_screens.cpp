@@ -212,8 +212,12 @@ void frmTableBrowse::openRow(int32_t record) {
     case Screen::frmArtistBrowse:
     case Screen::frmRichList: main_.openArtist(static_cast<int16_t>(record)); break;
     case Screen::frmVenueBrowse: main_.openVenue(static_cast<int16_t>(record)); break;
+    case Screen::frmFestivalBrowse:
+        main_.festivalOnScreen = static_cast<int16_t>(record);
+        main_.openScreen(Screen::frmFestivalDetails);
+        break;
     default:
-        // Firms, media, festivals and ceremonies have no details screen here yet.
+        // Firms, media and ceremonies have no details screen here yet.
         break;
     }
 }

@@ -54,6 +54,8 @@ enum class Screen {
     frmFestivalBrowse,
     frmCeremonyBrowse,
     frmArtistDetails,
+    frmFestivalDetails,
+    frmHistoricalFestivalDetails,
 };
 
 // The tables that openAllTables opens: member name, record, file number.

@@ -1,0 +1,142 @@
+// The festival's days in the calendar, the day its bill is filled, and the
+// tour, gigs and entries a year's scheduling files.
+#include <gtest/gtest.h>
+
+#include "support/calendar_world.h"
+#include "support/festival_world.h"
+
+using namespace trovane;
+using test::day;
+
+namespace {
+
+FestivalRecord festivalOf(std::vector<uint8_t> weekdays, std::vector<uint8_t> weeks) {
+    FestivalRecord f{};
+    f.days = static_cast<uint8_t>(weekdays.size());
+    for (std::size_t i = 0; i < weekdays.size(); ++i) {
+        f.weekday[i] = weekdays[i];
+        f.week[i] = weeks[i];
+    }
+    return f;
+}
+
+// 1 January 2004 is a Thursday (weekday 5); week 28 starts 27 x 7 = 189 days
+// later, on Thursday 8 July.
+TEST(FestivalDates, OneDayMovesForwardToItsWeekday) {
+    // Saturday: 7 - 5 = 2 days on.
+    EXPECT_EQ(festivalDates(festivalOf({7}, {28}), 2004), std::vector<double>{day(2004, 7, 10)});
+    // The week's own weekday stays: Thursday 8 July.
+    EXPECT_EQ(festivalDates(festivalOf({5}, {28}), 2004), std::vector<double>{day(2004, 7, 8)});
+    // Wednesday: 4 - 5 = -1, + 7 = 6 days on.
+    EXPECT_EQ(festivalDates(festivalOf({4}, {28}), 2004), std::vector<double>{day(2004, 7, 14)});
+    // Week 1 on the year's own weekday is 1 January itself.
+    EXPECT_EQ(festivalDates(festivalOf({5}, {1}), 2004), std::vector<double>{day(2004, 1, 1)});
+}
+
+TEST(FestivalDates, ADayBeforeTheDayBeforeItMovesOnAWeek) {
+    // Saturday then Sunday of one week number: Sunday is 1 - 5 + 7 = 3 days on.
+    EXPECT_EQ(festivalDates(festivalOf({7, 1}, {28, 28}), 2004),
+              (std::vector<double>{day(2004, 7, 10), day(2004, 7, 11)}));
+    // Saturday then Thursday: 8 July falls before 10 July, so 15 July.
+    EXPECT_EQ(festivalDates(festivalOf({7, 5}, {28, 28}), 2004),
+              (std::vector<double>{day(2004, 7, 10), day(2004, 7, 15)}));
+    // The same day twice is not before it, and stays.
+    EXPECT_EQ(festivalDates(festivalOf({7, 7}, {28, 28}), 2004),
+              (std::vector<double>{day(2004, 7, 10), day(2004, 7, 10)}));
+}
+
+TEST(FestivalDates, TheLastWeekRunsIntoTheNextYear) {
+    // Week 53 starts 364 days on, Thursday 30 December 2004; Sunday is 3 days on.
+    EXPECT_EQ(festivalDates(festivalOf({1}, {53}), 2004), std::vector<double>{day(2005, 1, 2)});
+}
+
+TEST(FestivalFillDate, SixtyDaysAheadButNeverBeforeTomorrow) {
+    const double first = day(2004, 7, 10);
+    // 10 July less 60 days is 11 May.
+    EXPECT_EQ(festivalFillDate(first, day(2004, 1, 5)), day(2004, 5, 11));
+    EXPECT_EQ(festivalFillDate(first, day(2004, 5, 10)), day(2004, 5, 11));
+    EXPECT_EQ(festivalFillDate(first, day(2004, 5, 11)), day(2004, 5, 12));
+    EXPECT_EQ(festivalFillDate(first, day(2004, 7, 9)), day(2004, 7, 10));
+}
+
+class FestivalScheduling : public test::FestivalWorld, public ::testing::Test {
+protected:
+    std::vector<ScheduleRecord> entriesOn(double date) {
+        std::vector<ScheduleRecord> out;
+        for (int32_t id : entriesOfDay(g, date)) {
+            g.schedule.read(id);
+            out.push_back(g.schedule.rec);
+        }
+        return out;
+    }
+};
+
+TEST_F(FestivalScheduling, MakesATourOfTheFestivalWithAGigEachDay) {
+    int16_t tour = scheduled();
+    ASSERT_GT(tour, 0);
+    g.tour.read(tour);
+    EXPECT_EQ(g.tour->band, 0);
+    EXPECT_EQ(g.tour->gigCount, 2);
+    auto gigs = gigsOf(tour);
+    g.gig.read(gigs[1]);
+    EXPECT_EQ(g.gig->gigDate, day(2004, 7, 11));
+    EXPECT_EQ(g.gig->venue, farm);
+    EXPECT_EQ(g.gig->tour, tour);
+    auto sunday = entriesOn(day(2004, 7, 11));
+    ASSERT_EQ(sunday.size(), 1u);
+    EXPECT_EQ(sunday[0].type, 8);
+    EXPECT_EQ(sunday[0].gig, gigs[1]);
+    auto fill = entriesOn(day(2004, 5, 11));
+    ASSERT_EQ(fill.size(), 1u);
+    EXPECT_EQ(fill[0].type, 22);
+    EXPECT_EQ(fill[0].gig, gigs[0]);
+}
+
+TEST_F(FestivalScheduling, ABillFilledOnTheFirstDayIsFiledBeforeItsGig) {
+    g.gameDate = day(2004, 7, 9);
+    scheduled();
+    auto saturday = entriesOn(day(2004, 7, 10));
+    ASSERT_EQ(saturday.size(), 2u);
+    EXPECT_EQ(saturday[0].type, 22);
+    EXPECT_EQ(saturday[1].type, 8);
+}
+
+TEST_F(FestivalScheduling, AFestivalUnderWayGetsNoFill) {
+    g.gameDate = day(2004, 7, 10);
+    scheduled();
+    // The fill would fall tomorrow, the second day.
+    auto sunday = entriesOn(day(2004, 7, 11));
+    ASSERT_EQ(sunday.size(), 1u);
+    EXPECT_EQ(sunday[0].type, 8);
+}
+
+TEST_F(FestivalScheduling, ATravellingFestivalTakesTheLargestSiteAfterFiftyMisses) {
+    // Prestige 50: standing 50, a 2500, b round(2500 / 51) = 49, d 35, e (70 - 28) x 35 = 1470;
+    // 2 x (round(6 x 1519) + 250) = 18728 expected, more than either site in the area.
+    addVenue("Rio Club", 5000, rio);
+    int16_t stadium = addVenue("Rio Bowl", 18727, rio);
+    addVenue("Leeds Arena", 90000, leeds);  // big enough, but not in the area
+    g.festival.read(festival);
+    g.festival->travelling = -1;
+    g.festival->areaCode = "S";
+    g.festival.write();
+    int16_t tour = scheduled();
+    for (int32_t gig : gigsOf(tour)) {
+        g.gig.read(gig);
+        EXPECT_EQ(g.gig->venue, stadium);
+    }
+}
+
+TEST_F(FestivalScheduling, AYearEndDayIsFiledInTheNextYearsPage) {
+    g.festival.read(festival);
+    g.festival->days = 1;
+    g.festival->weekday[0] = 1;
+    g.festival->week[0] = 53;
+    g.festival.write();
+    int16_t tour = scheduled();
+    auto jan2 = entriesOn(day(2005, 1, 2));
+    ASSERT_EQ(jan2.size(), 1u);
+    EXPECT_EQ(jan2[0].gig, gigsOf(tour)[0]);
+}
+
+}  // namespace
