@@ -66,6 +66,10 @@ std::string_view screenName(Screen s) {
     case Screen::frmLabelDetails: return "frmLabelDetails";
     case Screen::frmStaffDetails: return "frmStaffDetails";
     case Screen::frmStaffList: return "frmStaffList";
+    case Screen::frmBandDetails: return "frmBandDetails";
+    case Screen::frmBandList: return "frmBandList";
+    case Screen::frmBandContract: return "frmBandContract";
+    case Screen::frmDiscDetails: return "frmDiscDetails";
     }
     return "unknown";
 }
