@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <vector>
 
 #include "label/scouting.h"
 #include "rivals/rival_albums.h"
@@ -14,11 +15,18 @@ namespace trovane {
 
 void computerCheckBands(Game& g) {
     const int16_t player = g.player.playerLabel;
+    // A signed band never qualifies and draws nothing, so only the free acts
+    // are read, once a label; judging lists bands and signs none.
+    std::vector<int32_t> free;
+    BandRecord b{};
+    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+        decodeRecord(g.band.bytesOf(n).data(), b);
+        if (b.retired == kFalse && b.label == 0) free.push_back(n);
+    }
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         if (l == player) continue;
-        for (int32_t b = 1; b < g.band.recordCount(); ++b) {
-            g.band.read(b);
-            if (g.band->retired != kFalse) continue;
+        for (int32_t n : free) {
+            g.band.read(n);
             g.label.read(l);
             considerForShortlist(g, 0);
         }
