@@ -12,6 +12,7 @@
 #include "label/staff.h"
 #include "session/invariants.h"
 #include "session/new_game.h"
+#include "support/shipped_game.h"
 #include "world/dates.h"
 #include "world/record_store.h"
 
@@ -20,38 +21,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path shippedWorld(const char* name) {
-    fs::path p = fs::temp_directory_path() / name;
-    fs::remove_all(p);
-    fs::create_directories(p);
-    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
-    return p;
-}
-
-struct ShippedGame {
-    Game g;
-    explicit ShippedGame(const char* name) : g(shippedWorld(name), 1) {
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Ann";
-        p.surname = "Lee";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), 1);
-    }
-    ~ShippedGame() { closeAllTables(g); }
-};
-
 void BM_TakeLabelWages(benchmark::State& state) {
-    ShippedGame s("trovane-bench-wages");
+    bench::ShippedGame s("trovane-bench-wages");
     for (auto _ : state) takeLabelWages(s.g);
     state.counters["labels"] = s.g.label.recordCount() - 1;
 }
 BENCHMARK(BM_TakeLabelWages)->Unit(benchmark::kMicrosecond);
 
 void BM_UpdateLabelFinances(benchmark::State& state) {
-    ShippedGame s("trovane-bench-finances");
+    bench::ShippedGame s("trovane-bench-finances");
     s.g.gameDate = serialFromCivil(2004, 9, 1);
     for (auto _ : state) updateLabelFinances(s.g);
 }
@@ -60,7 +38,7 @@ BENCHMARK(BM_UpdateLabelFinances)->Unit(benchmark::kMicrosecond)->Iterations(100
 
 // One hire (type 2) and the release (type 3) of the same person, both with their news.
 void BM_HireAndFireStaff(benchmark::State& state) {
-    ShippedGame s("trovane-bench-staff");
+    bench::ShippedGame s("trovane-bench-staff");
     Game& g = s.g;
     g.staff.rec = StaffRecord{};
     g.staff->forename = "Bench";
@@ -91,7 +69,7 @@ void BM_HireAndFireStaff(benchmark::State& state) {
 BENCHMARK(BM_HireAndFireStaff)->Unit(benchmark::kMicrosecond)->Iterations(5000);
 
 void BM_InvariantsAYearIn(benchmark::State& state) {
-    ShippedGame s("trovane-bench-invariants");
+    bench::ShippedGame s("trovane-bench-invariants");
     for (int d = 0; d < 365; ++d) checkDaysSchedule(s.g);
     for (auto _ : state) benchmark::DoNotOptimize(checkInvariants(s.g));
 }
@@ -99,7 +77,7 @@ BENCHMARK(BM_InvariantsAYearIn)->Unit(benchmark::kMicrosecond);
 
 // What frmLabelDetails reads: details, the three columns and a year's history.
 void BM_LabelDetailsGathered(benchmark::State& state) {
-    ShippedGame s("trovane-bench-details");
+    bench::ShippedGame s("trovane-bench-details");
     for (int d = 0; d < 365; ++d) checkDaysSchedule(s.g);
     for (auto _ : state) {
         benchmark::DoNotOptimize(labelDetails(s.g, 1));

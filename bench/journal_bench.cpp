@@ -10,32 +10,15 @@
 #include "session/session_record.h"
 #include "world/record_store.h"
 
+#include "support/shipped_game.h"
+
 using namespace trovane;
 namespace fs = std::filesystem;
 
 namespace {
 
-fs::path folderWithBaseWorld(const char* name) {
-    fs::path p = fs::temp_directory_path() / name;
-    fs::remove_all(p);
-    fs::create_directories(p);
-    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
-    return p;
-}
-
 void startGame(Game& g) {
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p;
-    p.forename = "Ann";
-    p.surname = "Lee";
-    p.nationality = "Scottish";
-    LabelChoices l;
-    l.name = "Quarry Records";
-    l.country = "Scotland";
-    l.city = "Glasgow";
-    foundLabel(g, confirmPlayer(g, p), l);
+    bench::foundQuarryRecords(g);
     commitWorkingGame(g);
 }
 
@@ -44,7 +27,7 @@ void BM_YearOfPlay(benchmark::State& state) {
     bool daily = state.range(0) == 1;
     for (auto _ : state) {
         state.PauseTiming();
-        fs::path dir = folderWithBaseWorld("trovane-bench-journal-year");
+        fs::path dir = bench::shippedWorld("trovane-bench-journal-year");
         Game g(dir, 7);
         startGame(g);
         state.ResumeTiming();
@@ -63,7 +46,7 @@ BENCHMARK(BM_YearOfPlay)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterati
 
 // The commit that ends a day, the day itself not timed.
 void BM_CommitOfADay(benchmark::State& state) {
-    fs::path dir = folderWithBaseWorld("trovane-bench-journal-day");
+    fs::path dir = bench::shippedWorld("trovane-bench-journal-day");
     Game g(dir, 7);
     startGame(g);
     for (auto _ : state) {

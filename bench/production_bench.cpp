@@ -9,6 +9,7 @@
 #include "production/recording.h"
 #include "production/songwriting.h"
 #include "session/new_game.h"
+#include "support/shipped_game.h"
 #include "world/record_store.h"
 
 using namespace trovane;
@@ -17,27 +18,8 @@ namespace fs = std::filesystem;
 namespace {
 
 // A game taken over on the base world: the generated acts, firms and labels.
-struct GeneratedWorld {
-    fs::path dir;
-    Game g;
-    explicit GeneratedWorld(const char* name) : dir(prepare(name)), g(dir, 1) {
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Ann";
-        p.surname = "Lee";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), 2);
-    }
-    ~GeneratedWorld() { closeAllTables(g); }
-    static fs::path prepare(const char* name) {
-        fs::path p = fs::temp_directory_path() / name;
-        fs::remove_all(p);
-        fs::create_directories(p);
-        for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-            if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
-        return p;
-    }
+struct GeneratedWorld : bench::ShippedGame {
+    explicit GeneratedWorld(const char* name) : bench::ShippedGame(name, 2) {}
     // An album of `tracks` tracks for the band (the player's first when 0), with no studio yet.
     int16_t newDisc(int tracks, int16_t band = 0) {
         g.disc.rec = DiscRecord{};

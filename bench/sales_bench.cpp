@@ -12,33 +12,14 @@
 #include "world/dates.h"
 #include "world/record_store.h"
 
+#include "support/shipped_game.h"
+
 using namespace trovane;
 namespace fs = std::filesystem;
 
 namespace {
 
-fs::path shippedWorld(const char* name) {
-    fs::path p = fs::temp_directory_path() / name;
-    fs::remove_all(p);
-    fs::create_directories(p);
-    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
-    return p;
-}
-
-void startGame(Game& g) {
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p;
-    p.forename = "Ann";
-    p.surname = "Lee";
-    p.nationality = "Scottish";
-    LabelChoices l;
-    l.name = "Quarry Records";
-    l.country = "Scotland";
-    l.city = "Glasgow";
-    foundLabel(g, confirmPlayer(g, p), l);
-}
+void startGame(Game& g) { bench::foundQuarryRecords(g); }
 
 void emptyCharts(Game& g) {
     for (int chart = 0; chart < kChartCount; ++chart) {
@@ -50,7 +31,7 @@ void emptyCharts(Game& g) {
 
 // The whole Sunday pass; each run is a week later in the discs' lives.
 void BM_WeeklySalesPass(benchmark::State& state) {
-    Game g(shippedWorld("trovane-bench-sales"), 1);
+    Game g(bench::shippedWorld("trovane-bench-sales"), 1);
     startGame(g);
     for (auto _ : state) calculateWeeklySales(g);
     closeAllTables(g);
@@ -59,7 +40,7 @@ BENCHMARK(BM_WeeklySalesPass)->Unit(benchmark::kMillisecond);
 
 // A whole Sunday of the day's cycle (the rivals' review, the sales, the rest).
 void BM_ASunday(benchmark::State& state) {
-    Game g(shippedWorld("trovane-bench-sunday"), 1);
+    Game g(bench::shippedWorld("trovane-bench-sunday"), 1);
     startGame(g);
     while (weekdayOf(g.gameDate) != 1) checkDaysSchedule(g);
     double sunday = g.gameDate;
@@ -72,7 +53,7 @@ void BM_ASunday(benchmark::State& state) {
 BENCHMARK(BM_ASunday)->Unit(benchmark::kMillisecond);
 
 void BM_SeedCharts(benchmark::State& state) {
-    Game g(shippedWorld("trovane-bench-seed"), 1);
+    Game g(bench::shippedWorld("trovane-bench-seed"), 1);
     startGame(g);
     for (auto _ : state) {
         state.PauseTiming();
@@ -85,7 +66,7 @@ void BM_SeedCharts(benchmark::State& state) {
 BENCHMARK(BM_SeedCharts)->Unit(benchmark::kMillisecond);
 
 void BM_TidyCharts(benchmark::State& state) {
-    Game g(shippedWorld("trovane-bench-tidy"), 1);
+    Game g(bench::shippedWorld("trovane-bench-tidy"), 1);
     startGame(g);
     for (auto _ : state) tidyCharts(g);
     closeAllTables(g);

@@ -9,36 +9,17 @@
 #include "session/save_load.h"
 #include "world/record_store.h"
 
+#include "support/shipped_game.h"
+
 using namespace trovane;
 namespace fs = std::filesystem;
 
 namespace {
 
-fs::path freshFolderWithBaseWorld(const char* name) {
-    fs::path p = fs::temp_directory_path() / name;
-    fs::remove_all(p);
-    fs::create_directories(p);
-    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
-    return p;
-}
-
-void startGame(Game& g) {
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p;
-    p.forename = "Ann";
-    p.surname = "Lee";
-    p.nationality = "Scottish";
-    LabelChoices l;
-    l.name = "Quarry Records";
-    l.country = "Scotland";
-    l.city = "Glasgow";
-    foundLabel(g, confirmPlayer(g, p), l);
-}
+void startGame(Game& g) { bench::foundQuarryRecords(g); }
 
 void BM_NewGameToTheFirstNews(benchmark::State& state) {
-    fs::path dir = freshFolderWithBaseWorld("trovane-bench-newgame");
+    fs::path dir = bench::shippedWorld("trovane-bench-newgame");
     Game g(dir, 1);
     for (auto _ : state) {
         startGame(g);
@@ -50,7 +31,7 @@ void BM_NewGameToTheFirstNews(benchmark::State& state) {
 BENCHMARK(BM_NewGameToTheFirstNews)->Unit(benchmark::kMillisecond);
 
 void BM_SaveAndLoadAYearIn(benchmark::State& state) {
-    fs::path dir = freshFolderWithBaseWorld("trovane-bench-save");
+    fs::path dir = bench::shippedWorld("trovane-bench-save");
     Game g(dir, 1);
     startGame(g);
     for (int d = 0; d < 365; ++d) checkDaysSchedule(g);

@@ -9,6 +9,7 @@
 #include "label/scouting.h"
 #include "schedule/schedule.h"
 #include "session/new_game.h"
+#include "support/shipped_game.h"
 #include "talent/band_condition.h"
 #include "talent/band_offers.h"
 #include "talent/contract_terms.h"
@@ -20,24 +21,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A new game on a copy of the shipped world, at the helm of its first label.
-std::unique_ptr<Game> shippedGame(const char* name) {
-    fs::path folder = fs::temp_directory_path() / name;
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), folder / e.path().filename());
-    auto g = std::make_unique<Game>(folder, 1);
-    readPrefs(*g);
-    beginNewGame(*g);
-    PlayerChoices p;
-    p.forename = "Ann";
-    p.surname = "Lee";
-    p.createNewLabel = false;
-    takeOverLabel(*g, confirmPlayer(*g, p), 1);
-    return g;
-}
-
 int16_t firstFreeBand(Game& g) {
     for (int32_t b = 1; b < g.band.recordCount(); ++b) {
         g.band.read(b);
@@ -47,55 +30,56 @@ int16_t firstFreeBand(Game& g) {
 }
 
 void BM_DropBandHype(benchmark::State& state) {
-    auto g = shippedGame("trovane-bench-hype");
+    bench::ShippedGame world("trovane-bench-hype");
+    Game* g = &world.g;
     for (auto _ : state) dropBandHype(*g);
-    closeAllTables(*g);
 }
 BENCHMARK(BM_DropBandHype)->Unit(benchmark::kMillisecond);
 
 void BM_CheckBandEnergy(benchmark::State& state) {
-    auto g = shippedGame("trovane-bench-energy");
+    bench::ShippedGame world("trovane-bench-energy");
+    Game* g = &world.g;
     for (auto _ : state) checkBandEnergy(*g);
-    closeAllTables(*g);
 }
 BENCHMARK(BM_CheckBandEnergy)->Unit(benchmark::kMillisecond);
 
 void BM_BandPotentialCalculations(benchmark::State& state) {
-    auto g = shippedGame("trovane-bench-potential");
+    bench::ShippedGame world("trovane-bench-potential");
+    Game* g = &world.g;
     for (auto _ : state) bandPotentialCalculations(*g);
-    closeAllTables(*g);
 }
 BENCHMARK(BM_BandPotentialCalculations)->Unit(benchmark::kMillisecond);
 
 // Every label's sample; the shortlist is emptied between runs so each finds as much.
 void BM_DeliverScoutingReports(benchmark::State& state) {
-    auto g = shippedGame("trovane-bench-scouting");
+    bench::ShippedGame world("trovane-bench-scouting");
+    Game* g = &world.g;
     for (auto _ : state) {
         deliverScoutingReports(*g);
         state.PauseTiming();
         g->shortlist.clearAll();
         state.ResumeTiming();
     }
-    closeAllTables(*g);
 }
 BENCHMARK(BM_DeliverScoutingReports)->Unit(benchmark::kMillisecond);
 
 void BM_RateContract(benchmark::State& state) {
-    auto g = shippedGame("trovane-bench-rate");
+    bench::ShippedGame world("trovane-bench-rate");
+    Game* g = &world.g;
     int16_t band = firstFreeBand(*g);
     makeOffer(*g, band, offerFormStart(*g, band));
     g->offer.read(1);
     g->label.read(1);
     g->band.read(band);
     for (auto _ : state) benchmark::DoNotOptimize(rateContract(*g, 1));
-    closeAllTables(*g);
 }
 BENCHMARK(BM_RateContract)->Unit(benchmark::kMicrosecond);
 
 // Ten rival offers on one band, among a thousand offers on other bands;
 // each run decides on copies, so the offers are live again.
 void BM_DecideOffersWithTen(benchmark::State& state) {
-    auto g = shippedGame("trovane-bench-decide");
+    bench::ShippedGame world("trovane-bench-decide");
+    Game* g = &world.g;
     int16_t band = firstFreeBand(*g);
     const double date = g->gameDate + 7;
     for (int i = 0; i < 1000; ++i) {
@@ -136,7 +120,6 @@ void BM_DecideOffersWithTen(benchmark::State& state) {
         }
         state.ResumeTiming();
     }
-    closeAllTables(*g);
 }
 BENCHMARK(BM_DecideOffersWithTen)->Unit(benchmark::kMicrosecond);
 

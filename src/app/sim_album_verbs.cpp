@@ -43,19 +43,8 @@ std::optional<int32_t> wholeNumber(const std::string& text) {
     return std::stoi(text);
 }
 
-// A record named by number or exact name; 0 when there is none.
-template <class Table, class NameOf>
-int32_t findRecord(Table& table, const std::string& what, NameOf nameOf) {
-    if (auto n = wholeNumber(what)) return *n >= 1 && *n < table.recordCount() ? *n : 0;
-    for (int32_t n = 1; n < table.recordCount(); ++n) {
-        table.read(n);
-        if (nameOf(table.rec) == what) return n;
-    }
-    return 0;
-}
-
 int16_t findBand(SimContext& ctx, Game& g, const std::string& what) {
-    auto n = findRecord(g.band, what, [](const BandRecord& b) { return trim(b.name.value); });
+    auto n = recordNamed(g, FileNo::fileBand, what);
     if (n == 0) badArgument(ctx, "There is no band " + what);
     return static_cast<int16_t>(n);
 }
@@ -170,9 +159,7 @@ void addAlbumVerb(CLI::App& app, SimContext& ctx) {
         }
         Game& g = ctx.openGame();
         int16_t b = findBand(ctx, g, albumOpts->band);
-        auto firm =
-            b ? findRecord(g.business, albumOpts->studio, [](const BusinessRecord& r) { return trim(r.name.value); })
-              : 0;
+        auto firm = b ? recordNamed(g, FileNo::fileBusiness, albumOpts->studio) : 0;
         if (b && firm == 0) badArgument(ctx, "There is no firm " + albumOpts->studio);
         // A tracklist fixed on the screens without a studio is booked as it stands.
         int16_t waiting = b && !ids ? discAwaitingStudio(g, b) : 0;
@@ -313,7 +300,7 @@ void addBuildVerb(CLI::App& app, SimContext& ctx) {
         if (buildOpts->quality < 1 || buildOpts->quality > 100)
             return badArgument(ctx, "The quality must be from 1 to 100");
         Game& g = ctx.openGame();
-        auto c = findRecord(g.city, buildOpts->city, [](const CityRecord& r) { return trim(r.name.value); });
+        auto c = recordNamed(g, FileNo::fileCity, buildOpts->city);
         if (c == 0) {
             badArgument(ctx, "There is no city " + buildOpts->city);
         } else {

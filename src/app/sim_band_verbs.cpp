@@ -37,14 +37,7 @@ std::string money(Money m) { return fmt::format("{:.4f}", moneyToDouble(m)); }
 
 // A band by record number or exact name, or 0 after telling why.
 int16_t bandNamed(SimContext& ctx, Game& g, const std::string& which) {
-    bool digits = !which.empty() && which.find_first_not_of("0123456789") == std::string::npos;
-    int32_t n = 0;
-    if (digits && which.size() < 6) {
-        n = std::stoi(which);
-        if (n < 1 || n >= g.band.recordCount()) n = 0;
-    } else {
-        n = findRecordByName(g, FileNo::fileBand, which);
-    }
+    const int32_t n = recordNamed(g, FileNo::fileBand, which);
     if (n == 0) fail(ctx, kExitBadArgs, fmt::format("There is no band {}", which));
     return static_cast<int16_t>(n);
 }

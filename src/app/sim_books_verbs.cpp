@@ -36,14 +36,7 @@ void fail(SimContext& ctx, int status, const std::string& why) {
 
 // A record named by its number or its exact name; 0 (and a bad argument) when there is none.
 int16_t resolve(SimContext& ctx, Game& g, FileNo table, const std::string& what, const char* kind) {
-    const int32_t count = recordCount(g, table);
-    int32_t n = 0;
-    if (!what.empty() && what.find_first_not_of("0123456789") == std::string::npos && what.size() < 7) {
-        n = std::stoi(what);
-        if (n < 1 || n >= count) n = 0;
-    } else {
-        n = findRecordByName(g, table, what);
-    }
+    const int32_t n = recordNamed(g, table, what);
     if (n == 0) fail(ctx, kExitBadArgument, fmt::format("There is no {} called {}", kind, what));
     return static_cast<int16_t>(n);
 }

@@ -388,18 +388,7 @@ void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
         } else {
             const FileNo table = kind == 0 ? FileNo::fileBand : kind == 2 ? FileNo::fileLabel : FileNo::fileStaff;
             const std::string& what = kind == 0 ? a->band : kind == 2 ? a->label : a->staff;
-            int32_t n = 0;
-            if (what.find_first_not_of("0123456789") == std::string::npos && what.size() < 7) {
-                n = std::stoi(what);
-                if (n < 1 || n >= recordCount(g, table)) n = 0;
-            } else if (kind == 3) {
-                for (int32_t s = 1; s < g.staff.recordCount() && n == 0; ++s) {
-                    g.staff.read(s);
-                    if (trim(g.staff->forename.value) + " " + trim(g.staff->surname.value) == trim(what)) n = s;
-                }
-            } else {
-                n = findRecordByName(g, table, what);
-            }
+            const int32_t n = recordNamed(g, table, trim(what));
             if (n == 0) {
                 ctx.closeGame();
                 throw SimError(kExitBadArgs, fmt::format("There is no record called {}", what));

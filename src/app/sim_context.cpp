@@ -22,6 +22,13 @@ uint64_t clockSeed() { return static_cast<uint64_t>(std::chrono::system_clock::n
 
 }  // namespace
 
+int32_t recordNamed(Game& g, FileNo table, const std::string& what) {
+    const bool digits = !what.empty() && what.size() < 10 && what.find_first_not_of("0123456789") == std::string::npos;
+    if (!digits) return what.empty() ? 0 : findRecordByName(g, table, what);
+    const int32_t n = std::stoi(what);
+    return n >= 1 && n < recordCount(g, table) ? n : 0;
+}
+
 std::string exitStatusTable() {
     return "Exit status:\n"
            "  0  done\n"

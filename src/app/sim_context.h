@@ -69,6 +69,11 @@ std::filesystem::path baseSetFolder(const std::filesystem::path& dataDir);
 // --json {"error": TEXT, "status": N} on stdout.
 void printError(bool json, const std::string& text, int status);
 
+// A record named on the command line by its number or its exact name (artists
+// and staff by forename and surname, songs and discs by title); 0 when there
+// is none.
+int32_t recordNamed(Game& g, FileNo table, const std::string& what);
+
 // Each group of verbs adds its subcommands here.
 void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit

@@ -53,47 +53,16 @@ std::optional<double> parseIso(const std::string& text) {
     return serialFromCivil(y, m, d);
 }
 
-bool isNumber(const std::string& s) {
-    return !s.empty() && s.size() < 10 &&
-           std::all_of(s.begin(), s.end(), [](unsigned char c) { return std::isdigit(c); });
-}
-
 // A disc by number or exact title; 0 when none.
 int16_t findDisc(Game& g, const std::string& key) {
-    if (isNumber(key)) {
-        int n = std::stoi(key);
-        return n >= 1 && n < g.disc.recordCount() ? static_cast<int16_t>(n) : 0;
-    }
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        if (trim(g.disc->title.value) == key) return static_cast<int16_t>(n);
-    }
-    return 0;
+    return static_cast<int16_t>(recordNamed(g, FileNo::fileDisc, key));
 }
 
 int16_t findFirm(Game& g, const std::string& key) {
-    if (isNumber(key)) {
-        int n = std::stoi(key);
-        return n >= 1 && n < g.business.recordCount() ? static_cast<int16_t>(n) : 0;
-    }
-    for (int32_t n = 1; n < g.business.recordCount(); ++n) {
-        g.business.read(n);
-        if (trim(g.business->name.value) == key) return static_cast<int16_t>(n);
-    }
-    return 0;
+    return static_cast<int16_t>(recordNamed(g, FileNo::fileBusiness, key));
 }
 
-int32_t findSong(Game& g, const std::string& key) {
-    if (isNumber(key)) {
-        int n = std::stoi(key);
-        return n >= 1 && n < g.song.recordCount() ? n : 0;
-    }
-    for (int32_t n = 1; n < g.song.recordCount(); ++n) {
-        g.song.read(n);
-        if (trim(g.song->title.value) == key) return n;
-    }
-    return 0;
-}
+int32_t findSong(Game& g, const std::string& key) { return recordNamed(g, FileNo::fileSong, key); }
 
 std::string bandName(Game& g, int16_t band) {
     if (band < 1 || band >= g.band.recordCount()) return "";

@@ -21,30 +21,11 @@ namespace trovane::sim {
 
 namespace {
 
-bool isNumber(const std::string& s) {
-    return !s.empty() && s.size() < 10 &&
-           std::all_of(s.begin(), s.end(), [](unsigned char c) { return std::isdigit(c); });
-}
-
-// A record of a table by number or exact name; 0 when none.
-template <typename TableT, typename NameOf>
-int32_t findRecord(TableT& table, const std::string& key, NameOf nameOf) {
-    if (isNumber(key)) {
-        int n = std::stoi(key);
-        return n >= 1 && n < table.recordCount() ? n : 0;
-    }
-    for (int32_t n = 1; n < table.recordCount(); ++n) {
-        table.read(n);
-        if (nameOf(table.rec) == key) return n;
-    }
-    return 0;
-}
-
 int16_t findBand(Game& g, const std::string& key) {
-    return static_cast<int16_t>(findRecord(g.band, key, [](const BandRecord& b) { return trim(b.name.value); }));
+    return static_cast<int16_t>(recordNamed(g, FileNo::fileBand, key));
 }
 int16_t findVenue(Game& g, const std::string& key) {
-    return static_cast<int16_t>(findRecord(g.venue, key, [](const VenueRecord& v) { return trim(v.name.value); }));
+    return static_cast<int16_t>(recordNamed(g, FileNo::fileVenue, key));
 }
 
 std::optional<double> parseIso(const std::string& text) {
@@ -214,7 +195,7 @@ void runCeremonies(SimContext& ctx) {
 
 void runCeremony(SimContext& ctx, const std::string& key) {
     Game& g = ctx.openGame();
-    int32_t n = findRecord(g.ceremony, key, [](const CeremonyRecord& c) { return trim(c.name.value); });
+    int32_t n = recordNamed(g, FileNo::fileCeremony, key);
     if (n == 0) {
         ctx.closeGame();
         throw SimError(kExitBadArgs, "There is no ceremony " + key);

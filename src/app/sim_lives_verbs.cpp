@@ -40,13 +40,10 @@ std::string artistName(const ArtistRecord& a) { return trim(trim(a.forename.valu
 
 // An artist by number or exact name; 0 when none.
 int16_t findArtist(Game& g, const std::string& key) {
-    if (!key.empty() && key.size() < 6 && key.find_first_not_of("0123456789") == std::string::npos) {
-        int n = std::stoi(key);
-        return n >= 1 && n < g.artist.recordCount() ? static_cast<int16_t>(n) : 0;
-    }
-    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
+    if (const int32_t n = recordNamed(g, FileNo::fileArtist, key)) return static_cast<int16_t>(n);
+    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {  // a nickname names an artist too
         g.artist.read(n);
-        if (artistName(g.artist.rec) == key || trim(g.artist->nickname.value) == key) return static_cast<int16_t>(n);
+        if (!key.empty() && trim(g.artist->nickname.value) == key) return static_cast<int16_t>(n);
     }
     return 0;
 }

@@ -27,14 +27,7 @@ struct OffersOptions {
 
 // An act by record number or exact name, or 0 after telling why.
 int16_t findBand(SimContext& ctx, Game& g, const std::string& which) {
-    const bool digits = !which.empty() && which.find_first_not_of("0123456789") == std::string::npos;
-    int32_t n = 0;
-    if (digits && which.size() < 6) {
-        n = std::stoi(which);
-        if (n < 1 || n >= g.band.recordCount()) n = 0;
-    } else {
-        n = findRecordByName(g, FileNo::fileBand, which);
-    }
+    const int32_t n = recordNamed(g, FileNo::fileBand, which);
     if (n == 0) {
         printError(ctx.json, fmt::format("There is no band {}", which), kExitBadArgs);
         ctx.exitCode = kExitBadArgs;

@@ -16,6 +16,7 @@
 #include "schedule/band_calendar.h"
 #include "schedule/schedule.h"
 #include "talent/retirement.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -98,12 +99,13 @@ double earliestReleaseDate(Game& g, int t) {
     const DiscRecord disc = g.disc.rec;
     double earliest = g.gameDate + 42;
     double gap = disc.isSingle ? 45 : 180;
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
+    DiscRecord other{};
+    for (int32_t n : discsOfBand(g, disc.band)) {
         if (n == disc.id) continue;
-        g.disc.read(n);
-        if (g.disc->band != disc.band || g.disc->isSingle != disc.isSingle) continue;
-        double other = g.disc->releaseDate[at(t)];
-        if (isSet(other)) earliest = std::max(earliest, other + gap);
+        decodeRecord(g.disc.bytesOf(n).data(), other);
+        if (other.isSingle != disc.isSingle) continue;
+        double date = other.releaseDate[at(t)];
+        if (isSet(date)) earliest = std::max(earliest, date + gap);
     }
     g.disc.rec = disc;
     return earliest;

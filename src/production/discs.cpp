@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "production/disc_release.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 
@@ -46,9 +47,8 @@ void setUpBandDiscs(Game& g) {
     const DiscRecord held = g.disc.rec;
     int64_t biggest[2] = {0, 0};
     int64_t bestWeek[2] = {0, 0};
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        if (g.disc->band != band.id) continue;
+    for (int32_t n : discsOfBand(g, band.id)) {
+        decodeRecord(g.disc.bytesOf(n).data(), g.disc.rec);
         int64_t week = 0, total = 0;
         for (int t = 0; t < 5; ++t) {
             week += g.disc->weekSales[at(t)];

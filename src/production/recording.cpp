@@ -13,6 +13,7 @@
 #include "schedule/band_calendar.h"
 #include "schedule/schedule.h"
 #include "talent/contract_progress.h"
+#include "world/band_lookups.h"
 #include "world/cp1252.h"
 #include "world/dates.h"
 #include "world/game.h"
@@ -122,14 +123,7 @@ std::string materialBudgetCaption(const Game& g, int budget) {
                        formatMoney(g, moneyUnits(materialPrice(budget)), "###,###,##0"));
 }
 
-std::vector<int32_t> songsInHand(Game& g, int16_t band) {
-    std::vector<int32_t> songs;
-    for (int32_t n = 1; n < g.song.recordCount(); ++n) {
-        g.song.read(n);
-        if (g.song->band == band && g.song->disc == kSongFree) songs.push_back(n);
-    }
-    return songs;
-}
+std::vector<int32_t> songsInHand(Game& g, int16_t band) { return unusedSongsOf(g, band); }
 
 std::string albumProgressText(Game& g, int16_t band) {
     const auto n = songsInHand(g, band).size();

@@ -9,6 +9,7 @@
 #include "floor/news_post.h"
 #include "label/finances.h"
 #include "talent/contract_progress.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -67,11 +68,12 @@ void payFirstInstallment(Game& g) {
 // The latest first release of the band's albums, or none.
 double latestAlbumRelease(Game& g, int16_t band) {
     double latest = 0;
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        if (g.disc->band != band || g.disc->isSingle != 0) continue;
+    DiscRecord disc{};
+    for (int32_t n : discsOfBand(g, band)) {
+        decodeRecord(g.disc.bytesOf(n).data(), disc);
+        if (disc.isSingle != 0) continue;
         double first = 0;
-        for (double d : g.disc->releaseDate)
+        for (double d : disc.releaseDate)
             if (d > kNoDate && (first == 0 || d < first)) first = d;
         latest = std::max(latest, first);
     }
@@ -186,9 +188,8 @@ bool isAlreadySingle(const SongRecord& song) {
 int songMean(const SongRecord& song) { return toLong((song.quality + song.commerciality) / 2.0); }
 
 void holdBandSongs(Game& g, int16_t band) {
-    for (int32_t n = 1; n < g.song.recordCount(); ++n) {
+    for (int32_t n : unusedSongsOf(g, band)) {
         g.song.read(n);
-        if (g.song->band != band || g.song->disc != kSongFree) continue;
         g.song->disc = kSongHeld;
         g.song.write();
     }

@@ -10,6 +10,7 @@
 #include "production/songwriting.h"
 #include "rivals/rival_common.h"
 #include "rivals/rival_news.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -82,9 +83,10 @@ void rivalStartAlbum(Game& g) {
     const int16_t band = g.band->id;
     std::vector<std::pair<int, int32_t>> gathered;  // quality, song
     SongRecord s{};
-    for (int32_t n = 1; n < g.song.recordCount() && std::ssize(gathered) < kMaxGathered; ++n) {
+    for (int32_t n : unusedSongsOf(g, band)) {
+        if (std::ssize(gathered) >= kMaxGathered) break;
         decodeRecord(g.song.bytesOf(n).data(), s);
-        if (s.band == band && s.disc == kNotOnDisc) gathered.emplace_back(trackQuality(s), n);
+        gathered.emplace_back(trackQuality(s), n);
     }
     if (gathered.empty()) return;
     std::stable_sort(gathered.begin(), gathered.end(), [](auto& a, auto& b) { return a.first > b.first; });
@@ -163,11 +165,8 @@ void rivalMakeSingle(Game& g) {
     if (lead == 0) return;
     std::array<int32_t, 2> bSides{};
     std::size_t taken = 0;
-    SongRecord s{};
-    for (int32_t n = g.song.recordCount() - 1; n >= 1 && taken < 2; --n) {
-        decodeRecord(g.song.bytesOf(n).data(), s);
-        if (s.band == band && s.disc == kNotOnDisc) bSides[taken++] = n;
-    }
+    const std::vector<int32_t> unused = unusedSongsOf(g, band);
+    for (auto it = unused.rbegin(); it != unused.rend() && taken < 2; ++it) bSides[taken++] = *it;
     std::stable_sort(others.begin(), others.end(), [](auto& a, auto& b) { return a.first < b.first; });
     for (auto& [q, song] : others)
         if (taken < 2 && song != lead) bSides[taken++] = song;

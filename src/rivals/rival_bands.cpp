@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <vector>
 
 #include "label/scouting.h"
 #include "rivals/rival_albums.h"
@@ -14,11 +15,18 @@ namespace trovane {
 
 void computerCheckBands(Game& g) {
     const int16_t player = g.player.playerLabel;
+    // A signed band never qualifies and draws nothing, so only the free acts
+    // are read, once a label; judging lists bands and signs none.
+    std::vector<int32_t> free;
+    BandRecord b{};
+    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+        decodeRecord(g.band.bytesOf(n).data(), b);
+        if (b.retired == kFalse && b.label == 0) free.push_back(n);
+    }
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         if (l == player) continue;
-        for (int32_t b = 1; b < g.band.recordCount(); ++b) {
-            g.band.read(b);
-            if (g.band->retired != kFalse) continue;
+        for (int32_t n : free) {
+            g.band.read(n);
             g.label.read(l);
             considerForShortlist(g, 0);
         }
@@ -66,33 +74,40 @@ void rivalOptionDecision(Game& g) {
     const BandRecord saved = g.band.rec;
     g.label.read(saved.label);
     setAskingTerms(g);
-    const int rating = rateContract(g, 2).score;
+    OptionFacts facts;
+    facts.rating = rateContract(g, 2).score;
     g.band.rec = saved;
-    if (rating > 110) {
-        releaseBand(g, 1);
-        return;
-    }
-    const int16_t latest = latestAlbum(g, band);
-    g.band.read(band);
-    if (latest == 0) {
-        extendContract(g);  // no album finished: the band is kept
-        return;
-    }
-    const double net = moneyToDouble(g.band->grossIncome) - moneyToDouble(g.band->costs);
-    bool dropIt = false;
-    g.disc.read(latest);
-    const double income = moneyToDouble(g.disc->income);
-    if (net < 0) {
+    const int16_t latest = facts.rating > 110 ? 0 : latestAlbum(g, band);
+    if (latest != 0) {
+        g.band.read(band);
+        facts.hasAlbum = true;
+        facts.net = moneyToDouble(g.band->grossIncome) - moneyToDouble(g.band->costs);
+        g.disc.read(latest);
+        facts.albumIncome = moneyToDouble(g.disc->income);
         g.label.read(g.disc->label);
-        const float ratio = static_cast<float>(std::fabs(net) / moneyToDouble(g.label->cashBalance));
-        const int n = g.rng.between(0, 99);
-        dropIt = ratio > 0.1f || n > 75;
+        facts.labelBalance = moneyToDouble(g.label->cashBalance);
     }
+    const bool keep = rivalKeepsBand(facts, [&g] { return g.rng.between(0, 99); });
     g.band.read(band);
-    if (income >= 0 && !dropIt)
+    if (facts.rating > 110) g.band.rec = saved;
+    if (keep)
         extendContract(g);
     else
         releaseBand(g, 1);
+}
+
+bool rivalKeepsBand(const OptionFacts& f, const std::function<int()>& drawPercent) {
+    if (f.rating > 110) return false;
+    if (!f.hasAlbum) return true;  // no album out yet: the band is kept
+    bool dropIt = false;
+    if (f.net < 0) {
+        // Single precision, as the game has it: a zero balance gives infinity and drops the band.
+        const float ratio = static_cast<float>(std::fabs(f.net) / f.labelBalance);
+        dropIt = ratio > 0.1f;
+        const int n = drawPercent();
+        dropIt = dropIt || n > 75;
+    }
+    return f.albumIncome >= 0 && !dropIt;
 }
 
 }  // namespace trovane

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "label/scouting.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/numbers.h"
@@ -22,9 +23,9 @@ namespace {
 template <class Visit>
 void eachDiscOf(Game& g, int16_t band, Visit visit) {
     DiscRecord d{};
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
+    for (int32_t n : discsOfBand(g, band)) {
         decodeRecord(g.disc.bytesOf(n).data(), d);
-        if (d.band == band) visit(n, d);
+        visit(n, d);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "rivals/rival_touring.h"
 #include "schedule/band_calendar.h"
 #include "schedule/schedule.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 
@@ -36,7 +37,7 @@ bool crowded(Game& g, const DiscRecord& disc, int t, double date, int r) {
     int equals = 0;
     DiscRecord d{};
     BandRecord b{};
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
+    for (int32_t n : discsOutOn(g, date)) {
         decodeRecord(g.disc.bytesOf(n).data(), d);
         if (d.releaseDate[static_cast<std::size_t>(t)] != date || d.isSingle != disc.isSingle || n == disc.id) continue;
         if (d.band < 1 || d.band >= g.band.recordCount()) continue;

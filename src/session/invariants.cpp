@@ -498,16 +498,6 @@ std::optional<InvariantBreak> appearancesPointWithin(Game& g) {
         if (e.mediaOption > 4)
             return InvariantBreak{"schedule", n, "mediaOption", "appearancesPointWithin",
                                   fmt::format("{}, above 4", e.mediaOption)};
-// A festival's bill names each act once: an act can stand in one place only.
-std::optional<InvariantBreak> festivalBillsHoldNoActTwice(Game& g) {
-    for (int32_t n = 1; n != g.gig.recordCount(); ++n) {
-        const GigRecord r = copyOf(g.gig, n);
-        if (r.tour < 1 || r.tour >= g.tour.recordCount() || copyOf(g.tour, r.tour).festival == 0) continue;
-        for (std::size_t i = 0; i < r.bill.size() && r.bill[i] != 0; ++i)
-            for (std::size_t j = i + 1; j < r.bill.size() && r.bill[j] != 0; ++j)
-                if (r.bill[i] == r.bill[j])
-                    return InvariantBreak{"gig", n, fmt::format("bill[{}]", j), "festivalBillsHoldNoActTwice",
-                                          fmt::format("act {} also stands in place {}", r.bill[j], i + 1)};
     }
     return std::nullopt;
 }
@@ -535,7 +525,6 @@ constexpr std::array kRules = {
     InvariantRule{"storyMarksFollowPendingStages", storyMarksFollowPendingStages},
     InvariantRule{"awardsHoldTheirNominees", awardsHoldTheirNominees},
     InvariantRule{"appearancesPointWithin", appearancesPointWithin},
-    InvariantRule{"festivalBillsHoldNoActTwice", festivalBillsHoldNoActTwice},
 };
 
 }  // namespace

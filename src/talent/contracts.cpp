@@ -8,6 +8,7 @@
 #include "talent/band_functions.h"
 #include "talent/contract_news.h"
 #include "talent/contract_terms.h"
+#include "world/band_lookups.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -41,9 +42,9 @@ bool onPlayersShortlist(Game& g, int16_t band) {
 }
 
 void pickTitlesForUntitledSongs(Game& g, int16_t band) {
-    for (int32_t n = 1; n < g.song.recordCount(); ++n) {
+    for (int32_t n : songsOfBand(g, band)) {
         g.song.read(n);
-        if (g.song->band != band || trim(g.song->title.value) != "Untitled") continue;
+        if (trim(g.song->title.value) != "Untitled") continue;
         g.band.read(band);
         const std::string title = pickSongTitle(g);
         g.song.read(n);

@@ -48,15 +48,6 @@ void fileEntry(Game& g, ScheduleType type, double date, int16_t band, int16_t ar
     addSchedule(g, e);
 }
 
-// Takes leaver out of the band's members (the places after move up).
-void dropMember(BandRecord& b, int32_t leaver) {
-    int i = memberIndex(b, leaver);
-    if (i < 0) return;
-    for (int k = i; k < 9; ++k) b.members[static_cast<std::size_t>(k)] = b.members[static_cast<std::size_t>(k + 1)];
-    b.members[9] = 0;
-    if (b.memberCount > 0) b.memberCount = narrow<uint8_t>(b.memberCount - 1);
-}
-
 bool isBand(Game& g, int32_t band) { return band >= 1 && band < g.band.recordCount(); }
 bool isArtist(Game& g, int32_t artist) { return artist >= 1 && artist < g.artist.recordCount(); }
 

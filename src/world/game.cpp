@@ -1,5 +1,6 @@
 #include "world/game.h"
 
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/journal.h"
 
@@ -26,6 +27,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     dayIndex.deferWrites(&parked);
     chart.deferWrites(&parked);
     highscore.deferWrites(&parked);
+    watchDiscDates(*this);
 }
 
 }  // namespace trovane

@@ -158,6 +158,10 @@ public:
 
     // The offers of each band, by record number (see offersOnBand).
     SideIndex offersByBand;
+    // Songs and discs by band, discs by release day (see band_lookups.h).
+    SideIndex songsByBand;
+    SideIndex discsByBand;
+    DayIndex discsByDay;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

@@ -196,6 +196,8 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     case fileLook: return findIn(g.look, [&](auto& r) { return nameMatches(r.name, name); });
     case fileVenue: return findIn(g.venue, [&](auto& r) { return nameMatches(r.name, name); });
     case fileSong: return findIn(g.song, [&](auto& r) { return nameMatches(r.title, name); });
+    case fileDisc: return findIn(g.disc, [&](auto& r) { return nameMatches(r.title, name); });
+    case fileBusiness: return findIn(g.business, [&](auto& r) { return nameMatches(r.name, name); });
     case fileEvent: return findInCopy(g.event, [&](auto& r) { return nameMatches(r.title, name); });
     case fileAward: return findIn(g.award, [&](auto& r) { return nameMatches(r.name, name); });
     case fileCeremony: return findIn(g.ceremony, [&](auto& r) { return nameMatches(r.name, name); });

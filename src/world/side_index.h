@@ -3,6 +3,7 @@
 // numbers of each key, brought up to date from the bytes of the new records,
 // so a lookup never touches the table's buffer.
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 namespace trovane {
@@ -27,6 +28,37 @@ struct SideIndex {
         static const std::vector<int32_t> none;
         if (key < 0 || static_cast<std::size_t>(key) >= byKey.size()) return none;
         return byKey[static_cast<std::size_t>(key)];
+    }
+};
+
+// Record numbers by whole day, for a key that a record may change: the owner
+// removes a record from its old days before adding it to its new ones.
+struct DayIndex {
+    uint64_t generation = UINT64_MAX;
+    int32_t covered = 0;
+    std::unordered_map<int64_t, std::vector<int32_t>> byDay;
+
+    void reset(uint64_t gen) {
+        generation = gen;
+        covered = 0;
+        byDay.clear();
+    }
+    void add(int64_t day, int32_t record) {
+        auto& list = byDay[day];
+        for (int32_t r : list)
+            if (r == record) return;
+        list.push_back(record);
+    }
+    void remove(int64_t day, int32_t record) {
+        auto it = byDay.find(day);
+        if (it == byDay.end()) return;
+        std::erase(it->second, record);
+        if (it->second.empty()) byDay.erase(it);
+    }
+    const std::vector<int32_t>& of(int64_t day) const {
+        static const std::vector<int32_t> none;
+        auto it = byDay.find(day);
+        return it == byDay.end() ? none : it->second;
     }
 };
 

@@ -172,10 +172,15 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     requireOpen("write");
     if (n < 1 || n > records() + 1) missingRecord(n, "write");
     std::size_t at = static_cast<std::size_t>(n - 1) * length_;
-    if (at + length_ > image_.size())
-        image_.resize(at + length_);
-    else if (std::memcmp(image_.data() + at, bytes.data(), length_) == 0)
+    const bool adds = at + length_ > image_.size();
+    if (!adds && std::memcmp(image_.data() + at, bytes.data(), length_) == 0)
         return;  // the same bytes again change nothing and need no write
+    if (watchWrites) {
+        std::span<const uint8_t> before;
+        if (!adds) before = {image_.data() + at, length_};
+        watchWrites(n, before, bytes.first(length_));
+    }
+    if (adds) image_.resize(at + length_);
     std::memcpy(image_.data() + at, bytes.data(), length_);
     dirtyFrom_ = std::min(dirtyFrom_, at);
     dirtyTo_ = std::max(dirtyTo_, at + length_);

@@ -21,6 +21,7 @@
 // finds them.
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <span>
@@ -92,6 +93,11 @@ public:
     void putBytes(int32_t n, std::span<const uint8_t> bytes);
     // Forgets every record (the file becomes empty on the next flush).
     void clearAll();
+
+    // Told of each write that changes a record, before the bytes change: the
+    // record's number, its bytes until now (empty when the write adds it) and
+    // its new bytes. A side index whose key can change keeps in step by it.
+    std::function<void(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after)> watchWrites;
 
 protected:
     void requireOpen(const char* what) const;

@@ -11,6 +11,7 @@
 #include "production/recording.h"
 #include "session/session_record.h"
 #include "support/album_world.h"
+#include "support/sim_run.h"
 #include "talent/contract_progress.h"
 
 using namespace trovane;
@@ -31,15 +32,7 @@ struct SimWorld : AlbumWorld {
         writeSessionFile(g, workingSessionFile(g));
         closeAllTables(g);
     }
-    std::pair<int, std::string> sim(const std::string& args) {
-        std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + eg.folder.path().string() + " " + args + " 2>&1";
-        std::string out;
-        FILE* p = popen(cmd.c_str(), "r");
-        char buf[4096];
-        while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
-        int status = pclose(p);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-    }
+    std::pair<int, std::string> sim(const std::string& args) { return test::runSim(eg.folder.path().string(), args); }
 };
 
 }  // namespace

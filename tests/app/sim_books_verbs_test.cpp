@@ -12,26 +12,14 @@
 #include "label/finances.h"
 #include "session/session_record.h"
 #include "support/empty_game.h"
+#include "support/sim_run.h"
 
 using namespace trovane;
 
 namespace {
 
 std::pair<int, std::string> sim(const test::TempFolder& data, const std::string& args) {
-    std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + data.path().string() + " " + args + " 2>&1";
-    std::string out;
-    FILE* p = popen(cmd.c_str(), "r");
-    char buf[4096];
-    while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
-    int status = pclose(p);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-}
-
-std::string contents(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
+    return test::runSim(data.path().string(), args);
 }
 
 // The player's label with a head of Finance and Law (wage 700), and one person out of work.
@@ -77,15 +65,15 @@ void makeGame(const test::TempFolder& data, Money cashSlip = 0) {
 TEST(SimBooksVerbs, RefusalsExitOneAndChangeNothing) {
     test::TempFolder data;
     makeGame(data);
-    const std::string staffBefore = contents(data.path() / "staff.vel");
-    const std::string scheduleBefore = contents(data.path() / "schedule.vel");
+    const std::string staffBefore = test::fileBytes(data.path() / "staff.vel");
+    const std::string scheduleBefore = test::fileBytes(data.path() / "schedule.vel");
     EXPECT_EQ(sim(data, "approach \"Gil Head\" --role 0").first, 1);
     EXPECT_EQ(sim(data, "approach 1 --role 0").first, 1) << "the player";
     EXPECT_EQ(sim(data, "terminate \"Fay Free\"").first, 1);
     EXPECT_EQ(sim(data, "terminate 1").first, 1) << "the player";
     EXPECT_EQ(sim(data, "withdraw-staff 3").first, 1);
-    EXPECT_EQ(contents(data.path() / "staff.vel"), staffBefore);
-    EXPECT_EQ(contents(data.path() / "schedule.vel"), scheduleBefore);
+    EXPECT_EQ(test::fileBytes(data.path() / "staff.vel"), staffBefore);
+    EXPECT_EQ(test::fileBytes(data.path() / "schedule.vel"), scheduleBefore);
 
     EXPECT_EQ(sim(data, "approach 3 --role 4 --years 5").first, 0);
     EXPECT_EQ(sim(data, "approach 3 --role 4").first, 1) << "already pending";

@@ -13,26 +13,14 @@
 #include "session/session_record.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
+#include "support/sim_run.h"
 
 using namespace trovane;
 
 namespace {
 
 std::pair<int, std::string> sim(const test::TempFolder& data, const std::string& args) {
-    std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + data.path().string() + " " + args + " 2>&1";
-    std::string out;
-    FILE* p = popen(cmd.c_str(), "r");
-    char buf[4096];
-    while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
-    int status = pclose(p);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-}
-
-std::string contents(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
+    return test::runSim(data.path().string(), args);
 }
 
 // Euros at 1.47; three acts, one signed to the player, one to a rival.
@@ -87,13 +75,13 @@ TEST(SimBrowseVerbs, BadArgumentsExitTwo) {
 TEST(SimBrowseVerbs, AnotherLabelsArtistIsRefusedAndNothingIsFiled) {
     test::TempFolder data;
     makeGame(data);
-    const std::string before = contents(data.path() / "schedule.vel");
+    const std::string before = test::fileBytes(data.path() / "schedule.vel");
     // Members are numbered as the acts were added: Taken's only member is 4.
     auto [status, out] = sim(data, "image 4");
     EXPECT_EQ(status, 1) << out;
-    EXPECT_EQ(contents(data.path() / "schedule.vel"), before);
+    EXPECT_EQ(test::fileBytes(data.path() / "schedule.vel"), before);
     EXPECT_EQ(sim(data, "image 3").first, 0);
-    EXPECT_NE(contents(data.path() / "schedule.vel"), before);
+    EXPECT_NE(test::fileBytes(data.path() / "schedule.vel"), before);
 }
 
 TEST(SimBrowseVerbs, AnyTableIsListedByItsBrowserWithItsChoicesAndSort) {

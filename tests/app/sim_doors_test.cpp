@@ -10,6 +10,7 @@
 #include <sstream>
 #include <string>
 
+#include "support/sim_run.h"
 #include "support/temp_folder.h"
 #include "support/tiny_world.h"
 
@@ -24,26 +25,15 @@ struct SimRun {
 
 // trovane-sim on the folder, stdout and stderr together.
 SimRun sim(const fs::path& data, const std::string& args) {
-    std::string cmd = std::string(TROVANE_SIM_PATH) + " --seed 3 --data " + data.string() + " " + args + " 2>&1";
-    std::string out;
-    FILE* p = popen(cmd.c_str(), "r");
-    char buf[4096];
-    while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
-    int status = pclose(p);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-}
-
-std::string bytesOf(const fs::path& f) {
-    std::ifstream in(f, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
+    auto [status, out] = trovane::test::runSim(data.string(), "--seed 3 " + args);
+    return {status, out};
 }
 
 // Every file of the folder with its bytes, to show that a run changed nothing.
 std::map<std::string, std::string> snapshot(const fs::path& dir) {
     std::map<std::string, std::string> files;
-    for (const auto& e : fs::directory_iterator(dir)) files[e.path().filename().string()] = bytesOf(e.path());
+    for (const auto& e : fs::directory_iterator(dir))
+        files[e.path().filename().string()] = trovane::test::fileBytes(e.path());
     return files;
 }
 
@@ -145,11 +135,11 @@ TEST_F(SimDoors, NewRefusesWithTheFormsSentenceAndStartsNothing) {
 
 TEST_F(SimDoors, ARefusedNewLeavesTheGameInProgressAsItWas) {
     ASSERT_EQ(sim(data(), kPlayer + kFound).status, 0);
-    std::string before = bytesOf(data() / "svar.vel");
-    std::string labels = bytesOf(data() / "label.vel");
+    std::string before = trovane::test::fileBytes(data() / "svar.vel");
+    std::string labels = trovane::test::fileBytes(data() / "label.vel");
     EXPECT_EQ(sim(data(), kPlayer + "--found ' ' --continent Europe --country England --city London").status, 2);
-    EXPECT_EQ(bytesOf(data() / "svar.vel"), before);
-    EXPECT_EQ(bytesOf(data() / "label.vel"), labels);
+    EXPECT_EQ(trovane::test::fileBytes(data() / "svar.vel"), before);
+    EXPECT_EQ(trovane::test::fileBytes(data() / "label.vel"), labels);
 
     // Save names: 32 characters are taken, one more is refused and the slot stays free.
     SimRun tooLong = sim(data(), "save 1 --name " + std::string(33, 'n'));

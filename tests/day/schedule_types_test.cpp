@@ -34,7 +34,9 @@ TEST(ScheduleTypes, EveryReplyTheNewsOffersHasAnAction) {
 
 TEST(ScheduleTypes, AGuardedTypeRunsAnOperation) {
     for (int t = 0; t <= kLastScheduleType; ++t)
-        if (scheduleTypeInfo(t).guard != ScheduleGuard::none) EXPECT_NE(scheduleAction(t).run, nullptr) << t;
+        if (scheduleTypeInfo(t).guard != ScheduleGuard::none) {
+            EXPECT_NE(scheduleAction(t).run, nullptr) << t;
+        }
 }
 
 TEST(ScheduleTypes, TourDaysKeepTheWholeBillBusyAndNothingElseDoes) {

@@ -160,7 +160,9 @@ TEST_P(ImageReport, TheTextFollowsTheRatingAndWhetherALookBeatsIt) {
     EXPECT_EQ(g.news->kind, c.change ? 1 : 0);
     g.schedule.read(entry);
     EXPECT_EQ(g.schedule->look, c.change ? glam : 0);
-    if (c.change) EXPECT_NE(t.find(" from Grunge to Glam"), std::string::npos);
+    if (c.change) {
+        EXPECT_NE(t.find(" from Grunge to Glam"), std::string::npos);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(

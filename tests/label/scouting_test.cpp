@@ -88,6 +88,21 @@ TEST_F(Scouting, ARivalLooksFromHalfItsTargetToJustBelowIt) {
     EXPECT_TRUE(isShortlisted(g));
 }
 
+TEST_F(Scouting, HalfAnOddTargetIsNotRoundedDown) {
+    int16_t label = addLabel(g, {1, 1, 1, 1, 1});
+    g.label.read(label);
+    g.label->reputationTarget = {41, 0, 0, 0, 0};
+    g.label.write();
+    auto qualifies = [&](uint8_t r) {
+        int16_t b = addAct(g, {.reputation = {r, 0, 0, 0, 0}});
+        g.band.read(b);
+        g.label.read(label);
+        return considerForShortlist(g, 0);
+    };
+    EXPECT_FALSE(qualifies(20)) << "41 / 2 = 20.5, above 20";
+    EXPECT_TRUE(qualifies(21));
+}
+
 TEST_F(Scouting, ASignedBandOrOneOutsideTheControversyBoundsIsNotTaken) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1});
     int16_t b = addAct(g, {.label = label});

@@ -247,19 +247,61 @@ TEST_F(RivalOptions, AnAlbumThatLostMoneyDropsTheBand) {
     EXPECT_EQ(g.label->bandCount, 0);
 }
 
-TEST_F(RivalOptions, ALossOverATenthOfTheBalanceDrops) {
-    // 1,000,000 balance: a loss of 100,000 is exactly 0.1 and is not over it,
-    // but the draw may still drop; a loss of 100,001 always drops.
-    setBooks(0, 100'001, 10);
-    EXPECT_FALSE(kept());
+// The option weighed on its facts alone: a band that made 10 on its album,
+// its label holding 1,000,000, unless a case says otherwise.
+struct Weighed {
+    OptionFacts f{.rating = 100, .hasAlbum = true, .net = 0, .albumIncome = 10, .labelBalance = 1'000'000};
+    int draw = 0;
+    int draws = 0;
+    bool keeps() {
+        return rivalKeepsBand(f, [this] {
+            ++draws;
+            return draw;
+        });
+    }
+};
+
+TEST(RivalKeepsBand, ARatingOf110KeepsAnd111Drops) {
+    Weighed w;
+    w.f.rating = 110;
+    EXPECT_TRUE(w.keeps());
+    w.f.rating = 111;
+    EXPECT_FALSE(w.keeps());
+    w.f.hasAlbum = false;
+    EXPECT_FALSE(w.keeps()) << "the rating drops a band before its albums are looked at";
 }
 
-TEST_F(RivalOptions, AZeroBalanceDropsALossMakerInsteadOfFailing) {
-    g.label.read(kRival);
-    g.label->cashBalance = 0;
-    g.label.write();
-    setBooks(0, 1, 10);
-    EXPECT_FALSE(kept());
+TEST(RivalKeepsBand, ALossMakerIsKeptOnADrawOf75AndDroppedOn76) {
+    Weighed w;
+    w.f.net = -1;  // 1 / 1,000,000 is far below a tenth
+    w.draw = 75;
+    EXPECT_TRUE(w.keeps());
+    w.draw = 76;
+    EXPECT_FALSE(w.keeps());
+    EXPECT_EQ(w.draws, 2);
+}
+
+TEST(RivalKeepsBand, ALossOfExactlyATenthOfTheBalanceIsNotOverIt) {
+    Weighed w;
+    w.f.net = -100'000;  // 100,000 / 1,000,000 = 0.1 in single precision, not above 0.1
+    EXPECT_TRUE(w.keeps());
+    w.f.net = -100'001;  // 0.100001 is above it, whatever the draw
+    EXPECT_FALSE(w.keeps());
+    w.f.net = -1;
+    w.f.labelBalance = 0;  // 1 / 0 is infinity: dropped, not a failure
+    EXPECT_FALSE(w.keeps());
+}
+
+TEST(RivalKeepsBand, AnAlbumThatMadeExactlyNothingKeepsTheBandWithoutADraw) {
+    Weighed w;
+    w.f.albumIncome = 0;
+    w.draw = 99;
+    EXPECT_TRUE(w.keeps());
+    w.f.albumIncome = -1;
+    EXPECT_FALSE(w.keeps());
+    EXPECT_EQ(w.draws, 0) << "a band that did not lose money is not drawn for";
+    w.f.hasAlbum = false;
+    EXPECT_TRUE(w.keeps()) << "no album out: kept";
 }
 
 TEST_F(RivalOptions, ABandWithNoReleasedAlbumIsKept) {

@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
               "achieve", 1, "who", "looksAndAchievementsPointWithin"},
         Fault{"ARecordingBandNamingAnotherBandsDisc",
               [](Game& g) {
-    addBand(g, [](auto& b) {});
+    addBand(g, [](auto&) {});
     addBand(g, [](auto& b) {
         b.albumStatus = 2;
         b.songsWritten = 1;  // disc 1 is the first band's

@@ -76,7 +76,9 @@ TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
         p.birthDay = c.d;
         InputRefusal r = checkPlayerChoices(g, p);
         EXPECT_EQ(!r, c.taken) << c.y << "-" << c.m << "-" << c.d;
-        if (r) EXPECT_EQ(r.text, "The date of birth must be a real date from 1 January 1880 to 31 December 2003.");
+        if (r) {
+            EXPECT_EQ(r.text, "The date of birth must be a real date from 1 January 1880 to 31 December 2003.");
+        }
     }
 }
 

@@ -276,6 +276,8 @@ TEST(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
             count += g.schedule.recordCount() - before;
         }
         EXPECT_EQ(count > 0, filed) << "age " << age;
-        if (count) EXPECT_NEAR(count / 2000.0, 0.02, 0.012);
+        if (count) {
+            EXPECT_NEAR(count / 2000.0, 0.02, 0.012);
+        }
     }
 }

@@ -1,0 +1,123 @@
+// Lookups by band and by release day answer what a walk of the table would,
+// and leave the buffers alone.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "support/empty_game.h"
+#include "support/played_world.h"
+#include "world/band_lookups.h"
+
+using namespace trovane;
+
+namespace {
+
+std::vector<int32_t> songsWalked(Game& g, int16_t band, bool unusedOnly) {
+    std::vector<int32_t> out;
+    SongRecord s{};
+    for (int32_t n = 1; n < g.song.recordCount(); ++n) {
+        decodeRecord(g.song.bytesOf(n).data(), s);
+        if (s.band == band && (!unusedOnly || s.disc == 65535)) out.push_back(n);
+    }
+    return out;
+}
+
+std::vector<int32_t> discsWalked(Game& g, int16_t band) {
+    std::vector<int32_t> out;
+    DiscRecord d{};
+    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
+        decodeRecord(g.disc.bytesOf(n).data(), d);
+        if (d.band == band) out.push_back(n);
+    }
+    return out;
+}
+
+std::vector<int32_t> discsWalkedOn(Game& g, double date) {
+    std::vector<int32_t> out;
+    DiscRecord d{};
+    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
+        decodeRecord(g.disc.bytesOf(n).data(), d);
+        if (std::find(d.releaseDate.begin(), d.releaseDate.end(), date) != d.releaseDate.end()) out.push_back(n);
+    }
+    return out;
+}
+
+TEST(BandLookups, AgreeWithAWalkAfterAYearOfPlay) {
+    test::PlayedWorld w;
+    Game& g = w.g;
+    // Look once early, so that the rest of the year is kept in step by writes.
+    (void)discsOutOn(g, g.gameDate + 60);
+    (void)songsOfBand(g, 1);
+    (void)discsOfBand(g, 1);
+    w.play(365);
+
+    g.song.read(1);
+    g.disc.read(1);
+    const SongRecord song = g.song.rec;
+    const DiscRecord disc = g.disc.rec;
+    int unused = 0;
+    for (int16_t b = 1; b < g.band.recordCount(); ++b) {
+        ASSERT_EQ(songsOfBand(g, b), songsWalked(g, b, false)) << "band " << b;
+        ASSERT_EQ(unusedSongsOf(g, b), songsWalked(g, b, true)) << "band " << b;
+        ASSERT_EQ(discsOfBand(g, b), discsWalked(g, b)) << "band " << b;
+        unused += static_cast<int>(unusedSongsOf(g, b).size());
+    }
+    std::set<double> dates;
+    DiscRecord d{};
+    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
+        decodeRecord(g.disc.bytesOf(n).data(), d);
+        for (double date : d.releaseDate)
+            if (date > kNoDate) dates.insert(date);
+    }
+    for (double date : dates) ASSERT_EQ(discsOutOn(g, date), discsWalkedOn(g, date)) << date;
+    EXPECT_GT(unused, 0);
+    EXPECT_GT(dates.size(), 50u);  // the year put out plenty of discs
+    EXPECT_EQ(g.song.rec, song);
+    EXPECT_EQ(g.disc.rec, disc);
+}
+
+struct TwoDiscs : ::testing::Test {
+    test::EmptyGame eg;
+    Game& g = eg.g;
+    void SetUp() override {
+        for (int16_t band : {4, 7}) {
+            g.disc.rec = DiscRecord{};
+            g.disc->band = band;
+            g.disc->releaseDate.fill(kNoDate);
+            g.disc.append();
+        }
+    }
+    void date(int32_t disc, int territory, double when) {
+        g.disc.read(disc);
+        g.disc->releaseDate[static_cast<std::size_t>(territory)] = when;
+        g.disc.write();
+    }
+};
+
+TEST_F(TwoDiscs, AReleaseDayMovesWithTheDisc) {
+    EXPECT_TRUE(discsOutOn(g, 46000).empty());  // indexed before any date is set
+    date(2, 1, 46000);
+    date(1, 3, 46000);
+    EXPECT_EQ(discsOutOn(g, 46000), (std::vector<int32_t>{1, 2}));
+    date(2, 1, 46007);
+    EXPECT_EQ(discsOutOn(g, 46000), std::vector<int32_t>{1});
+    EXPECT_EQ(discsOutOn(g, 46007), std::vector<int32_t>{2});
+    date(2, 4, 46007);  // a second territory on the same day lists the disc once
+    EXPECT_EQ(discsOutOn(g, 46007), std::vector<int32_t>{2});
+    EXPECT_TRUE(discsOutOn(g, kNoDate).empty());
+}
+
+TEST_F(TwoDiscs, AnEmptiedTableIsIndexedAfresh) {
+    EXPECT_EQ(discsOfBand(g, 7), std::vector<int32_t>{2});
+    date(1, 0, 46000);
+    EXPECT_EQ(discsOutOn(g, 46000), std::vector<int32_t>{1});
+    g.disc.clearAll();
+    g.disc.rec = DiscRecord{};
+    g.disc->band = 9;
+    g.disc.append();
+    EXPECT_TRUE(discsOfBand(g, 7).empty());
+    EXPECT_EQ(discsOfBand(g, 9), std::vector<int32_t>{1});
+    EXPECT_TRUE(discsOutOn(g, 46000).empty());
+}
+
+}  // namespace
