@@ -83,6 +83,7 @@ std::string_view screenName(Screen s) {
     case Screen::frmBandList: return "frmBandList";
     case Screen::frmBandContract: return "frmBandContract";
     case Screen::frmDiscDetails: return "frmDiscDetails";
+    case Screen::frmArtistDetails: return "frmArtistDetails";
     }
     return "unknown";
 }

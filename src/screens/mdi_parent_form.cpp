@@ -307,10 +307,10 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmFestivalBrowse:
     case Screen::frmCeremonyBrowse: return new frmTableBrowse(*this, s);
     case Screen::frmArtistDetails: return new frmArtistDetails(*this, artistOnScreen);
-    case Screen::frmAwardCeremony:
-        if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
     case Screen::frmFestivalDetails: return new frmFestivalDetails(*this, festivalOnScreen);
     case Screen::frmHistoricalFestivalDetails: return new frmHistoricalFestivalDetails(*this, festivalOnScreen);
+    case Screen::frmAwardCeremony:
+        if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
         g_.currentScreen = Screen::frmNews;
         return new frmNews(*this);
     case Screen::frmNews:

@@ -60,17 +60,13 @@ TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
     EXPECT_EQ(screen(), Screen::frmNews);
 }
 
-TEST_F(ScreenTest, ExtraDoesNothingOnTheNewsAndInertEntriesGoNowhere) {
+TEST_F(ScreenTest, ExtraDoesNothingOnTheNews) {
     startNewGameAsPlayer();
     QWidget* news = window->currentScreenWidget();
     click(window->sideBar()->cmdExtra);
     EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
     EXPECT_EQ(window->currentScreenWidget(), news);
     EXPECT_EQ(screen(), Screen::frmNews);
-    // A list whose screen is not in the game yet is shown, and cannot be used.
-    click(window->sideBar()->btnGameOptions);
-    EXPECT_TRUE(find<QPushButton>("lblHallOfFame")->isVisible());
-    EXPECT_FALSE(find<QPushButton>("lblHallOfFame")->isEnabled());
 }
 
 TEST_F(ScreenTest, ContinueHasKeysAndShowsTheLoadingScreenBeforeTheDayRuns) {
