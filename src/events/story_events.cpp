@@ -165,6 +165,38 @@ void markCast(Game& g, int16_t first, int16_t second, int type, int16_t value) {
     }
 }
 
+// Whether a stage other than `ending`, of a story of the type and naming the
+// artist in its cast, is still to run: dated after today, or today and after
+// `ending` in the day's order. A stage filed by a reply is one.
+bool stageWaitsFor(Game& g, int16_t artist, int type, const ScheduleRecord& ending) {
+    for (int32_t n = 1; n < g.schedule.recordCount(); ++n) {
+        if (n == ending.id) continue;
+        ScheduleRecord e{};
+        decodeRecord(g.schedule.bytesOf(n).data(), e);
+        if (e.type != static_cast<uint8_t>(ScheduleType::storyStage)) continue;
+        if (e.artist != artist && e.artist2 != artist) continue;
+        if (e.date < g.gameDate || (e.date == g.gameDate && n < ending.id)) continue;
+        const ScheduleRecord held = g.schedule.rec;
+        const EventRecord heldEvent = g.event.rec;
+        int stageType = -1;
+        if (e.eventRecord > 0 && e.eventRecord < g.event.recordCount()) {
+            g.event.read(e.eventRecord);
+            stageType = rootType(g, e);
+        }
+        g.event.rec = heldEvent;
+        g.schedule.rec = held;
+        if (stageType == type) return true;
+    }
+    return false;
+}
+
+// The story of the stage ends for those of its cast no other stage of such a
+// story waits for, so no one is cast in two stories of one type.
+void endStory(Game& g, const ScheduleRecord& stage, int type) {
+    for (int16_t n : {stage.artist, stage.artist2})
+        if (validArtist(g, n) && !stageWaitsFor(g, n, type, stage)) markCast(g, n, 0, type, 0);
+}
+
 double fameOf(const ArtistRecord& a) {
     const auto& r = a.reputation;
     return (8.0 * r[0] + 10.0 * r[1] + 7.0 * r[2] + 5.0 * r[3] + 3.0 * r[4]) / 33.0;
@@ -294,7 +326,7 @@ void nextStage(Game& g) {
     }
     g.event.rec = ev;
     // No follow-up: the story ends for its cast.
-    markCast(g, stage.artist, stage.artist2, rootType(g, stage), 0);
+    endStory(g, stage, rootType(g, stage));
 }
 
 void performStage(Game& g) {
@@ -312,7 +344,7 @@ void performStage(Game& g) {
             gone = g.artist->retired != kFalse || (ev.eventType == 10 && g.artist->band < 1);
         }
         if (gone) {
-            markCast(g, stage.artist, stage.artist2, type, 0);
+            endStory(g, stage, type);
             return;
         }
     }

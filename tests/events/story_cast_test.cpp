@@ -4,6 +4,7 @@
 
 #include "events/story_events.h"
 #include "events/story_text.h"
+#include "session/invariants.h"
 #include "support/album_world.h"
 #include "world/strings.h"
 
@@ -126,6 +127,13 @@ void twoStageStory(Cast& w, uint8_t secondType) {
     g.event.append();
 }
 
+std::optional<InvariantBreak> storyMarksRule(Game& g) {
+    for (const InvariantRule& r : invariantRules())
+        if (std::string_view(r.name) == "storyMarksFollowPendingStages") return r.check(g);
+    ADD_FAILURE() << "no rule on story marks";
+    return std::nullopt;
+}
+
 ScheduleRecord entry(Game& g, int32_t n) {
     g.schedule.read(n);
     return g.schedule.rec;
@@ -209,6 +217,43 @@ TEST(Stories, ADefenceCostsTheLabelAndFilesItsStageForTheSameCast) {
     g.schedule.read(1);
     applyStoryReply(g, 1);  // condemning: no money, no follow-up
     EXPECT_EQ(g.schedule.recordCount(), 3);
+}
+
+TEST(Stories, AStageFiledByAReplyKeepsTheMarkUntilItRuns) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    g.event.read(1);
+    g.event->replyEffect = {100, 2, 0, 0, 0, 0, 0, 0, 0};
+    g.event.write();
+    const double day = g.gameDate;
+    startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
+    g.schedule.read(1);
+    performStage(g);  // files entry 2, event 2, for tomorrow
+    g.gameDate = day + 1;
+    g.schedule.read(1);
+    g.event.read(1);
+    applyStoryReply(g, 0);  // files entry 3, event 2, for today
+    ASSERT_EQ(entry(g, 3).eventRecord, 2);
+    const auto marks = [&] {
+        g.artist.read(w.a);
+        const int16_t first = g.artist->storyUnderWay[2];
+        g.artist.read(w.b);
+        return std::pair(first, g.artist->storyUnderWay[2]);
+    };
+
+    g.schedule.read(2);
+    performStage(g);  // ends without a follow-up, but entry 3 has still to run
+    EXPECT_EQ(marks(), std::pair(int16_t{1}, int16_t{1}));
+    const auto kept = storyMarksRule(g);
+    EXPECT_FALSE(kept) << describeBreak(*kept);
+
+    g.schedule.read(3);
+    performStage(g);  // the last stage: entry 2 ran before it today
+    EXPECT_EQ(marks(), std::pair(int16_t{0}, int16_t{0}));
+    g.gameDate = day + 2;
+    const auto ended = storyMarksRule(g);
+    EXPECT_FALSE(ended) << describeBreak(*ended);
 }
 
 TEST(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
