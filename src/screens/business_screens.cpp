@@ -1,6 +1,7 @@
 #include "screens/business_screens.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -108,6 +109,23 @@ void frmBusinessDetails::showFirm(Game& g, int16_t firm, int sessions) {
         int32_t capacity = f.kind == kPlant ? plantDailyCapacity(g) : distributorDailyCapacity(g);
         lblCost->setText(qs(formatNumber(capacity, "###,###,##0")) + tr(" units per day"));
     }
+}
+
+frmFirmCard::frmFirmCard(Game& g, int16_t firm, QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmFirmCard"));
+    auto* l = new QVBoxLayout(this);
+    l->setContentsMargins(24, 20, 24, 18);
+    details = new frmBusinessDetails(this);
+    details->showFirm(g, firm, 0);
+    setWindowTitle(details->lblName->text());
+    l->addWidget(details, 1);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    cmdOk = makeButton(QStringLiteral("cmdOk"), tr("Ok"), Glyph::ok, ButtonRole::primary, this);
+    cmdOk->setDefault(true);
+    row->addWidget(cmdOk);
+    l->addLayout(row);
+    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 // ---- frmChooseStudio ----

@@ -36,6 +36,15 @@ public:
     QLabel* lblCost;
 };
 
+// A firm's particulars over the screen, for a row of the firms' list.
+class frmFirmCard : public QDialog {
+    Q_OBJECT
+public:
+    frmFirmCard(Game& g, int16_t firm, QWidget* parent);
+    frmBusinessDetails* details;
+    QPushButton* cmdOk;
+};
+
 // frmChooseStudio for the studio of a disc.
 class frmChooseStudio : public AlbumDialog {
     Q_OBJECT

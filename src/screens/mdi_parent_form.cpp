@@ -16,11 +16,12 @@
 #include "events/scores.h"
 #include "floor/formats.h"
 #include "floor/preferences.h"
-#include "screens/band_browse_screens.h"
 #include "screens/artist_details_screen.h"
+#include "screens/band_browse_screens.h"
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
 #include "screens/browse_memory.h"
+#include "screens/business_screens.h"
 #include "screens/ceremony_screens.h"
 #include "screens/chart_screens.h"
 #include "screens/details_extra_screens.h"
@@ -254,6 +255,14 @@ void mdiParentForm::openVenue(int16_t venue) {
     if (venue < 1 || venue >= g_.venue.recordCount()) return;
     frmVenueCard* card = nullptr;
     if (!guarded([&] { card = new frmVenueCard(g_, venue, this); })) return;
+    card->setAttribute(Qt::WA_DeleteOnClose);
+    card->open();
+}
+
+void mdiParentForm::openFirm(int16_t firm) {
+    if (firm < 1 || firm >= g_.business.recordCount()) return;
+    frmFirmCard* card = nullptr;
+    if (!guarded([&] { card = new frmFirmCard(g_, firm, this); })) return;
     card->setAttribute(Qt::WA_DeleteOnClose);
     card->open();
 }

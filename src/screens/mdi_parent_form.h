@@ -99,6 +99,8 @@ public:
     void openHighScores();
     // A venue's card (frmVenueCard), over the screen on show.
     void openVenue(int16_t venue);
+    // A firm's particulars over the screen.
+    void openFirm(int16_t firm);
     // The chart frmChartForm opens on (0 to 9).
     int chartShown = 0;
     // The label frmLabelDetails shows and the person frmStaffDetails shows.

@@ -216,8 +216,9 @@ void frmTableBrowse::openRow(int32_t record) {
         main_.festivalOnScreen = static_cast<int16_t>(record);
         main_.openScreen(Screen::frmFestivalDetails);
         break;
+    case Screen::frmBusinessBrowse: main_.openFirm(static_cast<int16_t>(record)); break;
     default:
-        // Firms, media and ceremonies have no details screen here yet.
+        // Media and ceremonies have no details screen here yet.
         break;
     }
 }
