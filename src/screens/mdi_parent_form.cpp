@@ -31,6 +31,7 @@
 #include "screens/glyphs.h"
 #include "screens/label_details_screen.h"
 #include "screens/loading_screen.h"
+#include "screens/media_screens.h"
 #include "screens/new_game_screens.h"
 #include "screens/news_screens.h"
 #include "screens/option_decision_screen.h"
@@ -263,6 +264,14 @@ void mdiParentForm::openFirm(int16_t firm) {
     if (firm < 1 || firm >= g_.business.recordCount()) return;
     frmFirmCard* card = nullptr;
     if (!guarded([&] { card = new frmFirmCard(g_, firm, this); })) return;
+    card->setAttribute(Qt::WA_DeleteOnClose);
+    card->open();
+}
+
+void mdiParentForm::openOutlet(int16_t outlet) {
+    if (outlet < 1 || outlet >= g_.media.recordCount()) return;
+    frmMediaCard* card = nullptr;
+    if (!guarded([&] { card = new frmMediaCard(g_, outlet, this); })) return;
     card->setAttribute(Qt::WA_DeleteOnClose);
     card->open();
 }

@@ -101,6 +101,8 @@ public:
     void openVenue(int16_t venue);
     // A firm's particulars over the screen.
     void openFirm(int16_t firm);
+    // An outlet's particulars over the screen.
+    void openOutlet(int16_t outlet);
     // The chart frmChartForm opens on (0 to 9).
     int chartShown = 0;
     // The label frmLabelDetails shows and the person frmStaffDetails shows.

@@ -48,6 +48,53 @@ QString issuePattern(const MediaRecord& m) {
 
 }  // namespace
 
+// An outlet's particulars: name and type, reach, style, when it comes out and
+// the kinds of appearance it offers, each with the reputation it asks.
+QString mediaDetailsText(Game& g, const MediaRecord& m) {
+    QString style = QObject::tr("Any");
+    if (m.mediaStyle > 0 && g.style.readIfPresent(m.mediaStyle)) style = qs(trim(g.style->name.value));
+    QStringList kinds;
+    const bool broadcast = m.mediaType == 2 || m.mediaType == 3;
+    auto kind = [&](int k, int minimum, int value) {
+        if (minimum > 0)
+            kinds << QObject::tr("%1 (reputation %2, value %3)").arg(qs(mediaKindName(k))).arg(minimum).arg(value);
+    };
+    if (broadcast) {
+        kind(interviewKind, m.interviewMinimum, m.interviewValue);
+        kind(liveKind, m.liveMinimum, m.liveValue);
+        if (m.interviewMinimum > 0 && m.liveMinimum > 0 && m.bothValue > 0)
+            kind(bothKind, std::max(m.interviewMinimum, m.liveMinimum), m.bothValue);
+    } else {
+        kind(smallArticle, m.smallMinimum, m.smallValue);
+        kind(largeArticle, m.largeMinimum, m.largeValue);
+    }
+    return QObject::tr("%1, %2\nReach: %3\nStyle: %4\nOut: %5\n%6")
+        .arg(qs(trim(m.mediaName.value)), qs(mediaTypeName(m.mediaType)),
+             m.reach == 2 ? QObject::tr("Global") : QObject::tr("National"), style, issuePattern(m),
+             kinds.join(QStringLiteral("\n")));
+}
+
+frmMediaCard::frmMediaCard(Game& g, int16_t outlet, QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmMediaCard"));
+    g.media.read(outlet);
+    const MediaRecord m = g.media.rec;
+    setWindowTitle(qs(trim(m.mediaName.value)));
+    auto* l = new QVBoxLayout(this);
+    l->setContentsMargins(24, 20, 24, 18);
+    l->setSpacing(12);
+    lblMediaDetails = makeBody(mediaDetailsText(g, m), this);
+    lblMediaDetails->setObjectName(QStringLiteral("lblMediaDetails"));
+    lblMediaDetails->setWordWrap(true);
+    l->addWidget(lblMediaDetails, 1);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    cmdOk = makeButton(QStringLiteral("cmdOk"), tr("Ok"), Glyph::ok, ButtonRole::primary, this);
+    cmdOk->setDefault(true);
+    row->addWidget(cmdOk);
+    l->addLayout(row);
+    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+}
+
 frmPromotion::frmPromotion(mdiParentForm& main, int16_t band) : QDialog(&main), main_(main), band_(band) {
     setObjectName(QStringLiteral("frmPromotion"));
     setWindowTitle(tr("Promotion"));
@@ -150,26 +197,7 @@ void frmPromotion::showOutlet() {
     const MediaOffer& o = offers_[static_cast<std::size_t>(row)];
     g.media.read(o.media);
     const MediaRecord m = g.media.rec;
-    QString style = tr("Any");
-    if (m.mediaStyle > 0 && g.style.readIfPresent(m.mediaStyle)) style = qs(trim(g.style->name.value));
-    QStringList kinds;
-    const bool broadcast = m.mediaType == 2 || m.mediaType == 3;
-    auto kind = [&](int k, int minimum, int value) {
-        if (minimum > 0) kinds << tr("%1 (reputation %2, value %3)").arg(qs(mediaKindName(k))).arg(minimum).arg(value);
-    };
-    if (broadcast) {
-        kind(interviewKind, m.interviewMinimum, m.interviewValue);
-        kind(liveKind, m.liveMinimum, m.liveValue);
-        if (m.interviewMinimum > 0 && m.liveMinimum > 0 && m.bothValue > 0)
-            kind(bothKind, std::max(m.interviewMinimum, m.liveMinimum), m.bothValue);
-    } else {
-        kind(smallArticle, m.smallMinimum, m.smallValue);
-        kind(largeArticle, m.largeMinimum, m.largeValue);
-    }
-    lblMediaDetails->setText(tr("%1, %2\nReach: %3\nStyle: %4\nOut: %5\n%6")
-                                 .arg(qs(trim(m.mediaName.value)), qs(mediaTypeName(m.mediaType)),
-                                      m.reach == 2 ? tr("Global") : tr("National"), style, issuePattern(m),
-                                      kinds.join(QStringLiteral("\n"))));
+    lblMediaDetails->setText(mediaDetailsText(g, m));
     std::vector<double> days;
     main_.guarded([&] {
         g.band.read(band_);

@@ -16,6 +16,17 @@ namespace trovane::screens {
 class ComboBox;
 class mdiParentForm;
 
+// An outlet's particulars over the screen, for a row of the media list.
+class frmMediaCard : public QDialog {
+    Q_OBJECT
+public:
+    frmMediaCard(Game& g, int16_t outlet, QWidget* parent);
+    QLabel* lblMediaDetails;
+    QPushButton* cmdOk;
+};
+
+QString mediaDetailsText(Game& g, const MediaRecord& m);
+
 // frmPromotion, with the offers of frmMediaBrowse, frmMediaDetails of the
 // chosen outlet and the free issue days in the next six weeks.
 class frmPromotion : public QDialog {

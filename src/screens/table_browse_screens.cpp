@@ -217,8 +217,9 @@ void frmTableBrowse::openRow(int32_t record) {
         main_.openScreen(Screen::frmFestivalDetails);
         break;
     case Screen::frmBusinessBrowse: main_.openFirm(static_cast<int16_t>(record)); break;
+    case Screen::frmMediaBrowse: main_.openOutlet(static_cast<int16_t>(record)); break;
     default:
-        // Media and ceremonies have no details screen here yet.
+        // Ceremonies have no details screen here yet.
         break;
     }
 }

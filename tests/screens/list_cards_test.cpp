@@ -1,0 +1,85 @@
+// A row of the firms' or the media list opens its particulars over the list.
+#include <QLabel>
+#include <QTest>
+
+#include "screen_fixture.h"
+#include "screens/browse_grid_widget.h"
+#include "screens/business_screens.h"
+#include "screens/media_screens.h"
+#include "screens/side_bar.h"
+#include "world/strings.h"
+
+namespace trovane::test {
+
+class ListCards : public ScreenTest {
+protected:
+    // Opens the Find entry's list and presses Enter on its last row, which must be `record`.
+    void openLastRow(const char* entry, Screen list, int32_t record) {
+        click(window->sideBar()->btnFind);
+        click(window->sideBar()->findOptions()->entry(QString::fromLatin1(entry)));
+        ASSERT_EQ(screen(), list);
+        auto* grid = qobject_cast<screens::BrowseGridWidget*>(findShown("flxGrid"));
+        ASSERT_NE(grid, nullptr);
+        grid->setFocus();
+        QTest::keyClick(grid, Qt::Key_End);
+        ASSERT_EQ(grid->currentRecord(), record);
+        QTest::keyClick(grid, Qt::Key_Return);
+    }
+};
+
+TEST_F(ListCards, AFirmRowOpensItsParticulars) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    g.business.rec = BusinessRecord{};
+    g.business->name = std::string("Marsh Lane Pressing");
+    g.business->kind = 1;
+    g.business->quality = 10;
+    g.business->owner = g.player.playerLabel;
+    g.business->open = -1;
+    g.business->runningCost = 15'000;
+    const int16_t firm = static_cast<int16_t>(g.business.append());
+
+    openLastRow("lblBusinesses", Screen::frmBusinessBrowse, firm);
+
+    auto* card = dialog<screens::frmFirmCard>("frmFirmCard");
+    ASSERT_NE(card, nullptr);
+    g.label.read(g.player.playerLabel);
+    EXPECT_EQ(card->details->lblName->text(), "Marsh Lane Pressing");
+    EXPECT_EQ(card->details->lblQuality->text(), "Quality : 10%");
+    EXPECT_EQ(card->details->lblOwner->text(), "Owned by " + QString::fromStdString(trim(g.label->name.value)));
+    EXPECT_TRUE(card->details->lblRunningCost->text().endsWith("15,000 per month"));
+    // A plant of quality 10 presses 2 x 1,000 = 2,000 units a day.
+    EXPECT_EQ(card->details->lblCost->text(), "2,000 units per day");
+    screenshotOf(card, "49_frmFirmCard");
+    card->close();
+    EXPECT_EQ(screen(), Screen::frmBusinessBrowse);
+}
+
+TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    g.media.rec = MediaRecord{};
+    g.media->mediaName = std::string("The Marsh Weekly");
+    g.media->mediaType = 0;
+    g.media->reach = 2;
+    g.media->frequency = 1;
+    g.media->airDay[4] = 1;  // Fridays
+    g.media->smallMinimum = 20;
+    g.media->smallValue = 3;
+    const int16_t outlet = static_cast<int16_t>(g.media.append());
+
+    openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);
+    auto* card = dialog<screens::frmMediaCard>("frmMediaCard");
+    ASSERT_NE(card, nullptr);
+    const QStringList lines = card->lblMediaDetails->text().split('\n');
+    ASSERT_GE(lines.size(), 5);
+    EXPECT_TRUE(lines[0].startsWith("The Marsh Weekly, "));
+    EXPECT_EQ(lines[1], "Reach: Global");
+    EXPECT_EQ(lines[3], "Out: Weekly: Friday");
+    EXPECT_TRUE(lines[4].endsWith("(reputation 20, value 3)")) << lines[4].toStdString();
+    EXPECT_EQ(lines.size(), 5) << "a kind without a minimum is not offered";
+    screenshotOf(card, "49_frmMediaCard");
+    card->close();
+}
+
+}  // namespace trovane::test
