@@ -150,10 +150,7 @@ void sortVenuesBySize(std::vector<TourVenue>& venues) {
 }
 
 int32_t plannedGap(const TourVenue& from, const TourVenue& to) {
-    if (from.city == to.city) return 1;
-    if (from.country == to.country) return 2;
-    if (from.region == to.region) return 3;
-    return 5;
+    return gapBetween({from.city, from.country, from.region}, {to.city, to.country, to.region});
 }
 
 int pickNextVenue(const std::vector<TourVenue>& venues, const std::vector<PlannedGig>& gigs, uint8_t nation) {

@@ -164,19 +164,23 @@ const char* const kCantAddGigText =
     "result this gig cannot be added. Please either finalise or cancel the tour (by pressing the relevant buttons "
     "on the next screen.)";
 
+int32_t gapBetween(const GigPlace& from, const GigPlace& to) {
+    if (to.city == from.city) return 1;
+    if (to.country == from.country) return 2;
+    return to.area == from.area ? 3 : 5;
+}
+
 int32_t gapToNextGig(Game& g, int16_t fromVenue, int16_t toVenue) {
-    g.venue.read(fromVenue);
-    g.city.read(g.venue->city);
-    const int16_t fromCity = g.city->id;
-    const int16_t fromCountry = g.city->country;
-    g.country.read(fromCountry);
-    const std::string fromArea = trim(g.country->region.value);
-    g.venue.read(toVenue);
-    g.city.read(g.venue->city);
-    if (g.city->id == fromCity) return 1;
-    if (g.city->country == fromCountry) return 2;
-    g.country.read(g.city->country);
-    return trim(g.country->region.value) == fromArea ? 3 : 5;
+    auto placeOf = [&g](int16_t venue) {
+        g.venue.read(venue);
+        g.city.read(g.venue->city);
+        GigPlace p{.city = g.city->id, .country = g.city->country};
+        g.country.read(p.country);
+        p.area = trim(g.country->region.value);
+        return p;
+    };
+    const GigPlace from = placeOf(fromVenue);
+    return gapBetween(from, placeOf(toVenue));
 }
 
 NextGig earliestNextGig(Game& g, int16_t venue, int32_t firstNotice) {

@@ -48,8 +48,17 @@ BookedGig bookGig(Game& g, const GigBooking& booking);
 // days between them become type 255 and its gigCount 0; nothing is deleted.
 void cancelTour(Game& g, int16_t tour);
 
-// The days a band needs from one venue to the next: 1 within a city, 2 within
+// Where a gig is played, as far as travel goes.
+struct GigPlace {
+    int16_t city = 0;
+    int16_t country = 0;
+    std::string area;
+};
+
+// The days a band needs from one place to the next: 1 within a city, 2 within
 // a country, 3 within an area, 5 to another area.
+int32_t gapBetween(const GigPlace& from, const GigPlace& to);
+// The same from one venue to the next.
 int32_t gapToNextGig(Game& g, int16_t fromVenue, int16_t toVenue);
 
 // The first date the tour in the tour buffer may play `venue`: its last gig's
