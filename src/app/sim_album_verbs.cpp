@@ -57,8 +57,6 @@ std::optional<int> firmKind(SimContext& ctx, const std::string& word) {
     return std::nullopt;
 }
 
-std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
 std::optional<std::vector<int32_t>> trackList(const std::string& text) {
     std::vector<int32_t> ids;
     std::stringstream in(text);

@@ -31,8 +31,6 @@ struct BandVerbOptions {
     std::optional<int> options, months, royalty;
 };
 
-std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
 std::string money(Money m) { return fmt::format("{:.4f}", moneyToDouble(m)); }
 
 // A band by record number or exact name, or 0 after telling why.

@@ -27,8 +27,6 @@ constexpr int kExitRefused = 1;
 constexpr int kExitBadArgument = 2;
 
 std::string base(Money m) { return fmt::format("{:.4f}", moneyToDouble(m)); }
-std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
 void fail(SimContext& ctx, int status, const std::string& why) {
     std::fprintf(stderr, "trovane-sim: %s\n", why.c_str());
     ctx.exitCode = status;

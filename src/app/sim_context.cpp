@@ -5,10 +5,12 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
+#include "floor/formats.h"
 #include "floor/preferences.h"
 #include "session/invariants.h"
 #include "session/session_record.h"
 #include "session/working_set_check.h"
+#include "world/dates.h"
 #include "world/record_dump.h"
 #include "world/record_store.h"
 
@@ -27,6 +29,19 @@ int32_t recordNamed(Game& g, FileNo table, const std::string& what) {
     if (!digits) return what.empty() ? 0 : findRecordByName(g, table, what);
     const int32_t n = std::stoi(what);
     return n >= 1 && n < recordCount(g, table) ? n : 0;
+}
+
+std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
+
+std::string isoDateIfSet(double serial) { return serial > kNoDate ? isoDate(serial) : ""; }
+
+std::optional<double> parseIsoDate(const std::string& text) {
+    int y = 0;
+    unsigned m = 0, d = 0;
+    char tail = 0;
+    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
+    if (m < 1 || m > 12 || d < 1 || d > daysInMonth(y, m)) return std::nullopt;
+    return serialFromCivil(y, m, d);
 }
 
 std::string exitStatusTable() {

@@ -74,6 +74,13 @@ void printError(bool json, const std::string& text, int status);
 // is none.
 int32_t recordNamed(Game& g, FileNo table, const std::string& what);
 
+// Dates on the command line and in JSON are yyyy-mm-dd.
+std::string isoDate(double serial);
+// The same, or "" for a date not set.
+std::string isoDateIfSet(double serial);
+// The day a yyyy-mm-dd text names, or nothing when it names none.
+std::optional<double> parseIsoDate(const std::string& text);
+
 // Each group of verbs adds its subcommands here.
 void addWorldVerbs(CLI::App& app, SimContext& ctx);    // init, status, advance, dump
 void addSessionVerbs(CLI::App& app, SimContext& ctx);  // new, save, load, slots, quit
@@ -99,7 +106,7 @@ void addLivesVerbs(CLI::App& app, SimContext& ctx);     // stories, story
 // then answered.
 bool answerHeldItem(Game& g);
 void addRivalVerbs(CLI::App& app, SimContext& ctx);
-void addTourVerbs(CLI::App& app, SimContext& ctx);  // tour, tours, tourinfo, unsupport, sponsors
+void addTourVerbs(CLI::App& app, SimContext& ctx);   // tour, tours, tourinfo, unsupport, sponsors
 void addMediaVerbs(CLI::App& app, SimContext& ctx);  // media, promote, appearances
 // During a game, what list labels adds to a label's row: bands/maxBands, cash,
 // reserve, targets, reputation, and the player's mark. Reads the label table.

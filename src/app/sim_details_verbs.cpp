@@ -16,8 +16,6 @@ namespace trovane::sim {
 
 namespace {
 
-std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
 // A record by number or exact name, or a bad argument (status 2).
 int16_t recordNamed(SimContext& ctx, Game& g, FileNo file, int32_t count, const char* what, const std::string& which) {
     int32_t n = 0;

@@ -42,17 +42,6 @@ void badArgument(SimContext& ctx, const std::string& why) {
     ctx.exitCode = kExitBadArgument;
 }
 
-std::string iso(double date) { return date > kNoDate ? formatDate(date, "yyyy-mm-dd") : ""; }
-
-std::optional<double> parseIso(const std::string& text) {
-    int y = 0;
-    unsigned m = 0, d = 0;
-    char tail = 0;
-    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
-    if (m < 1 || m > 12 || d < 1 || d > daysInMonth(y, m)) return std::nullopt;
-    return serialFromCivil(y, m, d);
-}
-
 // A disc by number or exact title; 0 when none.
 int16_t findDisc(Game& g, const std::string& key) {
     return static_cast<int16_t>(recordNamed(g, FileNo::fileDisc, key));
@@ -97,7 +86,7 @@ void runRelease(SimContext& ctx, const ReleaseArgs& a) {
     }
     std::optional<double> date;
     if (!a.earliest) {
-        date = parseIso(a.date);
+        date = parseIsoDate(a.date);
         if (!date) return badArgument(ctx, a.date + " is not a date of the form YYYY-MM-DD");
     }
     Game& g = ctx.openGame();
@@ -126,7 +115,7 @@ void runRelease(SimContext& ctx, const ReleaseArgs& a) {
         if (ctx.json) {
             std::string out = fmt::format("{{\"disc\":{},\"dates\":{{", disc);
             for (int t = 0; t < 5; ++t)
-                out += fmt::format("{}\"{}\":\"{}\"", t ? "," : "", kTerritoryKeys[at(t)], iso(dates[at(t)]));
+                out += fmt::format("{}\"{}\":\"{}\"", t ? "," : "", kTerritoryKeys[at(t)], isoDateIfSet(dates[at(t)]));
             std::printf("%s}}}\n", out.c_str());
         } else {
             for (int t = 0; t < 5; ++t)
@@ -326,9 +315,9 @@ void runDisc(SimContext& ctx, const std::string& key) {
             out += fmt::format(
                 "{}{{\"territory\":\"{}\",\"date\":\"{}\",\"distributor\":{},\"stock\":{},\"order\":{},"
                 "\"sales\":{},\"weekSales\":{},\"award\":\"{}\",\"position\":\"{}\"}}",
-                t ? "," : "", kTerritoryKeys[i], iso(d.releaseDate[i]), jsonQuote(firmName(g, d.distributor[i])),
-                d.stock[i], d.pressingOrder[i], d.totalSales[i], d.weekSales[i], awardLetter(t, d.totalSales[i]),
-                positions[i]);
+                t ? "," : "", kTerritoryKeys[i], isoDateIfSet(d.releaseDate[i]),
+                jsonQuote(firmName(g, d.distributor[i])), d.stock[i], d.pressingOrder[i], d.totalSales[i],
+                d.weekSales[i], awardLetter(t, d.totalSales[i]), positions[i]);
         }
         std::printf("%s]}\n", out.c_str());
     } else {
@@ -339,9 +328,9 @@ void runDisc(SimContext& ctx, const std::string& key) {
                     "Sales", "Award", "Pos");
         for (int t = 0; t < 5; ++t) {
             auto i = at(t);
-            std::printf("%-8s %-10s %-28s %10d %10d %10d %5s %4s\n", kTerritoryNames[i], iso(d.releaseDate[i]).c_str(),
-                        firmName(g, d.distributor[i]).c_str(), d.stock[i], d.pressingOrder[i], d.totalSales[i],
-                        awardLetter(t, d.totalSales[i]), positions[i].c_str());
+            std::printf("%-8s %-10s %-28s %10d %10d %10d %5s %4s\n", kTerritoryNames[i],
+                        isoDateIfSet(d.releaseDate[i]).c_str(), firmName(g, d.distributor[i]).c_str(), d.stock[i],
+                        d.pressingOrder[i], d.totalSales[i], awardLetter(t, d.totalSales[i]), positions[i].c_str());
         }
     }
     ctx.closeGame();
@@ -353,7 +342,7 @@ void runChart(SimContext& ctx, int chart, const std::string& weekText, bool csv)
     if (chart < 0 || chart > 9) return badArgument(ctx, "chart takes 0 to 9");
     std::optional<double> week;
     if (!weekText.empty()) {
-        week = parseIso(weekText);
+        week = parseIsoDate(weekText);
         if (!week) return badArgument(ctx, weekText + " is not a date of the form YYYY-MM-DD");
     }
     Game& g = ctx.openGame();
@@ -371,7 +360,7 @@ void runChart(SimContext& ctx, int chart, const std::string& weekText, bool csv)
         std::fwrite(out.data(), 1, out.size(), stdout);
     } else if (ctx.json) {
         std::string out = fmt::format("{{\"chart\":{},\"title\":{},\"week\":\"{}\",\"size\":{},\"rows\":[", chart,
-                                      jsonQuote(chartTitle(chart)), iso(shown), publishedLength(chart));
+                                      jsonQuote(chartTitle(chart)), isoDateIfSet(shown), publishedLength(chart));
         for (std::size_t i = 0; i < lines.size(); ++i) {
             const ChartLine& l = lines[i];
             out += fmt::format(
@@ -404,7 +393,7 @@ void runRun(SimContext& ctx, const std::string& key) {
         std::string out = fmt::format("{{\"disc\":{},\"weeks\":[", disc);
         for (std::size_t i = 0; i < run.size(); ++i)
             out += fmt::format("{}{{\"week\":\"{}\",\"chart\":{},\"position\":{},\"sales\":{}}}", i ? "," : "",
-                               iso(run[i].week), run[i].chart, run[i].position, run[i].sales);
+                               isoDateIfSet(run[i].week), run[i].chart, run[i].position, run[i].sales);
         std::printf("%s]}\n", out.c_str());
     } else {
         if (run.empty()) std::printf("Not yet in a published chart.\n");

@@ -19,8 +19,6 @@ namespace trovane::sim {
 
 namespace {
 
-std::string iso(double date) { return formatDate(date, "yyyy-mm-dd"); }
-
 int16_t findFestival(Game& g, const std::string& key) {
     bool number = !key.empty() && key.size() < 6 &&
                   std::all_of(key.begin(), key.end(), [](unsigned char c) { return std::isdigit(c); });
@@ -41,8 +39,8 @@ void runFestivals(SimContext& ctx, std::optional<int> yearOption) {
     Game& g = ctx.openGame();
     std::string out;
     for (const FestivalYear& f : festivalsOfYear(g, yearOrNow(g, yearOption))) {
-        std::string first = f.dayList.empty() ? "" : iso(f.dayList.front().date);
-        std::string last = f.dayList.empty() ? "" : iso(f.dayList.back().date);
+        std::string first = f.dayList.empty() ? "" : isoDate(f.dayList.front().date);
+        std::string last = f.dayList.empty() ? "" : isoDate(f.dayList.back().date);
         std::size_t billed = f.dayList.empty() ? 0 : f.dayList.front().bill.size();
         if (ctx.json)
             out += fmt::format(
@@ -70,7 +68,7 @@ void runFestival(SimContext& ctx, const std::string& key, std::optional<int> yea
     std::string days;
     for (const FestivalDay& day : f.dayList) {
         if (!ctx.json)
-            std::printf("\n%s  %s%s\n", iso(day.date).c_str(), day.venue.c_str(),
+            std::printf("\n%s  %s%s\n", isoDate(day.date).c_str(), day.venue.c_str(),
                         day.played ? fmt::format("  crowd {}  overall {}", day.crowd, day.overall).c_str() : "");
         std::string bill;
         for (const FestivalAct& act : day.bill) {
@@ -83,8 +81,8 @@ void runFestival(SimContext& ctx, const std::string& key, std::optional<int> yea
         }
         if (ctx.json)
             days += fmt::format("{}{{\"gig\":{},\"date\":{},\"venue\":{},\"bill\":[{}],\"crowd\":{},\"overall\":{}}}",
-                                days.empty() ? "" : ",", day.gig, jsonQuote(iso(day.date)), jsonQuote(day.venue), bill,
-                                day.crowd, day.overall);
+                                days.empty() ? "" : ",", day.gig, jsonQuote(isoDate(day.date)), jsonQuote(day.venue),
+                                bill, day.crowd, day.overall);
     }
     if (ctx.json)
         std::printf("{\"id\":%d,\"name\":%s,\"year\":%d,\"days\":[%s],\"review\":%s}\n", n, jsonQuote(f.name).c_str(),

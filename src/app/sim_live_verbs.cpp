@@ -28,17 +28,6 @@ int16_t findVenue(Game& g, const std::string& key) {
     return static_cast<int16_t>(recordNamed(g, FileNo::fileVenue, key));
 }
 
-std::optional<double> parseIso(const std::string& text) {
-    int y = 0;
-    unsigned m = 0, d = 0;
-    char tail = 0;
-    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
-    if (m < 1 || m > 12 || d < 1 || d > daysInMonth(y, m)) return std::nullopt;
-    return serialFromCivil(y, m, d);
-}
-
-std::string iso(double date) { return formatDate(date, "yyyy-mm-dd"); }
-
 // Loads the venue with its city and country into their buffers.
 void loadVenue(Game& g, int16_t venue) {
     g.venue.read(venue);
@@ -100,7 +89,7 @@ struct GigOptions {
 };
 
 void runGig(SimContext& ctx, const GigOptions& o) {
-    std::optional<double> date = parseIso(o.date);
+    std::optional<double> date = parseIsoDate(o.date);
     if (!date) throw SimError(kExitBadArgs, o.date + " is not a date of the form YYYY-MM-DD");
     for (int level : {o.content, o.hospitality, o.accommodation})
         if (level < 0 || level > 4) throw SimError(kExitBadArgs, "Production levels run from 0 to 4");
@@ -130,7 +119,7 @@ void runGig(SimContext& ctx, const GigOptions& o) {
     std::string venueName = trim(g.venue->name.value);
     if (ctx.json)
         std::printf("{\"gig\":%d,\"tour\":%d,\"date\":\"%s\",\"venue\":%s,\"expected\":%d}\n", booked.gig, booked.tour,
-                    iso(*date).c_str(), jsonQuote(venueName).c_str(), crowd);
+                    isoDate(*date).c_str(), jsonQuote(venueName).c_str(), crowd);
     else
         std::printf("Gig %d (tour %d): %s at %s on %s, about %s expected.\n", booked.gig, booked.tour,
                     trim(g.band->name.value).c_str(), venueName.c_str(), formatDate(*date, "dddd d/m/yyyy").c_str(),
@@ -156,10 +145,10 @@ void runGigs(SimContext& ctx, const std::string& key) {
             out += fmt::format(
                 "{}{{\"id\":{},\"date\":\"{}\",\"venue\":{},\"city\":{},\"capacity\":{},\"attendance\":{},"
                 "\"overall\":{},\"profit\":{}}}",
-                out.empty() ? "" : ",", n, iso(gig.gigDate), jsonQuote(venue), jsonQuote(city), g.venue->capacity,
+                out.empty() ? "" : ",", n, isoDate(gig.gigDate), jsonQuote(venue), jsonQuote(city), g.venue->capacity,
                 gig.attendance, gig.overallQuality, moneyUnits(gig.profit));
         else
-            std::printf("%6d  %s  %-32s %-20s %9d %9d %3d %12s\n", n, iso(gig.gigDate).c_str(), venue.c_str(),
+            std::printf("%6d  %s  %-32s %-20s %9d %9d %3d %12s\n", n, isoDate(gig.gigDate).c_str(), venue.c_str(),
                         city.c_str(), g.venue->capacity, gig.attendance, gig.overallQuality,
                         formatMoney(g, moneyUnits(gig.profit), "###,###,##0").c_str());
     }
@@ -179,7 +168,7 @@ void runCeremonies(SimContext& ctx) {
         g.ceremony.read(n);
         const CeremonyRecord c = g.ceremony.rec;
         std::string country = countryName(g, c.country);
-        std::string night = c.date > 0 ? iso(c.date) : "";
+        std::string night = c.date > 0 ? isoDate(c.date) : "";
         bool attending = c.playerInvited == kTrue;
         if (ctx.json)
             out += fmt::format("{}{{\"id\":{},\"name\":{},\"country\":{},\"night\":{},\"attending\":{},\"held\":{}}}",
@@ -203,7 +192,7 @@ void runCeremony(SimContext& ctx, const std::string& key) {
     g.ceremony.read(n);
     const CeremonyRecord c = g.ceremony.rec;
     std::string country = countryName(g, c.country);
-    std::string night = c.date > 0 ? iso(c.date) : "";
+    std::string night = c.date > 0 ? isoDate(c.date) : "";
     std::string awards;
     if (!ctx.json)
         std::printf("%s\nNight:   %s\nCountry: %s\n", trim(c.name.value).c_str(), night.c_str(), country.c_str());

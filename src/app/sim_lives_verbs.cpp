@@ -21,8 +21,6 @@ namespace {
 
 constexpr int kExitBadArgument = 2;
 
-std::string iso(double date) { return date > kNoDate ? formatDate(date, "yyyy-mm-dd") : ""; }
-
 std::string jsonText(const std::string& s) {
     std::string out = "\"";
     for (char c : s) {
@@ -144,14 +142,15 @@ void runStories(SimContext& ctx, const StoriesArgs& args) {
         for (std::size_t i = 0; i < s.stages.size(); ++i) {
             const Stage& st = s.stages[i];
             js << (i ? "," : "")
-               << fmt::format("{{\"entry\":{},\"date\":\"{}\",\"event\":{},\"news\":{}}}", st.entry, iso(st.date),
-                              st.event, st.news);
-            text << fmt::format("  {} event {} (entry {}, news {})\n", iso(st.date), st.event, st.entry, st.news);
+               << fmt::format("{{\"entry\":{},\"date\":\"{}\",\"event\":{},\"news\":{}}}", st.entry,
+                              isoDateIfSet(st.date), st.event, st.news);
+            text << fmt::format("  {} event {} (entry {}, news {})\n", isoDateIfSet(st.date), st.event, st.entry,
+                                st.news);
         }
         js << "],\"next\":";
         if (s.next) {
-            js << fmt::format("{{\"date\":\"{}\",\"event\":{}}}", iso(s.next->date), s.next->event);
-            text << fmt::format("  next: {} event {}\n", iso(s.next->date), s.next->event);
+            js << fmt::format("{{\"date\":\"{}\",\"event\":{}}}", isoDateIfSet(s.next->date), s.next->event);
+            text << fmt::format("  next: {} event {}\n", isoDateIfSet(s.next->date), s.next->event);
         } else {
             js << "null";
             text << "  ended\n";
@@ -210,9 +209,11 @@ void runStory(SimContext& ctx, const StoryArgs& args) {
     const int32_t before = g.schedule.recordCount();
     startEvent(g, cast[0], cast.size() > 1 ? cast[1] : int16_t{0});
     if (ctx.json)
-        std::printf("{\"root\":%d,\"event\":%d,\"date\":\"%s\"}\n", before, args.event, iso(g.gameDate).c_str());
+        std::printf("{\"root\":%d,\"event\":%d,\"date\":\"%s\"}\n", before, args.event,
+                    isoDateIfSet(g.gameDate).c_str());
     else
-        std::printf("Story %d started: event %d, filed for %s.\n", before, args.event, iso(g.gameDate).c_str());
+        std::printf("Story %d started: event %d, filed for %s.\n", before, args.event,
+                    isoDateIfSet(g.gameDate).c_str());
     ctx.closeGame();
 }
 

@@ -28,38 +28,10 @@ int indexOf(const char* const* words, int count, const std::string& word) {
     return -1;
 }
 
-template <typename TableT, typename NameOf>
-int32_t findByKey(TableT& table, const std::string& key, NameOf nameOf) {
-    bool number = !key.empty() && key.size() < 10 &&
-                  std::all_of(key.begin(), key.end(), [](unsigned char c) { return std::isdigit(c); });
-    if (number) {
-        int n = std::stoi(key);
-        return n >= 1 && n < table.recordCount() ? n : 0;
-    }
-    for (int32_t n = 1; n < table.recordCount(); ++n) {
-        table.read(n);
-        if (nameOf(table.rec) == key) return n;
-    }
-    return 0;
-}
-
-int16_t bandOf(Game& g, const std::string& key) {
-    return static_cast<int16_t>(findByKey(g.band, key, [](const BandRecord& b) { return trim(b.name.value); }));
-}
+int16_t bandOf(Game& g, const std::string& key) { return static_cast<int16_t>(recordNamed(g, FileNo::fileBand, key)); }
 int16_t outletOf(Game& g, const std::string& key) {
-    return static_cast<int16_t>(findByKey(g.media, key, [](const MediaRecord& m) { return trim(m.mediaName.value); }));
+    return static_cast<int16_t>(recordNamed(g, FileNo::fileMedia, key));
 }
-
-std::optional<double> isoDay(const std::string& text) {
-    int y = 0;
-    unsigned m = 0, d = 0;
-    char tail = 0;
-    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
-    if (m < 1 || m > 12 || d < 1 || d > daysInMonth(y, m)) return std::nullopt;
-    return serialFromCivil(y, m, d);
-}
-
-std::string iso(double date) { return formatDate(date, "yyyy-mm-dd"); }
 
 int16_t requireBand(SimContext& ctx, Game& g, const std::string& key) {
     int16_t band = bandOf(g, key);
@@ -99,7 +71,7 @@ struct PromoteOptions {
 void runPromote(SimContext& ctx, const PromoteOptions& o) {
     int kind = indexOf(kKindWords, 5, o.kind);
     if (kind < 0) throw SimError(kExitBadArgs, "The kind is one of interview, live, both, small, large");
-    std::optional<double> date = isoDay(o.date);
+    std::optional<double> date = parseIsoDate(o.date);
     if (!date) throw SimError(kExitBadArgs, o.date + " is not a date of the form YYYY-MM-DD");
     Game& g = ctx.openGame();
     int16_t band = requireBand(ctx, g, o.band);
@@ -121,8 +93,8 @@ void runPromote(SimContext& ctx, const PromoteOptions& o) {
     g.band.read(band);
     std::string outlet = trim(g.media->mediaName.value);
     if (ctx.json)
-        std::printf("{\"entry\":%d,\"date\":\"%s\",\"band\":%d,\"media\":%d,\"kind\":%s}\n", entry, iso(*date).c_str(),
-                    band, media, jsonQuote(mediaKindName(kind)).c_str());
+        std::printf("{\"entry\":%d,\"date\":\"%s\",\"band\":%d,\"media\":%d,\"kind\":%s}\n", entry,
+                    isoDate(*date).c_str(), band, media, jsonQuote(mediaKindName(kind)).c_str());
     else
         std::printf("Entry %d: %s, %s in %s on %s.\n", entry, trim(g.band->name.value).c_str(),
                     mediaKindName(kind).c_str(), outlet.c_str(), formatDate(*date, "dddd d/m/yyyy").c_str());
@@ -144,11 +116,11 @@ void runAppearances(SimContext& ctx, const std::string& bandKey) {
         double effect = e.value / 100.0;
         if (ctx.json) {
             out += fmt::format("{}{{\"entry\":{},\"date\":\"{}\",\"band\":{},\"media\":{},\"kind\":{},\"label\":{}",
-                               out.empty() ? "" : ",", n, iso(e.date), jsonQuote(act), jsonQuote(outlet),
+                               out.empty() ? "" : ",", n, isoDate(e.date), jsonQuote(act), jsonQuote(outlet),
                                jsonQuote(mediaKindName(e.mediaOption)), jsonQuote(label));
             out += played ? fmt::format(",\"effect\":{:.2f}}}", effect) : "}";
         } else {
-            std::printf("%6d  %s  %-30s %-34s %-28s %-24s", n, iso(e.date).c_str(), act.c_str(), outlet.c_str(),
+            std::printf("%6d  %s  %-30s %-34s %-28s %-24s", n, isoDate(e.date).c_str(), act.c_str(), outlet.c_str(),
                         mediaKindName(e.mediaOption).c_str(), label.c_str());
             if (played) std::printf(" %+.2f", effect);
             std::printf("\n");

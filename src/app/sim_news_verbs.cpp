@@ -21,8 +21,6 @@ namespace trovane::sim {
 
 namespace {
 
-std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
 // The options of each verb, held by the verb's callback.
 struct ItemOptions {
     int id = 0;
@@ -137,16 +135,6 @@ void printItem(const NewsRecord& n, const NewsItemView& view) {
     for (std::size_t i = 0; i < words.size(); ++i)
         if (view.buttons[i].enabled) replies += (replies.empty() ? "" : "|") + std::string(words[i]);
     if (!replies.empty()) std::printf("\nReplies: %s\n", replies.c_str());
-}
-
-std::optional<double> parseIsoDate(const std::string& text) {
-    int y = 0;
-    unsigned m = 0, d = 0;
-    char tail = 0;
-    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
-    std::chrono::year_month_day ymd{std::chrono::year{y}, std::chrono::month{m}, std::chrono::day{d}};
-    if (!ymd.ok()) return std::nullopt;
-    return serialFromCivil(y, m, d);
 }
 
 }  // namespace

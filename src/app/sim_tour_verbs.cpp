@@ -32,21 +32,8 @@ bool isNumber(const std::string& s) {
            std::all_of(s.begin(), s.end(), [](unsigned char c) { return std::isdigit(c); });
 }
 
-template <typename TableT, typename NameOf>
-int32_t findRecord(TableT& table, const std::string& key, NameOf nameOf) {
-    if (isNumber(key)) {
-        int n = std::stoi(key);
-        return n >= 1 && n < table.recordCount() ? n : 0;
-    }
-    for (int32_t n = 1; n < table.recordCount(); ++n) {
-        table.read(n);
-        if (nameOf(table.rec) == key) return n;
-    }
-    return 0;
-}
-
 int16_t findBand(Game& g, const std::string& key) {
-    return static_cast<int16_t>(findRecord(g.band, key, [](const BandRecord& b) { return trim(b.name.value); }));
+    return static_cast<int16_t>(recordNamed(g, FileNo::fileBand, key));
 }
 
 [[noreturn]] void badArgument(SimContext& ctx, const std::string& why) {
@@ -59,17 +46,6 @@ int16_t needBand(SimContext& ctx, Game& g, const std::string& key) {
     if (band == 0) badArgument(ctx, "There is no band " + key);
     return band;
 }
-
-std::optional<double> parseIso(const std::string& text) {
-    int y = 0;
-    unsigned m = 0, d = 0;
-    char tail = 0;
-    if (std::sscanf(text.c_str(), "%d-%u-%u%c", &y, &m, &d, &tail) != 3) return std::nullopt;
-    if (m < 1 || m > 12 || d < 1 || d > daysInMonth(y, m)) return std::nullopt;
-    return serialFromCivil(y, m, d);
-}
-
-std::string iso(double date) { return formatDate(date, "yyyy-mm-dd"); }
 
 struct AreaWord {
     const char* word;
@@ -92,7 +68,7 @@ TourPlace parsePlace(SimContext& ctx, Game& g, int16_t band, const std::string& 
         country = "England";
     }
     if (country.empty()) return place;
-    int32_t n = findRecord(g.country, country, [](const CountryRecord& c) { return trim(c.name.value); });
+    int32_t n = recordNamed(g, FileNo::fileCountry, country);
     if (n == 0) badArgument(ctx, "There is no country " + country);
     g.country.read(n);
     if (trim(g.country->region.value) != place.area) badArgument(ctx, country + " is not in that area");
@@ -118,9 +94,9 @@ std::vector<GigWish> parseGigs(SimContext& ctx, Game& g, const std::vector<std::
         auto at = text.rfind('@');
         if (at == std::string::npos) badArgument(ctx, text + " is not of the form VENUE@YYYY-MM-DD");
         std::string key = text.substr(0, at);
-        auto date = parseIso(text.substr(at + 1));
+        auto date = parseIsoDate(text.substr(at + 1));
         if (!date) badArgument(ctx, text.substr(at + 1) + " is not a date of the form YYYY-MM-DD");
-        int32_t venue = findRecord(g.venue, key, [](const VenueRecord& v) { return trim(v.name.value); });
+        int32_t venue = recordNamed(g, FileNo::fileVenue, key);
         if (venue == 0) badArgument(ctx, "There is no venue " + key);
         out.push_back({static_cast<int16_t>(venue), *date});
     }
@@ -139,9 +115,9 @@ void printBookedTour(SimContext& ctx, Game& g, int16_t tour, const std::string& 
         std::string venue = trim(g.venue->name.value);
         if (ctx.json)
             gigs += fmt::format("{}{{\"gig\":{},\"date\":\"{}\",\"venue\":{}}}", i ? "," : "", t.gigs[i],
-                                iso(gig.gigDate), jsonQuote(venue));
+                                isoDate(gig.gigDate), jsonQuote(venue));
         else
-            std::printf("  gig %d  %s  %s\n", t.gigs[i], iso(gig.gigDate).c_str(), venue.c_str());
+            std::printf("  gig %d  %s  %s\n", t.gigs[i], isoDate(gig.gigDate).c_str(), venue.c_str());
     }
     if (ctx.json)
         std::printf("{\"tour\":%d,\"gigs\":[%s],\"text\":%s}\n", tour, gigs.c_str(), jsonQuote(text).c_str());
@@ -161,8 +137,7 @@ void runTour(SimContext& ctx, const TourOptions& o) {
     for (const std::string& s : o.supports) supports.push_back(needBand(ctx, g, s));
     int16_t sponsor = -1;
     if (!o.sponsor.empty()) {
-        sponsor = static_cast<int16_t>(
-            findRecord(g.product, o.sponsor, [](const ProductRecord& p) { return trim(p.name.value); }));
+        sponsor = static_cast<int16_t>(recordNamed(g, FileNo::fileProduct, o.sponsor));
         if (sponsor == 0) badArgument(ctx, "There is no product " + o.sponsor);
     }
     auto refuse = [&](const std::string& why) {
@@ -244,8 +219,7 @@ void runTours(SimContext& ctx, const ToursOptions& o) {
     int16_t band = o.band.empty() ? 0 : needBand(ctx, g, o.band);
     int16_t label = 0;
     if (!o.label.empty()) {
-        label =
-            static_cast<int16_t>(findRecord(g.label, o.label, [](const LabelRecord& l) { return trim(l.name.value); }));
+        label = static_cast<int16_t>(recordNamed(g, FileNo::fileLabel, o.label));
         if (label == 0) badArgument(ctx, "There is no label " + o.label);
     }
     std::string out;
@@ -287,12 +261,12 @@ void runTours(SimContext& ctx, const ToursOptions& o) {
                 "\"supports\":{},\"content\":{},\"hospitality\":{},\"accommodation\":{},\"sponsor\":{},"
                 "\"fee\":{}}}",
                 out.empty() ? "" : ",", n, jsonQuote(act), trim(t.areaCode.value), jsonQuote(nation), t.gigCount,
-                iso(first), iso(last), t.supportCount, t.contentLevel, t.hospitalityLevel, t.accommodationLevel,
+                isoDate(first), isoDate(last), t.supportCount, t.contentLevel, t.hospitalityLevel, t.accommodationLevel,
                 jsonQuote(sponsor), moneyUnits(fee));
         else
             std::printf("%5d  %-30s %s %-16s %2d  %s  %s  %d  %-30s %-20s %s\n", n, act.c_str(),
-                        trim(t.areaCode.value).c_str(), nation.c_str(), t.gigCount, iso(first).c_str(),
-                        iso(last).c_str(), t.supportCount, levelsText(t).c_str(), sponsor.c_str(),
+                        trim(t.areaCode.value).c_str(), nation.c_str(), t.gigCount, isoDate(first).c_str(),
+                        isoDate(last).c_str(), t.supportCount, levelsText(t).c_str(), sponsor.c_str(),
                         fee ? formatMoneyValue(g, fee, "###,###,##0").c_str() : "");
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
@@ -319,9 +293,10 @@ void runTourInfo(SimContext& ctx, const std::string& key) {
                 if (e.gig != t.gigs[i] || (e.type != 10 && e.type != 11)) continue;
                 const char* kind = e.type == 10 ? "travel" : "rest";
                 if (ctx.json)
-                    road += fmt::format("{}{{\"date\":\"{}\",\"kind\":\"{}\"}}", road.empty() ? "" : ",", iso(d), kind);
+                    road +=
+                        fmt::format("{}{{\"date\":\"{}\",\"kind\":\"{}\"}}", road.empty() ? "" : ",", isoDate(d), kind);
                 else
-                    std::printf("        %s  %s\n", iso(d).c_str(), kind);
+                    std::printf("        %s  %s\n", isoDate(d).c_str(), kind);
             }
         previous = gig.gigDate;
         g.venue.read(gig.venue);
@@ -338,11 +313,11 @@ void runTourInfo(SimContext& ctx, const std::string& key) {
             gigs += fmt::format(
                 "{}{{\"gig\":{},\"date\":\"{}\",\"venue\":{},\"city\":{},\"bill\":[{}],\"crowd\":{},\"overall\":{},"
                 "\"profit\":{}}}",
-                i ? "," : "", t.gigs[i], iso(gig.gigDate), jsonQuote(venue), jsonQuote(city), billJson, gig.attendance,
-                gig.overallQuality, moneyUnits(gig.profit));
+                i ? "," : "", t.gigs[i], isoDate(gig.gigDate), jsonQuote(venue), jsonQuote(city), billJson,
+                gig.attendance, gig.overallQuality, moneyUnits(gig.profit));
         else
-            std::printf("%6d  %s  %-32s %-20s %9d %3d %12s  %s\n", t.gigs[i], iso(gig.gigDate).c_str(), venue.c_str(),
-                        city.c_str(), gig.attendance, gig.overallQuality,
+            std::printf("%6d  %s  %-32s %-20s %9d %3d %12s  %s\n", t.gigs[i], isoDate(gig.gigDate).c_str(),
+                        venue.c_str(), city.c_str(), gig.attendance, gig.overallQuality,
                         formatMoneyValue(g, static_cast<double>(gig.profit), "###,###,##0").c_str(), bill.c_str());
     }
     if (ctx.json)

@@ -46,8 +46,6 @@ struct DumpOptions {
     std::string table;
 };
 
-std::string isoDate(double serial) { return formatDate(serial, "yyyy-mm-dd"); }
-
 }  // namespace
 
 void addWorldVerbs(CLI::App& app, SimContext& ctx) {

@@ -202,6 +202,8 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     case fileAward: return findIn(g.award, [&](auto& r) { return nameMatches(r.name, name); });
     case fileCeremony: return findIn(g.ceremony, [&](auto& r) { return nameMatches(r.name, name); });
     case fileNewAlbum: return findIn(g.newalbum, [&](auto& r) { return nameMatches(r.title, name); });
+    case fileMedia: return findIn(g.media, [&](auto& r) { return nameMatches(r.mediaName, name); });
+    case fileProduct: return findIn(g.product, [&](auto& r) { return nameMatches(r.name, name); });
     default: throw FatalError(fmt::format("Table {} has no name to search by", catalogueEntry(n).table));
     }
 }
