@@ -119,13 +119,7 @@ frmFirmCard::frmFirmCard(Game& g, int16_t firm, QWidget* parent) : QDialog(paren
     details->showFirm(g, firm, 0);
     setWindowTitle(details->lblName->text());
     l->addWidget(details, 1);
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    cmdOk = makeButton(QStringLiteral("cmdOk"), tr("Ok"), Glyph::ok, ButtonRole::primary, this);
-    cmdOk->setDefault(true);
-    row->addWidget(cmdOk);
-    l->addLayout(row);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    cmdOk = addOkRow(this, l);
 }
 
 // ---- frmChooseStudio ----

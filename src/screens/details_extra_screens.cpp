@@ -13,6 +13,7 @@
 #include "floor/formats.h"
 #include "live/venue_details.h"
 #include "screens/glyphs.h"
+#include "screens/screen_page.h"
 #include "screens/theme.h"
 #include "world/game.h"
 
@@ -39,17 +40,6 @@ QTableWidgetItem* rightAligned(const QString& text) {
 }
 
 // The dialog's frame: margins, and an Ok button at the bottom right.
-QPushButton* okRow(QDialog* dialog, QVBoxLayout* l) {
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    QPushButton* ok = makeButton(QStringLiteral("cmdOk"), QObject::tr("Ok"), Glyph::ok, ButtonRole::primary, dialog);
-    ok->setDefault(true);
-    row->addWidget(ok);
-    l->addLayout(row);
-    QObject::connect(ok, &QPushButton::clicked, dialog, &QDialog::accept);
-    return ok;
-}
-
 }  // namespace
 
 frmVenueCard::frmVenueCard(Game& g, int16_t venue, QWidget* parent) : QDialog(parent) {
@@ -86,7 +76,7 @@ frmVenueCard::frmVenueCard(Game& g, int16_t venue, QWidget* parent) : QDialog(pa
     flxGigs->horizontalHeader()->setStretchLastSection(true);
     flxGigs->setMinimumSize(520, 260);
     l->addWidget(flxGigs, 1);
-    cmdOk = okRow(this, l);
+    cmdOk = addOkRow(this, l);
 }
 
 frmHighScoreTable::frmHighScoreTable(Game& g, QWidget* parent) : QDialog(parent) {
@@ -123,7 +113,7 @@ frmHighScoreTable::frmHighScoreTable(Game& g, QWidget* parent) : QDialog(parent)
     flxScores->setMinimumSize(560, 300);
     if (markedRow >= 0) flxScores->selectRow(markedRow);
     l->addWidget(flxScores, 1);
-    cmdOk = okRow(this, l);
+    cmdOk = addOkRow(this, l);
 }
 
 frmBirthday::frmBirthday(Game& g, QWidget* parent) : QDialog(parent) {
@@ -146,7 +136,7 @@ frmBirthday::frmBirthday(Game& g, QWidget* parent) : QDialog(parent) {
     lblText->setMinimumWidth(420);
     lblText->setTextFormat(Qt::PlainText);
     l->addWidget(lblText, 1);
-    cmdOk = okRow(this, l);
+    cmdOk = addOkRow(this, l);
 }
 
 QListWidget* achievementList(Game& g, int kind, int16_t who, QWidget* parent) {

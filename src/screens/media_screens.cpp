@@ -86,13 +86,7 @@ frmMediaCard::frmMediaCard(Game& g, int16_t outlet, QWidget* parent) : QDialog(p
     lblMediaDetails->setObjectName(QStringLiteral("lblMediaDetails"));
     lblMediaDetails->setWordWrap(true);
     l->addWidget(lblMediaDetails, 1);
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    cmdOk = makeButton(QStringLiteral("cmdOk"), tr("Ok"), Glyph::ok, ButtonRole::primary, this);
-    cmdOk->setDefault(true);
-    row->addWidget(cmdOk);
-    l->addLayout(row);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    cmdOk = addOkRow(this, l);
 }
 
 frmPromotion::frmPromotion(mdiParentForm& main, int16_t band) : QDialog(&main), main_(main), band_(band) {

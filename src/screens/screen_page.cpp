@@ -1,9 +1,12 @@
 #include "screens/screen_page.h"
 
+#include <QDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "screens/glyphs.h"
 #include "screens/theme.h"
 
 namespace trovane::screens {
@@ -103,6 +106,17 @@ QWidget* captioned(const QString& caption, QWidget* field, QWidget* parent) {
     l->addWidget(c);
     l->addWidget(field);
     return box;
+}
+
+QPushButton* addOkRow(QDialog* dialog, QVBoxLayout* layout) {
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    QPushButton* ok = makeButton(QStringLiteral("cmdOk"), QObject::tr("Ok"), Glyph::ok, ButtonRole::primary, dialog);
+    ok->setDefault(true);
+    row->addWidget(ok);
+    layout->addLayout(row);
+    QObject::connect(ok, &QPushButton::clicked, dialog, &QDialog::accept);
+    return ok;
 }
 
 }  // namespace trovane::screens

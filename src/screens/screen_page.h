@@ -4,7 +4,9 @@
 #include <QFrame>
 #include <QWidget>
 
+class QDialog;
 class QLabel;
+class QPushButton;
 class QVBoxLayout;
 class QHBoxLayout;
 
@@ -44,6 +46,10 @@ public:
 private:
     QVBoxLayout* layout_;
 };
+
+// Closes a dialog's layout with a row holding one "Ok" button on the right,
+// which accepts the dialog; returns the button (cmdOk).
+QPushButton* addOkRow(QDialog* dialog, QVBoxLayout* layout);
 
 // A form outside the running game (the new-game steps): a heading over one
 // card in the middle of the window, and its buttons under the card.
