@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <tuple>
 
 #include "session/session_record.h"
 #include "support/empty_game.h"
@@ -48,13 +49,17 @@ protected:
 
 class BrokenWorkingSet : public WorkingSet, public ::testing::WithParamInterface<SetDamage> {};
 
-TEST_F(WorkingSet, AWholeSetIsContinuedUpToItsLastLabel) {
+TEST_F(WorkingSet, AWholeSetIsContinuedWithAPlayerLabelFromOneToItsLast) {
     auto [status, out] = sim(dir, "status");
     EXPECT_EQ(status, 0) << out;
     setPlayerLabel(2);  // one past the one label
     auto [refused, why] = sim(dir, "status");
     EXPECT_EQ(refused, 5);
     EXPECT_NE(why.find("svar.vel names player label 2; label.vel has 1"), std::string::npos) << why;
+    setPlayerLabel(0);  // no player label while labels exist: not the empty set init makes
+    std::tie(refused, why) = sim(dir, "status");
+    EXPECT_EQ(refused, 5);
+    EXPECT_NE(why.find("svar.vel names player label 0"), std::string::npos) << why;
 }
 
 TEST_P(BrokenWorkingSet, IsRefusedByNameWithStatusFiveAndNothingWritten) {
@@ -106,13 +111,6 @@ TEST_F(WorkingSet, AGameLongPastTheLastYearOfItsScheduleGoesOn) {
     auto [refused, why] = sim(dir, "status");
     EXPECT_EQ(refused, 5);
     EXPECT_NE(why.find("svar.vel does not hold a game"), std::string::npos) << why;
-}
-
-TEST_F(WorkingSet, ALabelOutOfRangeBelowIsRefusedToo) {
-    setPlayerLabel(0);  // no player label while labels exist: not the empty set init makes
-    auto [status, out] = sim(dir, "status");
-    EXPECT_EQ(status, 5);
-    EXPECT_NE(out.find("svar.vel names player label 0"), std::string::npos) << out;
 }
 
 }  // namespace
