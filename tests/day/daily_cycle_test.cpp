@@ -1,5 +1,5 @@
 // The day's pipeline, checked against the calendar over two whole years of an
-// empty world played through trovane-sim, and the turn's hold on unanswered news.
+// empty world played through trovane-sim, the hourly item and the status bar.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "day/daily_cycle.h"
-#include "floor/news_post.h"
 #include "floor/preferences.h"
 #include "support/empty_game.h"
 #include "support/temp_folder.h"
@@ -127,7 +126,8 @@ TEST_F(TwoYearsOfDays, MonthlyStepsKeepTheirDates) {
         unsigned mm = static_cast<unsigned>(d.date.month());
         bool yearEnd = dd == 31 && mm == 12;
         EXPECT_EQ(count(d, "updateLabelFinances"), (dd == 1 || yearEnd) ? 1 : 0);
-        EXPECT_EQ(count(d, "tidyShortlist"), dd == 1 ? 1 : 0);
+        for (const char* first : {"tidyShortlist", "deliverMarketingReports", "deliverScoutingReports"})
+            EXPECT_EQ(count(d, first), dd == 1 ? 1 : 0) << first;
         EXPECT_EQ(count(d, "checkPlayerControlledBands"), (dd == 5 && mm % 2 == 1) ? 1 : 0);
         EXPECT_EQ(count(d, "subtractBusinessRunningCosts"), dd == 10 ? 1 : 0);
         EXPECT_EQ(count(d, "bandPotentialCalculations"), dd == 15 ? 1 : 0);
@@ -160,39 +160,6 @@ TEST_F(TwoYearsOfDays, YearEndSchedulesTheYearAfterNextOnlyFromTheSecondYear) {
     EXPECT_EQ(count(on(year{2004} / December / 31), "scheduleCeremonies"), 0);
     EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleFestivals"), 1);
     EXPECT_EQ(count(on(year{2005} / December / 31), "scheduleCeremonies"), 1);
-    // Days that run no date step at all: 31 January, 30 December.
-    const std::vector<std::string> monthly = {"deliverMarketingReports",
-                                              "updateLabelFinances",
-                                              "checkPlayerControlledBands",
-                                              "subtractBusinessRunningCosts",
-                                              "bandPotentialCalculations",
-                                              "updateBandTimeWithoutADeal",
-                                              "updateMonthsRemainingOnOption",
-                                              "tidyCharts",
-                                              "increaseBandAges"};
-    for (auto ymd : {year{2005} / January / 31, year{2005} / December / 30, year{2006} / January / 31})
-        for (const auto& step : monthly) EXPECT_EQ(count(on(ymd), step), 0) << step;
-}
-
-TEST(TurnHold, UnansweredCompulsoryItemHoldsTheDayLowestNumberFirst) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
-    postNews(g, {.date = g.gameDate, .title = "Answered", .text = "", .kind = 1});
-    postNews(g, {.date = g.gameDate, .title = "First question", .text = "", .kind = 1, .mustReply = true});
-    postNews(g, {.date = g.gameDate, .title = "Second question", .text = "", .kind = 1, .mustReply = true});
-    EXPECT_FALSE(allRepliesGiven(g));
-    EXPECT_EQ(g.news->id, 2);
-    EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);
-    EXPECT_FALSE(allRepliesGiven(g));  // a second press shows the same item
-    EXPECT_EQ(g.news->id, 2);
-    g.news.read(2);
-    g.news->replied = kTrue;
-    g.news.write(2);
-    EXPECT_FALSE(allRepliesGiven(g));
-    EXPECT_EQ(g.news->id, 3);
-    g.news->replied = kTrue;
-    g.news.write(3);
-    EXPECT_TRUE(allRepliesGiven(g));
 }
 
 TEST(PlayTime, TheHourlyItemComesOnlyOnAWholeHour) {

@@ -7,11 +7,13 @@
 #include "day/news_inbox.h"
 #include "floor/news_post.h"
 #include "support/calendar_world.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/strings.h"
 
 using namespace trovane;
 using namespace trovane::test;
+
+using NewsInbox = test::GameTest;
 
 namespace {
 
@@ -42,8 +44,7 @@ int32_t fileLinked(Game& g, ScheduleRecord e) {
 
 }  // namespace
 
-TEST(NewsInbox, ListIsNewestFirstWithoutDeletedItemsAndSorts) {
-    EmptyGame eg;
+TEST_F(NewsInbox, ListIsNewestFirstWithoutDeletedItemsAndSorts) {
     Game& g = eg.g;
     EXPECT_TRUE(newsListRows(g).empty());
     EXPECT_FALSE(clickNewsRow(g, {}, 0));
@@ -69,7 +70,7 @@ TEST(NewsInbox, ListIsNewestFirstWithoutDeletedItemsAndSorts) {
     EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);
 }
 
-TEST(NewsInbox, ButtonsDeleteAndSidebarFollowKindAndAnswer) {
+TEST(NewsButtons, DeleteAndSidebarFollowKindAndAnswer) {
     struct Case {
         uint8_t kind;
         bool mustReply, replied;
@@ -102,15 +103,16 @@ TEST(NewsInbox, ButtonsDeleteAndSidebarFollowKindAndAnswer) {
     }
 }
 
-TEST(NewsInbox, UnansweredItemsHoldTheDayLowestFirst) {
-    EmptyGame eg;
+TEST_F(NewsInbox, UnansweredItemsHoldTheDayLowestFirst) {
     Game& g = eg.g;
     post(g, "Plain");
     int32_t second = post(g, "Second", kNewsYesNo, 0, true);
     int32_t third = post(g, "Third", kNewsYesNo, 0, true);
     for (int32_t held : {second, third}) {
         EXPECT_FALSE(allRepliesGiven(g));
+        EXPECT_FALSE(allRepliesGiven(g)) << "a second press shows the same item";
         EXPECT_EQ(g.news->id, held);
+        EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);
         open(g, held);
         pressNewsCmd2(g);
         EXPECT_EQ(g.currentScreen, Screen::frmNews);
@@ -118,8 +120,7 @@ TEST(NewsInbox, UnansweredItemsHoldTheDayLowestFirst) {
     EXPECT_TRUE(allRepliesGiven(g));
 }
 
-TEST(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
-    EmptyGame eg;
+TEST_F(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
     Game& g = eg.g;
     ScheduleRecord ended{};
     ended.type = 18;
@@ -134,8 +135,7 @@ TEST(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
     EXPECT_EQ(g.currentScreen, Screen::frmNews);
 }
 
-TEST(NewsInbox, YesActsOnTheLinkedEntry) {
-    EmptyGame eg;
+TEST_F(NewsInbox, YesActsOnTheLinkedEntry) {
     Game& g = eg.g;
     g.player.playerLabel = 3;
     g.gameDate = day(2004, 9, 1);
@@ -164,8 +164,7 @@ TEST(NewsInbox, YesActsOnTheLinkedEntry) {
     EXPECT_EQ(g.tour->supportCount, 2);
 }
 
-TEST(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
-    EmptyGame eg;
+TEST_F(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
     Game& g = eg.g;
     g.gameDate = day(2004, 9, 1);
     g.label.rec.name = "My Label";
@@ -190,8 +189,7 @@ TEST(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
     EXPECT_EQ(g.news->date, g.gameDate + 1);
 }
 
-TEST(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
-    EmptyGame eg;
+TEST_F(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
     Game& g = eg.g;
     g.player.playerLabelName = "Loud Records ";
     g.event.rec.replyText = {Text<256>("We stand by them."), Text<256>("We are appalled."), Text<256>("...")};

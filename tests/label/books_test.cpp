@@ -6,10 +6,18 @@
 #include "label/departments.h"
 #include "label/finances.h"
 #include "session/invariants.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/dates.h"
 
 using namespace trovane;
+
+using Interest = test::GameTest;
+using LabelWages = test::GameTest;
+using MonthEnd = test::GameTest;
+using DepartmentWages = test::GameTest;
+using DepartmentRating = test::GameTest;
+using DepartmentLevels = test::GameTest;
+using DepartmentError = test::GameTest;
 
 namespace {
 
@@ -25,14 +33,14 @@ int16_t addLabel(Game& g, Money cash, int financeRating = 0) {
 
 }  // namespace
 
-TEST(Interest, NothingAtOrBelowNothingOrWithoutAFinanceDepartment) {
+TEST_F(Interest, NothingAtOrBelowNothingOrWithoutAFinanceDepartment) {
     EXPECT_EQ(monthlyInterest(0, 85), 0);
     EXPECT_EQ(monthlyInterest(-units(5000), 85), 0);
     EXPECT_EQ(monthlyInterest(units(5000), 0), 0);
     EXPECT_EQ(monthlyInterest(1, 85), 0);  // 7225 / 1,000,000 of a unit rounds away
 }
 
-TEST(Interest, RatingEightyFiveEarnsPointSevenTwoTwoFivePercent) {
+TEST_F(Interest, RatingEightyFiveEarnsPointSevenTwoTwoFivePercent) {
     // 1000.0000 = 10,000,000 ten-thousandths; x 85^2 = 7225 / 1,000,000 = 72,250 = 7.2250
     EXPECT_EQ(monthlyInterest(units(1000), 85), 72'250);
     // Halves go to the even: 200 x 2500 / 1e6 = 0.5 -> 0; 600 x 2500 / 1e6 = 1.5 -> 2; 201 x 2500 = 0.5025 -> 1
@@ -41,9 +49,7 @@ TEST(Interest, RatingEightyFiveEarnsPointSevenTwoTwoFivePercent) {
     EXPECT_EQ(monthlyInterest(201, 50), 1);
 }
 
-TEST(Interest, IsBookedAsInvestmentsOnlyWhenThereIsSome) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(Interest, IsBookedAsInvestmentsOnlyWhenThereIsSome) {
     addLabel(g, units(1000), 85);
     payInterest(g);
     g.label.read(1);
@@ -57,9 +63,7 @@ TEST(Interest, IsBookedAsInvestmentsOnlyWhenThereIsSome) {
     EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerInvestments), 0);
 }
 
-TEST(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
     addLabel(g, units(100));
     g.label->wageBill = units(1500);
     g.label.write();
@@ -75,9 +79,7 @@ TEST(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
     EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerWages), -units(2700));
 }
 
-TEST(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
     addLabel(g, units(10'000), 10);  // 1% of 1% a month: 10,000 x 100 / 1e6 = 1.0000
     g.gameDate = serialFromCivil(2004, 12, 1);
     updateLabelFinances(g);
@@ -102,9 +104,7 @@ TEST(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
 // Played day by day from Thursday 5 August 2004 to 2 January 2005: wages of
 // 1,500 on each of 22 Fridays, the Friday the 1st of October and Friday 31
 // December falling in the month that closes that day.
-TEST(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
     addLabel(g, units(50'000));
     g.player.playerLabel = 1;
     g.label->department[marketing].staffAtLevel[0] = 1;  // 1,500 a week; weighted 5, rating 0
@@ -143,9 +143,7 @@ TEST(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
     EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerRoyaltiesPaid), -units(25));
 }
 
-TEST(MonthEnd, AYearClosesThirteenTimes) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(MonthEnd, AYearClosesThirteenTimes) {
     addLabel(g, units(100));
     g.player.playerLabel = 1;
     g.player.playerLabelCash = units(100);
@@ -165,18 +163,14 @@ TEST(LabelReputation, IsTheFiveMarketsAdded) {
     EXPECT_EQ(labelReputationSum(l), 90);
 }
 
-TEST(DepartmentWages, TwentyOneAtTheBestLevelFitTwentyTwoOverflow) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DepartmentWages, TwentyOneAtTheBestLevelFitTwentyTwoOverflow) {
     g.label->department[security].staffAtLevel = {21, 0, 0, 0, 32};
     EXPECT_EQ(departmentWages(g, security), units(21 * 1500 + 32 * 1000));  // 31,500 + 32,000
     g.label->department[security].staffAtLevel[0] = 22;                     // 33,000 passes 32,767
     EXPECT_THROW(departmentWages(g, security), FatalError);
 }
 
-TEST(DepartmentWages, TheBillAddsEveryDepartmentAndItsHead) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHead) {
     g.staff.rec = StaffRecord{};
     g.staff->wage = units(420);
     int16_t head = static_cast<int16_t>(g.staff.append());
@@ -187,9 +181,7 @@ TEST(DepartmentWages, TheBillAddsEveryDepartmentAndItsHead) {
     EXPECT_EQ(g.label->wageBill, units(8570));
 }
 
-TEST(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
     Department& dep = g.label->department[publicRelations];
     dep.staffAtLevel = {2, 0, 0, 0, 0};  // weighted 10 -> 8
     setDepartmentRating(g, publicRelations);
@@ -214,7 +206,7 @@ TEST(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
     EXPECT_EQ(dep.rating, 12);  // 8 + 3.5 = 11.5, to the even 12
 }
 
-TEST(DepartmentLevels, TheSliderBoundsAreTheWagesBounds) {
+TEST_F(DepartmentLevels, TheSliderBoundsAreTheWagesBounds) {
     EXPECT_EQ(checkDepartmentLevels(0, {21, 24, 27, 29, 32}), "");
     EXPECT_NE(checkDepartmentLevels(0, {22, 0, 0, 0, 0}), "");
     EXPECT_NE(checkDepartmentLevels(0, {0, 25, 0, 0, 0}), "");
@@ -225,9 +217,7 @@ TEST(DepartmentLevels, TheSliderBoundsAreTheWagesBounds) {
     EXPECT_NE(checkDepartmentLevels(6, {0, 0, 0, 0, 0}), "");
 }
 
-TEST(DepartmentLevels, LockingWritesCountsRatingAndBill) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DepartmentLevels, LockingWritesCountsRatingAndBill) {
     addLabel(g, 0);
     g.player.playerLabel = 1;
     setDepartmentLevels(g, financeAndLaw, {4, 0, 0, 0, 1});  // weighted 21 -> 16; 6,000 + 1,000
@@ -237,16 +227,12 @@ TEST(DepartmentLevels, LockingWritesCountsRatingAndBill) {
     EXPECT_EQ(g.label->wageBill, units(7000));
 }
 
-TEST(DepartmentError, APerfectDepartmentReadsTrue) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DepartmentError, APerfectDepartmentReadsTrue) {
     g.label->department[marketing].rating = 100;
     for (int value : {0, 1, 37, 99, 100}) EXPECT_EQ(applyDepartmentError(g, value, marketing), value);
 }
 
-TEST(DepartmentError, AnEmptyDepartmentMovesTheValueByTwoWholePercentDraws) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DepartmentError, AnEmptyDepartmentMovesTheValueByTwoWholePercentDraws) {
     g.label->department[artistAndRepertoire].rating = 0;
     // Seed 7 draws 0.7544 and 0.9493: e1 = 75, e2 = 94; 60 + 45 - round(56.4) = 49
     g.rng.seed(7);

@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "label/finances.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 
 using namespace trovane;
 
-TEST(LabelFinances, IncomeAndExpensesLandInThisMonthAndThisYearOnly) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+using LabelFinances = test::GameTest;
+
+TEST_F(LabelFinances, IncomeAndExpensesLandInThisMonthAndThisYearOnly) {
     g.label.append();  // a rival
     g.player.playerLabel = narrow<int16_t>(g.label.append());
     addIncome(g, moneyUnits(500), ledgerRecordSales);
@@ -34,9 +34,7 @@ TEST(LabelFinances, IncomeAndExpensesLandInThisMonthAndThisYearOnly) {
     EXPECT_THROW(addExpense(g, 1, 99), FatalError);
 }
 
-TEST(LabelFinances, HypeRaisesReputationOnceItPassesIt) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(LabelFinances, HypeRaisesReputationOnceItPassesIt) {
     g.label->reputation = {10, 10, 100, 5, 50};
     g.label->hype = {5, 0, 100, -101, 0};
     g.label.append();

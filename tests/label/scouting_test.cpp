@@ -67,40 +67,25 @@ TEST_F(Scouting, AStyleTakesItsDescendantsButNotItsParent) {
 
 TEST_F(Scouting, ARivalLooksFromHalfItsTargetToJustBelowIt) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1});
-    g.label.read(label);
-    g.label->reputationTarget = {40, 0, 0, 0, 0};
-    g.label.write();
-    auto qualifies = [&](uint8_t r) {
-        int16_t b = addAct(g, {.reputation = {r, 0, 0, 0, 0}});
+    struct Case {
+        uint8_t target, reputation;
+        bool listed;
+    };
+    // 41 / 2 = 20.5: a reputation of 20 is below an odd target's half.
+    for (Case c : {Case{40, 40, false}, Case{40, 39, true}, Case{40, 20, true}, Case{40, 19, false},
+                   Case{41, 20, false}, Case{41, 21, true}}) {
+        int16_t b = addAct(g, {.reputation = {c.reputation, 0, 0, 0, 0}});
         g.band.read(b);
         g.label.read(label);
-        return considerForShortlist(g, 0);
-    };
-    EXPECT_FALSE(qualifies(40));
-    EXPECT_TRUE(qualifies(39));
-    EXPECT_TRUE(qualifies(20));
-    EXPECT_FALSE(qualifies(19));
+        g.label->reputationTarget = {c.target, 0, 0, 0, 0};
+        EXPECT_EQ(considerForShortlist(g, 0), c.listed) << int{c.target} << " " << int{c.reputation};
+    }
     // Forced, the window is skipped and the band listed.
     int16_t big = addAct(g, {.reputation = {90, 0, 0, 0, 0}});
     g.band.read(big);
     g.label.read(label);
     EXPECT_TRUE(considerForShortlist(g, -1));
     EXPECT_TRUE(isShortlisted(g));
-}
-
-TEST_F(Scouting, HalfAnOddTargetIsNotRoundedDown) {
-    int16_t label = addLabel(g, {1, 1, 1, 1, 1});
-    g.label.read(label);
-    g.label->reputationTarget = {41, 0, 0, 0, 0};
-    g.label.write();
-    auto qualifies = [&](uint8_t r) {
-        int16_t b = addAct(g, {.reputation = {r, 0, 0, 0, 0}});
-        g.band.read(b);
-        g.label.read(label);
-        return considerForShortlist(g, 0);
-    };
-    EXPECT_FALSE(qualifies(20)) << "41 / 2 = 20.5, above 20";
-    EXPECT_TRUE(qualifies(21));
 }
 
 TEST_F(Scouting, ASignedBandOrOneOutsideTheControversyBoundsIsNotTaken) {

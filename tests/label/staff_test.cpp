@@ -52,11 +52,13 @@ struct StaffGame : ::testing::Test {
         return static_cast<int16_t>(g.staff.append());
     }
 
-    void playDay() {
-        ASSERT_TRUE(allRepliesGiven(g));
-        checkDaysSchedule(g);
-        auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
+    void playDay(int days = 1) {
+        for (int i = 0; i < days; ++i) {
+            ASSERT_TRUE(allRepliesGiven(g));
+            checkDaysSchedule(g);
+            auto broken = checkInvariants(g);
+            ASSERT_FALSE(broken) << describeBreak(*broken);
+        }
     }
 
     std::string lastTitle() {
@@ -79,7 +81,7 @@ TEST_F(StaffGame, AnOfferAtExactlyNineTenthsIsTakenAndOneUnitLessIsNot) {
     g.staff.read(bob);
     g.staff->offerWage -= 1;  // 899.9999
     g.staff.write();
-    for (int i = 0; i < 8; ++i) playDay();  // the answers come a week on
+    playDay(8);  // the answers come a week on
     g.staff.read(ann);
     EXPECT_EQ(g.staff->offerLabel, label) << "an accepted offer stands until the deal";
     g.staff.read(bob);
@@ -104,7 +106,7 @@ TEST_F(StaffGame, ALabelOfAnotherStyleMustOfferATenthMore) {
     approachStaff(g, fan, 0, 900, 1);
     approachStaff(g, far, 1, 1100, 1);
     approachStaff(g, near, 2, 1099, 1);
-    for (int i = 0; i < 8; ++i) playDay();
+    playDay(8);
     g.staff.read(fan);
     EXPECT_EQ(g.staff->offerLabel, label);
     g.staff.read(far);
@@ -121,7 +123,7 @@ TEST_F(StaffGame, AYesHiresThePersonIntoTheDepartmentOnTheOfferedTerms) {
     g.label->wageBill = units(3000);
     g.label.write();
     approachStaff(g, ann, marketing, 950, 4);
-    for (int i = 0; i < 8; ++i) playDay();
+    playDay(8);
     const double today = g.gameDate;  // Friday 13 August 2004
     g.news.read(g.news.recordCount() - 1);
     pressNewsCmd1(g);
@@ -147,7 +149,7 @@ TEST_F(StaffGame, APostTakenBeforeTheHireRunsMakesTheDealFallThrough) {
     int16_t bob = person("Bob", units(1000));
     approachStaff(g, ann, hospitality, 1000, 2);
     approachStaff(g, bob, hospitality, 1000, 2);
-    for (int i = 0; i < 8; ++i) playDay();
+    playDay(8);
     for (int32_t n = 1; n != g.news.recordCount(); ++n) {
         g.news.read(n);
         if (g.news->mustReply == kTrue) pressNewsCmd1(g);
@@ -175,14 +177,14 @@ TEST_F(StaffGame, AWithdrawalCancelsTheAnswerAndClearsTheOffer) {
     EXPECT_EQ(g.staff->offerLabel, 0);
     g.schedule.read(1);
     EXPECT_EQ(g.schedule->type, 255);
-    for (int i = 0; i < 8; ++i) playDay();
+    playDay(8);
     EXPECT_EQ(g.news.recordCount(), 1) << "no answer comes";
 }
 
 TEST_F(StaffGame, AWithdrawalIsRefusedOnTheDecisionDayAndWhileTheHireIsPending) {
     int16_t ann = person("Ann", units(1000));
     approachStaff(g, ann, security, 1000, 2);
-    for (int i = 0; i < 6; ++i) playDay();
+    playDay(6);
     EXPECT_EQ(checkWithdrawStaffOffer(g, ann), "") << "the day before";
     playDay();
     EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "the decision day";
@@ -195,7 +197,7 @@ TEST_F(StaffGame, AWithdrawalIsRefusedOnTheDecisionDayAndWhileTheHireIsPending) 
 TEST_F(StaffGame, ANoToAgreedTermsLeavesTheOfferUntilWithdrawn) {
     int16_t ann = person("Ann", units(1000));
     approachStaff(g, ann, security, 1000, 2);
-    for (int i = 0; i < 8; ++i) playDay();
+    playDay(8);
     g.news.read(g.news.recordCount() - 1);
     pressNewsCmd2(g);
     playDay();

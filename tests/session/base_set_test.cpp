@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <string>
 
 #include "session/new_game.h"
+#include "support/folder_files.h"
 #include "support/temp_folder.h"
 #include "support/tiny_world.h"
 #include "world/fatal_error.h"
@@ -27,17 +27,7 @@ class BrokenBaseSet : public ::testing::TestWithParam<BaseDamage> {
 protected:
     test::TempFolder folder;
     void SetUp() override { test::writeTinyBaseWorld(folder.path()); }
-
-    // The working set's files, name and bytes.
-    std::map<std::string, std::string> workingFiles() {
-        std::map<std::string, std::string> files;
-        for (const auto& e : fs::directory_iterator(folder.path()))
-            if (e.path().extension() == ".vel") {
-                std::ifstream in(e.path(), std::ios::binary);
-                files[e.path().filename().string()] = std::string(std::istreambuf_iterator<char>(in), {});
-            }
-        return files;
-    }
+    std::map<std::string, std::string> workingFiles() { return test::folderFiles(folder.path(), "vel"); }
 };
 
 TEST(BaseSet, AWholeBaseSetStartsAGameAndThePlayersFilesMayChange) {

@@ -55,13 +55,6 @@ class Invariants : public ::testing::TestWithParam<Fault> {};
 
 }  // namespace
 
-TEST(Invariants, ASoundGamePasses) {
-    test::EmptyGame eg;
-    soundGame(eg.g);
-    auto broken = checkInvariants(eg.g);
-    EXPECT_FALSE(broken) << describeBreak(*broken);
-}
-
 TEST(Invariants, AnOpeningRowCountsThisMonthFromItsOwnFigures) {
     test::EmptyGame eg;
     Game& g = eg.g;
@@ -107,127 +100,116 @@ void addBand(Game& g, const std::function<void(BandRecord&)>& f) {
 INSTANTIATE_TEST_SUITE_P(
     Faults, Invariants,
     ::testing::Values(
-        Fault{"CashWithoutItsBooks", [](Game& g) {
-    onLabel(g, 1, [](auto& l) { l.cashBalance += 1; }); }, "label", 1,
+        Fault{"CashWithoutItsBooks", [](Game& g) { onLabel(g, 1, [](auto& l) { l.cashBalance += 1; }); }, "label", 1,
               "cashBalance", "labelCashMatchesLedger"},
         Fault{"RoyaltiesTakenFromTheRow",
               [](Game& g) {
-    // Cash and this month agree, but the royalties run from the row's figure.
-    onLabel(g, 2, [](auto& l) { l.period[0].expense[6] = 0; });
+                  // Cash and this month agree, but the royalties run from the row's figure.
+                  onLabel(g, 2, [](auto& l) { l.period[0].expense[6] = 0; });
               },
               "label", 2, "cashBalance", "labelCashMatchesLedger"},
-        Fault{"PlayerCashAside", [](Game& g) {
-    g.player.playerLabelCash += 1; }, "session", 0, "playerLabelCash",
+        Fault{"PlayerCashAside", [](Game& g) { g.player.playerLabelCash += 1; }, "session", 0, "playerLabelCash",
               "playerCashIsTheLabels"},
         Fault{"LevelPastItsBound",
-              [](Game& g) {
-    onLabel(g, 1, [](auto& l) { l.department[3].staffAtLevel[4] = 33; }); }, "label", 1,
+              [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[3].staffAtLevel[4] = 33; }); }, "label", 1,
               "department[3].staffAtLevel[4]", "staffLevelsWithinBounds"},
         Fault{"LevelAtItsBound",
               [](Game& g) {
-    onLabel(g, 1, [](auto& l) {
-        l.department[3].staffAtLevel[4] = 32;  // allowed, but rating and bill now lag
-    });
+                  onLabel(g, 1, [](auto& l) {
+                      l.department[3].staffAtLevel[4] = 32;  // allowed, but rating and bill now lag
+                  });
               },
               "label", 1, "department[3].rating", "departmentRatingsFollowStaff"},
-        Fault{"HeadOfAnotherLabel", [](Game& g) {
-    onLabel(g, 1, [](auto& l) { l.department[0].head = 1; }); }, "label",
+        Fault{"HeadOfAnotherLabel", [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[0].head = 1; }); }, "label",
               1, "department[0].head", "departmentHeadsWorkThere"},
-        Fault{"HeadInAnotherDepartment", [](Game& g) {
-    onLabel(g, 2, [](auto& l) { l.department[2].head = 1; }); },
+        Fault{"HeadInAnotherDepartment", [](Game& g) { onLabel(g, 2, [](auto& l) { l.department[2].head = 1; }); },
               "label", 2, "department[2].head", "departmentHeadsWorkThere"},
-        Fault{"RatingOffByOne", [](Game& g) {
-    onLabel(g, 2, [](auto& l) { l.department[1].rating = 13; }); }, "label",
+        Fault{"RatingOffByOne", [](Game& g) { onLabel(g, 2, [](auto& l) { l.department[1].rating = 13; }); }, "label",
               2, "department[1].rating", "departmentRatingsFollowStaff"},
-        Fault{"BillWithoutTheHead", [](Game& g) {
-    onLabel(g, 2, [](auto& l) { l.wageBill = moneyUnits(10'000); }); },
+        Fault{"BillWithoutTheHead", [](Game& g) { onLabel(g, 2, [](auto& l) { l.wageBill = moneyUnits(10'000); }); },
               "label", 2, "wageBill", "wageBillIsItsDepartments"},
-        Fault{"ReputationBelowTheFloor", [](Game& g) {
-    addBand(g, [](auto& b) { b.reputation[3] = 1; }); }, "band", 1,
+        Fault{"ReputationBelowTheFloor", [](Game& g) { addBand(g, [](auto& b) { b.reputation[3] = 1; }); }, "band", 1,
               "reputation[3]", "bandsHoldTheirFields"},
-        Fault{"HypePastItsMeter", [](Game& g) {
-    addBand(g, [](auto& b) { b.hype[0] = -101; }); }, "band", 1, "hype[0]",
+        Fault{"HypePastItsMeter", [](Game& g) { addBand(g, [](auto& b) { b.hype[0] = -101; }); }, "band", 1, "hype[0]",
               "bandsHoldTheirFields"},
         Fault{"AMemberWhoDoesNotExist",
               [](Game& g) {
-    addBand(g, [](auto& b) {
-        b.memberCount = 1;
-        b.members[0] = 1;  // the artist table is empty
-    });
+                  addBand(g, [](auto& b) {
+                      b.memberCount = 1;
+                      b.members[0] = 1;  // the artist table is empty
+                  });
               },
               "band", 1, "members[0]", "bandsHoldTheirFields"},
-        Fault{"ABandCountAhead", [](Game& g) {
-    onLabel(g, 1, [](auto& l) { l.bandCount = 1; }); }, "label", 1,
+        Fault{"ABandCountAhead", [](Game& g) { onLabel(g, 1, [](auto& l) { l.bandCount = 1; }); }, "label", 1,
               "bandCount", "bandCountIsItsBands"},
         Fault{"ARetiredActCounted",
               [](Game& g) {
-    addBand(g, [](auto& b) {
-        b.label = 2;
-        b.retired = -1;
-    });
-    onLabel(g, 2, [](auto& l) { l.bandCount = 1; });
+                  addBand(g, [](auto& b) {
+                      b.label = 2;
+                      b.retired = -1;
+                  });
+                  onLabel(g, 2, [](auto& l) { l.bandCount = 1; });
               },
               "label", 2, "bandCount", "bandCountIsItsBands"},
         Fault{"AnOfferForNoBand",
               [](Game& g) {
-    g.offer.rec = OfferRecord{};
-    g.offer->band = 1;  // no band yet
-    g.offer.append();
+                  g.offer.rec = OfferRecord{};
+                  g.offer->band = 1;  // no band yet
+                  g.offer.append();
               },
               "offer", 1, "band", "offersAndShortlistPointWithin"},
         Fault{"ASongOnADiscThatIsNot",
               [](Game& g) {
-    g.song.rec = SongRecord{};
-    g.song->disc = 1;  // no disc yet; 65535 and 65534 would be the marks
-    g.song.append();
+                  g.song.rec = SongRecord{};
+                  g.song->disc = 1;  // no disc yet; 65535 and 65534 would be the marks
+                  g.song.append();
               },
               "song", 1, "disc", "songsAndDiscsPointWithin"},
         Fault{"MoreTracksRecordedThanBooked",
               [](Game& g) {
-    g.disc.rec = DiscRecord{};
-    g.disc->trackCount = 2;
-    g.disc->tracksRecorded = 3;
-    g.disc.append();
+                  g.disc.rec = DiscRecord{};
+                  g.disc->trackCount = 2;
+                  g.disc->tracksRecorded = 3;
+                  g.disc.append();
               },
               "disc", 1, "tracksRecorded", "songsAndDiscsPointWithin"},
         Fault{"AFirmNeitherOpenNorBuilding",
               [](Game& g) {
-    g.business.rec = BusinessRecord{};
-    g.business->open = 1;
-    g.business.append();
+                  g.business.rec = BusinessRecord{};
+                  g.business->open = 1;
+                  g.business.append();
               },
               "business", 1, "open", "firmsHoldTheirFields"},
         Fault{"ALookPastTheTable",
               [](Game& g) {
-    g.artist.rec = ArtistRecord{};
-    g.artist->look = 1;  // the look table is empty
-    g.artist.append();
+                  g.artist.rec = ArtistRecord{};
+                  g.artist->look = 1;  // the look table is empty
+                  g.artist.append();
               },
               "artist", 1, "look", "looksAndAchievementsPointWithin"},
         Fault{"AnAchievementOfNoOne",
               [](Game& g) {
-    g.achieve.rec = AchievementRecord{};
-    g.achieve->kind = 1;
-    g.achieve->who = 1;  // no artist yet
-    g.achieve.append();
+                  g.achieve.rec = AchievementRecord{};
+                  g.achieve->kind = 1;
+                  g.achieve->who = 1;  // no artist yet
+                  g.achieve.append();
               },
               "achieve", 1, "who", "looksAndAchievementsPointWithin"},
         Fault{"ARecordingBandNamingAnotherBandsDisc",
               [](Game& g) {
-    addBand(g, [](auto&) {});
-    addBand(g, [](auto& b) {
-        b.albumStatus = 2;
-        b.songsWritten = 1;  // disc 1 is the first band's
-    });
-    g.disc.rec = DiscRecord{};
-    g.disc->band = 1;
-    g.disc.append();
+                  addBand(g, [](auto&) {});
+                  addBand(g, [](auto& b) {
+                      b.albumStatus = 2;
+                      b.songsWritten = 1;  // disc 1 is the first band's
+                  });
+                  g.disc.rec = DiscRecord{};
+                  g.disc->band = 1;
+                  g.disc.append();
               },
               "band", 2, "songsWritten", "recordingBandsNameTheirDisc"}),
-    [](const auto& info) {
-    return std::string(info.param.name); });
+    [](const auto& info) { return std::string(info.param.name); });
 
-TEST(Invariants, AVoidOfferAndSongsAwaitingADiscPass) {
+TEST(Invariants, ASoundGameWithAVoidOfferAndSongsAwaitingADiscPasses) {
     test::EmptyGame eg;
     Game& g = eg.g;
     soundGame(g);

@@ -15,6 +15,7 @@
 #include <thread>
 #include <vector>
 
+#include "support/folder_files.h"
 #include "support/temp_folder.h"
 
 namespace fs = std::filesystem;
@@ -25,16 +26,6 @@ using Files = std::map<std::string, std::string>;
 
 constexpr int kDays = 8;
 constexpr const char* kSeed = "4242";
-
-Files filesOf(const fs::path& dir) {
-    Files files;
-    for (const auto& e : fs::directory_iterator(dir)) {
-        std::string bytes(fs::file_size(e.path()), '\0');
-        std::ifstream(e.path(), std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        files[e.path().filename().string()] = std::move(bytes);
-    }
-    return files;
-}
 
 void restore(const fs::path& dir, const Files& files) {
     fs::remove_all(dir);
@@ -85,12 +76,12 @@ protected:
                             "--city", "London", "--style", "Rock"}),
                   0)
             << "a new game needs the compiled base set beside trovane-sim";
-        begun = filesOf(dir);
+        begun = trovane::test::folderFiles(dir);
         // The first k days of a seeded run are the whole of a run of k days with that seed.
         for (int k = 0; k <= kDays; ++k) {
             restore(dir, begun);
             ASSERT_EQ(run(dir, {"advance", std::to_string(k)}), 0);
-            dayEnds.push_back(filesOf(dir));
+            dayEnds.push_back(trovane::test::folderFiles(dir));
         }
         ASSERT_NE(dayEnds.front(), dayEnds.back());
     }
@@ -98,7 +89,7 @@ protected:
     // The next start must find the set at the end of some day, and go on from it.
     void expectADayEnd(const std::string& how) {
         ASSERT_EQ(run(dir, {"status"}), 0) << how;
-        Files now = filesOf(dir);
+        Files now = trovane::test::folderFiles(dir);
         std::string nearest;  // the files that differ from the nearest day's end
         for (const auto& end : dayEnds) {
             std::string differ;

@@ -3,32 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
-#include <map>
 
 #include "floor/preferences.h"
 #include "session/save_load.h"
 #include "support/empty_game.h"
+#include "support/folder_files.h"
 #include "world/dates.h"
 #include "world/manifest.h"
 
 using namespace trovane;
 namespace fs = std::filesystem;
+using test::folderFiles;
 
 namespace {
-
-std::string readAll(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-// Every file of the data folder with the given extension, by name.
-std::map<std::string, std::string> filesWithExt(const fs::path& dir, const std::string& ext) {
-    std::map<std::string, std::string> out;
-    for (const auto& e : fs::directory_iterator(dir))
-        if (e.path().extension() == "." + ext) out[e.path().stem().string()] = readAll(e.path());
-    return out;
-}
 
 class SaveSlots : public ::testing::Test {
 protected:
@@ -65,17 +52,17 @@ protected:
 
     std::map<std::string, std::string> workingSet() {
         flushAllTables(g);
-        return filesWithExt(g.dataDir, "vel");
+        return folderFiles(g.dataDir, "vel");
     }
 };
 
 TEST_F(SaveSlots, SaveLoadAndSaveAgainGiveIdenticalFiles) {
     saveGame(g, 2, "First save");
-    auto firstSave = filesWithExt(g.dataDir, "sg2");
+    auto firstSave = folderFiles(g.dataDir, "sg2");
     EXPECT_EQ(firstSave.size(), 49u + 3u + 1u + 1u);  // the table set, 2004 to 2006, svar, the manifest
     loadGame(g, 2);
     saveGame(g, 3, "First save");
-    auto secondSave = filesWithExt(g.dataDir, "sg3");
+    auto secondSave = folderFiles(g.dataDir, "sg3");
     // The manifests differ only in the slot's extension of each name.
     firstSave.erase("manifest");
     secondSave.erase("manifest");
@@ -228,7 +215,7 @@ TEST_F(SaveSlots, ASaveInterruptedWhileMovingIntoPlaceIsFinished) {
     fs::path staging = g.dataDir / ".saving.sg9";
     fs::create_directories(staging);
     std::vector<fs::path> staged;
-    for (const auto& [stem, bytes] : filesWithExt(g.dataDir, "sg0")) {
+    for (const auto& [stem, bytes] : folderFiles(g.dataDir, "sg0")) {
         if (stem == "manifest") continue;
         staged.push_back(staging / (stem + ".sg9"));
         std::ofstream(staged.back(), std::ios::binary) << bytes;

@@ -52,40 +52,32 @@ TEST_F(Condition, PotentialDeclinesOnlyPastHalfTheCareer) {
     EXPECT_EQ(member(half).abilityProgress, 23);
 }
 
-TEST_F(Condition, AbilityClimbsByWholePointsAndKeepsTheRest) {
-    int16_t band = addAct(g, {.ranks = {1, 2}, .style = static_cast<uint8_t>(addStyle(g, 36))});
-    setMember(band, 0, 80, 60, 90);  // v = 23.15 + 90 = 113.15: one point, 13 left
-    setMember(band, 1, 60, 60, 0);   // v = 0
-    bandPotentialCalculations(g);
-    EXPECT_EQ(member(band, 0).ability, 61);
-    EXPECT_EQ(member(band, 0).abilityProgress, 13);
-    g.band.read(band);
-    EXPECT_EQ(g.band->ability, 60) << "round(60.5) to even";
-}
-
-TEST_F(Condition, AFallingAbilityTruncatesTowardZero) {
-    int16_t band = addAct(g, {.style = static_cast<uint8_t>(addStyle(g, 36))});
-    // (20 - 60) / 2 x 10 / 36 / 12 x 100 = -46.30, less 60: -106.30: k = -1, v = -6.30.
-    setMember(band, 0, 20, 60, -60);
-    bandPotentialCalculations(g);
-    EXPECT_EQ(member(band).ability, 59);
-    EXPECT_EQ(member(band).abilityProgress, -6);
-}
-
-TEST_F(Condition, AbilityStopsAtOneHundredAndRetiredBandsAreLeftAlone) {
-    int16_t style = addStyle(g, 36);
-    int16_t top = addAct(g, {.style = static_cast<uint8_t>(style)});
+TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
+    const auto style = static_cast<uint8_t>(addStyle(g, 36));
+    int16_t pair = addAct(g, {.ranks = {1, 2}, .style = style});
+    int16_t falling = addAct(g, {.style = style});
+    int16_t top = addAct(g, {.style = style});
+    int16_t gone = addAct(g, {.style = style});
+    setMember(pair, 0, 80, 60, 90);  // v = 23.15 + 90 = 113.15: one point, 13 left
+    setMember(pair, 1, 60, 60, 0);   // v = 0
+    // (20 - 60) / 2 x 10 / 36 / 12 x 100 = -46.30, less 60: -106.30: k = -1, v = -6.30, toward zero.
+    setMember(falling, 0, 20, 60, -60);
     setMember(top, 0, 100, 100, 150);
-    int16_t gone = addAct(g, {.style = static_cast<uint8_t>(style)});
     setMember(gone, 0, 80, 60, 90);
     g.band.read(gone);
     g.band->retired = kTrue;
     g.band.write();
     bandPotentialCalculations(g);
-    EXPECT_EQ(member(top).ability, 100);
-    EXPECT_EQ(member(top).abilityProgress, 50);
-    EXPECT_EQ(member(gone).ability, 60);
-    EXPECT_EQ(member(gone).abilityProgress, 90);
+    struct Case {
+        int16_t band;
+        int ability, progress;
+    };
+    for (Case c : {Case{pair, 61, 13}, Case{falling, 59, -6}, Case{top, 100, 50}, Case{gone, 60, 90}}) {
+        EXPECT_EQ(member(c.band).ability, c.ability) << "band " << c.band;
+        EXPECT_EQ(member(c.band).abilityProgress, c.progress) << "band " << c.band;
+    }
+    g.band.read(pair);
+    EXPECT_EQ(g.band->ability, 60) << "round(60.5) to even";
 }
 
 TEST_F(Condition, DropBandHypeTakesTwoFromEveryMarket) {

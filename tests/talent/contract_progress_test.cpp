@@ -12,6 +12,12 @@ using test::AlbumWorld;
 
 namespace {
 
+class ContractProgress : public ::testing::Test {
+protected:
+    AlbumWorld w;
+    Game& g = w.g;
+};
+
 void setBand(Game& g, int16_t band, auto change) {
     g.band.read(band);
     change(g.band.rec);
@@ -20,9 +26,7 @@ void setBand(Game& g, int16_t band, auto change) {
 
 }  // namespace
 
-TEST(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
     int16_t first = w.addBand("First", AlbumWorld::kPlayer);  // 3 options = 2 further + stage 1
     int16_t second = w.addBand("Second", AlbumWorld::kPlayer);
     int16_t released = w.addBand("Released", AlbumWorld::kPlayer);
@@ -46,9 +50,7 @@ TEST(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
     EXPECT_EQ(w.newsCount(), 1) << "no warning at 5";
 }
 
-TEST(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
     int16_t band = w.addBand("Sued", AlbumWorld::kRival, 2);
     setBand(g, band, [](BandRecord& b) {
         b.optionMonthsLeft = 1;
@@ -69,9 +71,7 @@ TEST(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
     EXPECT_EQ(w.newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
 }
 
-TEST(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
     int16_t band = w.addBand("Angry", AlbumWorld::kPlayer, 2);
     setBand(g, band, [](BandRecord& b) {
         b.optionMonthsLeft = 1;
@@ -88,9 +88,7 @@ TEST(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
               "£70,000 in damages.");
 }
 
-TEST(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths) {
     int16_t band = w.addBand("Term", AlbumWorld::kPlayer);
     setBand(g, band, [](BandRecord& b) {
         b.additionalAdvance = moneyUnits(40000);
@@ -124,9 +122,7 @@ TEST(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths) 
     EXPECT_EQ(g.schedule->label, AlbumWorld::kPlayer);
 }
 
-TEST(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilently) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilently) {
     int16_t asks = w.addBand("Asks", AlbumWorld::kPlayer);
     int16_t done = w.addBand("Done", AlbumWorld::kPlayer);
     int16_t rival = w.addBand("Rivals", AlbumWorld::kRival);
@@ -170,9 +166,7 @@ TEST(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilentl
     EXPECT_EQ(g.band->label, AlbumWorld::kRival) << "a rival decides for itself";
 }
 
-TEST(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
     int16_t band = w.addBand("Choice", AlbumWorld::kPlayer);
     setBand(g, band, [](BandRecord& b) {
         b.optionsRemaining = 1;
@@ -193,9 +187,7 @@ TEST(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
               "these albums. Do you wish to extend the contract?");
 }
 
-TEST(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
     int16_t famous = w.addBand("Famous", AlbumWorld::kPlayer);
     int16_t small = w.addBand("Small", AlbumWorld::kPlayer);
     setBand(g, famous, [](BandRecord& b) { b.reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51

@@ -67,8 +67,8 @@ protected:
     Game& g = eg.g;
     int16_t style = addStyle(g, 10);
 
-    void setUpBand(uint8_t age = 0, uint8_t askedOptions = 3) {
-        addAct(g, {.reputation = {0, 100, 0, 0, 0}, .style = static_cast<uint8_t>(style), .age = age});
+    void setUpBand(uint8_t age = 0, uint8_t askedOptions = 3, std::array<uint8_t, 5> reputation = {0, 100, 0, 0, 0}) {
+        addAct(g, {.reputation = reputation, .style = static_cast<uint8_t>(style), .age = age});
         g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
         g.band->additionalAdvanceCount = askedOptions;
         g.band->optionLength = 18;
@@ -101,11 +101,7 @@ TEST_F(Scoring, TheAskedTermsNeedAStandingOfSix) {
 }
 
 TEST_F(Scoring, ABandOfNoReputationMakesAnyLabelHuge) {
-    addAct(g, {.style = static_cast<uint8_t>(style)});
-    g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
-    g.band->additionalAdvanceCount = 3;
-    g.band->optionLength = 18;
-    g.band->royaltyRate = 10;
+    setUpBand(0, 3, {0, 0, 0, 0, 0});
     addLabel(g, {10, 0, 0, 0, 0});
     offer(60'000, 60'000, 3, 18, 10);
     // standing round(100 x 10 / 1) = 1000: round(1000 x 90 / 1000 + 90) = 180.

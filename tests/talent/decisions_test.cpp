@@ -15,6 +15,10 @@ using namespace trovane::test;
 
 namespace {
 
+const std::string kUnderRepresented =
+    "The Testers have rejected your contract offer as  They are concerned about under-representation in their main "
+    "market, however it is believed an improved contract would do much to ease the problem.";
+
 // A band of US 100 asking 60,000, three options of 18 months and 10 percent.
 // A label of UK x and US 60 stands at x - 20 against it.
 class Deals : public ::testing::Test {
@@ -164,9 +168,7 @@ TEST_F(Deals, AtNinetyTheBandRejectsWithoutAVerdict) {
     NewsRecord n = lastNews();
     EXPECT_EQ(trim(n.title.value), "The Testers reject Home Records deal.");
     // Worst reason 5: the standing of 5 is below the high of 100 and the gap is 80.
-    EXPECT_EQ(trim(n.text.value),
-              "The Testers have rejected your contract offer as  They are concerned about under-representation in "
-              "their main market, however it is believed an improved contract would do much to ease the problem.");
+    EXPECT_EQ(trim(n.text.value), kUnderRepresented);
     g.offer.read(m.offer);
     EXPECT_EQ(g.offer->band, kVoidOffer);
     EXPECT_EQ(hasOfferFrom(g, home, band), 0) << "a rejected player may file again at once";
@@ -241,9 +243,7 @@ TEST_F(Deals, ThePlayersRejectedOfferIsWeighedWithTheWinnersLabel) {
     playDay(date);
     NewsRecord n = lastNews();
     EXPECT_EQ(trim(n.title.value), "The Testers reject Rival Records deal.");
-    EXPECT_EQ(trim(n.text.value),
-              "The Testers have rejected your contract offer as  They are concerned about under-representation in "
-              "their main market, however it is believed an improved contract would do much to ease the problem.");
+    EXPECT_EQ(trim(n.text.value), kUnderRepresented);
 }
 
 TEST_F(Deals, AVoidOfferSignsNobody) {

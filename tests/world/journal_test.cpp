@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "schedule/schedule.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
+#include "support/sim_run.h"
 #include "support/temp_folder.h"
 #include "world/dates.h"
 #include "world/journal.h"
@@ -13,12 +13,10 @@
 using namespace trovane;
 namespace fs = std::filesystem;
 
-namespace {
+using DayCommit = test::GameTest;
+using test::fileBytes;
 
-std::string contents(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
+namespace {
 
 struct Stop {};
 
@@ -53,15 +51,15 @@ protected:
         EXPECT_THROW(commitWrites(folder.path(), writes()), Stop);
     }
     void expectUntouched() {
-        EXPECT_EQ(contents(a), "AAAA");
-        EXPECT_EQ(contents(b), "BBBB");
+        EXPECT_EQ(fileBytes(a), "AAAA");
+        EXPECT_EQ(fileBytes(b), "BBBB");
         EXPECT_FALSE(fs::exists(folder.path() / "c.vel"));
         EXPECT_FALSE(fs::exists(journal));
     }
     void expectCommitted() {
-        EXPECT_EQ(contents(a), "AAxyzw");
-        EXPECT_EQ(contents(b), "qq");
-        EXPECT_EQ(contents(folder.path() / "c.vel"), "c");
+        EXPECT_EQ(fileBytes(a), "AAxyzw");
+        EXPECT_EQ(fileBytes(b), "qq");
+        EXPECT_EQ(fileBytes(folder.path() / "c.vel"), "c");
         EXPECT_FALSE(fs::exists(journal));
     }
 };
@@ -73,7 +71,7 @@ TEST_F(Journal, ACommitWritesEveryFileAndDropsTheJournal) {
 
 TEST_F(Journal, ACompleteJournalIsReplayed) {
     leaveJournal();
-    EXPECT_EQ(contents(a), "AAAA");  // killed before any file was touched
+    EXPECT_EQ(fileBytes(a), "AAAA");  // killed before any file was touched
     ASSERT_TRUE(fs::exists(journal));
     EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::replayed);
     expectCommitted();
@@ -84,8 +82,8 @@ TEST_F(Journal, AKillBetweenTwoFilesIsFinishedWhenAGameOpensTheFolder) {
         StopAt stop(CommitPoint::fileWritten, 1);
         EXPECT_THROW(commitWrites(folder.path(), writes()), Stop);
     }
-    EXPECT_EQ(contents(a), "AAxyzw");
-    EXPECT_EQ(contents(b), "BBBB");
+    EXPECT_EQ(fileBytes(a), "AAxyzw");
+    EXPECT_EQ(fileBytes(b), "BBBB");
     Game g(folder.path(), 1);
     expectCommitted();
 }
@@ -106,7 +104,7 @@ TEST_F(Journal, AJournalWithoutItsCommitMarkIsDropped) {
 
 TEST_F(Journal, AJournalWithABadChecksumIsDropped) {
     leaveJournal();
-    std::string bytes = contents(journal);
+    std::string bytes = fileBytes(journal);
     std::size_t at = bytes.find("xyzw");
     ASSERT_NE(at, std::string::npos);
     bytes[at] = 'X';
@@ -115,9 +113,7 @@ TEST_F(Journal, AJournalWithABadChecksumIsDropped) {
     expectUntouched();
 }
 
-TEST(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
     fs::path bands = g.dataDir / "band.vel";
     fs::path year = g.dataDir / "2006.vel";
     auto bandsBefore = fs::file_size(bands);
@@ -139,9 +135,7 @@ TEST(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
     EXPECT_FALSE(fs::exists(journalFile(g.dataDir)));
 }
 
-TEST(DayCommit, ARecordWrittenBackUnchangedIsNoChange) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(DayCommit, ARecordWrittenBackUnchangedIsNoChange) {
     g.band.rec = BandRecord{};
     g.band->name = "Night Ferry";
     g.band.append();

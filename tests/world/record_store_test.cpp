@@ -4,10 +4,10 @@
 
 #include <filesystem>
 
-#include "support/empty_game.h"
-#include "world/fatal_error.h"
+#include "support/game_test.h"
 
 using namespace trovane;
+using test::fatalMessage;
 
 namespace {
 
@@ -25,32 +25,19 @@ int32_t addBand(Game& g, std::string_view name, uint8_t ability = 50) {
     });
 }
 
-// Runs f, which must throw FatalError, and returns its message.
-template <class F>
-std::string fatalMessage(F f) {
-    try {
-        f();
-    } catch (const FatalError& e) { return e.what(); }
-    ADD_FAILURE() << "no FatalError";
-    return {};
-}
+using RecordStore = test::GameTest;
+using FindRecordByName = test::GameTest;
+using CompactTable = test::GameTest;
 
-TEST(RecordStore, AnEmptyTableCountsOneAndItsWalkReadsNothing) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(RecordStore, AnEmptyTableCountsOneAndTheFirstRecordIsOne) {
     EXPECT_EQ(recordCount(g, FileNo::fileNews), 1);
-    int reads = 0;
-    for (int32_t n = 1; n != recordCount(g, FileNo::fileNews); ++n) ++reads;
-    EXPECT_EQ(reads, 0);
     EXPECT_EQ(addBand(g, "First"), 1);
     EXPECT_EQ(g.band->id, 1);
     EXPECT_EQ(recordCount(g, FileNo::fileBand), 2);
     EXPECT_THROW(recordCount(g, FileNo::fileTemp), FatalError);
 }
 
-TEST(RecordStore, AWalkLeavesTheLastRecordInTheBuffer) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(RecordStore, AWalkLeavesTheLastRecordInTheBuffer) {
     for (auto name : {"One", "Two", "Three"}) addBand(g, name);
     g.band.read(1);
     for (int32_t n = 1; n != g.band.recordCount(); ++n) g.band.read(n);
@@ -61,9 +48,7 @@ TEST(RecordStore, AWalkLeavesTheLastRecordInTheBuffer) {
 // A change lives in the buffer until it is written: writing keeps it, reading
 // another record of the same table first throws it away. Other tables'
 // buffers are not touched.
-TEST(RecordStore, AChangeSurvivesOnlyUntilTheNextReadOfItsTable) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(RecordStore, AChangeSurvivesOnlyUntilTheNextReadOfItsTable) {
     addBand(g, "One", 10);
     addBand(g, "Two", 20);
     add(g.artist, [](ArtistRecord& a) { a.forename = "Ann"; });
@@ -85,9 +70,7 @@ TEST(RecordStore, AChangeSurvivesOnlyUntilTheNextReadOfItsTable) {
     EXPECT_EQ(g.artist->forename, "Ann");
 }
 
-TEST(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
     addBand(g, "Only");
     for (int32_t n : {0, 2, -1}) {
         std::string message = fatalMessage([&] { g.band.read(n); });
@@ -98,9 +81,7 @@ TEST(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
     EXPECT_EQ(g.band->name, "");
 }
 
-TEST(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
     for (int32_t n = 1; n <= 32767; ++n) add(g.look, [](LookRecord&) {});
     EXPECT_EQ(g.look->id, 32767);
     std::string message = fatalMessage([&] { add(g.look, [](LookRecord&) {}); });
@@ -114,9 +95,7 @@ struct NameCase {
     int32_t expected;
 };
 
-TEST(FindRecordByName, EachTableSearchesItsOwnNameField) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
     addBand(g, "Other");
     addBand(g, "The Band");
     add(g.country, [](CountryRecord& r) {
@@ -179,9 +158,7 @@ TEST(FindRecordByName, EachTableSearchesItsOwnNameField) {
     EXPECT_THROW(findRecordByName(g, FileNo::fileNews, "x"), FatalError);
 }
 
-TEST(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent) {
     for (auto name : {"A", "B", "C"}) {
         addBand(g, name);
         add(g.label, [&](LabelRecord& r) { r.name = name; });
@@ -203,9 +180,7 @@ TEST(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent)
     EXPECT_EQ(g.event->title, "B");
 }
 
-TEST(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
     for (auto [band, label] : {std::pair{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
         add(g.shortlist, [&](ShortlistRecord& r) {
             r.band = static_cast<int16_t>(band);
@@ -224,9 +199,7 @@ TEST(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 3 * ShortlistRecord::kLength);
 }
 
-TEST(CompactTable, KeepingNothingLeavesAnEmptyTableThatStillWorks) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(CompactTable, KeepingNothingLeavesAnEmptyTableThatStillWorks) {
     add(g.shortlist, [](ShortlistRecord& r) { r.band = 0; });
     add(g.shortlist, [](ShortlistRecord& r) { r.label = 0; });
     compactTable(g, g.shortlist, [](const ShortlistRecord&) { return false; });

@@ -3,45 +3,32 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "events/scores.h"
 #include "floor/preferences.h"
 #include "production/charts.h"
-#include "support/empty_game.h"
-#include "world/fatal_error.h"
+#include "support/game_test.h"
+#include "support/sim_run.h"
 
 using namespace trovane;
 namespace fs = std::filesystem;
 
 namespace {
 
-template <class F>
-std::string fatalMessage(F f) {
-    try {
-        f();
-    } catch (const FatalError& e) { return e.what(); }
-    ADD_FAILURE() << "no FatalError";
-    return {};
-}
+using test::fatalMessage;
+using OpenAllTables = test::GameTest;
+using OpenTable = test::GameTest;
+using CopyTableSet = test::GameTest;
+using PerUseFiles = test::GameTest;
 
-std::string contents(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-TEST(OpenAllTables, AMissingWorldTableIsAnErrorNamingItsFile) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(OpenAllTables, AMissingWorldTableIsAnErrorNamingItsFile) {
     closeAllTables(g);
     fs::remove(g.dataDir / "country.vel");
     std::string message = fatalMessage([&] { openAllTables(g, "vel"); });
     EXPECT_NE(message.find("country.vel"), std::string::npos) << message;
 }
 
-TEST(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
     closeAllTables(g);
     const char* created[] = {"news", "schedule", "offer", "shortlist", "chartrecs"};
     for (auto stem : created) fs::remove(g.dataDir / (std::string(stem) + ".vel"));
@@ -54,9 +41,7 @@ TEST(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
     }
 }
 
-TEST(OpenAllTables, WorkingOnlyTablesOpenTheWorkingSetWhateverTheExtension) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(OpenAllTables, WorkingOnlyTablesOpenTheWorkingSetWhateverTheExtension) {
     closeAllTables(g);
     copyTableSet(g, "vel", "sg4");
     openAllTables(g, "sg4");
@@ -65,18 +50,14 @@ TEST(OpenAllTables, WorkingOnlyTablesOpenTheWorkingSetWhateverTheExtension) {
     EXPECT_EQ(g.chartrecs.path().filename(), "chartrecs.vel");
 }
 
-TEST(OpenAllTables, AFileThatIsNotWholeRecordsIsRefusedByName) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(OpenAllTables, AFileThatIsNotWholeRecordsIsRefusedByName) {
     closeAllTables(g);
     std::ofstream(g.dataDir / "band.vel", std::ios::binary) << std::string(BandRecord::kLength + 1, 'x');
     std::string message = fatalMessage([&] { openAllTables(g, "vel"); });
     EXPECT_NE(message.find("band.vel"), std::string::npos) << message;
 }
 
-TEST(OpenTable, OpensEachTableUnderItsOwnFileName) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(OpenTable, OpensEachTableUnderItsOwnFileName) {
     closeAllTables(g);
     copyTableSet(g, "vel", "sg0");
     struct Case {
@@ -97,9 +78,7 @@ TEST(OpenTable, OpensEachTableUnderItsOwnFileName) {
     EXPECT_THROW(openTable(g, FileNo::fileChart), FatalError);
 }
 
-TEST(CopyTableSet, CopiesAllFortyNineFilesOverTheTarget) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTarget) {
     g.band.rec.name = "Saved";
     g.band.append();
     closeAllTables(g);
@@ -110,15 +89,13 @@ TEST(CopyTableSet, CopiesAllFortyNineFilesOverTheTarget) {
     for (auto stem : tableSetStems()) {
         std::string s(stem);
         ASSERT_TRUE(fs::exists(g.dataDir / (s + ".sg1"))) << s;
-        EXPECT_EQ(contents(g.dataDir / (s + ".sg1")), contents(g.dataDir / (s + ".vel"))) << s;
+        EXPECT_EQ(test::fileBytes(g.dataDir / (s + ".sg1")), test::fileBytes(g.dataDir / (s + ".vel"))) << s;
     }
     EXPECT_EQ(fs::file_size(g.dataDir / "band.sg1"), BandRecord::kLength);
     EXPECT_EQ(fs::file_size(g.dataDir / "chart9.sg1"), ChartRow::kLength);
 }
 
-TEST(CopyTableSet, RefusesAMissingSourceAndAnOpenTable) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(CopyTableSet, RefusesAMissingSourceAndAnOpenTable) {
     std::string open = fatalMessage([&] { copyTableSet(g, "vel", "sg2"); });
     EXPECT_NE(open.find("still open"), std::string::npos) << open;
     EXPECT_FALSE(fs::exists(g.dataDir / "artist.sg2"));
@@ -128,9 +105,7 @@ TEST(CopyTableSet, RefusesAMissingSourceAndAnOpenTable) {
     EXPECT_NE(missing.find("chart7.vel"), std::string::npos) << missing;
 }
 
-TEST(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
     std::string missing = fatalMessage([&] { openDayFile(g, 2031); });
     EXPECT_NE(missing.find("2031.vel"), std::string::npos) << missing;
 
@@ -156,9 +131,7 @@ TEST(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
     EXPECT_EQ(g.dayIndex->entries[0], 17);
 }
 
-TEST(PerUseFiles, ChartsAreClosedAfterTheirTidying) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(PerUseFiles, ChartsAreClosedAfterTheirTidying) {
     openChart(g, 4);
     g.chart.rec.disc = 9;
     g.chart.append();
@@ -171,9 +144,7 @@ TEST(PerUseFiles, ChartsAreClosedAfterTheirTidying) {
     closeChart(g);
 }
 
-TEST(PerUseFiles, PrefsAndHighScoresAreClosedBetweenUses) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(PerUseFiles, PrefsAndHighScoresAreClosedBetweenUses) {
     EXPECT_FALSE(g.prefs.isOpen());
     g.prefs->minutesPlayed = 61;
     writePrefs(g);

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
-#include <iterator>
 
+#include "support/folder_files.h"
 #include "support/temp_folder.h"
 #include "world/fatal_error.h"
 #include "world/manifest.h"
@@ -19,20 +19,10 @@
 
 using namespace trovane;
 using namespace trovane::worldtool;
+using test::folderFiles;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::vector<uint8_t> bytesOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-std::map<std::string, std::vector<uint8_t>> snapshot(const fs::path& folder) {
-    std::map<std::string, std::vector<uint8_t>> files;
-    for (const auto& e : fs::directory_iterator(folder)) files[e.path().filename().string()] = bytesOf(e.path());
-    return files;
-}
 
 template <PackedRecord R>
 R recordOf(const BaseSet& set, const std::string& file, int n) {
@@ -106,13 +96,13 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
 TEST(WorldBuild, TwoBuildsGiveIdenticalBytesInEveryFileOfTheSet) {
     TinyWorld w;
     ASSERT_TRUE(buildWorld(w.source, w.out).empty());
-    auto first = snapshot(w.out);
+    auto first = folderFiles(w.out);
     fs::path again = w.folder.path() / "Again";
     ASSERT_TRUE(buildWorld(w.source, again).empty());
 
     auto names = baseSetFileNames();
     ASSERT_EQ(first.size(), names.size() + 1);  // and the manifest
-    EXPECT_EQ(first, snapshot(again));
+    EXPECT_EQ(first, folderFiles(again));
     EXPECT_TRUE(first.at("empty.gam").empty());
     for (const auto& c : countRecords(w.out)) EXPECT_GE(c.records, 0) << c.file;
     EXPECT_EQ(dumpTableFile(w.out / "style.gam", FileNo::fileStyle, DumpFormat::json),
@@ -135,14 +125,14 @@ TEST(WorldBuild, TheSetProvesItselfAndLeavesThePlayersFilesOut) {
 TEST(WorldBuild, AFailedBuildLeavesThePreviousSetAsItWas) {
     TinyWorld w;
     ASSERT_TRUE(buildWorld(w.source, w.out).empty());
-    auto before = snapshot(w.out);
+    auto before = folderFiles(w.out);
 
     test::writeSource(w.source, "cities.toml", "city = [ { name = \"London\", country = \"Atlantis\", size = 1 } ]\n");
     test::writeSource(w.source, "facts.toml", "fact = [ \"A new line that must not appear\" ]\n");
     auto problems = buildWorld(w.source, w.out);
 
     ASSERT_EQ(problems.size(), 1u);
-    EXPECT_EQ(snapshot(w.out), before);
+    EXPECT_EQ(folderFiles(w.out), before);
     EXPECT_EQ(std::distance(fs::directory_iterator(w.folder.path()), fs::directory_iterator{}), 2)
         << "nothing is left beside the set";
 }
@@ -153,8 +143,8 @@ TEST(WorldBuild, ARebuildKeepsTheOtherFilesOfTheDataFolder) {
     std::ofstream(w.out / "band.sg3") << "a saved game";
     std::ofstream(w.out / "country.gam") << "stale";
     ASSERT_TRUE(buildWorld(w.source, w.out).empty());
-    EXPECT_EQ(bytesOf(w.out / "band.sg3").size(), 12u);
-    EXPECT_EQ(bytesOf(w.out / "country.gam").size(), 6 * CountryRecord::kLength);
+    EXPECT_EQ(fs::file_size(w.out / "band.sg3"), 12u);
+    EXPECT_EQ(fs::file_size(w.out / "country.gam"), 6 * CountryRecord::kLength);
 }
 
 TEST(WorldBuild, TheProgramChecksBuildsAndCounts) {
