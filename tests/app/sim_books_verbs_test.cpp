@@ -2,11 +2,6 @@
 // arguments are told apart from them, and advance --check stops at a break.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "label/finances.h"

@@ -2,9 +2,6 @@
 // and a name that is no one's.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
 #include <string>
 
 #include "floor/preferences.h"
@@ -12,19 +9,14 @@
 #include "support/calendar_world.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
+#include "support/sim_run.h"
 
 using namespace trovane;
 
 namespace {
 
 std::pair<int, std::string> sim(const test::TempFolder& data, const std::string& args) {
-    std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + data.path().string() + " " + args + " 2>&1";
-    std::string out;
-    FILE* p = popen(cmd.c_str(), "r");
-    char buf[4096];
-    while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
-    int status = pclose(p);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+    return test::runSim(data.path(), args);
 }
 
 // A player's act of two singers and a rival's of one, a venue with one gig.

@@ -2,13 +2,11 @@
 // refusal that files nothing, and a bad area.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
 #include <string>
 
 #include "session/session_record.h"
 #include "support/gig_world.h"
+#include "support/sim_run.h"
 
 using namespace trovane;
 
@@ -22,15 +20,7 @@ struct TourSim : test::GigWorld {
         writeSessionFile(g, workingSessionFile(g));
         closeAllTables(g);
     }
-    std::pair<int, std::string> sim(const std::string& args) {
-        std::string cmd = std::string(TROVANE_SIM_PATH) + " --data " + eg.folder.path().string() + " " + args + " 2>&1";
-        std::string out;
-        FILE* p = popen(cmd.c_str(), "r");
-        char buf[4096];
-        while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
-        int status = pclose(p);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-    }
+    std::pair<int, std::string> sim(const std::string& args) { return test::runSim(eg.folder.path(), args); }
 };
 
 }  // namespace

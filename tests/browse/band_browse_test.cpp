@@ -184,10 +184,6 @@ TEST_F(BandBrowse, TiesKeepTableOrder) {
     EXPECT_EQ(names(), (Names{"Zed", "Ann", "Bob"}));
 }
 
-}  // namespace
-
-namespace {
-
 class ArtistBrowse : public BandBrowse {
 protected:
     int16_t artist(const std::string& forename, int32_t wealth, int16_t retired = 0) {
@@ -232,10 +228,6 @@ TEST_F(ArtistBrowse, TheJobIsNamedBySex) {
     EXPECT_EQ(grid.rows[0].cells[2].text, "Frontwoman");
     EXPECT_EQ(grid.rows[1].cells[2].text, "Frontman");
 }
-
-}  // namespace
-
-namespace {
 
 TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
     int16_t pop = addStyle(g, 10, 100, 0, "Pop");

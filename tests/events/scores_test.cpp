@@ -127,10 +127,6 @@ TEST_F(Scores, OnlyTheExactNameUnlocksAnAct) {
     EXPECT_EQ(hiddenBandFor("Ivo  Marsh"), "");
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(Scores, AFourPiecesAchievementIsEachMembersNewestFirst) {
     int16_t band = addAct(g, {.ranks = {1, 1, 1, 1}, .name = "Quartet"});
     g.gameDate = serialFromCivil(2004, 5, 1);
@@ -152,10 +148,6 @@ TEST_F(Scores, AFourPiecesAchievementIsEachMembersNewestFirst) {
     EXPECT_EQ(own[0].text, "First platinum");
     EXPECT_EQ(achievementsOf(g, 2, band).size(), 0u);  // a label of the same number has none
 }
-
-}  // namespace
-
-namespace {
 
 class HiddenBands : public Scores {
 protected:

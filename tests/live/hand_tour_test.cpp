@@ -125,9 +125,11 @@ TEST_F(HandTour, ANextNightInTheSameCityHasNoRoad) {
     EXPECT_EQ(typesOn(first), std::vector<uint8_t>{8});
 }
 
-TEST_F(HandTour, TheFortyFirstGigIsRefusedAndAddsNothing) {
+TEST_F(HandTour, TheFortiethGigIsTakenAndTheFortyFirstRefusedAddingNothing) {
     int16_t t = tour();
-    for (int i = 0; i < 40; ++i) addTourGig(g, t, i % 2 ? hall : arena, first + i);
+    for (int i = 0; i < 39; ++i) addTourGig(g, t, i % 2 ? hall : arena, first + i);
+    EXPECT_EQ(tourGigRefusal(g, t, hall, first + 40), "");
+    addTourGig(g, t, hall, first + 39);
     const int32_t gigs = g.gig.recordCount();
     EXPECT_EQ(tourGigRefusal(g, t, hall, first + 45), kCantAddGigText);
     g.tour.read(t);
@@ -137,12 +139,6 @@ TEST_F(HandTour, TheFortyFirstGigIsRefusedAndAddsNothing) {
     g.tour.read(t);
     EXPECT_EQ(g.tour->gigCount, 40);
     EXPECT_TRUE(typesOn(first + 45).empty());
-}
-
-TEST_F(HandTour, TheThirtyNinthGigStillLeavesRoomForAFortieth) {
-    int16_t t = tour();
-    for (int i = 0; i < 39; ++i) addTourGig(g, t, i % 2 ? hall : arena, first + i);
-    EXPECT_EQ(tourGigRefusal(g, t, hall, first + 40), "");
 }
 
 TEST_F(HandTour, TheUnitedKingdomTakesTheHomeNationsAndAnAreaItsCountries) {

@@ -13,22 +13,21 @@ using namespace trovane;
 
 namespace {
 
-TEST(AppearanceEffect, ARepOfZeroCountsAsOne) {
-    // q = (1 / 1)^3 = 1: (-(25) x 65 + 75 x 35) / 10000 = 0.1.
-    EXPECT_FLOAT_EQ(appearanceEffect(1, 75, 0), 0.1f);
-    EXPECT_FLOAT_EQ(appearanceEffect(2, 75, 0), 0.8f);  // q = 8
-}
-
-TEST(AppearanceEffect, IsHeldAtTwentyEitherWay) {
-    EXPECT_FLOAT_EQ(appearanceEffect(100, 95, 1), 20.0f);   // 1,000,000 x 0.30
-    EXPECT_FLOAT_EQ(appearanceEffect(100, 30, 1), -20.0f);  // 1,000,000 x -0.35
-    // q = (60 / 40)^3 = 3.375: (-15 x 3.375 x 65 + 85 x 3.375 x 35) / 10000 = 0.675.
-    EXPECT_FLOAT_EQ(appearanceEffect(60, 85, 40), 0.675f);
-}
-
-TEST(AppearanceEffect, AValueOf65MovesNothing) {
-    // q = 8: (-35 x 8 x 65 + 65 x 8 x 35) / 10000 = 0.
-    EXPECT_FLOAT_EQ(appearanceEffect(80, 65, 40), 0.0f);
+TEST(AppearanceEffect, HandWorkedValuesARepOfZeroCountingAsOneHeldAtTwenty) {
+    struct Case {
+        int skill, value, rep;
+        float effect;
+    };
+    const Case cases[] = {
+        {1, 75, 0, 0.1f},      // q = (1 / 1)^3 = 1: (-(25) x 65 + 75 x 35) / 10000 = 0.1
+        {2, 75, 0, 0.8f},      // q = 8
+        {100, 95, 1, 20.0f},   // 1,000,000 x 0.30, held
+        {100, 30, 1, -20.0f},  // 1,000,000 x -0.35, held
+        {60, 85, 40, 0.675f},  // q = 3.375: (-15 x 3.375 x 65 + 85 x 3.375 x 35) / 10000
+        {80, 65, 40, 0.0f},    // q = 8: (-35 x 8 x 65 + 65 x 8 x 35) / 10000 = 0
+    };
+    for (const Case& c : cases)
+        EXPECT_FLOAT_EQ(appearanceEffect(c.skill, c.value, c.rep), c.effect) << c.skill << "/" << c.value;
 }
 
 TEST(MediaConfirm, EachKindAsksInItsWords) {

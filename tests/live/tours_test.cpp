@@ -82,10 +82,6 @@ TEST_F(Booking, LaterGigsAreReachedByTravelThenRest) {
     EXPECT_EQ(typesOn(first + 4), std::vector<uint8_t>{8});
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(Booking, TheCheckerFindsAGigOutsideItsTour) {
     auto rule = [&] {
         for (const InvariantRule& r : invariantRules())

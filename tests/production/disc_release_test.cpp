@@ -216,10 +216,6 @@ TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
     EXPECT_EQ(trim(g.achieve->text.value), "New (album) released 5/8/2004");
 }
 
-}  // namespace
-
-namespace {
-
 // An album's first release day sets the contract's next option; a single's does not.
 TEST_F(Release, AnAlbumsReleaseSetsTheNextOptionDateThreeMonthsOn) {
     for (bool single : {false, true}) {

@@ -356,10 +356,6 @@ TEST_F(RivalSigning, RivalsJudgeEveryActButThePlayerDoesNot) {
     EXPECT_EQ(listers, (std::vector<int16_t>{kRival, second}));
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(RivalSigning, AContestedActDecidesOnceOnThePlayersDateAndTheBestOfferWins) {
     list(kPlayer, act);
     list(kRival, act);

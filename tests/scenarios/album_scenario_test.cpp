@@ -3,19 +3,11 @@
 // days run until the last track is down, with the books checked every day.
 #include <gtest/gtest.h>
 
-#include "day/daily_cycle.h"
-#include "floor/preferences.h"
 #include "label/finances.h"
 #include "production/businesses.h"
 #include "production/recording.h"
 #include "production/songwriting.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "support/tiny_world.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
 
@@ -55,7 +47,7 @@ void writeAlbumWorld(const std::filesystem::path& dir) {
 // What must hold after every day: the label's cash is its starting cash and
 // this year's books; songs and discs point within their tables.
 void checkAlbumWorld(Game& g) {
-    const auto broken = trovane::checkInvariants(g);
+    const auto broken = checkInvariants(g);
     ASSERT_FALSE(broken) << describeBreak(*broken);
     g.label.read(1);
     Money booked = 0;
@@ -79,20 +71,14 @@ void checkAlbumWorld(Game& g) {
 }  // namespace
 
 TEST(AlbumScenario, ATakenOverLabelsActWritesAndRecordsAnAlbum) {
-    test::TempFolder folder;
-    writeAlbumWorld(folder.path());
-    Game g(folder.path(), 2024);
-    g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p;
-    p.forename = "Ann";
-    p.surname = "Lee";
-    p.birthYear = 1980;
-    p.birthMonth = 1;
-    p.birthDay = 2;
-    p.nationality = "Scottish";
-    takeOverLabel(g, confirmPlayer(g, p), 1);
+    test::TakenOverGame game(2024, test::StartWorld::tiny, writeAlbumWorld);
+    Game& g = game.g;
+    game.takeOver(1, {.forename = "Ann",
+                      .surname = "Lee",
+                      .birthDay = 2,
+                      .birthMonth = 1,
+                      .birthYear = 1980,
+                      .nationality = "Scottish"});
     const int16_t band = 1;
     ASSERT_NO_FATAL_FAILURE(checkAlbumWorld(g));
 

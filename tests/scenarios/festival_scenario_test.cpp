@@ -2,43 +2,20 @@
 // with the invariants checked daily, and the festival is reviewed.
 #include <gtest/gtest.h>
 
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
 #include "live/festivals.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "support/tiny_world.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
 
 namespace {
 
-class FestivalSeason : public ::testing::Test {
+class FestivalSeason : public ::testing::Test, public test::TakenOverGame {
 protected:
-    test::TempFolder folder;
-    Game g{folder.path(), 7};
-    int16_t label = 1, band = 0, festival = 0;
+    int16_t festival = 0;
     double firstDay = 0;
 
-    void SetUp() override {
-        test::writeTinyBaseWorld(folder.path());
-        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Kim";
-        p.surname = "Rowe";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), label);
-        for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
-            g.band.read(n);
-            if (g.band->label == label && g.band->retired == kFalse) band = static_cast<int16_t>(n);
-        }
+    FestivalSeason() : TakenOverGame(7) {
+        takeOver();
         // A festival rates singing and dancing by the style's weights; the tiny world's have none.
         for (int32_t n = 1; n < g.style.recordCount(); ++n) {
             g.style.read(n);
@@ -71,17 +48,6 @@ protected:
         g.festival->areaCode = "E";
         festival = static_cast<int16_t>(g.festival.append());
         scheduleFestivals(g, year);
-    }
-    void TearDown() override { closeAllTables(g); }
-
-    void playDay() {
-        for (int held = 0; !allRepliesGiven(g); ++held) {
-            ASSERT_LT(held, 20);
-            pressNewsCmd1(g);
-        }
-        checkDaysSchedule(g);
-        auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
     }
     int32_t findNews(const std::string& title) {
         for (int32_t n = g.news.recordCount() - 1; n > 0; --n) {

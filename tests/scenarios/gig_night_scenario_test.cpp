@@ -3,59 +3,24 @@
 // the night's money in the label's books and the act's accounts.
 #include <gtest/gtest.h>
 
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
 #include "label/finances.h"
 #include "live/tours.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "support/tiny_world.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
 
 namespace {
 
-class GigNight : public ::testing::Test {
+class GigNight : public ::testing::Test, public test::TakenOverGame {
 protected:
-    test::TempFolder folder;
-    Game g{folder.path(), 99};
-    int16_t label = 1, band = 0, venue = 0;
-
-    void SetUp() override {
-        test::writeTinyBaseWorld(folder.path());
-        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Kim";
-        p.surname = "Rowe";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), label);
-        for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
-            g.band.read(n);
-            if (g.band->label == label && g.band->retired == kFalse) band = static_cast<int16_t>(n);
-        }
+    int16_t venue = 0;
+    GigNight() : TakenOverGame(99) {
+        takeOver();
         g.venue.rec = VenueRecord{};
         g.venue->name = "The Long Room";
         g.venue->capacity = 400;
         g.venue->city = 1;
         venue = static_cast<int16_t>(g.venue.append());
-    }
-    void TearDown() override { closeAllTables(g); }
-
-    void playDay() {
-        for (int held = 0; !allRepliesGiven(g); ++held) {
-            ASSERT_LT(held, 20);
-            pressNewsCmd1(g);
-        }
-        checkDaysSchedule(g);
-        auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
     }
 };
 

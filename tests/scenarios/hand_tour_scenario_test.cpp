@@ -5,20 +5,11 @@
 
 #include <array>
 
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
 #include "label/finances.h"
 #include "live/tour_provisions.h"
 #include "live/tours.h"
 #include "schedule/schedule.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "support/tiny_world.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
 
@@ -35,26 +26,12 @@ struct TourResult {
     Money recouped = 0;              // what the label took back from the act's account
 };
 
-class TourGame {
+class TourGame : public test::TakenOverGame {
 public:
-    test::TempFolder folder;
-    Game g{folder.path(), 99};
-    int16_t label = 1, band = 0, london = 0, paris = 0, fizz = 0;
+    int16_t london = 0, paris = 0, fizz = 0;
 
-    TourGame() {
-        test::writeTinyBaseWorld(folder.path());
-        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Kim";
-        p.surname = "Rowe";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), label);
-        for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
-            g.band.read(n);
-            if (g.band->label == label && g.band->retired == kFalse) band = static_cast<int16_t>(n);
-        }
+    TourGame() : TakenOverGame(99) {
+        takeOver();
         g.band.read(band);
         g.band->reputation = {60, 60, 60, 60, 60};
         g.band->controversy = 20;
@@ -67,7 +44,6 @@ public:
         g.product->maxControversy = 60;
         fizz = static_cast<int16_t>(g.product.append());
     }
-    ~TourGame() { closeAllTables(g); }
 
     int16_t addVenue(const char* name, int16_t city) {
         g.venue.rec = VenueRecord{};
@@ -75,16 +51,6 @@ public:
         g.venue->capacity = 400;
         g.venue->city = city;
         return static_cast<int16_t>(g.venue.append());
-    }
-
-    void playDay() {
-        for (int held = 0; !allRepliesGiven(g); ++held) {
-            ASSERT_LT(held, 20);
-            pressNewsCmd1(g);
-        }
-        checkDaysSchedule(g);
-        auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
     }
 
     TourResult play(bool sponsored) {
@@ -110,10 +76,7 @@ public:
             }
         g.label.read(label);
         const Money before = ledgerEntry(g.label.rec, 2, ledgerRecoupedAdvances);
-        while (g.gameDate <= first + 5) {
-            playDay();
-            if (::testing::Test::HasFatalFailure()) return r;
-        }
+        playUntil(first + 6);
         g.label.read(label);
         r.recouped = ledgerEntry(g.label.rec, 2, ledgerRecoupedAdvances) - before;
         g.tour.read(tour);

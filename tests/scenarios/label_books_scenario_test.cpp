@@ -3,28 +3,18 @@
 // invariants checked after every day, and the books surviving a save and load.
 #include <gtest/gtest.h>
 
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
 #include "label/departments.h"
 #include "label/staff.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
 #include "session/save_load.h"
-#include "support/temp_folder.h"
-#include "support/tiny_world.h"
-#include "world/dates.h"
-#include "world/record_store.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
 
 namespace {
 
-class TakenOverLabel : public ::testing::Test {
+class TakenOverLabel : public ::testing::Test, public test::TakenOverGame {
 protected:
-    test::TempFolder folder;
-    Game g{folder.path(), 2024};
-    int16_t label = 1, formerBoss = 0, oldHead = 0, ann = 0, bob = 0;
+    int16_t formerBoss = 0, oldHead = 0, ann = 0, bob = 0;
 
     int16_t addStaff(const char* forename, int16_t employer, uint8_t department, uint8_t ability) {
         g.staff.rec = StaffRecord{};
@@ -39,11 +29,7 @@ protected:
         return static_cast<int16_t>(g.staff.append());
     }
 
-    void SetUp() override {
-        test::writeTinyBaseWorld(folder.path());
-        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-        readPrefs(g);
-        beginNewGame(g);
+    TakenOverLabel() : TakenOverGame(2024) {
         g.label.read(label);
         formerBoss = g.label->boss;
         oldHead = addStaff("Olly", label, marketing, 60);
@@ -53,24 +39,8 @@ protected:
         g.label->department[marketing].head = oldHead;
         g.label->department[security].staffAtLevel = {2, 3, 0, 0, 1};
         g.label.write();
-        PlayerChoices p;
-        p.forename = "Kim";
-        p.surname = "Rowe";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), label);
+        takeOver(label);
     }
-    void TearDown() override { closeAllTables(g); }
-
-    void playDay() {
-        for (int held = 0; !allRepliesGiven(g); ++held) {
-            ASSERT_LT(held, 20);
-            pressNewsCmd1(g);  // every held question is answered yes
-        }
-        checkDaysSchedule(g);
-        auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << formatDayForFailure() << describeBreak(*broken);
-    }
-    std::string formatDayForFailure() { return "after the day before " + std::to_string(g.gameDate) + ": "; }
 };
 
 }  // namespace

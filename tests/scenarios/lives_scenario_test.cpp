@@ -2,20 +2,9 @@
 // form, people leave, retire and die, and the world's stories run their course.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -28,32 +17,14 @@ int32_t activeActs(Game& g) {
     return n;
 }
 
-}  // namespace
-
 TEST(LivesScenario, TwoYearsKeepTheWorldsActsAndExpandEveryStory) {
-    test::TempFolder folder;
-    Game g{folder.path(), 1919};
-    fs::path base = fs::path(TROVANE_SIM_PATH).parent_path() / "Data";
-    for (const auto& f : fs::directory_iterator(base)) fs::copy_file(f.path(), folder.path() / f.path().filename());
-    g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p = defaultPlayerChoices(g);
-    p.forename = "Ann";
-    p.surname = "Lee";
-    takeOverLabel(g, confirmPlayer(g, p), narrow<int16_t>(findRecordByName(g, FileNo::fileLabel, "Halcyon Records")));
+    test::TakenOverGame game(1919, test::StartWorld::shipped);
+    Game& g = game.g;
+    game.takeOver(game.labelNamed("Halcyon Records"), game.annLee());
     const int32_t acts = activeActs(g);
     const int32_t firstBands = g.band.recordCount();
     for (int day = 0; day < 730; ++day) {
-        while (!allRepliesGiven(g)) {
-            openNewsItem(g);
-            pressNewsCmd1(g);
-            g.news->replied = kTrue;
-            g.news.write();
-        }
-        checkDaysSchedule(g);
-        const auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << "day " << day << ": " << describeBreak(*broken);
+        ASSERT_NO_FATAL_FAILURE(game.playDay());
         ASSERT_EQ(activeActs(g), acts) << "day " << day;
     }
     EXPECT_GT(g.band.recordCount(), firstBands) << "acts ended and new ones formed";
@@ -69,3 +40,5 @@ TEST(LivesScenario, TwoYearsKeepTheWorldsActsAndExpandEveryStory) {
     }
     EXPECT_GT(stories, 0);
 }
+
+}  // namespace

@@ -1,53 +1,21 @@
 // A new game as "Ivo Marsh": the hidden act signs to the player's label, the
 // birthdays of the rest of 2004 are filed, and the year runs to 1 October with
 // the invariants checked every day, Marketing's monthly pass included.
-#include <filesystem>
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include "browse/band_browse.h"
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
-namespace fs = std::filesystem;
 
 namespace {
 
-void answerNoToEverything(Game& g) {
-    for (int32_t n = 1; n < g.news.recordCount(); ++n) {
-        g.news.read(n);
-        if (g.news->mustReply == kTrue && g.news->replied == kFalse) {
-            openNewsItem(g);
-            pressNewsCmd2(g);
-        }
-    }
-}
-
 TEST(MarksOfACareer, IvoMarshUnlocksTheSaltLanternsAndPlaysToOctober) {
-    test::TempFolder folder;
-    fs::path base = fs::path(TROVANE_SIM_PATH).parent_path() / "Data";
-    for (const auto& e : fs::directory_iterator(base))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), folder.path() / e.path().filename());
-    Game g(folder.path(), 77);
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p;
-    p.forename = "Ivo";
-    p.surname = "Marsh";
-    p.createNewLabel = false;
-    NewPlayer player = confirmPlayer(g, p);
-    int32_t label = findRecordByName(g, FileNo::fileLabel, "Meridian Music Group");
+    test::TakenOverGame game(77, test::StartWorld::shipped);
+    Game& g = game.g;
+    const int16_t label = game.labelNamed("Meridian Music Group");
     ASSERT_GT(label, 0);
-    takeOverLabel(g, player, static_cast<int16_t>(label));
+    game.takeOver(label, PlayerChoices{.forename = "Ivo", .surname = "Marsh", .createNewLabel = false});
 
     const int32_t last = g.band.recordCount() - 1;
     g.band.read(last);
@@ -83,14 +51,7 @@ TEST(MarksOfACareer, IvoMarshUnlocksTheSaltLanternsAndPlaysToOctober) {
     }
     EXPECT_GT(birthdays, 0);
 
-    const double end = serialFromCivil(2004, 10, 1);
-    while (g.gameDate < end) {
-        answerNoToEverything(g);
-        checkDaysSchedule(g);
-        const auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
-    }
-    closeAllTables(g);
+    game.playUntil(serialFromCivil(2004, 10, 1), 2);  // every held question answered no
 }
 
 }  // namespace

@@ -3,54 +3,16 @@
 // the review.
 #include <gtest/gtest.h>
 
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
 #include "live/media_promotion.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "support/tiny_world.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
 
 namespace {
 
-class MediaDay : public ::testing::Test {
+class MediaDay : public ::testing::Test, public test::TakenOverGame {
 protected:
-    test::TempFolder folder;
-    Game g{folder.path(), 41};
-    int16_t label = 1, band = 0;
-
-    void SetUp() override {
-        test::writeTinyBaseWorld(folder.path());
-        g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Kim";
-        p.surname = "Rowe";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), label);
-        for (int32_t n = 1; n < g.band.recordCount() && band == 0; ++n) {
-            g.band.read(n);
-            if (g.band->label == label && g.band->retired == kFalse) band = static_cast<int16_t>(n);
-        }
-    }
-    void TearDown() override { closeAllTables(g); }
-
-    void playDay() {
-        for (int held = 0; !allRepliesGiven(g); ++held) {
-            ASSERT_LT(held, 20);
-            pressNewsCmd1(g);
-        }
-        checkDaysSchedule(g);
-        auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
-    }
+    MediaDay() : TakenOverGame(41) { takeOver(); }
 };
 
 }  // namespace

@@ -3,49 +3,20 @@
 // the world's invariants.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/formats.h"
-#include "floor/preferences.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
-#include "world/dates.h"
-#include "world/record_store.h"
+#include "support/taken_over_game.h"
 
 using namespace trovane;
-namespace fs = std::filesystem;
 
 namespace {
 
 TEST(RivalTouringSeason, RivalsTourWithSupportsAndTheWorldHolds) {
-    test::TempFolder folder;
-    Game g{folder.path(), 3};
-    const fs::path base = fs::path(TROVANE_SIM_PATH).parent_path() / "Data";
-    for (const auto& f : fs::directory_iterator(base)) fs::copy_file(f.path(), folder.path() / f.path().filename());
-    g.clockDate = [] { return serialFromCivil(2026, 11, 22); };
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p = defaultPlayerChoices(g);
-    p.forename = "Ann";
-    p.surname = "Lee";
-    takeOverLabel(g, confirmPlayer(g, p), narrow<int16_t>(findRecordByName(g, FileNo::fileLabel, "Halcyon Records")));
+    test::TakenOverGame game(3, test::StartWorld::shipped);
+    Game& g = game.g;
+    game.takeOver(game.labelNamed("Halcyon Records"), game.annLee());
     const int16_t mine = g.player.playerLabel;
     const int32_t firstTour = g.tour.recordCount();
 
-    for (int day = 0; day < 300; ++day) {
-        while (!allRepliesGiven(g)) {
-            openNewsItem(g);
-            pressNewsCmd1(g);
-            g.news->replied = kTrue;
-            g.news.write();
-        }
-        checkDaysSchedule(g);
-        const auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << formatDate(g.gameDate, "yyyy-mm-dd") << ": " << describeBreak(*broken);
-    }
+    for (int day = 0; day < 300; ++day) ASSERT_NO_FATAL_FAILURE(game.playDay());
 
     int rivalTours = 0, withSupports = 0, gigsPlayed = 0;
     for (int32_t n = firstTour; n < g.tour.recordCount(); ++n) {

@@ -1,25 +1,13 @@
 // A season at a taken-over label: scout, offer, change, withdraw another, sign,
 // and play on to 1 October with the signing rules checked after every day.
-#include <filesystem>
-#include <string>
-
 #include <gtest/gtest.h>
 
-#include "day/daily_cycle.h"
-#include "day/news_inbox.h"
-#include "floor/preferences.h"
 #include "label/scouting.h"
-#include "session/invariants.h"
-#include "session/new_game.h"
-#include "support/temp_folder.h"
+#include "support/taken_over_game.h"
 #include "talent/band_offers.h"
 #include "talent/contracts.h"
-#include "world/dates.h"
-#include "world/record_store.h"
-#include "world/strings.h"
 
 using namespace trovane;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -64,32 +52,12 @@ int16_t freeBand(Game& g, int16_t after) {
     return 0;
 }
 
-void answerYesToDeals(Game& g) {
-    for (int32_t n = 1; n < g.news.recordCount(); ++n) {
-        g.news.read(n);
-        if (g.news->mustReply == kTrue && g.news->replied == kFalse) {
-            openNewsItem(g);
-            pressNewsCmd1(g);
-        }
-    }
-}
-
 TEST(SigningScenario, ALabelScoutsOffersWithdrawsAndSigns) {
-    test::TempFolder folder;
-    fs::path base = fs::path(TROVANE_SIM_PATH).parent_path() / "Data";
-    for (const auto& e : fs::directory_iterator(base))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), folder.path() / e.path().filename());
-    Game g(folder.path(), 2024);
-    readPrefs(g);
-    beginNewGame(g);
-    PlayerChoices p;
-    p.forename = "Ann";
-    p.surname = "Lee";
-    p.createNewLabel = false;
-    NewPlayer player = confirmPlayer(g, p);
-    int32_t label = findRecordByName(g, FileNo::fileLabel, "Meridian Music Group");
+    test::TakenOverGame game(2024, test::StartWorld::shipped);
+    Game& g = game.g;
+    const int16_t label = game.labelNamed("Meridian Music Group");
     ASSERT_GT(label, 0);
-    takeOverLabel(g, player, static_cast<int16_t>(label));
+    game.takeOver(label, PlayerChoices{.forename = "Ann", .surname = "Lee", .createNewLabel = false});
     ASSERT_EQ(signingRuleBroken(g), "");
 
     const int16_t scouted = freeBand(g, 0);
@@ -113,12 +81,8 @@ TEST(SigningScenario, ALabelScoutsOffersWithdrawsAndSigns) {
 
     const double end = serialFromCivil(2004, 10, 1);
     while (g.gameDate < end) {
-        answerYesToDeals(g);
-        ASSERT_TRUE(allRepliesGiven(g));
-        checkDaysSchedule(g);
+        ASSERT_NO_FATAL_FAILURE(game.playDay());
         ASSERT_EQ(signingRuleBroken(g), "") << civilFromSerial(g.gameDate).day;
-        const auto broken = checkInvariants(g);
-        ASSERT_FALSE(broken) << describeBreak(*broken);
     }
     g.band.read(wanted);
     EXPECT_EQ(g.band->label, label);
@@ -132,7 +96,6 @@ TEST(SigningScenario, ALabelScoutsOffersWithdrawsAndSigns) {
         if (trim(g.news->title.value) == reportTitle) reported = g.news->date == reportDate + 1;
     }
     EXPECT_TRUE(reported);
-    closeAllTables(g);
 }
 
 }  // namespace

@@ -157,10 +157,6 @@ TEST_F(BandScreens, AnActSignedElsewhereCannotBeApproached) {
     EXPECT_TRUE(window->sideBar()->extraPanel()->entry("lblScout")->isEnabled());
 }
 
-}  // namespace trovane::test
-
-namespace trovane::test {
-
 TEST_F(BandScreens, ThePlayersOwnBandOpensTheSignedPanel) {
     game->band.read(band);
     game->band->label = game->player.playerLabel;
@@ -171,10 +167,6 @@ TEST_F(BandScreens, ThePlayersOwnBandOpensTheSignedPanel) {
     EXPECT_TRUE(album->isEnabled()) << "no album is in hand";
     EXPECT_EQ(window->sideBar()->extraPanel()->objectName(), "frmBandOptionsSigned");
 }
-
-}  // namespace trovane::test
-
-namespace trovane::test {
 
 TEST_F(BandScreens, ADiscOfTheBandOpensDiscDetails) {
     game->disc.rec = DiscRecord{};

@@ -129,10 +129,6 @@ TEST_F(DiscForms, DiscDetailsShowsEachTerritory) {
     screenshotOf(&details, QStringLiteral("35_frmDiscDetails"));
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
     Game& g = *game;
     game->disc.read(disc);

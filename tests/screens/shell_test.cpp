@@ -250,10 +250,6 @@ TEST_F(ScreenTest, ABrokenSlotIsRefusedAndAFatalErrorIsShownBeforeTheEnd) {
     EXPECT_EQ(endedWith, 1);
 }
 
-}  // namespace trovane::test
-
-namespace trovane::test {
-
 TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     startNewGameAsPlayer();
     game->band.read(1);
@@ -299,10 +295,6 @@ TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     EXPECT_EQ(chosen, serialFromCivil(2006, 2, 2));
     EXPECT_TRUE(calendar.isNull() || !calendar->isVisible());  // it closes itself
 }
-
-}  // namespace trovane::test
-
-namespace trovane::test {
 
 TEST_F(ScreenTest, LoadingInGameAsksFirstAndBringsTheSavedDayBack) {
     startNewGameAsPlayer();
