@@ -13,6 +13,7 @@
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
 #include "screens/option_panels.h"
+#include "screens/screen_page.h"
 #include "screens/side_bar.h"
 #include "screens/theme.h"
 #include "talent/artist_details.h"
@@ -22,16 +23,6 @@ namespace trovane::screens {
 namespace {
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
-
-QLabel* addFigure(QGridLayout* grid, int row, const QString& caption, const QString& objectName, const QString& value,
-                  QWidget* parent) {
-    grid->addWidget(makeCaption(caption, parent), row, 0, Qt::AlignLeft | Qt::AlignTop);
-    QLabel* v = makeBody(value, parent);
-    v->setObjectName(objectName);
-    v->setWordWrap(true);
-    grid->addWidget(v, row, 1);
-    return v;
-}
 
 }  // namespace
 
@@ -63,17 +54,13 @@ frmArtistDetails::frmArtistDetails(mdiParentForm& main, int16_t artist, QWidget*
         addFigure(grid, r++, tr("Look"), QStringLiteral("lblLook"), d.look.empty() ? tr("None") : qs(d.look), about);
         addFigure(grid, r++, tr("Image rating"), QStringLiteral("lblImageRating"), QString::number(d.imageRating),
                   about);
-        QString attributes;
-        for (std::size_t i = 0; i < d.attributes.size(); ++i)
-            attributes += QStringLiteral("%1%2 %3")
-                              .arg(i == 0 ? "" : (i % 4 == 0 ? "\n" : "   "))
-                              .arg(qs(d.attributes[i].caption))
-                              .arg(qs(d.attributes[i].value));
-        addFigure(grid, r++, tr("Attributes"), QStringLiteral("lblAttributes"), attributes, about);
+        std::vector<std::pair<QString, QString>> attributes;
+        for (const auto& a : d.attributes) attributes.emplace_back(qs(a.caption), qs(a.value));
+        addFigure(grid, r++, tr("Attributes"), QStringLiteral("lblAttributes"), figureLines(attributes, 3), about,
+                  true);
     }
     grid->setColumnStretch(1, 1);
-    about->content()->addLayout(grid);
-    about->content()->addStretch(1);
+    about->content()->addWidget(scrollingFigures(grid, about), 1);
     row->addWidget(about, 3);
 
     auto* side = new QVBoxLayout;

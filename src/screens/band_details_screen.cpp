@@ -16,6 +16,7 @@
 #include "label/scouting.h"
 #include "screens/glyphs.h"
 #include "screens/mdi_parent_form.h"
+#include "screens/screen_page.h"
 #include "screens/theme.h"
 #include "talent/band_details.h"
 #include "world/strings.h"
@@ -35,16 +36,6 @@ QTableWidget* plainTable(const QStringList& headers, QWidget* parent) {
     t->setSelectionMode(QAbstractItemView::SingleSelection);
     t->horizontalHeader()->setStretchLastSection(true);
     return t;
-}
-
-// A figure with its caption, in a grid of two columns.
-void addFigure(QGridLayout* grid, int row, const QString& caption, const QString& objectName, const QString& value,
-               QWidget* parent) {
-    grid->addWidget(makeCaption(caption, parent), row, 0, Qt::AlignLeft | Qt::AlignTop);
-    QLabel* v = makeBody(value, parent);
-    v->setObjectName(objectName);
-    v->setWordWrap(true);
-    grid->addWidget(v, row, 1);
 }
 
 // A number cell that sorts by its value, not its text.
@@ -87,30 +78,23 @@ frmBandDetails::frmBandDetails(mdiParentForm& main, int16_t band, QWidget* paren
     addFigure(grid, r++, tr("Current activity"), QStringLiteral("lblActivity"), qs(d.activity), about);
     addFigure(grid, r++, tr("Age"), QStringLiteral("lblAge"), QString::number(d.age), about);
     const char* markets[] = {"UK", "US", "Europe", "Oceania", "Rest of the world"};
-    QString reps;
-    for (std::size_t m = 0; m < 5; ++m)
-        reps += QStringLiteral("%1%2 %3").arg(m ? "   " : "").arg(tr(markets[m])).arg(d.reputation[m]);
-    addFigure(grid, r++, tr("Reputation"), QStringLiteral("lblReputation"), reps, about);
+    std::vector<std::pair<QString, QString>> reps;
+    for (std::size_t m = 0; m < 5; ++m) reps.emplace_back(tr(markets[m]), QString::number(d.reputation[m]));
+    addFigure(grid, r++, tr("Reputation"), QStringLiteral("lblReputation"), figureLines(reps, 3), about, true);
     if (d.players) {
         addFigure(grid, r++, tr("Ability"), QStringLiteral("lblAbility"), QString::number(d.ability), about);
         addFigure(grid, r++, tr("Energy"), QStringLiteral("lblEnergy"), QString::number(d.energy), about);
         QString feelings;
         for (const auto& c : d.complaints) feelings += (feelings.isEmpty() ? "" : "\n") + qs(c);
         addFigure(grid, r++, tr("Complaints"), QStringLiteral("lblComplaints"), feelings, about);
-        QString attributes;
-        for (std::size_t i = 0; i < d.attributes.size(); ++i)
-            attributes += QStringLiteral("%1%2 %3")
-                              .arg(i == 0 ? "" : (i == 4 ? "\n" : "   "))
-                              .arg(qs(d.attributes[i].caption))
-                              .arg(qs(d.attributes[i].value));
-        addFigure(grid, r++, tr("Attributes"), QStringLiteral("lblAttributes"), attributes, about);
+        std::vector<std::pair<QString, QString>> attributes;
+        for (const auto& a : d.attributes) attributes.emplace_back(qs(a.caption), qs(a.value));
+        addFigure(grid, r++, tr("Attributes"), QStringLiteral("lblAttributes"), figureLines(attributes, 3), about,
+                  true);
     }
     if (d.asked) addFigure(grid, r++, tr("Asks"), QStringLiteral("lblDemands"), qs(d.asked->demands), about);
     grid->setColumnStretch(1, 1);
-    about->content()->addLayout(grid);
-    about->content()->addStretch(1);
-    // The figures keep their height; the lists below give way.
-    about->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    about->content()->addWidget(scrollingFigures(grid, about), 1);
     row->addWidget(about, 3);
 
     auto* side = new QVBoxLayout;

@@ -1,9 +1,11 @@
 #include "screens/screen_page.h"
 
 #include <QDialog>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "screens/glyphs.h"
@@ -106,6 +108,40 @@ QWidget* captioned(const QString& caption, QWidget* field, QWidget* parent) {
     l->addWidget(c);
     l->addWidget(field);
     return box;
+}
+
+QLabel* addFigure(QGridLayout* grid, int row, const QString& caption, const QString& objectName, const QString& value,
+                  QWidget* parent, bool keepLines) {
+    grid->addWidget(makeCaption(caption, parent), row, 0, Qt::AlignLeft | Qt::AlignTop);
+    QLabel* v = makeBody(value, parent);
+    v->setObjectName(objectName);
+    v->setWordWrap(!keepLines);
+    grid->addWidget(v, row, 1);
+    return v;
+}
+
+QWidget* scrollingFigures(QGridLayout* grid, QWidget* parent) {
+    auto* figures = new QWidget;
+    grid->setContentsMargins(0, 0, 12, 0);     // room for the scroll bar
+    grid->setRowStretch(grid->rowCount(), 1);  // the rows keep their height; the space is left below
+    figures->setLayout(grid);
+    auto* area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->viewport()->setAutoFillBackground(false);
+    figures->setAutoFillBackground(false);
+    area->setWidget(figures);
+    return area;
+}
+
+QString figureLines(const std::vector<std::pair<QString, QString>>& pairs, int perLine) {
+    QString text;
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        if (i > 0) text += i % static_cast<std::size_t>(perLine) == 0 ? QStringLiteral("\n") : QStringLiteral("   ");
+        text += pairs[i].first + QLatin1Char(' ') + pairs[i].second;
+    }
+    return text;
 }
 
 QPushButton* addOkRow(QDialog* dialog, QVBoxLayout* layout) {

@@ -3,8 +3,11 @@
 // cards that group its controls.
 #include <QFrame>
 #include <QWidget>
+#include <utility>
+#include <vector>
 
 class QDialog;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -46,6 +49,19 @@ public:
 private:
     QVBoxLayout* layout_;
 };
+
+// A figure with its caption in row `row` of a grid of two columns; returns the
+// value's label. The value wraps, unless `keepLines`: then its lines stand as
+// given and the row always takes the height of them all.
+QLabel* addFigure(QGridLayout* grid, int row, const QString& caption, const QString& objectName, const QString& value,
+                  QWidget* parent, bool keepLines = false);
+
+// The grid of figures in a frameless area that scrolls when the window is too
+// short to show them all, so no row is ever cut.
+QWidget* scrollingFigures(QGridLayout* grid, QWidget* parent);
+
+// "Caption value" pairs, `perLine` to a line.
+QString figureLines(const std::vector<std::pair<QString, QString>>& pairs, int perLine);
 
 // Closes a dialog's layout with a row holding one "Ok" button on the right,
 // which accepts the dialog; returns the button (cmdOk).
