@@ -16,11 +16,12 @@
 #include "events/scores.h"
 #include "floor/formats.h"
 #include "floor/preferences.h"
-#include "screens/band_browse_screens.h"
 #include "screens/artist_details_screen.h"
+#include "screens/band_browse_screens.h"
 #include "screens/band_contract_screens.h"
 #include "screens/band_details_screen.h"
 #include "screens/browse_memory.h"
+#include "screens/ceremony_details_screens.h"
 #include "screens/ceremony_screens.h"
 #include "screens/chart_screens.h"
 #include "screens/details_extra_screens.h"
@@ -309,6 +310,8 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmArtistDetails: return new frmArtistDetails(*this, artistOnScreen);
     case Screen::frmFestivalDetails: return new frmFestivalDetails(*this, festivalOnScreen);
     case Screen::frmHistoricalFestivalDetails: return new frmHistoricalFestivalDetails(*this, festivalOnScreen);
+    case Screen::frmCeremonyDetails: return new frmCeremonyDetails(*this, ceremonyOnScreen);
+    case Screen::frmHistoricalCeremonyDetails: return new frmHistoricalCeremonyDetails(*this, ceremonyOnScreen);
     case Screen::frmAwardCeremony:
         if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
         g_.currentScreen = Screen::frmNews;

@@ -216,8 +216,12 @@ void frmTableBrowse::openRow(int32_t record) {
         main_.festivalOnScreen = static_cast<int16_t>(record);
         main_.openScreen(Screen::frmFestivalDetails);
         break;
+    case Screen::frmCeremonyBrowse:
+        main_.ceremonyOnScreen = static_cast<int16_t>(record);
+        main_.openScreen(Screen::frmCeremonyDetails);
+        break;
     default:
-        // Firms, media and ceremonies have no details screen here yet.
+        // Firms and media have no details screen here yet.
         break;
     }
 }
