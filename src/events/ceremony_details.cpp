@@ -29,11 +29,15 @@ CeremonyAward awardOf(const AwardRecord& a) {
     out.name = trim(a.name.value);
     out.candidates = awardCandidates(a.kind);
     out.held = a.held;
-    const int count = std::min<int>(a.nomineeCount, static_cast<int>(a.nominees.size()));
+    int count = std::min<int>(a.nomineeCount, static_cast<int>(a.nominees.size()));
     for (int k = 0; k < count; ++k) {
         auto at = static_cast<std::size_t>(k);
-        out.nominees.push_back({trim(a.nomineeNames[at].value), a.scores[at], a.winner == k + 1});
+        std::string name = trim(a.nomineeNames[at].value);
+        // The base world files counts with empty places: no one stands there.
+        if (a.nominees[at] == 0 && name.empty()) break;
+        out.nominees.push_back({std::move(name), a.scores[at], a.winner == k + 1});
     }
+    count = static_cast<int>(out.nominees.size());
     if (a.winner >= 1 && a.winner <= count) {
         out.state = AwardState::won;
         out.winner = out.nominees[static_cast<std::size_t>(a.winner - 1)].name;

@@ -193,6 +193,11 @@ TEST_F(CeremonyDetailsScreens, NominationsForTheNextNightAreNotPassedOffAsTheLas
 }
 
 TEST_F(CeremonyDetailsScreens, ACeremonyNeverHeldSaysSoInsteadOfAGrid) {
+    // As the base world files it: a count of places, all of them empty.
+    g().ceremony.read(neverHeld);
+    g().award.read(g().ceremony->awards[0]);
+    g().award->nomineeCount = 5;
+    g().award.write();
     auto* list = openList();
     ASSERT_NE(list, nullptr);
     openRow(list, rowNamed(list, "Silver Mic Awards"));
@@ -200,6 +205,7 @@ TEST_F(CeremonyDetailsScreens, ACeremonyNeverHeldSaysSoInsteadOfAGrid) {
     EXPECT_EQ(shown<QLabel>("lblLastHeld")->text(), "Never");
     auto* awards = shown<QTableWidget>("flxAwards");
     ASSERT_EQ(awards->rowCount(), 1);
+    EXPECT_EQ(awards->item(0, 2)->text(), "");
     EXPECT_EQ(awards->item(0, 3)->text(), "");
     click(shown<QAbstractButton>("cmdLastYear"));
     ASSERT_EQ(screen(), Screen::frmHistoricalCeremonyDetails);
