@@ -22,7 +22,7 @@ namespace {
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
 QString nightText(double night) {
-    return night > 0 ? qs(formatDate(night, "dddd d mmmm yyyy")) : QObject::tr("Not yet set");
+    return night > 0 ? qs(formatDate(night, "ddd d mmmm yyyy")) : QObject::tr("Not yet set");
 }
 
 QTableWidget* plainTable(int rows, const QStringList& headers, const char* name, QWidget* parent) {

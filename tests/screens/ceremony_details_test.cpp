@@ -114,7 +114,7 @@ TEST_F(CeremonyDetailsScreens, ARowOpensTheNightAndTheLastNightAsTheRecordsHoldT
     ASSERT_EQ(screen(), Screen::frmCeremonyDetails);
     EXPECT_EQ(window->ceremonyOnScreen, heldOne);
     EXPECT_EQ(shown<QLabel>("lblCountry")->text(), "England");
-    EXPECT_EQ(shown<QLabel>("lblNight")->text().toStdString(), formatDate(g().gameDate, "dddd d mmmm yyyy"));
+    EXPECT_EQ(shown<QLabel>("lblNight")->text().toStdString(), formatDate(g().gameDate, "ddd d mmmm yyyy"));
     EXPECT_EQ(shown<QLabel>("lblLastHeld")->text(), QString::number(yearOf(g().gameDate)));
     EXPECT_EQ(shown<QLabel>("lblInvitation")->text(), "Not attending");
     auto* awards = shown<QTableWidget>("flxAwards");
