@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "app/sim_context.h"
+#include "events/ceremony_details.h"
 #include "floor/formats.h"
 #include "live/gigs.h"
 #include "live/tours.h"
@@ -189,34 +190,33 @@ void runCeremony(SimContext& ctx, const std::string& key) {
         ctx.closeGame();
         throw SimError(kExitBadArgs, "There is no ceremony " + key);
     }
-    g.ceremony.read(n);
-    const CeremonyRecord c = g.ceremony.rec;
-    std::string country = countryName(g, c.country);
-    std::string night = c.date > 0 ? isoDate(c.date) : "";
-    std::string awards;
+    const CeremonyDetails d = ceremonyDetails(g, static_cast<int16_t>(n));
+    const std::string night = d.night > 0 ? isoDate(d.night) : "";
     if (!ctx.json)
-        std::printf("%s\nNight:   %s\nCountry: %s\n", trim(c.name.value).c_str(), night.c_str(), country.c_str());
-    for (std::size_t i = 0; i < c.awards.size(); ++i) {
-        if (c.awards[i] < 1 || !g.award.readIfPresent(c.awards[i])) continue;
-        const AwardRecord a = g.award.rec;
-        int count = std::min<int>(a.nomineeCount, 10);
+        std::printf("%s\nNight:   %s\nCountry: %s\nHeld:    %s\n", d.name.c_str(), night.c_str(), d.country.c_str(),
+                    d.held > 0 ? std::to_string(d.held).c_str() : "never");
+    std::string awards;
+    for (const CeremonyAward& a : d.awards) {
         std::string nominees;
-        if (!ctx.json) std::printf("\n%s\n", trim(a.name.value).c_str());
-        for (int k = 0; k < count; ++k) {
-            auto at = static_cast<std::size_t>(k);
-            std::string who = trim(a.nomineeNames[at].value);
+        int winner = 0;
+        if (!ctx.json) std::printf("\n%s (%s)\n", a.name.c_str(), a.candidates.c_str());
+        for (std::size_t k = 0; k < a.nominees.size(); ++k) {
+            const AwardNominee& who = a.nominees[k];
+            if (who.winner) winner = static_cast<int>(k) + 1;
             if (ctx.json)
-                nominees += fmt::format("{}{{\"name\":{},\"score\":{}}}", k ? "," : "", jsonQuote(who), a.scores[at]);
+                nominees += fmt::format("{}{{\"name\":{},\"score\":{}}}", k ? "," : "", jsonQuote(who.name), who.score);
             else
-                std::printf("  %-65s %3d%s\n", who.c_str(), a.scores[at], a.winner == k + 1 ? "  winner" : "");
+                std::printf("  %-65s %3d%s\n", who.name.c_str(), who.score, who.winner ? "  winner" : "");
         }
+        if (!ctx.json && a.state == AwardState::notAwarded) std::printf("  not awarded\n");
         if (ctx.json)
-            awards += fmt::format("{}{{\"id\":{},\"name\":{},\"nominees\":[{}],\"winner\":{}}}",
-                                  awards.empty() ? "" : ",", a.id, jsonQuote(trim(a.name.value)), nominees, a.winner);
+            awards += fmt::format("{}{{\"id\":{},\"name\":{},\"for\":{},\"nominees\":[{}],\"winner\":{}}}",
+                                  awards.empty() ? "" : ",", a.award, jsonQuote(a.name), jsonQuote(a.candidates),
+                                  nominees, winner);
     }
     if (ctx.json)
-        std::printf("{\"id\":%d,\"name\":%s,\"night\":%s,\"country\":%s,\"awards\":[%s]}\n", n,
-                    jsonQuote(trim(c.name.value)).c_str(), jsonQuote(night).c_str(), jsonQuote(country).c_str(),
+        std::printf("{\"id\":%d,\"name\":%s,\"night\":%s,\"country\":%s,\"held\":%d,\"awards\":[%s]}\n", n,
+                    jsonQuote(d.name).c_str(), jsonQuote(night).c_str(), jsonQuote(d.country).c_str(), d.held,
                     awards.c_str());
     ctx.closeGame();
 }

@@ -77,6 +77,8 @@ std::string_view screenName(Screen s) {
     case Screen::frmCeremonyBrowse: return "frmCeremonyBrowse";
     case Screen::frmFestivalDetails: return "frmFestivalDetails";
     case Screen::frmHistoricalFestivalDetails: return "frmHistoricalFestivalDetails";
+    case Screen::frmCeremonyDetails: return "frmCeremonyDetails";
+    case Screen::frmHistoricalCeremonyDetails: return "frmHistoricalCeremonyDetails";
     case Screen::frmBandDetails: return "frmBandDetails";
     case Screen::frmBandList: return "frmBandList";
     case Screen::frmBandContract: return "frmBandContract";

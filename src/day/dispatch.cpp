@@ -104,6 +104,22 @@ const ScheduleAction& scheduleAction(int type) {
     return kActions[static_cast<std::size_t>(type)];
 }
 
+namespace {
+
+// A festival day's entry names no act: each act on the day's bill is worn as
+// a gig entry of its own would wear it.
+void wearTheFestivalBill(Game& g, const ScheduleRecord& entry) {
+    if (!isType(entry, ScheduleType::gig) || entry.band > 0 || !g.gig.readIfPresent(entry.gig)) return;
+    if (g.gig->tour < 1 || !g.tour.readIfPresent(g.gig->tour) || g.tour->festival == 0) return;
+    for (int16_t act : billOf(g, entry.gig)) {
+        ScheduleRecord own = entry;
+        own.band = act;
+        applyEventFatigue(g, own);
+    }
+}
+
+}  // namespace
+
 void runScheduleEntry(Game& g) {
     // The handler may file, read or rewrite schedule entries; the energy step
     // is for the entry that was run.
@@ -120,6 +136,7 @@ void runScheduleEntry(Game& g) {
         }
     }
     applyEventFatigue(g, entry);
+    wearTheFestivalBill(g, entry);
 }
 
 bool membersFit(Game& g) {

@@ -77,6 +77,10 @@ void scheduleFestival(Game& g, int year) {
     int16_t tour = createTour(g, trim(festival.areaCode.value), 0);
     g.tour->band = 0;
     g.tour->festival = festival.festivalNumber;
+    // Its levels are 0, the top ones: a festival is an easier day for its acts than a gig of their own.
+    g.tour->contentLevel = 0;
+    g.tour->hospitalityLevel = 0;
+    g.tour->accommodationLevel = 0;
     g.tour.write(tour);
 
     std::vector<int16_t> sites(static_cast<std::size_t>(days), 0);

@@ -22,6 +22,7 @@
 #include "screens/band_details_screen.h"
 #include "screens/browse_memory.h"
 #include "screens/business_screens.h"
+#include "screens/ceremony_details_screens.h"
 #include "screens/ceremony_screens.h"
 #include "screens/chart_screens.h"
 #include "screens/details_extra_screens.h"
@@ -327,6 +328,8 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmArtistDetails: return new frmArtistDetails(*this, artistOnScreen);
     case Screen::frmFestivalDetails: return new frmFestivalDetails(*this, festivalOnScreen);
     case Screen::frmHistoricalFestivalDetails: return new frmHistoricalFestivalDetails(*this, festivalOnScreen);
+    case Screen::frmCeremonyDetails: return new frmCeremonyDetails(*this, ceremonyOnScreen);
+    case Screen::frmHistoricalCeremonyDetails: return new frmHistoricalCeremonyDetails(*this, ceremonyOnScreen);
     case Screen::frmAwardCeremony:
         if (!g_.showSteps.empty()) return new frmAwardCeremony(*this);
         g_.currentScreen = Screen::frmNews;

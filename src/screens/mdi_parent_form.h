@@ -110,6 +110,10 @@ public:
     int16_t staffOnScreen = 0;
     // The festival frmFestivalDetails and frmHistoricalFestivalDetails show.
     int16_t festivalOnScreen = 0;
+    // The ceremony frmCeremonyDetails and frmHistoricalCeremonyDetails show,
+    // and the screen the details return to (the list they were opened from).
+    int16_t ceremonyOnScreen = 0;
+    Screen ceremonyBackTo = Screen::none;
 
     // Milliseconds from the start of the last day to its first screen shown,
     // not counting the wait for the loading screen to paint.

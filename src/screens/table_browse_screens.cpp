@@ -218,8 +218,11 @@ void frmTableBrowse::openRow(int32_t record) {
         break;
     case Screen::frmBusinessBrowse: main_.openFirm(static_cast<int16_t>(record)); break;
     case Screen::frmMediaBrowse: main_.openOutlet(static_cast<int16_t>(record)); break;
+    case Screen::frmCeremonyBrowse:
+        main_.ceremonyOnScreen = static_cast<int16_t>(record);
+        main_.openScreen(Screen::frmCeremonyDetails);
+        break;
     default:
-        // Ceremonies have no details screen here yet.
         break;
     }
 }

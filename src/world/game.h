@@ -56,6 +56,8 @@ enum class Screen {
     frmArtistDetails,
     frmFestivalDetails,
     frmHistoricalFestivalDetails,
+    frmCeremonyDetails,
+    frmHistoricalCeremonyDetails,
 };
 
 // The tables that openAllTables opens: member name, record, file number.

@@ -1,0 +1,120 @@
+// The assistant's tour on screen: frmArrangeTour's Assistant plans the tour,
+// Confirm Tour and the provisions finish it, and the records hold its gigs.
+#include <QComboBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <set>
+
+#include "schedule/schedule.h"
+#include "screen_fixture.h"
+#include "screens/album_screens.h"
+#include "screens/tour_screens.h"
+#include "world/strings.h"
+
+using namespace trovane;
+using test::ScreenTest;
+
+namespace {
+
+int16_t addSoloAct(Game& g) {
+    g.artist.rec = ArtistRecord{};
+    g.artist->forename = std::string("Nia");
+    g.artist->surname = std::string("Hart");
+    g.artist->male = -1;
+    g.artist->energy = 100;
+    const auto artist = static_cast<int16_t>(g.artist.append());
+    g.band.rec = BandRecord{};
+    g.band->name = std::string("The Hartbeats");
+    g.band->label = g.player.playerLabel;
+    g.band->memberCount = 1;
+    g.band->members = {artist};
+    g.band->reputation = {30, 30, 30, 30, 30};
+    const auto band = static_cast<int16_t>(g.band.append());
+    g.artist.read(artist);
+    g.artist->band = band;
+    g.artist.write();
+    return band;
+}
+
+int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacity) {
+    g.venue.rec = VenueRecord{};
+    g.venue->name = name;
+    g.venue->capacity = capacity;
+    g.venue->city = city;
+    return static_cast<int16_t>(g.venue.append());
+}
+
+}  // namespace
+
+TEST_F(ScreenTest, TheAssistantPlansATourOfTheHomeNationsThatTheRecordsKeep) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    const int16_t band = addSoloAct(g);
+    // The assistant sizes venues by the act's draw in England, reputation 30:
+    // standing = toInteger(33 x 30 / 7 = 141.4) = 141; / 5 = 28.2 -> 28;
+    // a = 784, b = round(784 / 73 = 10.7) = 11; d = 21, e = (42 - 28) x 21 = 294;
+    // crowd = round(4 x (294 + 11)) + 250 = 1,470; x 0.66 = 970.2 -> 970.
+    // A venue of 970 to 1,939 seats fits; 969 and 1,940 do not.
+    std::set<int16_t> fitting;
+    for (int i = 0; i < 4; ++i) fitting.insert(addVenue(g, "London Hall " + std::to_string(i), 1, 970 + 300 * i));
+    fitting.insert(addVenue(g, "Glasgow Barrowland", 2, 1939));
+    fitting.insert(addVenue(g, "Glasgow Corn Exchange", 2, 1200));
+    addVenue(g, "London Cellar", 1, 969);
+    addVenue(g, "London Arena", 1, 1940);
+    addVenue(g, "Paris Olympia", 3, 1200);  // France is not a home nation
+
+    auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());
+    panel->show();
+    click(panel->lblTour);
+    auto* arrange = dialog<screens::frmArrangeTour>("frmArrangeTour");
+    ASSERT_NE(arrange, nullptr);
+    ASSERT_TRUE(arrange->optAreas[0]->isChecked());
+    EXPECT_EQ(arrange->cmbNation->currentText(), "England");
+    click(arrange->cmdAuto);
+
+    auto* ask = dialog<screens::frmConfirm>("frmConfirm");
+    ASSERT_NE(ask, nullptr);
+    EXPECT_EQ(ask->windowTitle().toStdString(), "Confirm Tour");
+    EXPECT_TRUE(ask->lblQuestion->text().startsWith(
+        QStringLiteral("Your assistant has presented his plan for The Hartbeats's tour, which consists of ")));
+    screenshotOf(ask, "75_frmConfirm_assistant_tour");
+    click(ask->cmdYes);
+    auto* provisions = dialog<screens::frmChooseProvisions>("frmChooseProvisions");
+    ASSERT_NE(provisions, nullptr);
+    ASSERT_TRUE(provisions->cmdConfirm->isEnabled()) << "no sponsor fits, so none is needed";
+    click(provisions->cmdConfirm);
+    auto* details = dialog<screens::frmTourDetails>("frmTourDetails");
+    ASSERT_NE(details, nullptr);
+
+    g.tour.read(g.tour.recordCount() - 1);
+    const TourRecord tour = g.tour.rec;
+    EXPECT_EQ(details->flxGigs->rowCount(), tour.gigCount);
+    // Every fitting venue once or twice (one or two nights each), nothing else.
+    ASSERT_GE(tour.gigCount, 6);
+    ASSERT_LE(tour.gigCount, 12);
+    std::set<int16_t> played;
+    double previous = 0;
+    for (int i = 0; i < tour.gigCount; ++i) {
+        const int32_t gig = tour.gigs[static_cast<std::size_t>(i)];
+        g.gig.read(gig);
+        const GigRecord night = g.gig.rec;
+        EXPECT_EQ(night.bill[0], band);
+        EXPECT_EQ(night.tour, tour.tourNumber);
+        EXPECT_GT(night.gigDate, previous) << "the nights run forward";
+        if (i == 0) {
+            EXPECT_GE(night.gigDate, g.gameDate + 42) << "six weeks' notice";
+        }
+        previous = night.gigDate;
+        played.insert(night.venue);
+        int entries = 0;
+        for (int32_t id : entriesOfDay(g, night.gigDate)) {
+            g.schedule.read(id);
+            if (g.schedule->type == 8 && g.schedule->gig == gig && g.schedule->band == band) ++entries;
+        }
+        EXPECT_EQ(entries, 1) << "gig " << gig;
+    }
+    EXPECT_EQ(played, fitting);
+    screenshotOf(details, "76_frmTourDetails_assistant");
+    click(details->cmdClose);
+}
