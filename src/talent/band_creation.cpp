@@ -1,6 +1,5 @@
 #include "talent/band_creation.h"
 
-#include <unordered_set>
 #include <vector>
 
 #include "events/scores.h"
@@ -13,6 +12,7 @@
 #include "talent/artist_names.h"
 #include "talent/band_functions.h"
 #include "talent/contract_terms.h"
+#include "world/act_names.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -24,18 +24,6 @@ namespace {
 constexpr int kNameDraws = 1000;
 constexpr int kCityDraws = 1000;
 constexpr int kStyleDraws = 100000;
-
-// The names that acts still active bear: one walk of the bands per new act.
-std::unordered_set<std::string> activeNames(Game& g) {
-    std::unordered_set<std::string> names;
-    BandRecord held = g.band.rec;
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        g.band.read(n);
-        if (g.band->retired == kFalse) names.insert(trim(g.band->name.value));
-    }
-    g.band.rec = held;
-    return names;
-}
 
 std::string fullName(const ArtistRecord& a) { return trim(trim(a.forename.value) + " " + trim(a.surname.value)); }
 
@@ -119,23 +107,12 @@ int pickBandSize(Game& g) {
 }
 
 std::string pickBandName(Game& g, int style) {
-    std::vector<std::string> bank;
-    for (int32_t n = 1; n < g.newband.recordCount(); ++n) {
-        g.newband.read(n);
-        if (g.newband->style == style) bank.push_back(trim(g.newband->name.value));
-    }
-    if (bank.empty()) {
-        for (int32_t n = 1; n < g.newband.recordCount(); ++n) {
-            g.newband.read(n);
-            bank.push_back(trim(g.newband->name.value));
-        }
-    }
+    const std::vector<std::string>& bank = newBandNamesFor(g, style);
     if (bank.empty()) return {};
-    auto taken = activeNames(g);
     std::string name;
     for (int i = 0; i < kNameDraws; ++i) {
         name = bank[static_cast<std::size_t>(g.rng.between(0, static_cast<int32_t>(bank.size()) - 1))];
-        if (!taken.contains(name)) break;
+        if (!actNameInUse(g, name)) break;
     }
     return name;
 }

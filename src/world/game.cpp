@@ -1,5 +1,6 @@
 #include "world/game.h"
 
+#include "world/act_names.h"
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/journal.h"
@@ -28,6 +29,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     chart.deferWrites(&parked);
     highscore.deferWrites(&parked);
     watchDiscDates(*this);
+    watchActNames(*this);
 }
 
 }  // namespace trovane

@@ -162,6 +162,10 @@ public:
     SideIndex songsByBand;
     SideIndex discsByBand;
     DayIndex discsByDay;
+    // The names that acts not retired bear, and the bank of names for new
+    // bands by style (see act_names.h).
+    NameIndex activeActNames;
+    NameBank newBandNames;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;
