@@ -82,6 +82,22 @@ int32_t addArtist(Game& g, const NewMember& m, bool keepReputation) {
     return n;
 }
 
+// The country and size of every city, read from the table's bytes when the
+// table is new to the game or was written (see watchActNames).
+const std::vector<CityRows::Row>& cityRowsOf(Game& g) {
+    CityRows& index = g.cityRows;
+    if (index.generation == g.city.generation() && index.records == g.city.recordCount()) return index.rows;
+    index.generation = g.city.generation();
+    index.records = g.city.recordCount();
+    index.rows.clear();
+    CityRecord c{};
+    for (int32_t n = 1; n < g.city.recordCount(); ++n) {
+        decodeRecord(g.city.bytesOf(n).data(), c);
+        index.rows.push_back({c.country, c.size});
+    }
+    return index.rows;
+}
+
 }  // namespace
 
 int32_t pickStyle(Game& g) {
@@ -148,10 +164,12 @@ int pickBirthCountry(Game& g, int home, bool solo) {
 
 int pickBirthCity(Game& g, int country) {
     std::vector<std::pair<int, int>> cities;  // number, size
-    for (int32_t n = 1; n < g.city.recordCount(); ++n) {
-        g.city.read(n);
-        if (country == -1 || g.city->country == country) cities.emplace_back(n, g.city->size);
+    const std::vector<CityRows::Row>& rows = cityRowsOf(g);
+    for (int32_t n = 1; n <= static_cast<int32_t>(rows.size()); ++n) {
+        const CityRows::Row& row = rows[static_cast<std::size_t>(n - 1)];
+        if (country == -1 || row.country == country) cities.emplace_back(n, row.size);
     }
+    if (!rows.empty()) g.city.read(static_cast<int32_t>(rows.size()));  // the buffer as a walk of them leaves it
     if (cities.empty()) return 0;
     int city = 0;
     for (int i = 0; i < kCityDraws; ++i) {

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <optional>
 #include <span>
+#include <utility>
 
 #include "world/fatal_error.h"
 #include "world/game.h"
@@ -47,6 +48,15 @@ const NameIndex& refreshNames(Game& g) {
     return index;
 }
 
+template <class R, class Index>
+void forgetRowsOnWrite(Table<R>& table, Index& rows) {
+    auto earlier = std::move(table.watchWrites);
+    table.watchWrites = [&rows, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+        if (earlier) earlier(n, before, after);
+        rows.generation = UINT64_MAX;
+    };
+}
+
 }  // namespace
 
 bool actNameInUse(Game& g, const std::string& name) { return refreshNames(g).has(trim(name)); }
@@ -78,7 +88,9 @@ const std::vector<std::string>& newBandNamesFor(Game& g, int style) {
 }
 
 void watchActNames(Game& g) {
-    g.band.watchWrites = [&g](int32_t, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+    auto earlier = std::move(g.band.watchWrites);
+    g.band.watchWrites = [&g, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+        if (earlier) earlier(n, before, after);
         NameIndex& index = g.activeActNames;
         // An index not built for the table as it is now is built whole at the next lookup.
         if (index.generation != g.band.generation()) return;
@@ -88,6 +100,12 @@ void watchActNames(Game& g) {
         if (was) index.remove(*was);
         if (now) index.add(*now);
     };
+    // The banks of names and the cities do not change in play; a write to one
+    // all the same has what is kept of it read again.
+    forgetRowsOnWrite(g.newband, g.newBandNames);
+    forgetRowsOnWrite(g.forename, g.forenameRows);
+    forgetRowsOnWrite(g.surname, g.surnameRows);
+    forgetRowsOnWrite(g.city, g.cityRows);
 }
 
 }  // namespace trovane

@@ -27,8 +27,9 @@ std::vector<std::string> activeActNameList(Game& g);
 // row is of the style.
 const std::vector<std::string>& newBandNamesFor(Game& g, int style);
 
-// Starts telling the index of names in use of the band table's writes; the
-// game does it once when it is made.
+// Starts telling the index of names in use of the band table's writes, and
+// the rows a draw of an artist's names reads of the forename and surname
+// tables' writes; the game does it once when it is made.
 void watchActNames(Game& g);
 
 }  // namespace trovane

@@ -1,6 +1,7 @@
 #include "world/game.h"
 
 #include "world/act_names.h"
+#include "world/artist_sets.h"
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/journal.h"
@@ -30,6 +31,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     highscore.deferWrites(&parked);
     watchDiscDates(*this);
     watchActNames(*this);
+    watchArtistSets(*this);
 }
 
 }  // namespace trovane

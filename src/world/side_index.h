@@ -3,7 +3,6 @@
 // numbers of each key, brought up to date from the bytes of the new records,
 // so a lookup never touches the table's buffer.
 #include <cstdint>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -61,35 +60,6 @@ struct DayIndex {
         auto it = byDay.find(day);
         return it == byDay.end() ? none : it->second;
     }
-};
-
-// How many records bear each name, for a name that a record may change or
-// give up: the owner removes a record's old name before adding its new one.
-struct NameIndex {
-    uint64_t generation = UINT64_MAX;
-    std::unordered_map<std::string, int32_t> counts;
-
-    void reset(uint64_t gen) {
-        generation = gen;
-        counts.clear();
-    }
-    void add(const std::string& name) { ++counts[name]; }
-    void remove(const std::string& name) {
-        auto it = counts.find(name);
-        if (it == counts.end()) return;
-        if (--it->second <= 0) counts.erase(it);
-    }
-    bool has(const std::string& name) const { return counts.contains(name); }
-};
-
-// The names of a table that does not change in play, by a small key, in
-// record order; `all` holds every name. Read again when the table is opened
-// or emptied or its count of records moves.
-struct NameBank {
-    uint64_t generation = UINT64_MAX;
-    int32_t records = -1;
-    std::unordered_map<int32_t, std::vector<std::string>> byKey;
-    std::vector<std::string> all;
 };
 
 }  // namespace trovane

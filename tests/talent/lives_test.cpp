@@ -183,6 +183,20 @@ TEST(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     static_cast<void>(low);
 }
 
+TEST(Replacements, AnArtistRetiredInPlayIsPassedOverUntilBack) {
+    Lives w;
+    Game& g = w.g;
+    int16_t x = w.group("X");
+    int32_t leaver = w.member(x, 0);
+    int32_t at70 = w.freeArtist(20, 50);  // 20 + 50, as above
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
+    w.setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
+    w.setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
+    EXPECT_EQ(g.artist->id, g.artist.recordCount() - 1) << "the buffer as a walk of every artist leaves it";
+}
+
 TEST(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
     Lives w;
     Game& g = w.g;

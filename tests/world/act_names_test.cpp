@@ -73,3 +73,14 @@ TEST(ActNames, ARenameFreesTheOldNameAndTakesTheNew) {
     setBand(g, trio, [](BandRecord& b) { b.name = std::string("Quartet"); });
     EXPECT_EQ(std::pair(actNameInUse(g, "Trio"), actNameInUse(g, "Quartet")), std::pair(false, true));
 }
+
+TEST(ActNames, AnEmptiedTableTakesItsNamesWithIt) {
+    test::AlbumWorld w;
+    Game& g = w.g;
+    w.addBand("Trio", 0);
+    EXPECT_TRUE(actNameInUse(g, "Trio"));
+    g.band.clearAll();  // as a load does before it reads the saved acts
+    EXPECT_FALSE(actNameInUse(g, "Trio"));
+    w.addBand("Solo", 0, 1);
+    EXPECT_TRUE(actNameInUse(g, "Solo"));
+}
