@@ -10,7 +10,7 @@ using namespace trovane;
 
 namespace {
 
-struct Recovery : test::AlbumWorld {
+struct Recovery : ::testing::Test, test::AlbumWorld {
     void set(int32_t n, auto change) {
         g.artist.read(n);
         change(g.artist.rec);
