@@ -11,14 +11,17 @@ namespace {
 
 using Row = NameRows::Row;
 
-// The percent chance that a drawn row is kept for the country, 0 to 100.
+// The percent chance that a drawn row is kept for the country, 0 to 100: the
+// weight of its first link to the country, 100 for a row linked to none.
 int chanceFor(const Row& row, int country) {
-    bool open = std::all_of(row.countryLinks.begin(), row.countryLinks.end(), [](uint8_t c) { return c == 0; });
-    if (open) return 100;
-    for (std::size_t i = 0; i < row.countryLinks.size(); ++i)
-        if (row.countryLinks[i] != 0 && row.countryLinks[i] == country)
-            return std::min<int>(row.countryWeights[i], 100);
-    return 0;
+    bool open = true;
+    for (std::size_t i = 0; i < row.countryLinks.size(); ++i) {
+        const uint8_t c = row.countryLinks[i];
+        if (c == 0) continue;
+        if (c == country) return std::min<int>(row.countryWeights[i], 100);
+        open = false;
+    }
+    return open ? 100 : 0;
 }
 
 Row rowOf(const ForenameRecord& r) { return {r.isMale != kFalse, r.countryLinks, r.countryWeights}; }
