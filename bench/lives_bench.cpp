@@ -106,6 +106,27 @@ void BM_FindReplacement(benchmark::State& state) {
 }
 BENCHMARK(BM_FindReplacement)->Unit(benchmark::kMicrosecond);
 
+// A day of play on a world whose artist table holds, besides the new game's
+// artists, the members a decade of ended acts leaves behind (range(0): about
+// a thousand a year), in no act and rested. A year-10 day should cost at most
+// 1.3 times a year-1 day.
+void BM_DayWithRetiredArtists(benchmark::State& state) {
+    bench::ShippedGame s("trovane-bench-retired-artists");
+    Game& g = s.g;
+    const int32_t living = g.artist.recordCount() - 1;
+    for (int64_t i = 0; i < state.range(0); ++i) {
+        g.artist.read(static_cast<int32_t>(1 + i % living));
+        g.artist->band = 0;
+        g.artist->energy = 100;
+        g.artist->writingFocus = 100;
+        g.artist.append();
+    }
+    s.play(7);  // past the first day's visit of everyone
+    for (auto _ : state) s.playDay();
+    state.counters["artists"] = g.artist.recordCount() - 1;
+}
+BENCHMARK(BM_DayWithRetiredArtists)->Arg(0)->Arg(10000)->Iterations(120)->Unit(benchmark::kMicrosecond);
+
 // A story body near the 1,024 characters a text holds, every kind of tag in it.
 void BM_ExpandMacrosFullBody(benchmark::State& state) {
     bench::ShippedGame s("trovane-bench-macros");

@@ -7,6 +7,7 @@
 #include "floor/news_post.h"
 #include "schedule/band_calendar.h"
 #include "talent/reputation.h"
+#include "world/artist_sets.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -198,8 +199,10 @@ void increaseBandAges(Game& g) {
 
 // A burnt-out artist (energy below 0) is away one more day, and comes back at
 // full strength; everyone else recovers by stamina, and writers sharpen their focus.
+// Only artists the day can change are read: one at full energy, and at full
+// focus if they write, stays as it is.
 void increaseArtistEnergy(Game& g) {
-    for (int32_t n = 1; n != g.artist.recordCount(); ++n) {
+    for (int32_t n : unrestedArtists(g)) {
         g.artist.read(n);
         ArtistRecord& a = g.artist.rec;
         if (a.energy < 0) {
@@ -210,7 +213,10 @@ void increaseArtistEnergy(Game& g) {
             if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(std::min(a.writingFocus + 3, 100));
         }
         g.artist.write(n);
+        noteArtist(g, n);  // a write that changes nothing is not told to the sets
     }
+    const int32_t last = g.artist.recordCount() - 1;
+    if (last >= 1) g.artist.read(last);  // the buffer as a walk of them all leaves it
 }
 
 }  // namespace trovane

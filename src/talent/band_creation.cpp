@@ -1,6 +1,5 @@
 #include "talent/band_creation.h"
 
-#include <unordered_set>
 #include <vector>
 
 #include "events/scores.h"
@@ -13,6 +12,7 @@
 #include "talent/artist_names.h"
 #include "talent/band_functions.h"
 #include "talent/contract_terms.h"
+#include "world/act_names.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -24,18 +24,6 @@ namespace {
 constexpr int kNameDraws = 1000;
 constexpr int kCityDraws = 1000;
 constexpr int kStyleDraws = 100000;
-
-// The names that acts still active bear: one walk of the bands per new act.
-std::unordered_set<std::string> activeNames(Game& g) {
-    std::unordered_set<std::string> names;
-    BandRecord held = g.band.rec;
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        g.band.read(n);
-        if (g.band->retired == kFalse) names.insert(trim(g.band->name.value));
-    }
-    g.band.rec = held;
-    return names;
-}
 
 std::string fullName(const ArtistRecord& a) { return trim(trim(a.forename.value) + " " + trim(a.surname.value)); }
 
@@ -94,6 +82,22 @@ int32_t addArtist(Game& g, const NewMember& m, bool keepReputation) {
     return n;
 }
 
+// The country and size of every city, read from the table's bytes when the
+// table is new to the game or was written (see watchActNames).
+const std::vector<CityRows::Row>& cityRowsOf(Game& g) {
+    CityRows& index = g.cityRows;
+    if (index.generation == g.city.generation() && index.records == g.city.recordCount()) return index.rows;
+    index.generation = g.city.generation();
+    index.records = g.city.recordCount();
+    index.rows.clear();
+    CityRecord c{};
+    for (int32_t n = 1; n < g.city.recordCount(); ++n) {
+        decodeRecord(g.city.bytesOf(n).data(), c);
+        index.rows.push_back({c.country, c.size});
+    }
+    return index.rows;
+}
+
 }  // namespace
 
 int32_t pickStyle(Game& g) {
@@ -119,23 +123,12 @@ int pickBandSize(Game& g) {
 }
 
 std::string pickBandName(Game& g, int style) {
-    std::vector<std::string> bank;
-    for (int32_t n = 1; n < g.newband.recordCount(); ++n) {
-        g.newband.read(n);
-        if (g.newband->style == style) bank.push_back(trim(g.newband->name.value));
-    }
-    if (bank.empty()) {
-        for (int32_t n = 1; n < g.newband.recordCount(); ++n) {
-            g.newband.read(n);
-            bank.push_back(trim(g.newband->name.value));
-        }
-    }
+    const std::vector<std::string>& bank = newBandNamesFor(g, style);
     if (bank.empty()) return {};
-    auto taken = activeNames(g);
     std::string name;
     for (int i = 0; i < kNameDraws; ++i) {
         name = bank[static_cast<std::size_t>(g.rng.between(0, static_cast<int32_t>(bank.size()) - 1))];
-        if (!taken.contains(name)) break;
+        if (!actNameInUse(g, name)) break;
     }
     return name;
 }
@@ -171,10 +164,12 @@ int pickBirthCountry(Game& g, int home, bool solo) {
 
 int pickBirthCity(Game& g, int country) {
     std::vector<std::pair<int, int>> cities;  // number, size
-    for (int32_t n = 1; n < g.city.recordCount(); ++n) {
-        g.city.read(n);
-        if (country == -1 || g.city->country == country) cities.emplace_back(n, g.city->size);
+    const std::vector<CityRows::Row>& rows = cityRowsOf(g);
+    for (int32_t n = 1; n <= static_cast<int32_t>(rows.size()); ++n) {
+        const CityRows::Row& row = rows[static_cast<std::size_t>(n - 1)];
+        if (country == -1 || row.country == country) cities.emplace_back(n, row.size);
     }
+    if (!rows.empty()) g.city.read(static_cast<int32_t>(rows.size()));  // the buffer as a walk of them leaves it
     if (cities.empty()) return 0;
     int city = 0;
     for (int i = 0; i < kCityDraws; ++i) {

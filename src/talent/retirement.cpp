@@ -11,6 +11,7 @@
 #include "talent/band_creation.h"
 #include "talent/band_functions.h"
 #include "talent/contract_progress.h"
+#include "world/artist_sets.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/strings.h"
@@ -160,6 +161,18 @@ void bandFails(Game& g, const std::string& name) {
     retireBand(g, true);
 }
 
+namespace {
+
+// Whether the artist of these bytes has the job and one of the styles, read
+// without decoding the record, so the search decodes only its candidates.
+bool mayReplace(std::span<const uint8_t> bytes, uint8_t job, const std::set<int>& styles) {
+    static const std::size_t jobAt = fieldOffset<ArtistRecord>("job").value();
+    static const std::size_t styleAt = fieldOffset<ArtistRecord>("style").value();
+    return bytes[jobAt] == job && styles.contains(bytes[styleAt]);
+}
+
+}  // namespace
+
 int32_t findReplacement(Game& g, int16_t leaver, int16_t band, const std::set<int32_t>& chosen) {
     g.band.read(band);
     const BandRecord b = g.band.rec;
@@ -177,7 +190,8 @@ int32_t findReplacement(Game& g, int16_t leaver, int16_t band, const std::set<in
     std::map<int16_t, int32_t> ratings;
     int32_t best = 0;
     double bestScore = 0;
-    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
+    for (int32_t n : activeArtists(g)) {  // a retired artist is never the one
+        if (!mayReplace(g.artist.bytesOf(n), out.job, styles)) continue;
         g.artist.read(n);
         const ArtistRecord& a = g.artist.rec;
         if (a.retired != kFalse || a.retirementDate > kNoDate || a.job != out.job || n == leaver || a.band == band)
@@ -199,6 +213,8 @@ int32_t findReplacement(Game& g, int16_t leaver, int16_t band, const std::set<in
         best = n;
         bestScore = score;
     }
+    const int32_t last = g.artist.recordCount() - 1;
+    if (last >= 1) g.artist.read(last);  // the buffer as a walk of them all leaves it
     g.band.read(band);
     return best;
 }

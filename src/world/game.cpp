@@ -1,5 +1,7 @@
 #include "world/game.h"
 
+#include "world/act_names.h"
+#include "world/artist_sets.h"
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/journal.h"
@@ -28,6 +30,8 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     chart.deferWrites(&parked);
     highscore.deferWrites(&parked);
     watchDiscDates(*this);
+    watchActNames(*this);
+    watchArtistSets(*this);
 }
 
 }  // namespace trovane

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "world/name_indexes.h"
 #include "world/random.h"
 #include "world/records.h"
 #include "world/side_index.h"
@@ -164,6 +165,16 @@ public:
     SideIndex songsByBand;
     SideIndex discsByBand;
     DayIndex discsByDay;
+    // The names that acts not retired bear, and the bank of names for new
+    // bands by style (see act_names.h).
+    NameIndex activeActNames;
+    NameBank newBandNames;
+    // What a draw of an artist's names reads of each forename and surname
+    // (see talent/artist_names.h), and of each city for a birthplace.
+    NameRows forenameRows;
+    NameRows surnameRows;
+    CityRows cityRows;
+    ArtistSets artistSets;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

@@ -140,6 +140,25 @@ TEST(NewActs, HomeMarketsFollowWhereTheActFormed) {
     }
 }
 
+TEST(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
+    Lives w;
+    Game& g = w.g;
+    for (auto [name, style] : {std::pair{"Taken", 1}, {"Free", 1}, {"Other", 2}}) {
+        g.newband.rec = NewBandRecord{};
+        g.newband->name = std::string(name);
+        g.newband->style = narrow<uint8_t>(style);
+        g.newband.append();
+    }
+    const int16_t taken = w.addBand("Taken", 0);
+    std::set<std::string> drawn;
+    for (int i = 0; i < 40; ++i) drawn.insert(pickBandName(g, 1));
+    EXPECT_EQ(drawn, std::set<std::string>{"Free"});
+    w.setBandRec(taken, [](BandRecord& b) { b.retired = kTrue; });
+    drawn.clear();
+    for (int i = 0; i < 40; ++i) drawn.insert(pickBandName(g, 1));  // all 40 miss "Taken" at odds of 1 in 2^40
+    EXPECT_EQ(drawn, (std::set<std::string>{"Free", "Taken"}));
+}
+
 TEST(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     Lives w;
     Game& g = w.g;
@@ -162,6 +181,20 @@ TEST(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     w.setArtist(at70, [](ArtistRecord& a) { a.style = 2; });
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0) << "another job, style, or retiring";
     static_cast<void>(low);
+}
+
+TEST(Replacements, AnArtistRetiredInPlayIsPassedOverUntilBack) {
+    Lives w;
+    Game& g = w.g;
+    int16_t x = w.group("X");
+    int32_t leaver = w.member(x, 0);
+    int32_t at70 = w.freeArtist(20, 50);  // 20 + 50, as above
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
+    w.setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
+    w.setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
+    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
+    EXPECT_EQ(g.artist->id, g.artist.recordCount() - 1) << "the buffer as a walk of every artist leaves it";
 }
 
 TEST(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
@@ -276,8 +309,6 @@ TEST(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
             count += g.schedule.recordCount() - before;
         }
         EXPECT_EQ(count > 0, filed) << "age " << age;
-        if (count) {
-            EXPECT_NEAR(count / 2000.0, 0.02, 0.012);
-        }
+        if (count) { EXPECT_NEAR(count / 2000.0, 0.02, 0.012); }
     }
 }

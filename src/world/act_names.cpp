@@ -1,0 +1,111 @@
+#include "world/act_names.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+#include <span>
+#include <utility>
+
+#include "world/fatal_error.h"
+#include "world/game.h"
+#include "world/strings.h"
+
+namespace trovane {
+
+namespace {
+
+std::size_t offsetOf(std::optional<std::size_t> at) {
+    if (!at) throw FatalError("a side index names a field its record lacks");
+    return *at;
+}
+
+const std::size_t kBandName = offsetOf(fieldOffset<BandRecord>("name"));
+const std::size_t kBandRetired = offsetOf(fieldOffset<BandRecord>("retired"));
+const std::size_t kNewBandName = offsetOf(fieldOffset<NewBandRecord>("name"));
+const std::size_t kNewBandStyle = offsetOf(fieldOffset<NewBandRecord>("style"));
+
+template <std::size_t N>
+std::string textAt(std::span<const uint8_t> bytes, std::size_t at) {
+    Text<N> t;
+    codec::getText(bytes.data() + at, t);
+    return trim(t.value);
+}
+
+// The name an act bears while it has not retired, or none.
+std::optional<std::string> activeName(std::span<const uint8_t> bytes) {
+    int16_t retired = 0;
+    std::memcpy(&retired, bytes.data() + kBandRetired, sizeof retired);
+    if (retired != kFalse) return std::nullopt;
+    return textAt<50>(bytes, kBandName);
+}
+
+const NameIndex& refreshNames(Game& g) {
+    NameIndex& index = g.activeActNames;
+    if (index.generation == g.band.generation()) return index;
+    index.reset(g.band.generation());
+    for (int32_t n = 1; n < g.band.recordCount(); ++n)
+        if (auto name = activeName(g.band.bytesOf(n))) index.add(*name);
+    return index;
+}
+
+template <class R, class Index>
+void forgetRowsOnWrite(Table<R>& table, Index& rows) {
+    auto earlier = std::move(table.watchWrites);
+    table.watchWrites = [&rows, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+        if (earlier) earlier(n, before, after);
+        rows.generation = UINT64_MAX;
+    };
+}
+
+}  // namespace
+
+bool actNameInUse(Game& g, const std::string& name) { return refreshNames(g).has(trim(name)); }
+
+std::vector<std::string> activeActNameList(Game& g) {
+    std::vector<std::string> out;
+    for (const auto& [name, count] : refreshNames(g).counts)
+        out.insert(out.end(), static_cast<std::size_t>(count), name);
+    std::sort(out.begin(), out.end());
+    return out;
+}
+
+const std::vector<std::string>& newBandNamesFor(Game& g, int style) {
+    NameBank& bank = g.newBandNames;
+    if (bank.generation != g.newband.generation() || bank.records != g.newband.recordCount()) {
+        bank.byKey.clear();
+        bank.all.clear();
+        bank.generation = g.newband.generation();
+        bank.records = g.newband.recordCount();
+        for (int32_t n = 1; n < g.newband.recordCount(); ++n) {
+            const auto bytes = g.newband.bytesOf(n);
+            std::string name = textAt<32>(bytes, kNewBandName);
+            bank.byKey[bytes[kNewBandStyle]].push_back(name);
+            bank.all.push_back(std::move(name));
+        }
+    }
+    auto it = bank.byKey.find(style);
+    return it == bank.byKey.end() ? bank.all : it->second;
+}
+
+void watchActNames(Game& g) {
+    auto earlier = std::move(g.band.watchWrites);
+    g.band.watchWrites = [&g, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+        if (earlier) earlier(n, before, after);
+        NameIndex& index = g.activeActNames;
+        // An index not built for the table as it is now is built whole at the next lookup.
+        if (index.generation != g.band.generation()) return;
+        const auto was = before.empty() ? std::nullopt : activeName(before);
+        const auto now = activeName(after);
+        if (was == now) return;  // most writes are a week's figures
+        if (was) index.remove(*was);
+        if (now) index.add(*now);
+    };
+    // The banks of names and the cities do not change in play; a write to one
+    // all the same has what is kept of it read again.
+    forgetRowsOnWrite(g.newband, g.newBandNames);
+    forgetRowsOnWrite(g.forename, g.forenameRows);
+    forgetRowsOnWrite(g.surname, g.surnameRows);
+    forgetRowsOnWrite(g.city, g.cityRows);
+}
+
+}  // namespace trovane

@@ -1,0 +1,82 @@
+#include "world/artist_sets.h"
+
+#include <optional>
+#include <utility>
+
+#include "world/fatal_error.h"
+#include "world/game.h"
+
+namespace trovane {
+
+namespace {
+
+std::size_t offsetOf(std::optional<std::size_t> at) {
+    if (!at) throw FatalError("a side index names a field its record lacks");
+    return *at;
+}
+
+const std::size_t kRetired = offsetOf(fieldOffset<ArtistRecord>("retired"));
+const std::size_t kEnergy = offsetOf(fieldOffset<ArtistRecord>("energy"));
+const std::size_t kSongQuality = offsetOf(fieldOffset<ArtistRecord>("songQuality"));
+const std::size_t kWritingFocus = offsetOf(fieldOffset<ArtistRecord>("writingFocus"));
+
+template <class T>
+T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
+    return codec::getScalar<T>(bytes.data() + at);
+}
+
+bool isActive(std::span<const uint8_t> bytes) { return fieldAt<int16_t>(bytes, kRetired) == kFalse; }
+
+void file(ArtistSets& sets, int32_t n, std::span<const uint8_t> bytes) {
+    if (isActive(bytes))
+        sets.active.insert(n);
+    else
+        sets.active.erase(n);
+    if (artistAtRest(bytes))
+        sets.unrested.erase(n);
+    else
+        sets.unrested.insert(n);
+}
+
+ArtistSets& refresh(Game& g) {
+    ArtistSets& sets = g.artistSets;
+    if (sets.generation == g.artist.generation()) return sets;
+    sets.generation = g.artist.generation();
+    sets.active.clear();
+    sets.unrested.clear();
+    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
+        if (isActive(g.artist.bytesOf(n))) sets.active.insert(sets.active.end(), n);
+        sets.unrested.insert(sets.unrested.end(), n);
+    }
+    return sets;
+}
+
+}  // namespace
+
+bool artistAtRest(std::span<const uint8_t> bytes) {
+    if (fieldAt<int16_t>(bytes, kEnergy) != 100) return false;
+    return bytes[kSongQuality] == 0 || bytes[kWritingFocus] == 100;
+}
+
+std::vector<int32_t> activeArtists(Game& g) {
+    const auto& s = refresh(g).active;
+    return {s.begin(), s.end()};
+}
+
+std::vector<int32_t> unrestedArtists(Game& g) {
+    const auto& s = refresh(g).unrested;
+    return {s.begin(), s.end()};
+}
+
+void noteArtist(Game& g, int32_t n) { file(refresh(g), n, g.artist.bytesOf(n)); }
+
+void watchArtistSets(Game& g) {
+    auto earlier = std::move(g.artist.watchWrites);
+    g.artist.watchWrites = [&g, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+        if (earlier) earlier(n, before, after);
+        // Sets not built for the table as it is now are built whole at the next lookup.
+        if (g.artistSets.generation == g.artist.generation()) file(g.artistSets, n, after);
+    };
+}
+
+}  // namespace trovane

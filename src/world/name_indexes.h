@@ -1,0 +1,78 @@
+#pragma once
+// The side indexes that name lookups keep on the game (see act_names.h and
+// talent/artist_names.h): plain data, kept in step by their owners.
+#include <array>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace trovane {
+
+// How many records bear each name, for a name that a record may change or
+// give up: the owner removes a record's old name before adding its new one.
+struct NameIndex {
+    uint64_t generation = UINT64_MAX;
+    std::unordered_map<std::string, int32_t> counts;
+
+    void reset(uint64_t gen) {
+        generation = gen;
+        counts.clear();
+    }
+    void add(const std::string& name) { ++counts[name]; }
+    void remove(const std::string& name) {
+        auto it = counts.find(name);
+        if (it == counts.end()) return;
+        if (--it->second <= 0) counts.erase(it);
+    }
+    bool has(const std::string& name) const { return counts.contains(name); }
+};
+
+// The names of a table that does not change in play, by a small key, in
+// record order; `all` holds every name. Read again when the table is opened
+// or emptied or its count of records moves.
+struct NameBank {
+    uint64_t generation = UINT64_MAX;
+    int32_t records = -1;
+    std::unordered_map<int32_t, std::vector<std::string>> byKey;
+    std::vector<std::string> all;
+};
+
+// What a draw of a forename or surname looks at in each row, in record order
+// (row n at [n - 1]), so a draw need not decode the rows it passes over. Read
+// again when the table is opened or emptied or its count of records moves, or
+// when a write changes one of its rows.
+struct NameRows {
+    struct Row {
+        bool male = false;  // forenames only
+        std::array<uint8_t, 5> countryLinks{};
+        std::array<uint8_t, 5> countryWeights{};
+    };
+    uint64_t generation = UINT64_MAX;
+    int32_t records = -1;
+    std::vector<Row> rows;
+};
+
+// What a new artist's birthplace draw reads of each city, in record order.
+// Read again when the table is opened or emptied or its count of records
+// moves, or when a write changes one of its rows.
+struct CityRows {
+    struct Row {
+        int country = 0;
+        int size = 0;
+    };
+    uint64_t generation = UINT64_MAX;
+    int32_t records = -1;
+    std::vector<Row> rows;
+};
+
+// Artists by what the daily walks over them need, so the walks cost what the
+// artists still at work cost however many have retired (see artist_sets.h).
+struct ArtistSets {
+    uint64_t generation = UINT64_MAX;
+    std::set<int32_t> active;    // not retired
+    std::set<int32_t> unrested;  // a day's recovery would change the record
+};
+
+}  // namespace trovane

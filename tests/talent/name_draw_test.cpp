@@ -1,0 +1,128 @@
+// An artist's names drawn from what is kept of the banks: the same rows and
+// the same calls on the random source as a walk of the banks' records.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/album_world.h"
+#include "support/played_world.h"
+#include "talent/artist_names.h"
+#include "talent/band_creation.h"
+
+using namespace trovane;
+
+namespace {
+
+template <class R>
+int walkedChance(const R& row, int country) {
+    bool open = std::all_of(row.countryLinks.begin(), row.countryLinks.end(), [](uint8_t c) { return c == 0; });
+    if (open) return 100;
+    for (std::size_t i = 0; i < row.countryLinks.size(); ++i)
+        if (row.countryLinks[i] != 0 && row.countryLinks[i] == country)
+            return std::min<int>(row.countryWeights[i], 100);
+    return 0;
+}
+
+// The draw as a walk of the records, each read into the buffer.
+template <class R, class Fits>
+int32_t walkedDraw(Random& rng, Table<R>& table, int country, Fits fits) {
+    const int32_t rows = table.recordCount() - 1;
+    for (int32_t attempt = 0; attempt < 4 * rows; ++attempt) {
+        int32_t n = rng.between(1, rows);
+        table.read(n);
+        if (!fits(table.rec)) continue;
+        int chance = walkedChance(table.rec, country);
+        if (chance >= 100 || (chance > 0 && rng.between(0, 99) < chance)) return n;
+    }
+    std::vector<std::pair<int32_t, int>> fitting;
+    std::vector<int32_t> ofTheSex;
+    int32_t total = 0;
+    for (int32_t n = 1; n <= rows; ++n) {
+        table.read(n);
+        if (!fits(table.rec)) continue;
+        ofTheSex.push_back(n);
+        if (int chance = walkedChance(table.rec, country); chance > 0) {
+            fitting.emplace_back(n, chance);
+            total += chance;
+        }
+    }
+    if (!fitting.empty()) {
+        int32_t pick = rng.between(0, total - 1);
+        for (auto [n, chance] : fitting) {
+            if (pick < chance) return n;
+            pick -= chance;
+        }
+        return fitting.back().first;
+    }
+    if (!ofTheSex.empty()) return ofTheSex[static_cast<std::size_t>(rng.between(0, int32_t(ofTheSex.size()) - 1))];
+    return rng.between(1, rows);
+}
+
+}  // namespace
+
+TEST(NameDraws, TheShippedBanksGiveTheRowsAndDrawsOfAWalk) {
+    test::PlayedWorld w;
+    Game& g = w.g;
+    ASSERT_GT(g.forename.recordCount(), 100);
+    int last = 0;  // the last country a name is linked to
+    for (int32_t n = 1; n < g.forename.recordCount(); ++n) {
+        g.forename.read(n);
+        for (uint8_t c : g.forename->countryLinks) last = std::max<int>(last, c);
+    }
+    ASSERT_GT(last, 1);
+    for (int country = 0; country <= last + 1; ++country) {  // one past: a country with no names
+        for (bool male : {true, false}) {
+            for (int i = 0; i < 2; ++i) {
+                Random walked = g.rng;
+                const int32_t fore = walkedDraw(walked, g.forename, country, [male](const ForenameRecord& r) {
+                    return (r.isMale != kFalse) == male;
+                });
+                const int32_t sur = walkedDraw(walked, g.surname, country, [](const SurnameRecord&) { return true; });
+                g.forename.read(1);
+                EXPECT_EQ(drawForename(g, country, male), fore) << "country " << country;
+                EXPECT_EQ(g.forename->id, fore) << "the buffer on the row drawn";
+                EXPECT_EQ(drawSurname(g, country), sur) << "country " << country;
+                EXPECT_EQ(g.surname->id, sur);
+                ASSERT_EQ(g.rng.between(0, 1 << 30), walked.between(0, 1 << 30))
+                    << "the same draws, country " << country;
+            }
+        }
+    }
+}
+
+TEST(NameDraws, ARowWrittenInPlayIsDrawnAsItNowReads) {
+    test::AlbumWorld w;
+    Game& g = w.g;
+    for (bool male : {true, false}) {
+        g.forename.rec = ForenameRecord{0, male ? "Al" : "Bea", {}, {}, male ? kTrue : kFalse};
+        g.forename.append();
+    }
+    EXPECT_EQ(drawForename(g, 1, true), 1);
+    for (int16_t n : {1, 2}) {
+        g.forename.read(n);
+        g.forename->isMale = g.forename->isMale == kFalse ? kTrue : kFalse;
+        g.forename.write();
+    }
+    EXPECT_EQ(drawForename(g, 1, true), 2);
+    EXPECT_EQ(g.forename->name.value, "Bea");
+}
+
+TEST(Birthplaces, ACityWrittenInPlayIsDrawnAsItNowReads) {
+    test::AlbumWorld w;
+    Game& g = w.g;
+    const int32_t first = g.city.recordCount();
+    for (uint8_t country : {201, 202}) {
+        g.city.rec = CityRecord{};
+        g.city->size = 100;  // always kept once drawn
+        g.city->country = country;
+        g.city.append();
+    }
+    EXPECT_EQ(pickBirthCity(g, 201), first);
+    EXPECT_EQ(g.city->id, first + 1) << "the buffer as a walk of every city leaves it";
+    for (int32_t n : {first, first + 1}) {
+        g.city.read(n);
+        g.city->country = g.city->country == 201 ? 202 : 201;
+        g.city.write();
+    }
+    EXPECT_EQ(pickBirthCity(g, 201), first + 1);
+}
