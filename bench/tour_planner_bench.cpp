@@ -2,51 +2,19 @@
 // tour with its support acts, and Sunday's follow-up tours.
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
 #include "day/daily_cycle.h"
 #include "day/news_inbox.h"
 #include "floor/preferences.h"
 #include "rivals/rival_touring.h"
 #include "session/new_game.h"
+#include "support/year_on.h"
 #include "world/record_store.h"
 
 using namespace trovane;
-namespace fs = std::filesystem;
 
 namespace {
 
-fs::path plannerWorld(const char* name) {
-    fs::path p = fs::temp_directory_path() / name;
-    fs::remove_all(p);
-    fs::create_directories(p);
-    for (const auto& e : fs::directory_iterator(TROVANE_DATA_DIR))
-        if (e.path().extension() == ".gam") fs::copy_file(e.path(), p / e.path().filename());
-    return p;
-}
-
-struct YearOnGame {
-    Game g;
-    explicit YearOnGame(const char* name) : g(plannerWorld(name), 1) {
-        readPrefs(g);
-        beginNewGame(g);
-        PlayerChoices p;
-        p.forename = "Ann";
-        p.surname = "Lee";
-        p.nationality = "Scottish";
-        takeOverLabel(g, confirmPlayer(g, p), 1);
-        for (int d = 0; d < 365; ++d) {
-            while (!allRepliesGiven(g)) {
-                openNewsItem(g);
-                pressNewsCmd1(g);
-                g.news->replied = kTrue;
-                g.news.write();
-            }
-            checkDaysSchedule(g);
-        }
-    }
-    ~YearOnGame() { closeAllTables(g); }
-};
+using bench::YearOnGame;
 
 // The best-known rival act that is still together.
 int16_t bigRivalAct(Game& g) {
@@ -86,6 +54,6 @@ void BM_SundayFollowUpTours(benchmark::State& state) {
     for (auto _ : state) planFollowUpTours(g);
     state.counters["newTours"] = g.tour.recordCount() - before;
 }
-BENCHMARK(BM_SundayFollowUpTours)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_SundayFollowUpTours)->Unit(benchmark::kMillisecond)->Iterations(1)->MeasureProcessCPUTime();
 
 }  // namespace
