@@ -2,6 +2,8 @@
 // tour with its support acts, and Sunday's follow-up tours.
 #include <benchmark/benchmark.h>
 
+#include <string>
+
 #include "day/daily_cycle.h"
 #include "day/news_inbox.h"
 #include "floor/preferences.h"
@@ -46,10 +48,24 @@ void BM_PlanTourAlbumWithSupports(benchmark::State& state) {
 }
 BENCHMARK(BM_PlanTourAlbumWithSupports)->Unit(benchmark::kMillisecond)->Iterations(40);
 
-// The first call does the Sunday's work; later ones find every act booked.
+// A busy Sunday: forty rival acts had an album out yesterday, and every one
+// not still on the road is sent on a follow-up tour. One call does the work;
+// a second would find the acts booked.
 void BM_SundayFollowUpTours(benchmark::State& state) {
     static YearOnGame game("trovane-bench-planner-sunday");
     Game& g = game.g;
+    int albums = 0;
+    for (int32_t n = 1; n < g.band.recordCount() && albums < 40; ++n) {
+        g.band.read(n);
+        if (g.band->retired != 0 || g.band->label < 1 || g.band->label == g.player.playerLabel) continue;
+        const BandRecord act = g.band.rec;
+        g.disc.rec = DiscRecord{};
+        g.disc->title = "Follow-up " + std::to_string(++albums);
+        g.disc->band = act.id;
+        g.disc->label = act.label;
+        g.disc->releaseDate.fill(g.gameDate - 1);
+        g.disc.append();
+    }
     const int32_t before = g.tour.recordCount();
     for (auto _ : state) planFollowUpTours(g);
     state.counters["newTours"] = g.tour.recordCount() - before;
