@@ -23,7 +23,8 @@ bool homeNation(const std::string& name) {
 }
 
 // Fields read straight from a record's bytes: a candidate that cannot place
-// costs no decoding of its names, and the buffers stay as they were.
+// costs no decoding of its names and leaves the artist, band and disc
+// buffers alone.
 template <class T>
 T fieldAt(const uint8_t* record, std::size_t offset) {
     return codec::getScalar<T>(record + offset);
