@@ -12,6 +12,8 @@
 #include "floor/preferences.h"
 #include "label/image.h"
 #include "session/new_game.h"
+#include "support/year_on.h"
+#include "world/dates.h"
 #include "world/record_store.h"
 
 using namespace trovane;
@@ -85,5 +87,24 @@ void BM_UpdateHighScoreTable(benchmark::State& state) {
     closeAllTables(*g);
 }
 BENCHMARK(BM_UpdateHighScoreTable)->Unit(benchmark::kMicrosecond);
+
+// On 31 December of the first year, every birthday of the next one filed, with
+// an artist table the size of year ten's; the next year's days are emptied
+// again between runs.
+void BM_AddThisYearsBirthdays(benchmark::State& state) {
+    auto g = shippedGame("trovane-bench-birthdays");
+    bench::growToYearTen(*g);
+    g->gameDate = serialFromCivil(yearOf(g->gameDate), 12, 31);
+    bench::DayFilesCheckpoint days(*g, {yearOf(g->gameDate) + 1});
+    for (auto _ : state) {
+        addThisYearsBirthdays(*g);
+        state.PauseTiming();
+        days.restore();
+        state.ResumeTiming();
+    }
+    state.counters["artists"] = g->artist.recordCount() - 1;
+    closeAllTables(*g);
+}
+BENCHMARK(BM_AddThisYearsBirthdays)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
 
 }  // namespace

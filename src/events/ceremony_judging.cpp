@@ -1,6 +1,8 @@
 #include "events/ceremony_judging.h"
 
 #include <algorithm>
+#include <array>
+#include <unordered_map>
 
 #include "label/scouting.h"
 #include "live/gigs.h"
@@ -20,28 +22,92 @@ bool homeNation(const std::string& name) {
     return name == "England" || name == "Scotland" || name == "Wales" || name == "Northern Ireland";
 }
 
-// The award in `a`; the host market in `market`; the day of judging.
+// Fields read straight from a record's bytes: a candidate that cannot place
+// costs no decoding of its names and leaves the artist, band and disc
+// buffers alone.
+template <class T>
+T fieldAt(const uint8_t* record, std::size_t offset) {
+    return codec::getScalar<T>(record + offset);
+}
+
+template <PackedRecord R>
+std::size_t offsetOf(std::string_view name) {
+    return fieldOffset<R>(name).value();
+}
+
+struct ArtistFields {
+    std::size_t retired = offsetOf<ArtistRecord>("retired");
+    std::size_t band = offsetOf<ArtistRecord>("band");
+    std::size_t reputation = offsetOf<ArtistRecord>("reputation");
+    std::size_t style = offsetOf<ArtistRecord>("style");
+    std::size_t controversy = offsetOf<ArtistRecord>("controversy");
+    std::size_t male = offsetOf<ArtistRecord>("male");
+    std::size_t age = offsetOf<ArtistRecord>("age");
+    std::size_t ability = offsetOf<ArtistRecord>("ability");
+    std::size_t charisma = offsetOf<ArtistRecord>("charisma");
+    std::size_t imageRating = offsetOf<ArtistRecord>("imageRating");
+};
+
+struct BandFields {
+    std::size_t retired = offsetOf<BandRecord>("retired");
+    std::size_t reputation = offsetOf<BandRecord>("reputation");
+    std::size_t style = offsetOf<BandRecord>("style");
+    std::size_t controversy = offsetOf<BandRecord>("controversy");
+    std::size_t formedIn = offsetOf<BandRecord>("formedIn");
+    std::size_t formedInCity = offsetOf<BandRecord>("formedInCity");
+    std::size_t memberCount = offsetOf<BandRecord>("memberCount");
+    std::size_t members = offsetOf<BandRecord>("members");
+    std::size_t age = offsetOf<BandRecord>("age");
+    std::size_t ability = offsetOf<BandRecord>("ability");
+    std::size_t live = offsetOf<BandRecord>("live");
+};
+
+struct DiscFields {
+    std::size_t band = offsetOf<DiscRecord>("band");
+    std::size_t isSingle = offsetOf<DiscRecord>("isSingle");
+    std::size_t releaseDate = offsetOf<DiscRecord>("releaseDate");
+    std::size_t quality = offsetOf<DiscRecord>("quality");
+    std::size_t commerciality = offsetOf<DiscRecord>("commerciality");
+    std::size_t lifetimeSales = offsetOf<DiscRecord>("lifetimeSales");
+};
+
+const ArtistFields& artistFields() {
+    static const ArtistFields f;
+    return f;
+}
+const BandFields& bandFields() {
+    static const BandFields f;
+    return f;
+}
+const DiscFields& discFields() {
+    static const DiscFields f;
+    return f;
+}
+
+// The award in `a`; the host market in `market`; the day of judging; what the
+// style and origin rules said of each style and birthplace met so far.
 struct Judging {
     AwardRecord a;
     int market = 0;
     double today = 0;
+    std::array<int8_t, 256> styleFit{};           // 0 not asked yet, 1 fits, -1 does not
+    std::unordered_map<int32_t, bool> originFit;  // by formedIn, doubled, plus one for a city
 };
 
-bool eligible(const Judging& j, const ArtistRecord& artist) {
-    if (j.a.genderRule == 1 && artist.male == kFalse) return false;
-    if (j.a.genderRule == 2 && artist.male == kTrue) return false;
-    if (j.a.ageClass != 0 && j.a.ageClass != artist.age) return false;
+bool eligible(const Judging& j, int16_t male, uint8_t age) {
+    if (j.a.genderRule == 1 && male == kFalse) return false;
+    if (j.a.genderRule == 2 && male == kTrue) return false;
+    if (j.a.ageClass != 0 && j.a.ageClass != age) return false;
     return true;
 }
 
 bool within(int v, const std::array<uint8_t, 2>& range) { return v >= range[0] && v <= range[1]; }
 
 // An act's origin: formedIn is a city when formedInCity is set, else a country.
-bool originPasses(Game& g, const Judging& j, const BandRecord& band) {
-    if (j.a.originRule == 0) return true;
-    int country = band.formedIn;
-    if (band.formedInCity != 0) {
-        if (!g.city.readIfPresent(band.formedIn)) return false;
+bool originOf(Game& g, const Judging& j, int16_t formedInCity, int16_t formedIn) {
+    int country = formedIn;
+    if (formedInCity != 0) {
+        if (!g.city.readIfPresent(formedIn)) return false;
         country = g.city->country;
     }
     if (!g.country.readIfPresent(country)) return false;
@@ -54,6 +120,17 @@ bool originPasses(Game& g, const Judging& j, const BandRecord& band) {
     }
 }
 
+bool originPasses(Game& g, Judging& j, const uint8_t* band) {
+    if (j.a.originRule == 0) return true;
+    const auto& f = bandFields();
+    const auto inCity = fieldAt<int16_t>(band, f.formedInCity);
+    const auto formedIn = fieldAt<int16_t>(band, f.formedIn);
+    const int32_t key = formedIn * 2 + (inCity != 0 ? 1 : 0);
+    auto known = j.originFit.find(key);
+    if (known == j.originFit.end()) known = j.originFit.emplace(key, originOf(g, j, inCity, formedIn)).first;
+    return known->second;
+}
+
 bool sizePasses(const Judging& j, int members) {
     switch (j.a.sizeRule) {
     case 1: return members == 1;
@@ -63,87 +140,123 @@ bool sizePasses(const Judging& j, int members) {
     }
 }
 
-bool styleFits(Game& g, const Judging& j, int style) {
-    return j.a.styleRule == 0 || stylesAssociated(g, j.a.styleRule, style);
+bool styleFits(Game& g, Judging& j, uint8_t style) {
+    if (j.a.styleRule == 0) return true;
+    int8_t& known = j.styleFit[style];
+    if (known == 0) known = stylesAssociated(g, j.a.styleRule, style) ? 1 : -1;
+    return known > 0;
 }
 
-// Every member of the band in the band buffer passes eligible().
-bool membersEligible(Game& g, const Judging& j) {
-    const BandRecord band = g.band.rec;
-    int n = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
+// Every member of the band passes eligible().
+bool membersEligible(Game& g, const Judging& j, const uint8_t* band) {
+    if (j.a.genderRule == 0 && j.a.ageClass == 0) return true;
+    const auto& f = bandFields();
+    const auto& af = artistFields();
+    const int n = std::min<int>(band[f.memberCount], 10);
     for (int i = 0; i < n; ++i) {
-        if (!g.artist.readIfPresent(band.members[static_cast<std::size_t>(i)])) continue;
-        if (!eligible(j, g.artist.rec)) return false;
+        const auto who = fieldAt<int16_t>(band, f.members + 2 * static_cast<std::size_t>(i));
+        if (who < 1 || who >= g.artist.recordCount()) continue;
+        const uint8_t* a = g.artist.bytesOf(who).data();
+        if (!eligible(j, fieldAt<int16_t>(a, af.male), a[af.age])) return false;
     }
     return true;
 }
 
-void judgeArtists(Game& g, const Judging& j, NomineeList& list) {
+// Whether a candidate of that score would be put on the list.
+bool places(const NomineeList& list, int score) {
+    const auto size = static_cast<int>(list.entries.size());
+    return list.count < size || list.entries[static_cast<std::size_t>(size - 1)].score < score;
+}
+
+void judgeArtists(Game& g, Judging& j, NomineeList& list) {
+    const auto& f = artistFields();
+    const auto& bf = bandFields();
+    const auto market = static_cast<std::size_t>(j.market);
+    const int32_t bands = g.band.recordCount();
     for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
-        g.artist.read(n);
-        const ArtistRecord artist = g.artist.rec;
-        if (artist.retired != kFalse) continue;
-        int h = artist.reputation[static_cast<std::size_t>(j.market)];
-        if (artist.band > 0 && g.band.readIfPresent(artist.band)) {
-            if (g.band->retired != kFalse) continue;
-            h = g.band->reputation[static_cast<std::size_t>(j.market)];
+        const uint8_t* a = g.artist.bytesOf(n).data();
+        if (fieldAt<int16_t>(a, f.retired) != kFalse) continue;
+        int h = a[f.reputation + market];
+        const auto band = fieldAt<int16_t>(a, f.band);
+        if (band > 0 && band < bands) {
+            const uint8_t* b = g.band.bytesOf(band).data();
+            if (fieldAt<int16_t>(b, bf.retired) != kFalse) continue;
+            h = b[bf.reputation + market];
         }
-        if (!styleFits(g, j, artist.style) || !within(artist.controversy, j.a.controversyRange) || !eligible(j, artist))
+        if (!styleFits(g, j, a[f.style]) || !within(a[f.controversy], j.a.controversyRange) ||
+            !eligible(j, fieldAt<int16_t>(a, f.male), a[f.age]))
             continue;
-        int figure = j.a.basis == 2 ? artist.charisma : j.a.basis == 5 ? artist.imageRating : artist.ability;
-        insertNominee(list, mix(j.a.weight, figure, h), static_cast<int16_t>(n),
-                      trim(artist.forename.value) + " " + trim(artist.surname.value));
+        int figure = j.a.basis == 2 ? a[f.charisma] : j.a.basis == 5 ? a[f.imageRating] : a[f.ability];
+        const int score = mix(j.a.weight, figure, h);
+        if (!places(list, score)) continue;
+        g.artist.read(n);
+        insertNominee(list, score, static_cast<int16_t>(n),
+                      trim(g.artist->forename.value) + " " + trim(g.artist->surname.value));
     }
 }
 
-void judgeBands(Game& g, const Judging& j, NomineeList& list) {
+void judgeBands(Game& g, Judging& j, NomineeList& list) {
+    const auto& f = bandFields();
+    const auto market = static_cast<std::size_t>(j.market);
     for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        g.band.read(n);
-        const BandRecord band = g.band.rec;
-        if (band.retired != kFalse) continue;
-        if (!styleFits(g, j, band.style) || !within(band.controversy, j.a.controversyRange)) continue;
-        if (!originPasses(g, j, band) || !sizePasses(j, band.memberCount)) continue;
-        g.band.rec = band;
-        if (band.memberCount == 1 && !membersEligible(g, j)) continue;
-        if (j.a.basis == 4 && band.age >= 2) continue;
-        int h = band.reputation[static_cast<std::size_t>(j.market)];
+        const uint8_t* b = g.band.bytesOf(n).data();
+        if (fieldAt<int16_t>(b, f.retired) != kFalse) continue;
+        if (!styleFits(g, j, b[f.style]) || !within(b[f.controversy], j.a.controversyRange)) continue;
+        const int members = b[f.memberCount];
+        if (!originPasses(g, j, b) || !sizePasses(j, members)) continue;
+        if (members == 1 && !membersEligible(g, j, b)) continue;
+        if (j.a.basis == 4 && b[f.age] >= 2) continue;
+        const int h = b[f.reputation + market];
         int score = 0;
-        if (j.a.basis == 0 || j.a.basis == 4) score = mix(j.a.weight, band.ability, h);
-        if (j.a.basis == 6) score = mix(j.a.weight, band.live, h);
-        insertNominee(list, score, static_cast<int16_t>(n), trim(band.name.value));
+        if (j.a.basis == 0 || j.a.basis == 4) score = mix(j.a.weight, b[f.ability], h);
+        if (j.a.basis == 6) score = mix(j.a.weight, b[f.live], h);
+        if (!places(list, score)) continue;
+        g.band.read(n);
+        insertNominee(list, score, static_cast<int16_t>(n), trim(g.band->name.value));
     }
 }
 
-bool releasedInTheLastYear(const DiscRecord& d, double today) {
-    return std::any_of(d.releaseDate.begin(), d.releaseDate.end(),
-                       [today](double r) { return r > today - 365 && r <= today; });
+bool releasedInTheLastYear(const uint8_t* disc, double today) {
+    const std::size_t at = discFields().releaseDate;
+    for (std::size_t t = 0; t < 5; ++t) {
+        const auto r = fieldAt<double>(disc, at + 8 * t);
+        if (r > today - 365 && r <= today) return true;
+    }
+    return false;
 }
 
-void judgeDiscs(Game& g, const Judging& j, NomineeList& list) {
+void judgeDiscs(Game& g, Judging& j, NomineeList& list) {
+    const auto& f = discFields();
+    const auto& bf = bandFields();
+    const auto market = static_cast<std::size_t>(j.market);
     const bool singles = j.a.kind == 4;
+    const int32_t bands = g.band.recordCount();
     for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        const DiscRecord disc = g.disc.rec;
-        if (disc.band < 1 || (disc.isSingle != 0) != singles || !releasedInTheLastYear(disc, j.today)) continue;
-        if (!g.band.readIfPresent(disc.band)) continue;
-        const BandRecord band = g.band.rec;
-        if (!styleFits(g, j, band.style) || !originPasses(g, j, band) ||
-            !within(band.controversy, j.a.controversyRange) || !within(disc.commerciality, j.a.commercialityRange))
+        const uint8_t* d = g.disc.bytesOf(n).data();
+        const auto band = fieldAt<int16_t>(d, f.band);
+        if (band < 1 || (d[f.isSingle] != 0) != singles || !releasedInTheLastYear(d, j.today)) continue;
+        if (band >= bands) continue;
+        const uint8_t* b = g.band.bytesOf(band).data();
+        if (!styleFits(g, j, b[bf.style]) || !originPasses(g, j, b) ||
+            !within(b[bf.controversy], j.a.controversyRange) || !within(d[f.commerciality], j.a.commercialityRange))
             continue;
-        if (j.a.basis == 4 && band.age >= 2) continue;
-        int h = band.reputation[static_cast<std::size_t>(j.market)];
-        int q = static_cast<int>(roundHalfEven((disc.quality + disc.commerciality) / 2.0));
+        if (j.a.basis == 4 && b[bf.age] >= 2) continue;
+        const int h = b[bf.reputation + market];
+        const int q = static_cast<int>(roundHalfEven((d[f.quality] + d[f.commerciality]) / 2.0));
         int score = 0;
         if (j.a.basis == 0 || j.a.basis == 4) score = mix(j.a.weight, q, h);
         if (j.a.basis == 1) {
             int64_t world = 0;
-            for (int32_t s : disc.lifetimeSales) world += s;
+            for (std::size_t t = 0; t < 5; ++t) world += fieldAt<int32_t>(d, f.lifetimeSales + 4 * t);
             score = salesScore(world);
         }
-        if (j.a.basis == 6) score = mix(j.a.weight, band.live, h);
-        g.band.rec = band;
-        if (!membersEligible(g, j) || !sizePasses(j, band.memberCount)) continue;
-        insertNominee(list, score, static_cast<int16_t>(n), trim(disc.title.value) + " by " + trim(band.name.value));
+        if (j.a.basis == 6) score = mix(j.a.weight, b[bf.live], h);
+        if (!membersEligible(g, j, b) || !sizePasses(j, b[bf.memberCount])) continue;
+        if (!places(list, score)) continue;
+        g.disc.read(n);
+        g.band.read(band);
+        insertNominee(list, score, static_cast<int16_t>(n),
+                      trim(g.disc->title.value) + " by " + trim(g.band->name.value));
     }
 }
 
@@ -189,7 +302,10 @@ int salesScore(int64_t worldSales) {
 }
 
 NomineeList judgeAward(Game& g) {
-    Judging j{g.award.rec, venueMarket(g), g.gameDate};
+    Judging j;
+    j.a = g.award.rec;
+    j.market = venueMarket(g);
+    j.today = g.gameDate;
     NomineeList list;
     switch (j.a.kind) {
     case 0:

@@ -18,19 +18,28 @@ double birthdayIn(double birthDate, int year) {
 }
 
 void addBirthdays(Game& g, int year, double from) {
+    // The few fields needed are read straight from the records' bytes.
+    static const std::size_t retiredAt = fieldOffset<ArtistRecord>("retired").value();
+    static const std::size_t birthAt = fieldOffset<ArtistRecord>("birthDate").value();
+    static const std::size_t idAt = fieldOffset<ArtistRecord>("id").value();
+    static const std::size_t bandAt = fieldOffset<ArtistRecord>("band").value();
     std::vector<ScheduleRecord> entries;
-    for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
-        g.artist.read(n);
-        if (g.artist->retired != 0 || g.artist->birthDate <= kNoDate) continue;
-        const double date = birthdayIn(g.artist->birthDate, year);
+    const int32_t artists = g.artist.recordCount();
+    for (int32_t n = 1; n < artists; ++n) {
+        const uint8_t* a = g.artist.bytesOf(n).data();
+        const auto born = codec::getScalar<double>(a + birthAt);
+        if (codec::getScalar<int16_t>(a + retiredAt) != 0 || born <= kNoDate) continue;
+        const double date = birthdayIn(born, year);
         if (date < from) continue;
         ScheduleRecord r{};
         r.type = 16;
         r.date = date;
-        r.artist = g.artist->id;
-        r.band = g.artist->band;
+        r.artist = codec::getScalar<int16_t>(a + idAt);
+        r.band = codec::getScalar<int16_t>(a + bandAt);
         entries.push_back(r);
     }
+    // The walk leaves the last artist in the buffer.
+    if (artists > 1) g.artist.read(artists - 1);
     addSchedules(g, entries);
 }
 
