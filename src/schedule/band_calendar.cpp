@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "floor/formats.h"
+#include "schedule/engagement_index.h"
 #include "schedule/schedule.h"
 #include "schedule/schedule_types.h"
 #include "world/dates.h"
@@ -71,7 +72,7 @@ bool onTheBill(Game& g, const ScheduleRecord& e, int16_t band) {
     return found;
 }
 
-int32_t engagementOn(Game& g, const DayRecord* d) {
+int32_t walkTheDay(Game& g, const DayRecord* d) {
     if (d == nullptr) return 0;
     int16_t band = g.band->id;
     int32_t supporting = 0;
@@ -88,12 +89,23 @@ int32_t engagementOn(Game& g, const DayRecord* d) {
     return supporting;
 }
 
+// The index answers when it can; the walk of the day's entries otherwise.
+int32_t engagementOn(Game& g, DayReader& reader, double date) {
+    if (auto id = indexedEngagement(g, g.band->id, date)) return *id;
+    return walkTheDay(g, reader.day(date));
+}
+
 }  // namespace
+
+int32_t bandEngagementByWalk(Game& g, double date) {
+    DayReader reader(g);
+    return walkTheDay(g, reader.day(date));
+}
 
 int32_t bandEngagement(Game& g, int mode, double date) {
     if (mode != 1) return 0;
     DayReader reader(g);
-    return engagementOn(g, reader.day(date));
+    return engagementOn(g, reader, date);
 }
 
 int32_t countFreeDays(Game& g, double from, double to) {
@@ -101,14 +113,14 @@ int32_t countFreeDays(Game& g, double from, double to) {
     DayReader reader(g);
     int32_t free = 0;
     for (double d = from; d < to; d += 1)
-        if (engagementOn(g, reader.day(d)) == 0) ++free;
+        if (engagementOn(g, reader, d) == 0) ++free;
     return free;
 }
 
 double nextFreeDate(Game& g, double from) {
     DayReader reader(g);
     double d = from;
-    while (engagementOn(g, reader.day(d)) != 0) d += 1;
+    while (engagementOn(g, reader, d) != 0) d += 1;
     return d;
 }
 
@@ -116,7 +128,7 @@ std::vector<double> nextFreeDates(Game& g, double from, int count) {
     DayReader reader(g);
     std::vector<double> dates;
     for (double d = from; static_cast<int>(dates.size()) < count; d += 1)
-        if (engagementOn(g, reader.day(d)) == 0) dates.push_back(d);
+        if (engagementOn(g, reader, d) == 0) dates.push_back(d);
     return dates;
 }
 
@@ -168,7 +180,7 @@ MonthCalendarView monthCalendar(Game& g, CalendarMonth m) {
         cell.visible = true;
         cell.date = first + (day - 1);
         cell.dayText = formatDate(cell.date, "ddd") + " : " + std::to_string(day) + std::string(daySuffix(day));
-        int32_t busyWith = engagementOn(g, reader.day(cell.date));
+        int32_t busyWith = engagementOn(g, reader, cell.date);
         cell.activity = scheduleActivityText(g, busyWith);
         cell.choosable = cell.activity == "None";
     }

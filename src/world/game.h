@@ -162,6 +162,8 @@ public:
     SideIndex songsByBand;
     SideIndex discsByBand;
     DayIndex discsByDay;
+    // Which entries may engage each band on each day (see band_calendar.h).
+    EngagementIndex engagements;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;
