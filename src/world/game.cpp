@@ -3,6 +3,7 @@
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/journal.h"
+#include "world/news_lookups.h"
 
 namespace trovane {
 
@@ -28,6 +29,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     chart.deferWrites(&parked);
     highscore.deferWrites(&parked);
     watchDiscDates(*this);
+    watchHeldNews(*this);
 }
 
 }  // namespace trovane

@@ -3,6 +3,7 @@
 // numbers of each key, brought up to date from the bytes of the new records,
 // so a lookup never touches the table's buffer.
 #include <cstdint>
+#include <set>
 #include <unordered_map>
 #include <vector>
 
@@ -86,6 +87,21 @@ struct EngagementIndex {
     std::vector<std::vector<int32_t>> entriesOfGig;                  // entries that ever named the gig
 
     void reset() { *this = EngagementIndex{}; }
+};
+
+// The news items still waiting for a reply the player must give, by record
+// number; brought up to date from the bytes of records added since the last
+// lookup and told of every write to the records it already covers.
+struct HeldNewsIndex {
+    uint64_t generation = UINT64_MAX;
+    int32_t covered = 0;
+    std::set<int32_t> held;
+
+    void reset(uint64_t gen) {
+        generation = gen;
+        covered = 0;
+        held.clear();
+    }
 };
 
 }  // namespace trovane
