@@ -8,7 +8,8 @@
 // step after that by being told of every write to the schedule, the gigs and
 // the day files (TableBase::watchWrites). It only narrows the entries to test:
 // each answer applies the calendar's own rules to them, reading their bytes
-// in place, so no table buffer changes.
+// in place, so no table buffer changes (the calendar then leaves the buffers
+// as its walk would).
 #include <cstdint>
 #include <optional>
 
