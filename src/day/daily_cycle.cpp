@@ -27,6 +27,7 @@
 #include "talent/lifecycle.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/news_lookups.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -99,16 +100,18 @@ void runDayOfMonthSteps(Game& g, int year, unsigned month, unsigned day) {
 }  // namespace
 
 bool allRepliesGiven(Game& g) {
-    for (int32_t n = 1; n != g.news.recordCount(); ++n) {
-        g.news.read(n);
-        if (g.news->mustReply == kTrue && g.news->replied == kFalse) {
-            // A second press on the same held item keeps the screen to go back to.
-            if (g.currentScreen != Screen::frmNewsFull) g.previousScreen = g.currentScreen;
-            g.currentScreen = Screen::frmNewsFull;
-            return false;
-        }
+    // The buffer is left where a walk of the news would leave it: at the held
+    // item, or at the last item when none is held.
+    const int32_t held = firstHeldNewsItem(g);
+    if (held == 0) {
+        if (g.news.recordCount() > 1) g.news.read(g.news.recordCount() - 1);
+        return true;
     }
-    return true;
+    g.news.read(held);
+    // A second press on the same held item keeps the screen to go back to.
+    if (g.currentScreen != Screen::frmNewsFull) g.previousScreen = g.currentScreen;
+    g.currentScreen = Screen::frmNewsFull;
+    return false;
 }
 
 void checkDaysSchedule(Game& g) {

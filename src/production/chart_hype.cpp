@@ -1,7 +1,11 @@
 #include "production/chart_hype.h"
 
 #include <algorithm>
+#include <cstring>
+#include <optional>
+#include <span>
 
+#include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/record_store.h"
 
@@ -9,26 +13,50 @@ namespace trovane {
 
 namespace {
 
-bool belongs(const DiscRecord& d, int mode, int32_t who) {
+template <class T>
+T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
+    T v{};
+    std::memcpy(&v, bytes.data() + at, sizeof v);
+    return v;
+}
+
+std::size_t offsetOf(std::optional<std::size_t> at) {
+    if (!at) throw FatalError("the hype spread names a field its record lacks");
+    return *at;
+}
+
+const std::size_t kRowDisc = offsetOf(fieldOffset<ChartRow>("disc"));
+const std::size_t kDiscLabel = offsetOf(fieldOffset<DiscRecord>("label"));
+const std::size_t kDiscBand = offsetOf(fieldOffset<DiscRecord>("band"));
+const std::size_t kDiscId = offsetOf(fieldOffset<DiscRecord>("id"));
+
+// Tests the disc's own bytes, so that only the discs that rise are decoded.
+bool belongs(std::span<const uint8_t> d, int mode, int32_t who) {
     switch (mode) {
-    case 0: return d.label == who;
-    case 1: return d.band == who;
-    case 2: return d.id == who;
+    case 0: return fieldAt<decltype(DiscRecord::label)>(d, kDiscLabel) == who;
+    case 1: return fieldAt<decltype(DiscRecord::band)>(d, kDiscBand) == who;
+    case 2: return fieldAt<decltype(DiscRecord::id)>(d, kDiscId) == who;
     default: return false;
     }
 }
 
+// Leaves the chart and disc buffers at the last row and disc it looked at,
+// as a walk reading each of them would.
 void spreadInChart(Game& g, int mode, int t, int32_t who, int rise) {
-    for (int32_t n = 1; n < g.chart.recordCount(); ++n) {
-        g.chart.read(n);
-        const int16_t disc = g.chart->disc;
+    const int32_t rows = g.chart.recordCount() - 1;
+    int16_t lastDisc = 0;
+    for (int32_t n = 1; n <= rows; ++n) {
+        const auto disc = fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
         if (disc < 1 || disc >= g.disc.recordCount()) continue;
+        lastDisc = disc;
+        if (!belongs(g.disc.bytesOf(disc), mode, who)) continue;
         g.disc.read(disc);
-        if (!belongs(g.disc.rec, mode, who)) continue;
         auto& hype = g.disc->hype[static_cast<std::size_t>(t)];
         hype = static_cast<uint8_t>(std::clamp(hype + rise, 1, 100));
         g.disc.write(disc);
     }
+    if (rows >= 1) g.chart.read(rows);
+    if (lastDisc != 0) g.disc.read(lastDisc);
 }
 
 }  // namespace

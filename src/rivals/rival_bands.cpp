@@ -16,18 +16,21 @@ namespace trovane {
 void computerCheckBands(Game& g) {
     const int16_t player = g.player.playerLabel;
     // A signed band never qualifies and draws nothing, so only the free acts
-    // are read, once a label; judging lists bands and signs none.
-    std::vector<int32_t> free;
+    // are read, once; judging lists bands and signs none, so no band or label
+    // changes while it runs and a copy of each record stands for a read of it.
+    std::vector<BandRecord> free;
     BandRecord b{};
     for (int32_t n = 1; n < g.band.recordCount(); ++n) {
         decodeRecord(g.band.bytesOf(n).data(), b);
-        if (b.retired == kFalse && b.label == 0) free.push_back(n);
+        if (b.retired == kFalse && b.label == 0) free.push_back(b);
     }
+    LabelRecord label{};
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         if (l == player) continue;
-        for (int32_t n : free) {
-            g.band.read(n);
-            g.label.read(l);
+        decodeRecord(g.label.bytesOf(l).data(), label);
+        for (const BandRecord& band : free) {
+            g.band.rec = band;
+            g.label.rec = label;
             considerForShortlist(g, 0);
         }
     }

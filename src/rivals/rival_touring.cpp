@@ -1,6 +1,10 @@
 #include "rivals/rival_touring.h"
 
 #include <algorithm>
+#include <cstring>
+#include <span>
+#include <string_view>
+#include <tuple>
 
 #include <fmt/format.h>
 
@@ -10,6 +14,7 @@
 #include "live/tour_planner.h"
 #include "live/tours.h"
 #include "rivals/rival_promotion.h"
+#include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/strings.h"
 
@@ -34,28 +39,54 @@ std::string areaWord(const std::string& areaCode) {
 }
 
 // The date of each act's last gig, as headliner or on any bill, 0 for none.
+template <class T>
+T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
+    T v{};
+    std::memcpy(&v, bytes.data() + at, sizeof v);
+    return v;
+}
+
+template <class R>
+std::size_t offsetOf(std::string_view name) {
+    auto at = fieldOffset<R>(name);
+    if (!at) throw FatalError("the rivals' touring names a field its record lacks");
+    return *at;
+}
+
+const std::size_t kTourGigCount = offsetOf<TourRecord>("gigCount");
+const std::size_t kTourGigs = offsetOf<TourRecord>("gigs");
+const std::size_t kTourFestival = offsetOf<TourRecord>("festival");
+const std::size_t kGigBill = offsetOf<GigRecord>("bill");
+const std::size_t kGigDate = offsetOf<GigRecord>("gigDate");
+const std::size_t kDiscReleaseDate = offsetOf<DiscRecord>("releaseDate");
+const std::size_t kDiscIsSingle = offsetOf<DiscRecord>("isSingle");
+const std::size_t kDiscBand = offsetOf<DiscRecord>("band");
+const std::size_t kDiscLabel = offsetOf<DiscRecord>("label");
+constexpr std::size_t kGigsOnATour = std::tuple_size_v<decltype(TourRecord::gigs)>;
+constexpr std::size_t kBillSlots = std::tuple_size_v<decltype(GigRecord::bill)>;
+
+// Read from the records' bytes, so the tour and gig buffers are untouched.
 std::vector<double> lastGigOfEachAct(Game& g) {
     std::vector<double> last(static_cast<std::size_t>(std::max(g.band.recordCount(), 1)));
     auto mark = [&](int16_t act, double date) {
         if (act > 0 && act < static_cast<int32_t>(last.size()))
             last[static_cast<std::size_t>(act)] = std::max(last[static_cast<std::size_t>(act)], date);
     };
-    const TourRecord heldTour = g.tour.rec;
-    const GigRecord heldGig = g.gig.rec;
     for (int32_t n = 1; n < g.tour.recordCount(); ++n) {
-        g.tour.read(n);
-        const TourRecord t = g.tour.rec;
-        const int count = std::min<int>(t.gigCount, static_cast<int>(t.gigs.size()));
+        const auto t = g.tour.bytesOf(n);
+        const int count = std::min<int>(fieldAt<uint8_t>(t, kTourGigCount), static_cast<int>(kGigsOnATour));
         if (count == 0) continue;
         // A band's tour carries the same acts on every gig; a festival's bills differ by day.
-        const int from = t.festival > 0 ? 0 : count - 1;
+        const int from = fieldAt<int16_t>(t, kTourFestival) > 0 ? 0 : count - 1;
         for (int i = from; i < count; ++i) {
-            if (!g.gig.readIfPresent(t.gigs[static_cast<std::size_t>(i)])) continue;
-            for (int16_t act : g.gig->bill) mark(act, g.gig->gigDate);
+            const auto gig = fieldAt<int32_t>(t, kTourGigs + 4 * static_cast<std::size_t>(i));
+            if (gig < 1 || gig >= g.gig.recordCount()) continue;
+            const auto bytes = g.gig.bytesOf(gig);
+            const auto date = fieldAt<double>(bytes, kGigDate);
+            for (std::size_t slot = 0; slot < kBillSlots; ++slot)
+                mark(fieldAt<int16_t>(bytes, kGigBill + 2 * slot), date);
         }
     }
-    g.tour.rec = heldTour;
-    g.gig.rec = heldGig;
     return last;
 }
 
@@ -116,15 +147,21 @@ void planTour(Game& g, int mode) {
 void planFollowUpTours(Game& g) {
     const int16_t player = g.player.playerLabel;
     std::vector<int16_t> acts;
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        const DiscRecord& d = g.disc.rec;
-        if (d.isSingle != 0 || d.label < 1 || d.label == player) continue;
-        const bool recent = std::any_of(d.releaseDate.begin(), d.releaseDate.end(), [&](double r) {
-            return r > 0 && r <= g.gameDate && g.gameDate - r <= kFollowUpWindow;
-        });
-        if (recent && std::find(acts.begin(), acts.end(), d.band) == acts.end()) acts.push_back(d.band);
+    // The discs are tested on their bytes; the buffer is left at the last, as a walk reading each leaves it.
+    const int32_t discs = g.disc.recordCount() - 1;
+    for (int32_t n = 1; n <= discs; ++n) {
+        const auto d = g.disc.bytesOf(n);
+        const auto label = fieldAt<int16_t>(d, kDiscLabel);
+        if (fieldAt<uint8_t>(d, kDiscIsSingle) != 0 || label < 1 || label == player) continue;
+        bool recent = false;
+        for (std::size_t t = 0; t < 5; ++t) {
+            const auto r = fieldAt<double>(d, kDiscReleaseDate + 8 * t);
+            if (r > 0 && r <= g.gameDate && g.gameDate - r <= kFollowUpWindow) recent = true;
+        }
+        const auto band = fieldAt<int16_t>(d, kDiscBand);
+        if (recent && std::find(acts.begin(), acts.end(), band) == acts.end()) acts.push_back(band);
     }
+    if (discs >= 1) g.disc.read(discs);
     if (acts.empty()) return;
     const std::vector<double> lastGig = lastGigOfEachAct(g);
     for (int16_t act : acts) {

@@ -1,11 +1,15 @@
 #include "schedule/band_calendar.h"
 
 #include <algorithm>
+#include <cstring>
+#include <optional>
 
 #include "floor/formats.h"
+#include "schedule/engagement_index.h"
 #include "schedule/schedule.h"
 #include "schedule/schedule_types.h"
 #include "world/dates.h"
+#include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/record_store.h"
 #include "world/strings.h"
@@ -13,6 +17,31 @@
 namespace trovane {
 
 namespace {
+
+std::size_t offsetOf(std::optional<std::size_t> at) {
+    if (!at) throw FatalError("the calendar names a field its record lacks");
+    return *at;
+}
+
+const std::size_t kDayEntries = offsetOf(fieldOffset<DayRecord>("entries"));
+const std::size_t kDayCount = offsetOf(fieldOffset<DayRecord>("count"));
+const std::size_t kEntryType = offsetOf(fieldOffset<ScheduleRecord>("type"));
+const std::size_t kEntryBand = offsetOf(fieldOffset<ScheduleRecord>("band"));
+const std::size_t kEntryGig = offsetOf(fieldOffset<ScheduleRecord>("gig"));
+const std::size_t kGigTour = offsetOf(fieldOffset<GigRecord>("tour"));
+const std::size_t kTourFestival = offsetOf(fieldOffset<TourRecord>("festival"));
+
+// The fields of an entry the calendar tests, read from its bytes.
+ScheduleRecord peekEntry(Game& g, int32_t id) {
+    ScheduleRecord e{};
+    e.type = 255;
+    if (id < 1 || id >= g.schedule.recordCount()) return e;
+    const auto bytes = g.schedule.bytesOf(id);
+    std::memcpy(&e.type, bytes.data() + kEntryType, sizeof e.type);
+    std::memcpy(&e.band, bytes.data() + kEntryBand, sizeof e.band);
+    std::memcpy(&e.gig, bytes.data() + kEntryGig, sizeof e.gig);
+    return e;
+}
 
 // Keeps one year's day file open while a stretch of dates is tested, so a
 // stretch costs one opening per year and not one per day.
@@ -40,6 +69,26 @@ public:
         if (!present_) return nullptr;
         g_.dayIndex.read(dayNumberInYear(date));
         return &g_.dayIndex.rec;
+    }
+
+    // The day's entries, read from the file's bytes without the day buffer;
+    // none when its year has no file.
+    std::vector<int32_t> entries(double date) {
+        int year = yearOf(date);
+        if (year != year_) {
+            year_ = year;
+            present_ = hasDayFile(g_, year);
+            closeDayFile(g_);
+            if (present_) openDayFile(g_, year);
+        }
+        if (!present_) return {};
+        const auto bytes = g_.dayIndex.bytesOf(dayNumberInYear(date));
+        int32_t count = 0;
+        std::memcpy(&count, bytes.data() + kDayCount, sizeof count);
+        count = std::clamp(count, 0, kMaxEntriesPerDay);
+        std::vector<int32_t> ids(static_cast<std::size_t>(count));
+        std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
+        return ids;
     }
 
 private:
@@ -71,7 +120,7 @@ bool onTheBill(Game& g, const ScheduleRecord& e, int16_t band) {
     return found;
 }
 
-int32_t engagementOn(Game& g, const DayRecord* d) {
+int32_t walkTheDay(Game& g, const DayRecord* d) {
     if (d == nullptr) return 0;
     int16_t band = g.band->id;
     int32_t supporting = 0;
@@ -88,35 +137,141 @@ int32_t engagementOn(Game& g, const DayRecord* d) {
     return supporting;
 }
 
+// The festival a bill's test reads, found from the bytes of the gig and its
+// tour: 0 when the test reads none.
+int16_t festivalOfGig(Game& g, int32_t gig) {
+    const auto bytes = g.gig.bytesOf(gig);
+    int16_t tour = 0;
+    std::memcpy(&tour, bytes.data() + kGigTour, sizeof tour);
+    if (tour <= 0) return 0;
+    int16_t festival = 0;
+    std::memcpy(&festival, g.tour.bytesOf(tour).data() + kTourFestival, sizeof festival);
+    return festival;
+}
+
+// Leaves the schedule, gig, tour and festival buffers as a walk of the days
+// from `from` to `last` leaves them: the schedule at the last entry the walk
+// read (where it stopped, on the last day with entries), the gig and tour as
+// the last test of a bill read them, the festival as the last test that read
+// one. Days are looked at from the last back, only their entries' bytes
+// read, until all are found.
+void leaveBuffersAsTheWalk(Game& g, DayReader& reader, int16_t band, double from, double last) {
+    bool scheduleLeft = false;
+    bool gigLeft = false;
+    bool festivalLeft = false;
+    for (double d = last; d >= from && !(scheduleLeft && gigLeft && festivalLeft); d -= 1) {
+        const std::vector<int32_t> ids = reader.entries(d);
+        if (ids.empty()) continue;
+        std::size_t stop = ids.size() - 1;
+        for (std::size_t i = 0; i < ids.size(); ++i) {
+            const ScheduleRecord e = peekEntry(g, ids[i]);
+            if (e.band == band && scheduleTypeInfo(e.type).occupiesBand) {
+                stop = i;
+                break;
+            }
+        }
+        if (!scheduleLeft) {
+            g.schedule.read(ids[stop]);
+            scheduleLeft = true;
+        }
+        for (std::size_t i = stop + 1; i-- > 0 && !(gigLeft && festivalLeft);) {
+            const ScheduleRecord e = peekEntry(g, ids[i]);
+            if (e.band == band || !scheduleTypeInfo(e.type).occupiesTheBill || e.gig < 1) continue;
+            const int16_t festival = festivalOfGig(g, e.gig);
+            if (!gigLeft) {
+                static_cast<void>(onTheBill(g, e, band));
+                gigLeft = true;
+                festivalLeft = festival != 0;
+            } else if (festival != 0) {
+                g.festival.read(festival);
+                festivalLeft = true;
+            }
+        }
+    }
+}
+
+// The index answers when it can; the walk of the day's entries otherwise.
+int32_t engagementOn(Game& g, DayReader& reader, double date) {
+    const int16_t band = g.band->id;
+    if (auto id = indexedEngagement(g, band, date)) {
+        leaveBuffersAsTheWalk(g, reader, band, date, date);
+        return *id;
+    }
+    return walkTheDay(g, reader.day(date));
+}
+
+// Whether the band is free on each day of a stretch, the buffers left as the
+// walk of the whole stretch leaves them.
+class StretchTester {
+public:
+    explicit StretchTester(Game& g) : g_(g), reader_(g), band_(g.band->id) {}
+    StretchTester(const StretchTester&) = delete;
+    StretchTester& operator=(const StretchTester&) = delete;
+
+    // Called once the stretch is tested.
+    void finish() {
+        if (indexed_ && walked_) leaveBuffersAsTheWalk(g_, reader_, band_, first_, last_);
+    }
+
+    bool isFree(double date) {
+        if (!walked_) first_ = date;
+        walked_ = true;
+        last_ = date;
+        if (auto id = indexedEngagement(g_, band_, date)) {
+            indexed_ = true;
+            return *id == 0;
+        }
+        indexed_ = false;
+        return walkTheDay(g_, reader_.day(date)) == 0;
+    }
+
+private:
+    Game& g_;
+    DayReader reader_;
+    int16_t band_;
+    bool walked_ = false;
+    bool indexed_ = false;
+    double first_ = 0;
+    double last_ = 0;
+};
+
 }  // namespace
+
+int32_t bandEngagementByWalk(Game& g, double date) {
+    DayReader reader(g);
+    return walkTheDay(g, reader.day(date));
+}
 
 int32_t bandEngagement(Game& g, int mode, double date) {
     if (mode != 1) return 0;
     DayReader reader(g);
-    return engagementOn(g, reader.day(date));
+    return engagementOn(g, reader, date);
 }
 
 int32_t countFreeDays(Game& g, double from, double to) {
     if (from >= to) return 0;
-    DayReader reader(g);
+    StretchTester days(g);
     int32_t free = 0;
     for (double d = from; d < to; d += 1)
-        if (engagementOn(g, reader.day(d)) == 0) ++free;
+        if (days.isFree(d)) ++free;
+    days.finish();
     return free;
 }
 
 double nextFreeDate(Game& g, double from) {
-    DayReader reader(g);
+    StretchTester days(g);
     double d = from;
-    while (engagementOn(g, reader.day(d)) != 0) d += 1;
+    while (!days.isFree(d)) d += 1;
+    days.finish();
     return d;
 }
 
 std::vector<double> nextFreeDates(Game& g, double from, int count) {
-    DayReader reader(g);
+    StretchTester days(g);
     std::vector<double> dates;
     for (double d = from; static_cast<int>(dates.size()) < count; d += 1)
-        if (engagementOn(g, reader.day(d)) == 0) dates.push_back(d);
+        if (days.isFree(d)) dates.push_back(d);
+    days.finish();
     return dates;
 }
 
@@ -168,7 +323,7 @@ MonthCalendarView monthCalendar(Game& g, CalendarMonth m) {
         cell.visible = true;
         cell.date = first + (day - 1);
         cell.dayText = formatDate(cell.date, "ddd") + " : " + std::to_string(day) + std::string(daySuffix(day));
-        int32_t busyWith = engagementOn(g, reader.day(cell.date));
+        int32_t busyWith = engagementOn(g, reader, cell.date);
         cell.activity = scheduleActivityText(g, busyWith);
         cell.choosable = cell.activity == "None";
     }

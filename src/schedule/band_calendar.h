@@ -18,10 +18,17 @@ class Game;
 // slots of a tour, any slot of a festival) makes it busy too, and the last
 // such entry of the day is the answer. Only mode 1 tests anything. A year
 // without a day file is free. Leaves the schedule, gig, tour and festival
-// buffers changed.
+// buffers as a walk of the day's entries leaves them, and no day file open;
+// the answer comes from the engagement index, or from that walk when the
+// index cannot give it (a day file was open).
 int32_t bandEngagement(Game& g, int mode, double date);
 
-// Days from `from` up to but not including `to` on which the current band is free.
+// The same answer found by walking every entry of the day, as the index's
+// check; leaves the schedule, gig, tour and festival buffers changed.
+int32_t bandEngagementByWalk(Game& g, double date);
+
+// Days from `from` up to but not including `to` on which the current band is
+// free. These three leave the buffers as a walk of every day they test does.
 int32_t countFreeDays(Game& g, double from, double to);
 
 // The first date on or after `from` on which the current band is free.

@@ -5,6 +5,7 @@
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/journal.h"
+#include "world/news_lookups.h"
 
 namespace trovane {
 
@@ -32,6 +33,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     watchDiscDates(*this);
     watchActNames(*this);
     watchArtistSets(*this);
+    watchHeldNews(*this);
 }
 
 }  // namespace trovane

@@ -175,6 +175,10 @@ public:
     NameRows surnameRows;
     CityRows cityRows;
     ArtistSets artistSets;
+    // Which entries may engage each band on each day (see band_calendar.h).
+    EngagementIndex engagements;
+    // The news items waiting for a reply (see news_lookups.h).
+    HeldNewsIndex heldNews;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

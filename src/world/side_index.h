@@ -3,6 +3,7 @@
 // numbers of each key, brought up to date from the bytes of the new records,
 // so a lookup never touches the table's buffer.
 #include <cstdint>
+#include <set>
 #include <unordered_map>
 #include <vector>
 
@@ -59,6 +60,47 @@ struct DayIndex {
         static const std::vector<int32_t> none;
         auto it = byDay.find(day);
         return it == byDay.end() ? none : it->second;
+    }
+};
+
+// The schedule entries that may engage each band, by day: an entry of the
+// band's own that occupies it, or an entry whose gig has the band anywhere on
+// its bill. Kept in step with the schedule, the gigs and the day files by the
+// schedule layer (see schedule/engagement_index.h).
+struct EngagementIndex {
+    struct Item {
+        int32_t day;  // the day serial
+        int32_t pos;  // the entry's place in the day's list
+        int32_t id;
+    };
+    struct Listing {
+        int32_t day = 0;  // 0: the entry is on no day
+        int32_t pos = 0;
+    };
+
+    bool built = false;
+    uint64_t scheduleGeneration = UINT64_MAX;
+    uint64_t gigGeneration = UINT64_MAX;
+    std::vector<std::vector<Item>> byBand;                           // each sorted by day, then place
+    std::vector<Listing> firstListing;                               // by entry number
+    std::unordered_map<int32_t, std::vector<Listing>> moreListings;  // an entry listed on several days
+    std::vector<std::vector<int32_t>> entriesOfGig;                  // entries that ever named the gig
+
+    void reset() { *this = EngagementIndex{}; }
+};
+
+// The news items still waiting for a reply the player must give, by record
+// number; brought up to date from the bytes of records added since the last
+// lookup and told of every write to the records it already covers.
+struct HeldNewsIndex {
+    uint64_t generation = UINT64_MAX;
+    int32_t covered = 0;
+    std::set<int32_t> held;
+
+    void reset(uint64_t gen) {
+        generation = gen;
+        covered = 0;
+        held.clear();
     }
 };
 

@@ -136,6 +136,22 @@ TEST_F(Charts, ARiseSpreadsOverTheDiscsItNames) {
     EXPECT_EQ(disc(elsewhere).hype[0], 50);
 }
 
+TEST_F(Charts, ARiseByDiscReachesThatDiscAndLeavesTheBuffersAtTheLastRow) {
+    int16_t first = addDisc("First"), second = addDisc("Second");
+    addRow(0, first);
+    addRow(0, second);
+    addRow(0, 0);  // an empty row is passed over
+    spreadHypeRise(g, 2, 0, first, 5);
+    EXPECT_EQ(g.disc->id, second);  // the last disc the chart names
+    EXPECT_EQ(g.disc->hype[0], 50);
+    EXPECT_EQ(disc(first).hype[0], 55);
+    openChart(g, 0);
+    spreadHypeRise(g, 2, 0, second, 5);
+    EXPECT_EQ(g.chart->row, 3);
+    EXPECT_EQ(g.disc->hype[0], 55);  // read back after its rise
+    closeChart(g);
+}
+
 TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelow) {
     int16_t sold = addDisc("Sold"), unsold = addDisc("Unsold");
     g.disc.read(sold);
