@@ -175,7 +175,7 @@ std::vector<int32_t> entriesIn(Bytes day) {
     if (day.empty()) return {};
     const int32_t count = std::clamp(fieldAt<int32_t>(day, kDayCount), 0, kMaxEntriesPerDay);
     std::vector<int32_t> ids(static_cast<std::size_t>(count));
-    std::memcpy(ids.data(), day.data() + kDayEntries, ids.size() * sizeof(int32_t));
+    if (count > 0) std::memcpy(ids.data(), day.data() + kDayEntries, ids.size() * sizeof(int32_t));
     return ids;
 }
 
