@@ -87,7 +87,7 @@ public:
         std::memcpy(&count, bytes.data() + kDayCount, sizeof count);
         count = std::clamp(count, 0, kMaxEntriesPerDay);
         std::vector<int32_t> ids(static_cast<std::size_t>(count));
-        std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
+        if (count > 0) std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
         return ids;
     }
 
