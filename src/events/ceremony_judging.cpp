@@ -8,6 +8,7 @@
 #include "live/gigs.h"
 #include "world/game.h"
 #include "world/numbers.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -25,50 +26,40 @@ bool homeNation(const std::string& name) {
 // Fields read straight from a record's bytes: a candidate that cannot place
 // costs no decoding of its names and leaves the artist, band and disc
 // buffers alone.
-template <class T>
-T fieldAt(const uint8_t* record, std::size_t offset) {
-    return codec::getScalar<T>(record + offset);
-}
-
-template <PackedRecord R>
-std::size_t offsetOf(std::string_view name) {
-    return fieldOffset<R>(name).value();
-}
-
 struct ArtistFields {
-    std::size_t retired = offsetOf<ArtistRecord>("retired");
-    std::size_t band = offsetOf<ArtistRecord>("band");
-    std::size_t reputation = offsetOf<ArtistRecord>("reputation");
-    std::size_t style = offsetOf<ArtistRecord>("style");
-    std::size_t controversy = offsetOf<ArtistRecord>("controversy");
-    std::size_t male = offsetOf<ArtistRecord>("male");
-    std::size_t age = offsetOf<ArtistRecord>("age");
-    std::size_t ability = offsetOf<ArtistRecord>("ability");
-    std::size_t charisma = offsetOf<ArtistRecord>("charisma");
-    std::size_t imageRating = offsetOf<ArtistRecord>("imageRating");
+    std::size_t retired = offsetIn<ArtistRecord>("retired");
+    std::size_t band = offsetIn<ArtistRecord>("band");
+    std::size_t reputation = offsetIn<ArtistRecord>("reputation");
+    std::size_t style = offsetIn<ArtistRecord>("style");
+    std::size_t controversy = offsetIn<ArtistRecord>("controversy");
+    std::size_t male = offsetIn<ArtistRecord>("male");
+    std::size_t age = offsetIn<ArtistRecord>("age");
+    std::size_t ability = offsetIn<ArtistRecord>("ability");
+    std::size_t charisma = offsetIn<ArtistRecord>("charisma");
+    std::size_t imageRating = offsetIn<ArtistRecord>("imageRating");
 };
 
 struct BandFields {
-    std::size_t retired = offsetOf<BandRecord>("retired");
-    std::size_t reputation = offsetOf<BandRecord>("reputation");
-    std::size_t style = offsetOf<BandRecord>("style");
-    std::size_t controversy = offsetOf<BandRecord>("controversy");
-    std::size_t formedIn = offsetOf<BandRecord>("formedIn");
-    std::size_t formedInCity = offsetOf<BandRecord>("formedInCity");
-    std::size_t memberCount = offsetOf<BandRecord>("memberCount");
-    std::size_t members = offsetOf<BandRecord>("members");
-    std::size_t age = offsetOf<BandRecord>("age");
-    std::size_t ability = offsetOf<BandRecord>("ability");
-    std::size_t live = offsetOf<BandRecord>("live");
+    std::size_t retired = offsetIn<BandRecord>("retired");
+    std::size_t reputation = offsetIn<BandRecord>("reputation");
+    std::size_t style = offsetIn<BandRecord>("style");
+    std::size_t controversy = offsetIn<BandRecord>("controversy");
+    std::size_t formedIn = offsetIn<BandRecord>("formedIn");
+    std::size_t formedInCity = offsetIn<BandRecord>("formedInCity");
+    std::size_t memberCount = offsetIn<BandRecord>("memberCount");
+    std::size_t members = offsetIn<BandRecord>("members");
+    std::size_t age = offsetIn<BandRecord>("age");
+    std::size_t ability = offsetIn<BandRecord>("ability");
+    std::size_t live = offsetIn<BandRecord>("live");
 };
 
 struct DiscFields {
-    std::size_t band = offsetOf<DiscRecord>("band");
-    std::size_t isSingle = offsetOf<DiscRecord>("isSingle");
-    std::size_t releaseDate = offsetOf<DiscRecord>("releaseDate");
-    std::size_t quality = offsetOf<DiscRecord>("quality");
-    std::size_t commerciality = offsetOf<DiscRecord>("commerciality");
-    std::size_t lifetimeSales = offsetOf<DiscRecord>("lifetimeSales");
+    std::size_t band = offsetIn<DiscRecord>("band");
+    std::size_t isSingle = offsetIn<DiscRecord>("isSingle");
+    std::size_t releaseDate = offsetIn<DiscRecord>("releaseDate");
+    std::size_t quality = offsetIn<DiscRecord>("quality");
+    std::size_t commerciality = offsetIn<DiscRecord>("commerciality");
+    std::size_t lifetimeSales = offsetIn<DiscRecord>("lifetimeSales");
 };
 
 const ArtistFields& artistFields() {

@@ -5,6 +5,7 @@
 #include "floor/formats.h"
 #include "schedule/schedule.h"
 #include "world/dates.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
@@ -19,23 +20,23 @@ double birthdayIn(double birthDate, int year) {
 
 void addBirthdays(Game& g, int year, double from) {
     // The few fields needed are read straight from the records' bytes.
-    static const std::size_t retiredAt = fieldOffset<ArtistRecord>("retired").value();
-    static const std::size_t birthAt = fieldOffset<ArtistRecord>("birthDate").value();
-    static const std::size_t idAt = fieldOffset<ArtistRecord>("id").value();
-    static const std::size_t bandAt = fieldOffset<ArtistRecord>("band").value();
+    static const std::size_t retiredAt = offsetIn<ArtistRecord>("retired");
+    static const std::size_t birthAt = offsetIn<ArtistRecord>("birthDate");
+    static const std::size_t idAt = offsetIn<ArtistRecord>("id");
+    static const std::size_t bandAt = offsetIn<ArtistRecord>("band");
     std::vector<ScheduleRecord> entries;
     const int32_t artists = g.artist.recordCount();
     for (int32_t n = 1; n < artists; ++n) {
         const uint8_t* a = g.artist.bytesOf(n).data();
-        const auto born = codec::getScalar<double>(a + birthAt);
-        if (codec::getScalar<int16_t>(a + retiredAt) != 0 || born <= kNoDate) continue;
+        const auto born = fieldAt<double>(a, birthAt);
+        if (fieldAt<int16_t>(a, retiredAt) != 0 || born <= kNoDate) continue;
         const double date = birthdayIn(born, year);
         if (date < from) continue;
         ScheduleRecord r{};
         r.type = 16;
         r.date = date;
-        r.artist = codec::getScalar<int16_t>(a + idAt);
-        r.band = codec::getScalar<int16_t>(a + bandAt);
+        r.artist = fieldAt<int16_t>(a, idAt);
+        r.band = fieldAt<int16_t>(a, bandAt);
         entries.push_back(r);
     }
     // The walk leaves the last artist in the buffer.

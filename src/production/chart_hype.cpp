@@ -7,28 +7,17 @@
 
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 
 namespace trovane {
 
 namespace {
 
-template <class T>
-T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
-    T v{};
-    std::memcpy(&v, bytes.data() + at, sizeof v);
-    return v;
-}
-
-std::size_t offsetOf(std::optional<std::size_t> at) {
-    if (!at) throw FatalError("the hype spread names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kRowDisc = offsetOf(fieldOffset<ChartRow>("disc"));
-const std::size_t kDiscLabel = offsetOf(fieldOffset<DiscRecord>("label"));
-const std::size_t kDiscBand = offsetOf(fieldOffset<DiscRecord>("band"));
-const std::size_t kDiscId = offsetOf(fieldOffset<DiscRecord>("id"));
+const std::size_t kRowDisc = offsetIn<ChartRow>("disc");
+const std::size_t kDiscLabel = offsetIn<DiscRecord>("label");
+const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+const std::size_t kDiscId = offsetIn<DiscRecord>("id");
 
 // Tests the disc's own bytes, so that only the discs that rise are decoded.
 bool belongs(std::span<const uint8_t> d, int mode, int32_t who) {

@@ -16,6 +16,7 @@
 #include "rivals/rival_promotion.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -39,29 +40,15 @@ std::string areaWord(const std::string& areaCode) {
 }
 
 // The date of each act's last gig, as headliner or on any bill, 0 for none.
-template <class T>
-T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
-    T v{};
-    std::memcpy(&v, bytes.data() + at, sizeof v);
-    return v;
-}
-
-template <class R>
-std::size_t offsetOf(std::string_view name) {
-    auto at = fieldOffset<R>(name);
-    if (!at) throw FatalError("the rivals' touring names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kTourGigCount = offsetOf<TourRecord>("gigCount");
-const std::size_t kTourGigs = offsetOf<TourRecord>("gigs");
-const std::size_t kTourFestival = offsetOf<TourRecord>("festival");
-const std::size_t kGigBill = offsetOf<GigRecord>("bill");
-const std::size_t kGigDate = offsetOf<GigRecord>("gigDate");
-const std::size_t kDiscReleaseDate = offsetOf<DiscRecord>("releaseDate");
-const std::size_t kDiscIsSingle = offsetOf<DiscRecord>("isSingle");
-const std::size_t kDiscBand = offsetOf<DiscRecord>("band");
-const std::size_t kDiscLabel = offsetOf<DiscRecord>("label");
+const std::size_t kTourGigCount = offsetIn<TourRecord>("gigCount");
+const std::size_t kTourGigs = offsetIn<TourRecord>("gigs");
+const std::size_t kTourFestival = offsetIn<TourRecord>("festival");
+const std::size_t kGigBill = offsetIn<GigRecord>("bill");
+const std::size_t kGigDate = offsetIn<GigRecord>("gigDate");
+const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
+const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
+const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+const std::size_t kDiscLabel = offsetIn<DiscRecord>("label");
 constexpr std::size_t kGigsOnATour = std::tuple_size_v<decltype(TourRecord::gigs)>;
 constexpr std::size_t kBillSlots = std::tuple_size_v<decltype(GigRecord::bill)>;
 

@@ -11,6 +11,7 @@
 #include "world/dates.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
@@ -18,18 +19,13 @@ namespace trovane {
 
 namespace {
 
-std::size_t offsetOf(std::optional<std::size_t> at) {
-    if (!at) throw FatalError("the calendar names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kDayEntries = offsetOf(fieldOffset<DayRecord>("entries"));
-const std::size_t kDayCount = offsetOf(fieldOffset<DayRecord>("count"));
-const std::size_t kEntryType = offsetOf(fieldOffset<ScheduleRecord>("type"));
-const std::size_t kEntryBand = offsetOf(fieldOffset<ScheduleRecord>("band"));
-const std::size_t kEntryGig = offsetOf(fieldOffset<ScheduleRecord>("gig"));
-const std::size_t kGigTour = offsetOf(fieldOffset<GigRecord>("tour"));
-const std::size_t kTourFestival = offsetOf(fieldOffset<TourRecord>("festival"));
+const std::size_t kDayEntries = offsetIn<DayRecord>("entries");
+const std::size_t kDayCount = offsetIn<DayRecord>("count");
+const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
+const std::size_t kEntryBand = offsetIn<ScheduleRecord>("band");
+const std::size_t kEntryGig = offsetIn<ScheduleRecord>("gig");
+const std::size_t kGigTour = offsetIn<GigRecord>("tour");
+const std::size_t kTourFestival = offsetIn<TourRecord>("festival");
 
 // The fields of an entry the calendar tests, read from its bytes.
 ScheduleRecord peekEntry(Game& g, int32_t id) {
@@ -37,9 +33,9 @@ ScheduleRecord peekEntry(Game& g, int32_t id) {
     e.type = 255;
     if (id < 1 || id >= g.schedule.recordCount()) return e;
     const auto bytes = g.schedule.bytesOf(id);
-    std::memcpy(&e.type, bytes.data() + kEntryType, sizeof e.type);
-    std::memcpy(&e.band, bytes.data() + kEntryBand, sizeof e.band);
-    std::memcpy(&e.gig, bytes.data() + kEntryGig, sizeof e.gig);
+    e.type = fieldAt<decltype(e.type)>(bytes, kEntryType);
+    e.band = fieldAt<decltype(e.band)>(bytes, kEntryBand);
+    e.gig = fieldAt<decltype(e.gig)>(bytes, kEntryGig);
     return e;
 }
 
@@ -83,9 +79,7 @@ public:
         }
         if (!present_) return {};
         const auto bytes = g_.dayIndex.bytesOf(dayNumberInYear(date));
-        int32_t count = 0;
-        std::memcpy(&count, bytes.data() + kDayCount, sizeof count);
-        count = std::clamp(count, 0, kMaxEntriesPerDay);
+        const int32_t count = std::clamp(fieldAt<int32_t>(bytes, kDayCount), 0, kMaxEntriesPerDay);
         std::vector<int32_t> ids(static_cast<std::size_t>(count));
         if (count > 0) std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
         return ids;
@@ -140,13 +134,9 @@ int32_t walkTheDay(Game& g, const DayRecord* d) {
 // The festival a bill's test reads, found from the bytes of the gig and its
 // tour: 0 when the test reads none.
 int16_t festivalOfGig(Game& g, int32_t gig) {
-    const auto bytes = g.gig.bytesOf(gig);
-    int16_t tour = 0;
-    std::memcpy(&tour, bytes.data() + kGigTour, sizeof tour);
+    const auto tour = fieldAt<int16_t>(g.gig.bytesOf(gig), kGigTour);
     if (tour <= 0) return 0;
-    int16_t festival = 0;
-    std::memcpy(&festival, g.tour.bytesOf(tour).data() + kTourFestival, sizeof festival);
-    return festival;
+    return fieldAt<int16_t>(g.tour.bytesOf(tour), kTourFestival);
 }
 
 // Leaves the schedule, gig, tour and festival buffers as a walk of the days

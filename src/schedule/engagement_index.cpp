@@ -11,42 +11,27 @@
 #include "world/dates.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 
 namespace trovane {
 
 namespace {
 
-static_assert(std::endian::native == std::endian::little, "records are read in place as little-endian");
-
 using Item = EngagementIndex::Item;
 using Listing = EngagementIndex::Listing;
 using Bytes = std::span<const uint8_t>;
 
-template <class T>
-T fieldAt(Bytes bytes, std::size_t at) {
-    T v{};
-    std::memcpy(&v, bytes.data() + at, sizeof v);
-    return v;
-}
-
-template <class R>
-std::size_t offsetOf(std::string_view name) {
-    auto at = fieldOffset<R>(name);
-    if (!at) throw FatalError("the engagement index names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kEntryType = offsetOf<ScheduleRecord>("type");
-const std::size_t kEntryBand = offsetOf<ScheduleRecord>("band");
-const std::size_t kEntryGig = offsetOf<ScheduleRecord>("gig");
-const std::size_t kGigBill = offsetOf<GigRecord>("bill");
-const std::size_t kGigTour = offsetOf<GigRecord>("tour");
-const std::size_t kTourFestival = offsetOf<TourRecord>("festival");
-const std::size_t kTourSupport = offsetOf<TourRecord>("supportCount");
-const std::size_t kFestivalBillSize = offsetOf<FestivalRecord>("billSize");
-const std::size_t kDayEntries = offsetOf<DayRecord>("entries");
-const std::size_t kDayCount = offsetOf<DayRecord>("count");
+const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
+const std::size_t kEntryBand = offsetIn<ScheduleRecord>("band");
+const std::size_t kEntryGig = offsetIn<ScheduleRecord>("gig");
+const std::size_t kGigBill = offsetIn<GigRecord>("bill");
+const std::size_t kGigTour = offsetIn<GigRecord>("tour");
+const std::size_t kTourFestival = offsetIn<TourRecord>("festival");
+const std::size_t kTourSupport = offsetIn<TourRecord>("supportCount");
+const std::size_t kFestivalBillSize = offsetIn<FestivalRecord>("billSize");
+const std::size_t kDayEntries = offsetIn<DayRecord>("entries");
+const std::size_t kDayCount = offsetIn<DayRecord>("count");
 constexpr int kBillSlots = static_cast<int>(std::tuple_size_v<decltype(GigRecord::bill)>);
 
 struct Entry {

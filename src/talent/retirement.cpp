@@ -14,6 +14,7 @@
 #include "world/artist_sets.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -166,8 +167,8 @@ namespace {
 // Whether the artist of these bytes has the job and one of the styles, read
 // without decoding the record, so the search decodes only its candidates.
 bool mayReplace(std::span<const uint8_t> bytes, uint8_t job, const std::set<int>& styles) {
-    static const std::size_t jobAt = fieldOffset<ArtistRecord>("job").value();
-    static const std::size_t styleAt = fieldOffset<ArtistRecord>("style").value();
+    static const std::size_t jobAt = offsetIn<ArtistRecord>("job");
+    static const std::size_t styleAt = offsetIn<ArtistRecord>("style");
     return bytes[jobAt] == job && styles.contains(bytes[styleAt]);
 }
 

@@ -8,21 +8,17 @@
 
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 namespace {
 
-std::size_t offsetOf(std::optional<std::size_t> at) {
-    if (!at) throw FatalError("a side index names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kBandName = offsetOf(fieldOffset<BandRecord>("name"));
-const std::size_t kBandRetired = offsetOf(fieldOffset<BandRecord>("retired"));
-const std::size_t kNewBandName = offsetOf(fieldOffset<NewBandRecord>("name"));
-const std::size_t kNewBandStyle = offsetOf(fieldOffset<NewBandRecord>("style"));
+const std::size_t kBandName = offsetIn<BandRecord>("name");
+const std::size_t kBandRetired = offsetIn<BandRecord>("retired");
+const std::size_t kNewBandName = offsetIn<NewBandRecord>("name");
+const std::size_t kNewBandStyle = offsetIn<NewBandRecord>("style");
 
 template <std::size_t N>
 std::string textAt(std::span<const uint8_t> bytes, std::size_t at) {
@@ -33,9 +29,7 @@ std::string textAt(std::span<const uint8_t> bytes, std::size_t at) {
 
 // The name an act bears while it has not retired, or none.
 std::optional<std::string> activeName(std::span<const uint8_t> bytes) {
-    int16_t retired = 0;
-    std::memcpy(&retired, bytes.data() + kBandRetired, sizeof retired);
-    if (retired != kFalse) return std::nullopt;
+    if (fieldAt<int16_t>(bytes, kBandRetired) != kFalse) return std::nullopt;
     return textAt<50>(bytes, kBandName);
 }
 

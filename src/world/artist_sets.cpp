@@ -5,25 +5,16 @@
 
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
 namespace {
 
-std::size_t offsetOf(std::optional<std::size_t> at) {
-    if (!at) throw FatalError("a side index names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kRetired = offsetOf(fieldOffset<ArtistRecord>("retired"));
-const std::size_t kEnergy = offsetOf(fieldOffset<ArtistRecord>("energy"));
-const std::size_t kSongQuality = offsetOf(fieldOffset<ArtistRecord>("songQuality"));
-const std::size_t kWritingFocus = offsetOf(fieldOffset<ArtistRecord>("writingFocus"));
-
-template <class T>
-T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
-    return codec::getScalar<T>(bytes.data() + at);
-}
+const std::size_t kRetired = offsetIn<ArtistRecord>("retired");
+const std::size_t kEnergy = offsetIn<ArtistRecord>("energy");
+const std::size_t kSongQuality = offsetIn<ArtistRecord>("songQuality");
+const std::size_t kWritingFocus = offsetIn<ArtistRecord>("writingFocus");
 
 bool isActive(std::span<const uint8_t> bytes) { return fieldAt<int16_t>(bytes, kRetired) == kFalse; }
 

@@ -10,29 +10,16 @@
 #include "world/dates.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
 namespace {
 
-static_assert(std::endian::native == std::endian::little, "records are read in place as little-endian");
-
-template <class T>
-T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
-    T v{};
-    std::memcpy(&v, bytes.data() + at, sizeof v);
-    return v;
-}
-
-std::size_t offsetOf(std::optional<std::size_t> at) {
-    if (!at) throw FatalError("a side index names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kSongBand = offsetOf(fieldOffset<SongRecord>("band"));
-const std::size_t kSongDisc = offsetOf(fieldOffset<SongRecord>("disc"));
-const std::size_t kDiscBand = offsetOf(fieldOffset<DiscRecord>("band"));
-const std::size_t kDiscDates = offsetOf(fieldOffset<DiscRecord>("releaseDate"));
+const std::size_t kSongBand = offsetIn<SongRecord>("band");
+const std::size_t kSongDisc = offsetIn<SongRecord>("disc");
+const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+const std::size_t kDiscDates = offsetIn<DiscRecord>("releaseDate");
 
 constexpr uint16_t kNotOnDisc = 65535;
 

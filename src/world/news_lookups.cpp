@@ -7,29 +7,17 @@
 
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
 namespace {
 
-static_assert(std::endian::native == std::endian::little, "records are read in place as little-endian");
-
-std::size_t offsetOf(std::optional<std::size_t> at) {
-    if (!at) throw FatalError("a side index names a field its record lacks");
-    return *at;
-}
-
-const std::size_t kMustReply = offsetOf(fieldOffset<NewsRecord>("mustReply"));
-const std::size_t kReplied = offsetOf(fieldOffset<NewsRecord>("replied"));
-
-int16_t flagAt(std::span<const uint8_t> bytes, std::size_t at) {
-    int16_t v = 0;
-    std::memcpy(&v, bytes.data() + at, sizeof v);
-    return v;
-}
+const std::size_t kMustReply = offsetIn<NewsRecord>("mustReply");
+const std::size_t kReplied = offsetIn<NewsRecord>("replied");
 
 bool isHeld(std::span<const uint8_t> bytes) {
-    return flagAt(bytes, kMustReply) == kTrue && flagAt(bytes, kReplied) == kFalse;
+    return fieldAt<int16_t>(bytes, kMustReply) == kTrue && fieldAt<int16_t>(bytes, kReplied) == kFalse;
 }
 
 }  // namespace

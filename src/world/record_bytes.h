@@ -1,0 +1,51 @@
+#pragma once
+// One field read straight from a record's packed bytes, for walks that need a
+// field or two of many records and would waste their time decoding each whole
+// record (and spelling out every name in it):
+//
+//   const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+//   if (fieldAt<int16_t>(g.disc.bytesOf(n), kDiscBand) == band) ...
+//
+// Numbers are stored little-endian, so on this machine they are read in place.
+#include <bit>
+#include <cassert>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "world/fatal_error.h"
+#include "world/record_codec.h"
+
+namespace trovane {
+
+static_assert(std::endian::native == std::endian::little, "records are read in place as little-endian");
+
+// The value of type T at byte offset at of a record's bytes.
+template <class T>
+T fieldAt(std::span<const uint8_t> bytes, std::size_t at) {
+    assert(at + sizeof(T) <= bytes.size());
+    T v;
+    std::memcpy(&v, bytes.data() + at, sizeof v);
+    return v;
+}
+
+// The same, at byte offset at of a record whose bytes start at record.
+template <class T>
+T fieldAt(const uint8_t* record, std::size_t at) {
+    T v;
+    std::memcpy(&v, record + at, sizeof v);
+    return v;
+}
+
+// The byte offset of a field of R, by the name it is declared under ("band",
+// or "player.gameNumber" for a nested one). A name R lacks is a fault in the
+// program, reported when the offset is first taken.
+template <PackedRecord R>
+std::size_t offsetIn(std::string_view name) {
+    if (auto at = fieldOffset<R>(name)) return *at;
+    throw FatalError("a record is read for a field it lacks: " + std::string(name));
+}
+
+}  // namespace trovane
