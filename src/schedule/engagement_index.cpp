@@ -172,12 +172,20 @@ bool isCurrent(Game& g) {
 
 // The day serial a write to the open day file is about, or 0 for a file that
 // is not one of this game's years.
-int32_t daySerialOfWrite(Game& g, int32_t n) {
+int32_t januaryFirstOfDayFile(Game& g) {
     const std::string stem = g.dayIndex.path().stem().string();
     if (stem.empty() || !std::all_of(stem.begin(), stem.end(), [](char c) { return c >= '0' && c <= '9'; })) return 0;
-    const int year = std::stoi(stem);
     if (g.dayIndex.path() != dataFile(g, stem, "vel")) return 0;
-    return static_cast<int32_t>(serialFromCivil(year, 1, 1)) + n - 1;
+    return static_cast<int32_t>(serialFromCivil(std::stoi(stem), 1, 1));
+}
+
+int32_t daySerialOfWrite(Game& g, int32_t n) {
+    EngagementIndex& x = g.engagements;
+    if (x.dayFileGeneration != g.dayIndex.generation()) {  // the path is read once each time a file is opened
+        x.dayFileJanuary1 = januaryFirstOfDayFile(g);
+        x.dayFileGeneration = g.dayIndex.generation();
+    }
+    return x.dayFileJanuary1 == 0 ? 0 : x.dayFileJanuary1 + n - 1;
 }
 
 void watchTheCalendar(Game& g) {

@@ -85,6 +85,10 @@ struct EngagementIndex {
     std::vector<Listing> firstListing;                               // by entry number
     std::unordered_map<int32_t, std::vector<Listing>> moreListings;  // an entry listed on several days
     std::vector<std::vector<int32_t>> entriesOfGig;                  // entries that ever named the gig
+    // The open day file, as its path was last read: the serial of its 1 January,
+    // 0 for a file that is not one of this game's years.
+    uint64_t dayFileGeneration = UINT64_MAX;
+    int32_t dayFileJanuary1 = 0;
 
     void reset() { *this = EngagementIndex{}; }
 };

@@ -101,6 +101,7 @@ TEST(TextField, IsStoredAsBlankPaddedWindows1252) {
     const TextCase cases[] = {
         {"Café", "Caf\xE9", "Café"},
         {"€uro", "\x80uro", "€uro"},
+        {"Crossroads Café Bar", "Crossroads Caf\xE9 Bar", "Crossroads Café Bar"},  // past the first eight bytes
         {"  leading", "  leading", "  leading"},
         {"trailing   ", "trailing", "trailing"},
         {"日本", "??", "??"},                                                // no byte in Windows-1252
