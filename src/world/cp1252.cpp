@@ -65,14 +65,15 @@ void appendCp1252AsUtf8(std::string& out, std::string_view bytes) {
         return;
     }
     out.reserve(out.size() + bytes.size() * 2);
-    for (char c : bytes) {
-        auto b = static_cast<uint8_t>(c);
-        if (b < 0x80)
-            out += c;
-        else if (b < 0xA0)
-            appendUtf8(out, kHighControls[b - 0x80]);
-        else
-            appendUtf8(out, b);
+    std::size_t i = 0;
+    while (i < bytes.size()) {
+        std::size_t plain = i;  // a run of plain ASCII goes across whole
+        while (plain < bytes.size() && static_cast<uint8_t>(bytes[plain]) < 0x80) ++plain;
+        out.append(bytes.data() + i, plain - i);
+        if (plain == bytes.size()) break;
+        auto b = static_cast<uint8_t>(bytes[plain]);
+        appendUtf8(out, b < 0xA0 ? kHighControls[b - 0x80] : char32_t{b});
+        i = plain + 1;
     }
 }
 

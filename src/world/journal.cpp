@@ -153,12 +153,15 @@ std::optional<std::vector<uint8_t>> readWhole(const fs::path& file) {
     return bytes;
 }
 
+// Each file is opened once for the writes to it that stand together.
 void applyAll(const std::vector<FileWrite>& writes) {
-    for (const auto& w : writes) {
-        int fd = ::open(w.file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
-        if (fd < 0) throw FatalError(fmt::format("Cannot write {}: {}", w.file.string(), std::strerror(errno)));
+    std::size_t i = 0;
+    while (i < writes.size()) {
+        const fs::path& file = writes[i].file;
+        int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+        if (fd < 0) throw FatalError(fmt::format("Cannot write {}: {}", file.string(), std::strerror(errno)));
         try {
-            applyWrite(fd, w);
+            for (; i < writes.size() && writes[i].file == file; ++i) applyWrite(fd, writes[i]);
         } catch (...) {
             ::close(fd);
             throw;

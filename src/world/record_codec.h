@@ -146,6 +146,13 @@ void putText(uint8_t* out, const Text<N>& t) {
 template <std::size_t N>
 void getText(const uint8_t* in, Text<N>& t) {
     std::size_t n = N;
+    constexpr uint64_t kEightBlanks = 0x2020202020202020ULL;  // the padding is dropped eight bytes at a time
+    while (n >= 8) {
+        uint64_t word;
+        std::memcpy(&word, in + n - 8, 8);
+        if (word != kEightBlanks) break;
+        n -= 8;
+    }
     while (n > 0 && in[n - 1] == ' ') --n;
     t.value.clear();
     appendCp1252AsUtf8(t.value, std::string_view(reinterpret_cast<const char*>(in), n));

@@ -137,20 +137,16 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
             t.flush();
             return;
         }
-        if (auto w = t.takeWrite()) writes.push_back(std::move(*w));
+        for (FileWrite& w : t.takeWrites()) writes.push_back(std::move(w));
     };
 #define TROVANE_TAKE(member, Record, fileNo) take(g.member);
     TROVANE_WORKING_TABLES(TROVANE_TAKE)
     TROVANE_PER_USE_TABLES(TROVANE_TAKE)
 #undef TROVANE_TAKE
     for (auto& [file, p] : g.parked) {
-        FileWrite w{file, p.image.size(), 0, {}};
-        if (p.dirtyFrom < p.dirtyTo) {
-            w.offset = p.dirtyFrom;
-            w.bytes.assign(p.image.begin() + static_cast<std::ptrdiff_t>(p.dirtyFrom),
-                           p.image.begin() + static_cast<std::ptrdiff_t>(p.dirtyTo));
-        }
-        writes.push_back(std::move(w));
+        const std::size_t before = writes.size();
+        p.dirty.appendWrites(writes, file, p.image);
+        if (writes.size() == before) writes.push_back({file, p.image.size(), 0, {}});
     }
     for (auto& w : extra) writes.push_back(std::move(w));
     commitWrites(g.dataDir, writes);

@@ -32,8 +32,7 @@ void TableBase::adopt(const fs::path& path, std::vector<uint8_t> image, std::opt
     path_ = path;
     image_ = std::move(image);
     diskLength_ = diskLength;
-    dirtyFrom_ = SIZE_MAX;
-    dirtyTo_ = 0;
+    dirty_.clear();
     open_ = true;
 }
 
@@ -46,8 +45,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
             ParkedImage p = std::move(it->second);
             parked_->erase(it);
             adopt(path, std::move(p.image), p.diskLength);
-            dirtyFrom_ = p.dirtyFrom;
-            dirtyTo_ = p.dirtyTo;
+            dirty_ = std::move(p.dirty);
             return;
         }
     }
@@ -107,32 +105,27 @@ void TableBase::openNew(const fs::path& path) {
     adopt(path, {}, ec ? std::nullopt : std::optional<std::size_t>(size));
 }
 
-std::optional<FileWrite> TableBase::takeWrite() {
-    if (!open_) return std::nullopt;
-    bool resized = diskLength_ != image_.size();
-    if (dirtyFrom_ >= dirtyTo_ && !resized) return std::nullopt;
-    FileWrite w{path_, image_.size(), 0, {}};
-    if (dirtyFrom_ < dirtyTo_) {
-        w.offset = dirtyFrom_;
-        w.bytes.assign(image_.begin() + static_cast<std::ptrdiff_t>(dirtyFrom_),
-                       image_.begin() + static_cast<std::ptrdiff_t>(dirtyTo_));
-    }
+std::vector<FileWrite> TableBase::takeWrites() {
+    std::vector<FileWrite> writes;
+    if (!open_) return writes;
+    dirty_.appendWrites(writes, path_, image_);
+    if (writes.empty() && diskLength_ != image_.size()) writes.push_back({path_, image_.size(), 0, {}});
     diskLength_ = image_.size();
-    dirtyFrom_ = SIZE_MAX;
-    dirtyTo_ = 0;
-    return w;
+    dirty_.clear();
+    return writes;
 }
 
 void TableBase::flush() {
     if (!open_ || parked_) return;
-    if (auto w = takeWrite()) applyWrite(fd_, *w);
+    for (const FileWrite& w : takeWrites()) applyWrite(fd_, w);
 }
 
 void TableBase::close() {
     if (!open_) return;
     if (parked_) {
-        if (dirtyFrom_ < dirtyTo_ || diskLength_ != image_.size())
-            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, dirtyFrom_, dirtyTo_};
+        if (dirty_.any() || diskLength_ != image_.size())
+            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_)};
+        dirty_.clear();
     } else {
         flush();
         ::close(fd_);
@@ -162,6 +155,40 @@ void TableBase::tableFull(int32_t n) const {
     throw FatalError(fmt::format("Table {} is full: record {} does not fit its record number field", displayName(), n));
 }
 
+void DirtyChunks::mark(std::size_t from, std::size_t to) {
+    if (from >= to) return;
+    const std::size_t last = (to - 1) / kChunk;
+    if (chunks_.size() <= last) chunks_.resize(last + 1);
+    for (std::size_t c = from / kChunk; c <= last; ++c) chunks_[c] = true;
+    any_ = true;
+}
+
+void DirtyChunks::clear() {
+    chunks_.clear();
+    any_ = false;
+}
+
+void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file,
+                               const std::vector<uint8_t>& image) const {
+    if (!any_) return;
+    std::size_t c = 0;
+    while (c < chunks_.size()) {
+        if (!chunks_[c]) {
+            ++c;
+            continue;
+        }
+        std::size_t end = c;
+        while (end < chunks_.size() && chunks_[end]) ++end;
+        const std::size_t from = std::min(c * kChunk, image.size());
+        const std::size_t to = std::min(end * kChunk, image.size());
+        if (from < to)
+            out.push_back({file, image.size(), from,
+                           std::vector<uint8_t>(image.begin() + static_cast<std::ptrdiff_t>(from),
+                                                image.begin() + static_cast<std::ptrdiff_t>(to))});
+        c = end;
+    }
+}
+
 std::span<const uint8_t> TableBase::bytesOf(int32_t n) const {
     requireOpen("read");
     if (n < 1 || n > records()) missingRecord(n, "read");
@@ -182,16 +209,14 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     }
     if (adds) image_.resize(at + length_);
     std::memcpy(image_.data() + at, bytes.data(), length_);
-    dirtyFrom_ = std::min(dirtyFrom_, at);
-    dirtyTo_ = std::max(dirtyTo_, at + length_);
+    dirty_.mark(at, at + length_);
 }
 
 void TableBase::clearAll() {
     requireOpen("clear");
     ++generation_;
     image_.clear();
-    dirtyFrom_ = SIZE_MAX;
-    dirtyTo_ = 0;
+    dirty_.clear();
 }
 
 }  // namespace trovane

@@ -40,12 +40,31 @@ namespace fs = std::filesystem;
 
 enum class IfMissing { createEmpty, fail };
 
+// Which stretches of a file's bytes changed since they were last written, kept
+// in chunks of kChunk bytes, so a day that changes a few records scattered
+// over a large file writes those few chunks and not everything between them.
+class DirtyChunks {
+public:
+    static constexpr std::size_t kChunk = 256;
+
+    // Bytes from up to (not including) to changed.
+    void mark(std::size_t from, std::size_t to);
+    bool any() const { return any_; }
+    void clear();
+    // A write to file for each run of changed chunks of image, cut at its end,
+    // in file order; each carries the file's length after the write.
+    void appendWrites(std::vector<FileWrite>& out, const fs::path& file, const std::vector<uint8_t>& image) const;
+
+private:
+    std::vector<bool> chunks_;
+    bool any_ = false;
+};
+
 // The bytes of a table closed before the commit that writes them.
 struct ParkedImage {
     std::vector<uint8_t> image;
     std::optional<std::size_t> diskLength;  // none: the file is not on disk yet
-    std::size_t dirtyFrom = SIZE_MAX;
-    std::size_t dirtyTo = 0;
+    DirtyChunks dirty;
 };
 using ParkedFiles = std::map<fs::path, ParkedImage>;
 
@@ -77,8 +96,9 @@ public:
     // Writes back what changed, keeping the file open. A deferring table
     // leaves it to the commit.
     void flush();
-    // What changed since the last write, as one write, and the table counts as written.
-    std::optional<FileWrite> takeWrite();
+    // What changed since the last write, as writes in file order (none when
+    // nothing changed), and the table counts as written.
+    std::vector<FileWrite> takeWrites();
 
     // The number of records plus one: the next free record number, and where a walk stops.
     int32_t recordCount() const;
@@ -116,8 +136,7 @@ private:
     ParkedFiles* parked_ = nullptr;
     std::vector<uint8_t> image_;
     std::optional<std::size_t> diskLength_;
-    std::size_t dirtyFrom_ = SIZE_MAX;
-    std::size_t dirtyTo_ = 0;
+    DirtyChunks dirty_;
     uint64_t generation_ = 0;
 };
 

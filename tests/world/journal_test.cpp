@@ -153,4 +153,33 @@ TEST_F(DayCommit, ARecordWrittenBackUnchangedIsNoChange) {
     setCommitHook(nullptr);
 }
 
+TEST_F(DayCommit, RecordsChangedFarApartAreWrittenWithoutWhatLiesBetween) {
+    for (int i = 1; i <= 40; ++i) {
+        g.band.rec = BandRecord{};
+        g.band->name = "Band " + std::to_string(i);
+        g.band.append();
+    }
+    flushAllTables(g);
+    for (int n : {1, 40}) {
+        g.band.read(n);
+        g.band->name = "Renamed " + std::to_string(n);
+        g.band.write(n);
+    }
+    std::uintmax_t journalSize = 0;
+    setCommitHook([&](CommitPoint p) {
+        if (p == CommitPoint::journalWritten) journalSize = fs::file_size(journalFile(g.dataDir));
+    });
+    flushAllTables(g);
+    setCommitHook(nullptr);
+    // Two records, each in the chunks of 256 bytes it touches, and the
+    // journal's own few hundred bytes; the 38 records between are not in it.
+    EXPECT_GT(journalSize, 2 * BandRecord::kLength);
+    EXPECT_LT(journalSize, 4 * 256 + 400);
+    const std::string file = fileBytes(g.dataDir / "band.vel");
+    ASSERT_EQ(file.size(), 40 * BandRecord::kLength);
+    EXPECT_EQ(file.substr(2, 9), "Renamed 1");  // the name follows the record's 2-byte number
+    EXPECT_EQ(file.substr(39 * BandRecord::kLength + 2, 10), "Renamed 40");
+    EXPECT_EQ(file.substr(19 * BandRecord::kLength + 2, 7), "Band 20");
+}
+
 }  // namespace
