@@ -234,6 +234,10 @@ TEST_F(Reputation, MembersMoveByTheirRankAndTheLabelTakesTheRise) {
     g.label.write();
     g.band.read(band);
     applyReputationChange(g, {2, 0, 0, 0, 0});
+    // The buffer ends on the last member, moved 2 x 3 / 1 from 0, and the job read.
+    EXPECT_EQ(g.artist->id, bandRec(band).members[1]);
+    EXPECT_EQ(g.artist->reputation[0], 6);
+    EXPECT_EQ(g.job->id, job);
     EXPECT_EQ(bandRec(band).reputation[0], 52);
     g.artist.read(bandRec(band).members[0]);
     EXPECT_EQ(g.artist->reputation[0], 13);  // 2 x 3 / 2
