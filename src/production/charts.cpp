@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 #include "production/disc_release.h"
@@ -110,12 +111,14 @@ void addDiscPoints(Game& g, int t, int32_t points) {
     g.disc->chartPoints[at(t)] =
         static_cast<int16_t>(std::min<int32_t>(g.disc->chartPoints[at(t)] + points, INT16_MAX));
     g.disc.write();
-    const DiscRecord disc = g.disc.rec;
-    const BandRecord band = g.band.rec;
-    g.band.read(disc.band);
+    // The band's and label's points touch neither the disc nor its buffer; the
+    // band buffer is kept when it holds another band.
+    const int16_t discBand = g.disc->band;
+    std::optional<BandRecord> other;
+    if (g.band->id != discBand) other = g.band.rec;
+    g.band.read(discBand);
     addBandPoints(g, t, points);
-    g.disc.rec = disc;
-    if (band.id != disc.band) g.band.rec = band;
+    if (other) g.band.rec = std::move(*other);
 }
 
 void bandChartHits(Game& g, int t, int position, int delta) {
@@ -149,11 +152,11 @@ void awardChartPoints(Game& g, int chart) {
         double d = roundHalfEven(p - std::pow(0.8, w - 1) * p);
         double x = roundHalfEven(d * p / 100);
         auto f = roundTo<int16_t>((p - x) / 2);
-        g.band.read(g.disc->band);
         addDiscPoints(g, t, 101 - i);
-        g.disc.write();
+        // The buffer still holds the disc's band, as written, unless it held
+        // another band before.
+        if (g.band->id != g.disc->band) g.band.read(g.disc->band);
         // The rise is spread over this open chart, whose buffer moves with it.
-        g.band.read(g.disc->band);
         changeHype(g, f, t, chart);
     }
     if (chart < 4) countHits(g, chart);

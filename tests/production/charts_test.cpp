@@ -93,6 +93,20 @@ TEST_F(Charts, TheGlobalChartsKeepNeitherWeeksNorHits) {
     EXPECT_EQ(disc(discs[0]).chartPoints[4], 100);
 }
 
+TEST_F(Charts, EachRowOfTheGlobalChartRaisesItsOwnBand) {
+    int16_t other = addBand("Others", label);
+    addRow(4, addDisc("Ours"));
+    addRow(4, addDisc("Theirs", 1000, other));
+    award(4);
+    // Row 1: f 50, doubled 100 against R 50: gain 2, R 52, H 48. Row 2 (a
+    // week out): p 78, d 0, f 39, doubled 78: gain round(78 / 50) = 2, R 52, H 26.
+    EXPECT_EQ(bandRec(band).reputation[4], 52);
+    EXPECT_EQ(bandRec(band).hype[4], 48);
+    EXPECT_EQ(bandRec(other).reputation[4], 52);
+    EXPECT_EQ(bandRec(other).hype[4], 26);
+    EXPECT_EQ(bandRec(other).bandPoints[4], 99);
+}
+
 TEST_F(Charts, ANumberOneInItsFirstWeekRaisesTheBandAndItsLabelsDiscs) {
     int16_t ours = addDisc("Ours");
     int16_t theirs = addDisc("Theirs", 1000, addBand("Others", rival));
