@@ -7,10 +7,12 @@
 #include <vector>
 
 #include "production/disc_release.h"
+#include "production/field_patch.h"
 #include "production/weekly_sales.h"
 #include "talent/band_functions.h"
 #include "talent/reputation.h"
 #include "world/dates.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 
 namespace trovane {
@@ -43,17 +45,22 @@ void moveCounter(std::array<uint8_t, 16>& peaks, int t, int cls, int delta) {
 // the disc's new count.
 int32_t countWeek(Game& g, int chart, int t) {
     auto counter = at(t + 4 * (chart / 5));
-    g.disc->weeksOnChart[at(t)] = narrow<int16_t>(g.disc->weeksOnChart[at(t)] + 1);
-    const DiscRecord disc = g.disc.rec;
-    g.band.read(disc.band);
-    g.band->chartCounts[counter] = narrow<int16_t>(g.band->chartCounts[counter] + 1);
-    g.band.write();
-    if (disc.label > 0) {
-        g.label.read(disc.label);
-        g.label->chartCounts[counter] = narrow<int16_t>(g.label->chartCounts[counter] + 1);
-        g.label.write();
+    static const std::size_t kBandCounts = offsetIn<BandRecord>("chartCounts");
+    static const std::size_t kLabelCounts = offsetIn<LabelRecord>("chartCounts");
+    const int16_t weeks = narrow<int16_t>(g.disc->weeksOnChart[at(t)] + 1);
+    g.disc->weeksOnChart[at(t)] = weeks;
+    const int16_t band = g.disc->band;
+    const int16_t label = g.disc->label;
+    // The counters move in the records' bytes; the buffers are then read, so
+    // they hold the band and label as written.
+    auto oneMore = [](int16_t count) { return narrow<int16_t>(count + 1); };
+    patchField<int16_t>(g.band, band, kBandCounts + counter * sizeof(int16_t), oneMore);
+    g.band.read(band);
+    if (label > 0) {
+        patchField<int16_t>(g.label, label, kLabelCounts + counter * sizeof(int16_t), oneMore);
+        g.label.read(label);
     }
-    return disc.weeksOnChart[at(t)];
+    return weeks;
 }
 
 void countHits(Game& g, int chart) {

@@ -107,10 +107,11 @@ void sellRow(Game& g, int chart, int32_t position) {
     auto pair = static_cast<std::size_t>(salesTotalIndex(t, g.disc->isSingle != 0));
     g.band->salesTotals[pair] = narrow<int32_t>(int64_t{g.band->salesTotals[pair]} + week);
     g.band.write();
-    if (g.disc->label > 0) {
-        g.label.read(g.disc->label);
-        g.label->salesTotals[pair] = narrow<int32_t>(int64_t{g.label->salesTotals[pair]} + week);
-        g.label.write();
+    if (const int16_t label = g.disc->label; label > 0) {
+        static const std::size_t kLabelSales = offsetIn<LabelRecord>("salesTotals");
+        patchField<int32_t>(g.label, label, kLabelSales + pair * sizeof(int32_t),
+                            [&](int32_t total) { return narrow<int32_t>(int64_t{total} + week); });
+        g.label.read(label);  // the buffer holds the label as written
     }
     uint8_t hypeBefore = g.disc->hype[ti];
     g.disc->hype[ti] = narrow<uint8_t>(std::clamp(toLong(hypeBefore * 0.8), 1, 100));
