@@ -13,6 +13,7 @@
 #include "world/record_store.h"
 
 #include "support/shipped_game.h"
+#include "support/year_on.h"
 
 using namespace trovane;
 namespace fs = std::filesystem;
@@ -37,6 +38,14 @@ void BM_WeeklySalesPass(benchmark::State& state) {
     closeAllTables(g);
 }
 BENCHMARK(BM_WeeklySalesPass)->Unit(benchmark::kMillisecond);
+
+// The Sunday pass a year into play, on the charts the year has filled; each
+// run is a week later.
+void BM_WeeklySalesYearOn(benchmark::State& state) {
+    bench::YearOnGame s("trovane-bench-sales-year");
+    for (auto _ : state) calculateWeeklySales(s.g);
+}
+BENCHMARK(BM_WeeklySalesYearOn)->Unit(benchmark::kMillisecond);
 
 // A whole Sunday of the day's cycle (the rivals' review, the sales, the rest).
 void BM_ASunday(benchmark::State& state) {

@@ -5,8 +5,10 @@
 #include <fmt/format.h>
 
 #include "label/departments.h"
+#include "production/field_patch.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
@@ -61,11 +63,17 @@ void addLabelPoints(Game& g, int market, int32_t amount) {
     std::array<int16_t, 7> earners{};
     earners[0] = g.label->boss;
     for (std::size_t d = 0; d < 6; ++d) earners[d + 1] = g.label->department[d].head;
+    // Each earner's points move in the record's bytes; the buffer ends on the
+    // last earner, as reading and writing each in turn would leave it.
+    static const std::size_t kStaffPoints = offsetIn<StaffRecord>("points");
+    int16_t last = 0;
     for (int16_t s : earners) {
         if (s <= 0) continue;
-        g.staff.read(s);
-        addStaffPoints(g, market, amount);
+        patchField<int32_t>(g.staff, s, kStaffPoints + m * sizeof(int32_t),
+                            [&](int32_t points) { return narrow<int32_t>(static_cast<int64_t>(points) + amount); });
+        last = s;
     }
+    if (last > 0) g.staff.read(last);
 }
 
 void addStaffPoints(Game& g, int market, int32_t amount) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 
+#include "production/field_patch.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/record_bytes.h"
@@ -18,6 +19,7 @@ const std::size_t kRowDisc = offsetIn<ChartRow>("disc");
 const std::size_t kDiscLabel = offsetIn<DiscRecord>("label");
 const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
 const std::size_t kDiscId = offsetIn<DiscRecord>("id");
+const std::size_t kDiscHype = offsetIn<DiscRecord>("hype");
 
 // Tests the disc's own bytes, so that only the discs that rise are decoded.
 bool belongs(std::span<const uint8_t> d, int mode, int32_t who) {
@@ -39,10 +41,8 @@ void spreadInChart(Game& g, int mode, int t, int32_t who, int rise) {
         if (disc < 1 || disc >= g.disc.recordCount()) continue;
         lastDisc = disc;
         if (!belongs(g.disc.bytesOf(disc), mode, who)) continue;
-        g.disc.read(disc);
-        auto& hype = g.disc->hype[static_cast<std::size_t>(t)];
-        hype = static_cast<uint8_t>(std::clamp(hype + rise, 1, 100));
-        g.disc.write(disc);
+        patchField<uint8_t>(g.disc, disc, kDiscHype + static_cast<std::size_t>(t),
+                            [&](uint8_t hype) { return static_cast<uint8_t>(std::clamp(hype + rise, 1, 100)); });
     }
     if (rows >= 1) g.chart.read(rows);
     if (lastDisc != 0) g.disc.read(lastDisc);

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "production/charts.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
@@ -45,6 +46,46 @@ void offer(ChartRecords& r, Holder h, int64_t value, int32_t who, const std::str
 
 std::size_t at(int v) { return static_cast<std::size_t>(v); }
 
+const std::size_t kRowDisc = offsetIn<ChartRow>("disc");
+const std::size_t kDiscId = offsetIn<DiscRecord>("id");
+const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+const std::size_t kDiscLabel = offsetIn<DiscRecord>("label");
+const std::size_t kDiscTitle = offsetIn<DiscRecord>("title");
+const std::size_t kDiscWeeks = offsetIn<DiscRecord>("weeksOnChart");
+const std::size_t kDiscWeekSales = offsetIn<DiscRecord>("weekSales");
+const std::size_t kDiscTotals = offsetIn<DiscRecord>("totalSales");
+const std::size_t kDiscLifetime = offsetIn<DiscRecord>("lifetimeSales");
+const std::size_t kDiscPoints = offsetIn<DiscRecord>("chartPoints");
+const std::size_t kBandId = offsetIn<BandRecord>("id");
+const std::size_t kBandName = offsetIn<BandRecord>("name");
+const std::size_t kBandMemberCount = offsetIn<BandRecord>("memberCount");
+const std::size_t kBandMembers = offsetIn<BandRecord>("members");
+const std::size_t kBandSales = offsetIn<BandRecord>("salesTotals");
+const std::size_t kBandCounts = offsetIn<BandRecord>("chartCounts");
+const std::size_t kBandPoints = offsetIn<BandRecord>("bandPoints");
+const std::size_t kBandPeaks = offsetIn<BandRecord>("chartPeaks");
+const std::size_t kLabelId = offsetIn<LabelRecord>("id");
+const std::size_t kLabelName = offsetIn<LabelRecord>("name");
+const std::size_t kLabelSales = offsetIn<LabelRecord>("salesTotals");
+const std::size_t kLabelCounts = offsetIn<LabelRecord>("chartCounts");
+const std::size_t kLabelPoints = offsetIn<LabelRecord>("points");
+
+// Element i of an array field that starts at byte offset base.
+template <class T>
+T element(std::span<const uint8_t> bytes, std::size_t base, int i) {
+    return fieldAt<T>(bytes, base + static_cast<std::size_t>(i) * sizeof(T));
+}
+
+// A name or title read from the record's bytes, without its padding.
+template <class TextField>
+std::string textAt(std::span<const uint8_t> bytes, std::size_t offset) {
+    TextField text;
+    codec::getText(bytes.data() + offset, text);
+    return trim(text.value);
+}
+
+std::string bandName(std::span<const uint8_t> b) { return textAt<decltype(BandRecord::name)>(b, kBandName); }
+
 }  // namespace
 
 void updateChartRecords(Game& g, int chart) {
@@ -65,39 +106,56 @@ void updateChartRecords(Game& g, int chart) {
     int64_t bestDiscWeek = 0;
     int32_t bestDisc = 0;
     std::string bestDiscText;
-    for (int32_t i = 1; i < g.chart.recordCount(); ++i) {
-        g.chart.read(i);
-        g.disc.read(g.chart->disc);
-        const DiscRecord disc = g.disc.rec;
-        if (disc.band < 1) continue;
-        g.band.read(disc.band);
-        const BandRecord band = g.band.rec;
-        std::string text = trim(disc.title.value) + " by " + trim(band.name.value);
-        int16_t weeks = t < 4 ? disc.weeksOnChart[at(t)] : int16_t{0};
-        int32_t week = disc.weekSales[at(t)];
+    const int32_t rows = g.chart.recordCount() - 1;
+    int16_t lastDisc = 0;
+    for (int32_t i = 1; i <= rows; ++i) {
+        const int16_t discNo = fieldAt<int16_t>(g.chart.bytesOf(i), kRowDisc);
+        const auto d = g.disc.bytesOf(discNo);
+        lastDisc = discNo;
+        const int16_t bandNo = fieldAt<int16_t>(d, kDiscBand);
+        if (bandNo < 1) continue;
+        const auto b = g.band.bytesOf(bandNo);
+        const int16_t discId = fieldAt<int16_t>(d, kDiscId);
+        const int16_t bandId = fieldAt<int16_t>(b, kBandId);
+        // The text is spelt out only for a row that takes a record.
+        std::string text;
+        auto textOf = [&]() -> const std::string& {
+            if (text.empty()) text = textAt<decltype(DiscRecord::title)>(d, kDiscTitle) + " by " + bandName(b);
+            return text;
+        };
+        auto offerDisc = [&](Holder h, int64_t value) {
+            if (value > rec.holder[h].value) offer(rec, h, value, discId, textOf());
+        };
+        int16_t weeks = t < 4 ? element<int16_t>(d, kDiscWeeks, t) : int16_t{0};
+        int32_t week = element<int32_t>(d, kDiscWeekSales, t);
+        int16_t points = element<int16_t>(d, kDiscPoints, t);
         if (i == 1 && chart < 4) {
-            offer(rec, bandNumberOnes, band.chartPeaks[at(t * 4)], band.id, trim(band.name.value));
-            if (band.memberCount == 1 && band.members[0] > 0) {
-                g.artist.read(band.members[0]);
+            int32_t numberOnes = element<uint8_t>(b, kBandPeaks, t * 4);
+            if (numberOnes > rec.holder[bandNumberOnes].value)
+                offer(rec, bandNumberOnes, numberOnes, bandId, bandName(b));
+            const int16_t solo = element<int16_t>(b, kBandMembers, 0);
+            if (fieldAt<uint8_t>(b, kBandMemberCount) == 1 && solo > 0) {
+                g.artist.read(solo);
                 auto age = static_cast<int32_t>(g.gameDate - g.artist->birthDate);
                 ChartHolder& young = rec.holder[youngestTopper];
                 if (age > 0 && (young.value == 0 || age < young.value)) {
                     young.value = age;
-                    young.who = band.id;
-                    young.text = trim(band.name.value);
+                    young.who = bandId;
+                    young.text = bandName(b);
                 }
-                offer(rec, oldestTopper, age, band.id, trim(band.name.value));
+                if (age > rec.holder[oldestTopper].value) offer(rec, oldestTopper, age, bandId, bandName(b));
             }
         }
         if (i <= length) {
-            offer(rec, discSales, disc.totalSales[at(t)], disc.id, text);
-            offer(rec, discWeeksPublished, weeks, disc.id, text);
-            offer(rec, discPointsPublished, disc.chartPoints[at(t)], disc.id, text);
-            if (disc.label > 0) {
+            offerDisc(discSales, element<int32_t>(d, kDiscTotals, t));
+            offerDisc(discWeeksPublished, weeks);
+            offerDisc(discPointsPublished, points);
+            const int16_t label = fieldAt<int16_t>(d, kDiscLabel);
+            if (label > 0) {
                 auto slot = at(99);
                 bool found = false;
                 for (std::size_t s = 0; s < 100; ++s) {
-                    if (rec.labelSlot[s] == disc.label) {
+                    if (rec.labelSlot[s] == label) {
                         slot = s;
                         found = true;
                         break;
@@ -107,7 +165,7 @@ void updateChartRecords(Game& g, int chart) {
                     for (std::size_t s = 0; s < 100; ++s) {
                         if (rec.labelSlot[s] == 0) {
                             slot = s;
-                            rec.labelSlot[s] = disc.label;
+                            rec.labelSlot[s] = label;
                             found = true;
                             break;
                         }
@@ -116,33 +174,52 @@ void updateChartRecords(Game& g, int chart) {
                 if (found) rec.labelSales[slot] = narrow<int32_t>(int64_t{rec.labelSales[slot]} + week);
             }
             rec.labelSales[100] = narrow<int32_t>(int64_t{rec.labelSales[100]} + week);
-            bandWeekSales[band.id] += week;
+            bandWeekSales[bandId] += week;
             if (week > bestDiscWeek) {
                 bestDiscWeek = week;
-                bestDisc = disc.id;
-                bestDiscText = text;
+                bestDisc = discId;
+                bestDiscText = textOf();
             }
         }
-        offer(rec, discWeek, week, disc.id, text);
-        offer(rec, discLifetime, disc.lifetimeSales[at(t)], disc.id, text);
-        offer(rec, discWeeksAll, weeks, disc.id, text);
-        offer(rec, discPointsAll, disc.chartPoints[at(t)], disc.id, text);
+        offerDisc(discWeek, week);
+        offerDisc(discLifetime, element<int32_t>(d, kDiscLifetime, t));
+        offerDisc(discWeeksAll, weeks);
+        offerDisc(discPointsAll, points);
     }
+    // The chart and disc buffers end where a walk reading each row would leave them.
+    if (rows >= 1) g.chart.read(rows);
+    if (lastDisc != 0) g.disc.read(lastDisc);
 
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        g.band.read(n);
-        std::string name = trim(g.band->name.value);
-        offer(rec, bandSales, g.band->salesTotals[pair], g.band->id, name);
-        if (t < 4) offer(rec, bandWeeks, g.band->chartCounts[counter], g.band->id, name);
-        offer(rec, bandPoints, g.band->bandPoints[at(t)], g.band->id, name);
+    const int32_t bands = g.band.recordCount() - 1;
+    for (int32_t n = 1; n <= bands; ++n) {
+        const auto b = g.band.bytesOf(n);
+        const int16_t id = fieldAt<int16_t>(b, kBandId);
+        std::string name;
+        auto offerBand = [&](Holder h, int64_t value) {
+            if (value <= rec.holder[h].value) return;
+            if (name.empty()) name = bandName(b);
+            offer(rec, h, value, id, name);
+        };
+        offerBand(bandSales, element<int32_t>(b, kBandSales, static_cast<int>(pair)));
+        if (t < 4) offerBand(bandWeeks, element<int16_t>(b, kBandCounts, static_cast<int>(counter)));
+        offerBand(bandPoints, element<int32_t>(b, kBandPoints, t));
     }
-    for (int32_t n = 1; n < g.label.recordCount(); ++n) {
-        g.label.read(n);
-        std::string name = trim(g.label->name.value);
-        offer(rec, labelSales, g.label->salesTotals[pair], g.label->id, name);
-        if (t < 4) offer(rec, labelWeeks, g.label->chartCounts[counter], g.label->id, name);
-        offer(rec, labelPoints, g.label->points[at(t)], g.label->id, name);
+    const int32_t labels = g.label.recordCount() - 1;
+    for (int32_t n = 1; n <= labels; ++n) {
+        const auto l = g.label.bytesOf(n);
+        const int16_t id = fieldAt<int16_t>(l, kLabelId);
+        std::string name;
+        auto offerLabel = [&](Holder h, int64_t value) {
+            if (value <= rec.holder[h].value) return;
+            if (name.empty()) name = textAt<decltype(LabelRecord::name)>(l, kLabelName);
+            offer(rec, h, value, id, name);
+        };
+        offerLabel(labelSales, element<int32_t>(l, kLabelSales, static_cast<int>(pair)));
+        if (t < 4) offerLabel(labelWeeks, element<int16_t>(l, kLabelCounts, static_cast<int>(counter)));
+        offerLabel(labelPoints, element<int32_t>(l, kLabelPoints, t));
     }
+    if (bands >= 1) g.band.read(bands);
+    if (labels >= 1) g.label.read(labels);
     int64_t bestLabelWeek = 0;
     int16_t bestLabel = 0;
     for (std::size_t s = 0; s < 100; ++s) {

@@ -3,13 +3,16 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 #include "production/disc_release.h"
+#include "production/field_patch.h"
 #include "production/weekly_sales.h"
 #include "talent/band_functions.h"
 #include "talent/reputation.h"
 #include "world/dates.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 
 namespace trovane {
@@ -42,17 +45,22 @@ void moveCounter(std::array<uint8_t, 16>& peaks, int t, int cls, int delta) {
 // the disc's new count.
 int32_t countWeek(Game& g, int chart, int t) {
     auto counter = at(t + 4 * (chart / 5));
-    g.disc->weeksOnChart[at(t)] = narrow<int16_t>(g.disc->weeksOnChart[at(t)] + 1);
-    const DiscRecord disc = g.disc.rec;
-    g.band.read(disc.band);
-    g.band->chartCounts[counter] = narrow<int16_t>(g.band->chartCounts[counter] + 1);
-    g.band.write();
-    if (disc.label > 0) {
-        g.label.read(disc.label);
-        g.label->chartCounts[counter] = narrow<int16_t>(g.label->chartCounts[counter] + 1);
-        g.label.write();
+    static const std::size_t kBandCounts = offsetIn<BandRecord>("chartCounts");
+    static const std::size_t kLabelCounts = offsetIn<LabelRecord>("chartCounts");
+    const int16_t weeks = narrow<int16_t>(g.disc->weeksOnChart[at(t)] + 1);
+    g.disc->weeksOnChart[at(t)] = weeks;
+    const int16_t band = g.disc->band;
+    const int16_t label = g.disc->label;
+    // The counters move in the records' bytes; the buffers are then read, so
+    // they hold the band and label as written.
+    auto oneMore = [](int16_t count) { return narrow<int16_t>(count + 1); };
+    patchField<int16_t>(g.band, band, kBandCounts + counter * sizeof(int16_t), oneMore);
+    g.band.read(band);
+    if (label > 0) {
+        patchField<int16_t>(g.label, label, kLabelCounts + counter * sizeof(int16_t), oneMore);
+        g.label.read(label);
     }
-    return disc.weeksOnChart[at(t)];
+    return weeks;
 }
 
 void countHits(Game& g, int chart) {
@@ -110,12 +118,14 @@ void addDiscPoints(Game& g, int t, int32_t points) {
     g.disc->chartPoints[at(t)] =
         static_cast<int16_t>(std::min<int32_t>(g.disc->chartPoints[at(t)] + points, INT16_MAX));
     g.disc.write();
-    const DiscRecord disc = g.disc.rec;
-    const BandRecord band = g.band.rec;
-    g.band.read(disc.band);
+    // The band's and label's points touch neither the disc nor its buffer; the
+    // band buffer is kept when it holds another band.
+    const int16_t discBand = g.disc->band;
+    std::optional<BandRecord> other;
+    if (g.band->id != discBand) other = g.band.rec;
+    g.band.read(discBand);
     addBandPoints(g, t, points);
-    g.disc.rec = disc;
-    if (band.id != disc.band) g.band.rec = band;
+    if (other) g.band.rec = std::move(*other);
 }
 
 void bandChartHits(Game& g, int t, int position, int delta) {
@@ -149,11 +159,11 @@ void awardChartPoints(Game& g, int chart) {
         double d = roundHalfEven(p - std::pow(0.8, w - 1) * p);
         double x = roundHalfEven(d * p / 100);
         auto f = roundTo<int16_t>((p - x) / 2);
-        g.band.read(g.disc->band);
         addDiscPoints(g, t, 101 - i);
-        g.disc.write();
+        // The buffer still holds the disc's band, as written, unless it held
+        // another band before.
+        if (g.band->id != g.disc->band) g.band.read(g.disc->band);
         // The rise is spread over this open chart, whose buffer moves with it.
-        g.band.read(g.disc->band);
         changeHype(g, f, t, chart);
     }
     if (chart < 4) countHits(g, chart);

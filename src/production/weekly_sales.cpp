@@ -13,7 +13,9 @@
 #include "production/businesses.h"
 #include "production/chart_history.h"
 #include "production/charts.h"
+#include "production/field_patch.h"
 #include "talent/band_functions.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 #include "world/strings.h"
 
@@ -37,6 +39,9 @@ constexpr std::array<const char*, 5> kWhere = {"in the United Kingdom.", "in the
                                                "in Oceania.", "worldwide."};
 
 std::size_t at(int t) { return static_cast<std::size_t>(t); }
+
+// The money of the week's sales; the disc and band are written only when writeBack.
+void payIncome(Game& g, int chart, bool writeBack);
 
 // The week's spread: up to a tenth of the figure either way.
 double spread(Game& g, double v) {
@@ -93,7 +98,8 @@ void sellRow(Game& g, int chart, int32_t position) {
         g.chart->lastHype = static_cast<uint8_t>(hypeLast);
     }
     limitAndCertify(g, sales, chart);
-    payDiscIncome(g, chart);
+    // The disc and band are written once, below, with the week's totals.
+    payIncome(g, chart, false);
 
     int32_t week = g.disc->weekSales[ti];
     g.disc->totalSales[ti] = narrow<int32_t>(int64_t{g.disc->totalSales[ti]} + week);
@@ -101,10 +107,11 @@ void sellRow(Game& g, int chart, int32_t position) {
     auto pair = static_cast<std::size_t>(salesTotalIndex(t, g.disc->isSingle != 0));
     g.band->salesTotals[pair] = narrow<int32_t>(int64_t{g.band->salesTotals[pair]} + week);
     g.band.write();
-    if (g.disc->label > 0) {
-        g.label.read(g.disc->label);
-        g.label->salesTotals[pair] = narrow<int32_t>(int64_t{g.label->salesTotals[pair]} + week);
-        g.label.write();
+    if (const int16_t label = g.disc->label; label > 0) {
+        static const std::size_t kLabelSales = offsetIn<LabelRecord>("salesTotals");
+        patchField<int32_t>(g.label, label, kLabelSales + pair * sizeof(int32_t),
+                            [&](int32_t total) { return narrow<int32_t>(int64_t{total} + week); });
+        g.label.read(label);  // the buffer holds the label as written
     }
     uint8_t hypeBefore = g.disc->hype[ti];
     g.disc->hype[ti] = narrow<uint8_t>(std::clamp(toLong(hypeBefore * 0.8), 1, 100));
@@ -174,15 +181,15 @@ int32_t nextWeekSales(Game& g, int32_t lastSales, int& hypeNow, int& hypeLastWee
 void limitAndCertify(Game& g, int32_t sales, int chart) {
     int t = chart - 5 * g.disc->isSingle;
     auto ti = at(t);
-    const DiscRecord before = g.disc.rec;
-    int32_t capacity = weeklyCapacity(g, before.distributor[ti]);
-    sales = std::min({sales, capacity, before.stock[ti]});
+    const int32_t stock = g.disc->stock[ti];
+    const int64_t oldTotal = g.disc->totalSales[ti];
+    int32_t capacity = weeklyCapacity(g, g.disc->distributor[ti]);  // reads only the firm
+    sales = std::min({sales, capacity, stock});
     sales = std::max(sales, 0);
     g.disc->weekSales[ti] = sales;
-    g.disc->stock[ti] = before.stock[ti] - sales;
+    g.disc->stock[ti] = stock - sales;
     g.disc.write();
 
-    int64_t oldTotal = before.totalSales[ti];
     int64_t newTotal = oldTotal + sales;
     Thresholds th = kThresholds[ti];
     // 50000000 marks a level the territory never awards.
@@ -198,7 +205,11 @@ void limitAndCertify(Game& g, int32_t sales, int chart) {
     }
 }
 
-void payDiscIncome(Game& g, int chart) {
+void payDiscIncome(Game& g, int chart) { payIncome(g, chart, true); }
+
+namespace {
+
+void payIncome(Game& g, int chart, bool writeBack) {
     int t = chart - 5 * g.disc->isSingle;
     double price = g.disc->isSingle ? 2.0 : 7.5;
     Money gross = moneyUnits(static_cast<int64_t>(roundHalfEven(g.disc->weekSales[at(t)] * price)));
@@ -228,24 +239,36 @@ void payDiscIncome(Game& g, int chart) {
             toArtists = artistShare - remaining;
         }
     }
-    g.disc.write();
-    g.band.write();
-    if (toArtists > 0) {
-        const BandRecord band = g.band.rec;
-        payArtists(g, toArtists);
-        g.band.rec = band;
+    if (writeBack) {
+        g.disc.write();
+        g.band.write();
     }
+    // The members are paid from the disc's and band's buffers; neither table is read.
+    if (toArtists > 0) payArtists(g, toArtists);
 }
 
+}  // namespace
+
 void sortChartBySales(Game& g) {
+    static const std::size_t kRowDisc = offsetIn<ChartRow>("disc");
+    static const std::size_t kRowTerritory = offsetIn<ChartRow>("territory");
+    static const std::size_t kDiscWeekSales = offsetIn<DiscRecord>("weekSales");
     std::vector<ChartRow> rows;
     std::vector<int32_t> sales;
-    for (int32_t n = 1; n < g.chart.recordCount(); ++n) {
+    const int32_t count = g.chart.recordCount() - 1;
+    rows.reserve(static_cast<std::size_t>(std::max(count, 0)));
+    sales.reserve(rows.capacity());
+    int16_t lastDisc = 0;
+    for (int32_t n = 1; n <= count; ++n) {
         g.chart.read(n);
         rows.push_back(g.chart.rec);
-        g.disc.read(g.chart->disc);
-        sales.push_back(g.disc->weekSales[at(g.chart->territory % 5)]);
+        const auto row = g.chart.bytesOf(n);
+        lastDisc = fieldAt<int16_t>(row, kRowDisc);
+        const auto territory = static_cast<std::size_t>(fieldAt<uint8_t>(row, kRowTerritory) % 5);
+        sales.push_back(fieldAt<int32_t>(g.disc.bytesOf(lastDisc), kDiscWeekSales + territory * sizeof(int32_t)));
     }
+    // The disc buffer ends on the last row's disc, as if each had been read.
+    if (lastDisc != 0) g.disc.read(lastDisc);
     // A stable sort is the exchange sort that swaps neighbours only when the
     // left one sold strictly less.
     std::vector<std::size_t> order(rows.size());
@@ -257,50 +280,81 @@ void sortChartBySales(Game& g) {
     }
 }
 
+namespace {
+
+const std::size_t kDiscId = offsetIn<DiscRecord>("id");
+const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+const std::size_t kDiscLabel = offsetIn<DiscRecord>("label");
+const std::size_t kDiscSingle = offsetIn<DiscRecord>("isSingle");
+const std::size_t kDiscTotals = offsetIn<DiscRecord>("totalSales");
+const std::size_t kDiscWeeks = offsetIn<DiscRecord>("weekSales");
+
+int64_t sumOf5(const uint8_t* record, std::size_t at) {
+    int64_t s = 0;
+    for (std::size_t t = 0; t < 5; ++t) s += fieldAt<int32_t>(record, at + t * sizeof(int32_t));
+    return s;
+}
+
+// The best-seller fields of a band or label record, by their offsets.
+struct BestFields {
+    std::size_t biggest, bestWeek, copies;
+};
+
+// Moves an act's or label's biggest disc and best week to disc id when it
+// beats them; discTotal gives a disc's sales to date.
+template <class Id, class DiscTotal>
+void offerBest(uint8_t* r, BestFields f, int16_t id, int64_t week, int64_t total, DiscTotal&& discTotal) {
+    const Id biggest = fieldAt<Id>(r, f.biggest);
+    if ((biggest < 1 && total > 0) || (biggest > 0 && discTotal(biggest) < total)) putFieldAt<Id>(r, f.biggest, id);
+    const Id bestWeek = fieldAt<Id>(r, f.bestWeek);
+    if ((bestWeek < 1 && week > 0) || (bestWeek > 0 && fieldAt<int32_t>(r, f.copies) < week)) {
+        putFieldAt<Id>(r, f.bestWeek, id);
+        putFieldAt<int32_t>(r, f.copies, narrow<int32_t>(week));
+    }
+}
+
+}  // namespace
+
 void updateBestSellers(Game& g) {
+    static const BestFields kBand[2] = {{offsetIn<BandRecord>("biggestAlbum"), offsetIn<BandRecord>("bestWeekAlbum"),
+                                         offsetIn<BandRecord>("bestWeekAlbumCopies")},
+                                        {offsetIn<BandRecord>("biggestSingle"), offsetIn<BandRecord>("bestWeekSingle"),
+                                         offsetIn<BandRecord>("bestWeekSingleCopies")}};
+    static const BestFields kLabel[2] = {
+        {offsetIn<LabelRecord>("biggestAlbum"), offsetIn<LabelRecord>("bestWeekAlbum"),
+         offsetIn<LabelRecord>("bestWeekAlbumCopies")},
+        {offsetIn<LabelRecord>("biggestSingle"), offsetIn<LabelRecord>("bestWeekSingle"),
+         offsetIn<LabelRecord>("bestWeekSingleCopies")}};
+    // The records are changed in their bytes; each buffer ends on the last
+    // record a walk reading them whole would have read.
+    int32_t lastDisc = 0;
+    int16_t lastBand = 0, lastLabel = 0;
     auto discTotal = [&](int32_t disc) -> int64_t {
         if (disc < 1 || disc >= g.disc.recordCount()) return 0;
-        g.disc.read(disc);
-        int64_t s = 0;
-        for (int32_t v : g.disc->totalSales) s += v;
-        return s;
+        lastDisc = disc;
+        return sumOf5(g.disc.bytesOf(disc).data(), kDiscTotals);
     };
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        const DiscRecord d = g.disc.rec;
-        if (d.band < 1 || d.label < 1) continue;
-        int64_t week = 0, total = 0;
-        for (int t = 0; t < 5; ++t) {
-            week += d.weekSales[at(t)];
-            total += d.totalSales[at(t)];
-        }
-        bool single = d.isSingle != 0;
-        g.band.read(d.band);
-        BandRecord band = g.band.rec;
-        int32_t& biggest = single ? band.biggestSingle : band.biggestAlbum;
-        int32_t& bestWeek = single ? band.bestWeekSingle : band.bestWeekAlbum;
-        int32_t& bestWeekCopies = single ? band.bestWeekSingleCopies : band.bestWeekAlbumCopies;
-        if ((biggest < 1 && total > 0) || (biggest > 0 && discTotal(biggest) < total)) biggest = d.id;
-        if ((bestWeek < 1 && week > 0) || (bestWeek > 0 && bestWeekCopies < week)) {
-            bestWeek = d.id;
-            bestWeekCopies = narrow<int32_t>(week);
-        }
-        g.band.rec = band;
-        g.band.write();
-
-        g.label.read(d.label);
-        LabelRecord label = g.label.rec;
-        int16_t& lBiggest = single ? label.biggestSingle : label.biggestAlbum;
-        int16_t& lBestWeek = single ? label.bestWeekSingle : label.bestWeekAlbum;
-        int32_t& lBestWeekCopies = single ? label.bestWeekSingleCopies : label.bestWeekAlbumCopies;
-        if ((lBiggest < 1 && total > 0) || (lBiggest > 0 && discTotal(lBiggest) < total)) lBiggest = d.id;
-        if ((lBestWeek < 1 && week > 0) || (lBestWeek > 0 && lBestWeekCopies < week)) {
-            lBestWeek = d.id;
-            lBestWeekCopies = narrow<int32_t>(week);
-        }
-        g.label.rec = label;
-        g.label.write();
+    const int32_t discs = g.disc.recordCount() - 1;
+    for (int32_t n = 1; n <= discs; ++n) {
+        const uint8_t* d = g.disc.bytesOf(n).data();
+        lastDisc = n;
+        const auto band = fieldAt<int16_t>(d, kDiscBand);
+        const auto label = fieldAt<int16_t>(d, kDiscLabel);
+        if (band < 1 || label < 1) continue;
+        const int64_t week = sumOf5(d, kDiscWeeks);
+        const int64_t total = sumOf5(d, kDiscTotals);
+        const std::size_t single = fieldAt<uint8_t>(d, kDiscSingle) != 0 ? 1 : 0;
+        const auto id = fieldAt<int16_t>(d, kDiscId);
+        patchRecord(g.band, band,
+                    [&](uint8_t* r) { offerBest<int32_t>(r, kBand[single], id, week, total, discTotal); });
+        lastBand = band;
+        patchRecord(g.label, label,
+                    [&](uint8_t* r) { offerBest<int16_t>(r, kLabel[single], id, week, total, discTotal); });
+        lastLabel = label;
     }
+    if (lastDisc > 0) g.disc.read(lastDisc);
+    if (lastBand > 0) g.band.read(lastBand);
+    if (lastLabel > 0) g.label.read(lastLabel);
 }
 
 void calculateWeeklySales(Game& g) {

@@ -5,7 +5,9 @@
 
 #include "label/finances.h"
 #include "production/chart_hype.h"
+#include "production/field_patch.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
@@ -37,18 +39,16 @@ void changeHype(Game& g, int16_t amount, int market, int reason) {
         change = r - before;
         h = held(-r, -80, 0);
     }
-    if (market != 4 && change != 0 && g.band->label > 0) {
-        const BandRecord band = g.band.rec;
-        spreadHypeRise(g, 0, market, band.label, change);
-        g.band.rec = band;
-    }
+    // The spread reads and writes only the charts and the discs.
+    if (market != 4 && change != 0 && g.band->label > 0) spreadHypeRise(g, 0, market, g.band->label, change);
     g.band->hype[m] = narrow<int16_t>(h);
-    if (change != 0) {
-        std::array<int16_t, 5> deltas{};
-        deltas[m] = narrow<int16_t>(change);
-        applyReputationChange(g, deltas);
+    if (change == 0) {
+        g.band.write();
+        return;
     }
-    g.band.write();
+    std::array<int16_t, 5> deltas{};
+    deltas[m] = narrow<int16_t>(change);
+    applyReputationChange(g, deltas);  // writes the band
 }
 
 void applyReputationChange(Game& g, const std::array<int16_t, 5>& deltas) {
@@ -56,23 +56,37 @@ void applyReputationChange(Game& g, const std::array<int16_t, 5>& deltas) {
     for (std::size_t m = 0; m < 5; ++m)
         b.reputation[m] = static_cast<uint8_t>(held(b.reputation[m] + deltas[m], 2, 100));
     g.band.write();
-    const BandRecord band = g.band.rec;
+    // The members and the label are changed without touching the band's buffer.
+    const BandRecord& band = g.band.rec;
     const int members = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
+    // The members move in their records' bytes; the artist and job buffers
+    // end on the last ones, as reading and writing each in turn leaves them.
+    static const std::size_t kArtistJob = offsetIn<ArtistRecord>("job");
+    static const std::size_t kArtistReputation = offsetIn<ArtistRecord>("reputation");
+    static const std::size_t kJobRank = offsetIn<JobRecord>("rank");
+    int16_t lastArtist = 0;
+    uint8_t lastJob = 0;
     for (int i = 0; i < members; ++i) {
         const int16_t who = band.members[static_cast<std::size_t>(i)];
         if (who < 1) continue;
-        g.artist.read(who);
         double rank = 1;
-        if (band.memberCount != 1 && g.artist->job > 0) {
-            g.job.read(g.artist->job);
-            rank = std::max<int16_t>(g.job->rank, 1);  // a rank of 0 would divide by zero
+        const auto job = fieldAt<uint8_t>(g.artist.bytesOf(who), kArtistJob);
+        if (band.memberCount != 1 && job > 0) {
+            lastJob = job;
+            // a rank of 0 would divide by zero
+            rank = std::max<int16_t>(fieldAt<int16_t>(g.job.bytesOf(job), kJobRank), 1);
         }
-        for (std::size_t m = 0; m < 5; ++m) {
-            int move = band.memberCount == 1 ? deltas[m] : roundTo<int>(deltas[m] * 3 / rank);
-            g.artist->reputation[m] = static_cast<uint8_t>(held(g.artist->reputation[m] + move, 0, 100));
-        }
-        g.artist.write(who);
+        patchField<std::array<uint8_t, 5>>(g.artist, who, kArtistReputation, [&](std::array<uint8_t, 5> r) {
+            for (std::size_t m = 0; m < 5; ++m) {
+                int move = band.memberCount == 1 ? deltas[m] : roundTo<int>(deltas[m] * 3 / rank);
+                r[m] = static_cast<uint8_t>(held(r[m] + move, 0, 100));
+            }
+            return r;
+        });
+        lastArtist = who;
     }
+    if (lastJob > 0) g.job.read(lastJob);
+    if (lastArtist > 0) g.artist.read(lastArtist);
     if (band.label > 0) {
         g.label.read(band.label);
         addLabelHype(g, deltas);

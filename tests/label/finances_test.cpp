@@ -43,3 +43,27 @@ TEST_F(LabelFinances, HypeRaisesReputationOnceItPassesIt) {
     EXPECT_EQ(g.label->reputation, (std::array<uint8_t, 5>{11, 10, 100, 4, 50}));
     EXPECT_EQ(g.label->hype, (std::array<int16_t, 5>{0, 10, 5, -4, 0}));
 }
+
+TEST_F(LabelFinances, PointsReachTheBossAndEachHeadAndTheBufferEndsOnTheLast) {
+    for (const char* name : {"Boss", "Head", "Idle"}) {
+        g.staff.rec = StaffRecord{};
+        g.staff->forename = name;
+        g.staff.append();
+    }
+    g.label.rec = LabelRecord{};
+    g.label->boss = 1;
+    g.label->department[0].head = 2;
+    g.label->department[5].head = 1;  // the boss heads a department too
+    g.label->points[2] = 5;
+    g.label.append();
+    addLabelPoints(g, 2, 30);
+    // The boss earns twice, 30 + 30; the head 30; the idle one nothing.
+    EXPECT_EQ(g.staff->id, 1);  // the last earner, the sixth head
+    EXPECT_EQ(g.staff->points, (std::array<int32_t, 5>{0, 0, 60, 0, 0}));
+    g.staff.read(2);
+    EXPECT_EQ(g.staff->points, (std::array<int32_t, 5>{0, 0, 30, 0, 0}));
+    g.staff.read(3);
+    EXPECT_EQ(g.staff->points[2], 0);
+    g.label.read(1);
+    EXPECT_EQ(g.label->points[2], 35);  // 5 + 30
+}

@@ -93,6 +93,20 @@ TEST_F(Charts, TheGlobalChartsKeepNeitherWeeksNorHits) {
     EXPECT_EQ(disc(discs[0]).chartPoints[4], 100);
 }
 
+TEST_F(Charts, EachRowOfTheGlobalChartRaisesItsOwnBand) {
+    int16_t other = addBand("Others", label);
+    addRow(4, addDisc("Ours"));
+    addRow(4, addDisc("Theirs", 1000, other));
+    award(4);
+    // Row 1: f 50, doubled 100 against R 50: gain 2, R 52, H 48. Row 2 (a
+    // week out): p 78, d 0, f 39, doubled 78: gain round(78 / 50) = 2, R 52, H 26.
+    EXPECT_EQ(bandRec(band).reputation[4], 52);
+    EXPECT_EQ(bandRec(band).hype[4], 48);
+    EXPECT_EQ(bandRec(other).reputation[4], 52);
+    EXPECT_EQ(bandRec(other).hype[4], 26);
+    EXPECT_EQ(bandRec(other).bandPoints[4], 99);
+}
+
 TEST_F(Charts, ANumberOneInItsFirstWeekRaisesTheBandAndItsLabelsDiscs) {
     int16_t ours = addDisc("Ours");
     int16_t theirs = addDisc("Theirs", 1000, addBand("Others", rival));
@@ -234,6 +248,10 @@ TEST_F(Reputation, MembersMoveByTheirRankAndTheLabelTakesTheRise) {
     g.label.write();
     g.band.read(band);
     applyReputationChange(g, {2, 0, 0, 0, 0});
+    // The buffer ends on the last member, moved 2 x 3 / 1 from 0, and the job read.
+    EXPECT_EQ(g.artist->id, bandRec(band).members[1]);
+    EXPECT_EQ(g.artist->reputation[0], 6);
+    EXPECT_EQ(g.job->id, job);
     EXPECT_EQ(bandRec(band).reputation[0], 52);
     g.artist.read(bandRec(band).members[0]);
     EXPECT_EQ(g.artist->reputation[0], 13);  // 2 x 3 / 2

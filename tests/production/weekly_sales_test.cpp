@@ -261,3 +261,40 @@ TEST_F(WeeklySales, ASoldOutDiscNeverSellsAgainButAnUnsoldOneWaits) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(WeeklySales, TheBiggestDiscAndBestWeekGoToTheBandAndLabelByKind) {
+    auto sold = [&](int16_t d, int32_t week, int32_t total) {
+        g.disc.read(d);
+        g.disc->weekSales = {week, 0, 0, 0, 1};  // 1 more elsewhere
+        g.disc->totalSales = {total, 0, 0, 0, 1};
+        g.disc.write();
+    };
+    int16_t a = addDisc("A"), b = addDisc("B"), s = addDisc("S", 1000, 0, 1);
+    sold(a, 100, 500);  // week 101, total 501
+    sold(b, 50, 800);   // week 51, total 801
+    sold(s, 7, 9);      // week 8, total 10
+    updateBestSellers(g);
+    BandRecord r = bandRec(band);
+    EXPECT_EQ(r.biggestAlbum, b);  // 801 beats A's 501
+    EXPECT_EQ(r.bestWeekAlbum, a);
+    EXPECT_EQ(r.bestWeekAlbumCopies, 101);  // B's 51 does not beat it
+    EXPECT_EQ(r.biggestSingle, s);
+    EXPECT_EQ(r.bestWeekSingleCopies, 8);
+    LabelRecord l = labelRec(label);
+    EXPECT_EQ(l.biggestAlbum, b);
+    EXPECT_EQ(l.bestWeekAlbum, a);
+    EXPECT_EQ(l.bestWeekAlbumCopies, 101);
+    EXPECT_EQ(l.biggestSingle, s);
+    EXPECT_EQ(l.bestWeekSingleCopies, 8);
+    EXPECT_EQ(g.disc->id, s);            // the walk's last disc
+    EXPECT_EQ(g.band->biggestAlbum, b);  // the buffer holds the band as written
+    EXPECT_EQ(g.label->bestWeekSingle, s);
+    sold(a, 52, 800);  // 801, level with B, is not bigger; 53 is not a better week
+    updateBestSellers(g);
+    EXPECT_EQ(bandRec(band).biggestAlbum, b);
+    EXPECT_EQ(bandRec(band).bestWeekAlbumCopies, 101);
+}
+
+}  // namespace

@@ -1,0 +1,83 @@
+// The record holders of a played chart answer what a plain walk decoding
+// every row, band and label would, and leave the buffers where it would.
+#include <gtest/gtest.h>
+
+#include "production/charts.h"
+#include "support/played_world.h"
+#include "world/strings.h"
+
+using namespace trovane;
+
+namespace {
+
+struct Best {
+    int64_t value = 0;
+    int32_t who = 0;
+    std::string text;
+    void offer(int64_t v, int32_t w, const std::string& t) {
+        if (v <= value) return;
+        value = v;
+        who = w;
+        text = t;
+    }
+};
+
+void expectHolder(const ChartHolder& h, const Best& b, const char* what) {
+    EXPECT_EQ(h.value, b.value) << what;
+    EXPECT_EQ(h.who, b.who) << what;
+    EXPECT_EQ(h.text.value, b.text) << what;
+}
+
+TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
+    test::PlayedWorld w;
+    Game& g = w.g;
+    w.play(70);
+    for (int chart : {1, 7}) {
+        const int t = chart % 5;
+        const auto pair = static_cast<std::size_t>(t * 2 + (chart >= 5 ? 0 : 1));
+        Best bandTotal, labelPoints, discWeek, discLifetime;
+        DiscRecord d{};
+        BandRecord b{};
+        LabelRecord l{};
+        openChart(g, chart);
+        const int32_t rows = g.chart.recordCount() - 1;
+        ASSERT_GT(rows, 20) << "the week's chart should be a full one";
+        int16_t lastDisc = 0;
+        for (int32_t i = 1; i <= rows; ++i) {
+            g.chart.read(i);
+            lastDisc = g.chart->disc;
+            decodeRecord(g.disc.bytesOf(lastDisc).data(), d);
+            if (d.band < 1) continue;
+            decodeRecord(g.band.bytesOf(d.band).data(), b);
+            const std::string text = trim(d.title.value) + " by " + trim(b.name.value);
+            discWeek.offer(d.weekSales[static_cast<std::size_t>(t)], d.id, text);
+            discLifetime.offer(d.lifetimeSales[static_cast<std::size_t>(t)], d.id, text);
+        }
+        for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+            decodeRecord(g.band.bytesOf(n).data(), b);
+            bandTotal.offer(b.salesTotals[pair], b.id, trim(b.name.value));
+        }
+        for (int32_t n = 1; n < g.label.recordCount(); ++n) {
+            decodeRecord(g.label.bytesOf(n).data(), l);
+            labelPoints.offer(l.points[static_cast<std::size_t>(t)], l.id, trim(l.name.value));
+        }
+        // From an empty set of records every holder is this week's best.
+        g.chartrecs.rec = ChartRecords{};
+        g.chartrecs.write(chart + 1);
+        updateChartRecords(g, chart);
+        ChartRow lastRow{};
+        decodeRecord(g.chart.bytesOf(rows).data(), lastRow);
+        EXPECT_TRUE(g.chart.rec == lastRow);
+        EXPECT_EQ(g.disc->id, lastDisc);
+        closeChart(g);
+        g.chartrecs.read(chart + 1);
+        const auto& h = g.chartrecs->holder;
+        EXPECT_GT(discWeek.value, 0);
+        expectHolder(h[0], bandTotal, "band sales");
+        expectHolder(h[2], discWeek, "disc week");
+        expectHolder(h[4], discLifetime, "disc lifetime");
+        expectHolder(h[12], labelPoints, "label points");
+    }
+}
+
+}  // namespace
