@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <unordered_map>
 
 #include "floor/formats.h"
 #include "floor/grammar.h"
@@ -12,11 +13,19 @@
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 namespace {
+
+const std::size_t kArtistSongQuality = offsetIn<ArtistRecord>("songQuality");
+const std::size_t kArtistBand = offsetIn<ArtistRecord>("band");
+const std::size_t kArtistRetired = offsetIn<ArtistRecord>("retired");
+const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
+const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
+const std::size_t kDiscTitle = offsetIn<DiscRecord>("title");
 
 constexpr std::array<int32_t, 5> kPrice = {50000, 20000, 5000, 2500, 500};
 constexpr std::array<int, 5> kQualityBase = {90, 80, 65, 50, 40};
@@ -68,13 +77,14 @@ void payFirstInstallment(Game& g) {
 // The latest first release of the band's albums, or none.
 double latestAlbumRelease(Game& g, int16_t band) {
     double latest = 0;
-    DiscRecord disc{};
     for (int32_t n : discsOfBand(g, band)) {
-        decodeRecord(g.disc.bytesOf(n).data(), disc);
-        if (disc.isSingle != 0) continue;
+        const auto bytes = g.disc.bytesOf(n);
+        if (fieldAt<uint8_t>(bytes, kDiscIsSingle) != 0) continue;
         double first = 0;
-        for (double d : disc.releaseDate)
+        for (std::size_t t = 0; t < 5; ++t) {
+            const auto d = fieldAt<double>(bytes, kDiscReleaseDate + 8 * t);
             if (d > kNoDate && (first == 0 || d < first)) first = d;
+        }
         latest = std::max(latest, first);
     }
     return latest;
@@ -96,6 +106,13 @@ int materialQualityBase(int budget) { return kQualityBase[static_cast<std::size_
 void updateSongs(Game& g) {
     const int32_t artists = g.artist.recordCount();
     for (int32_t a = 1; a < artists; ++a) {
+        // Artists who write nothing are passed over on their bytes; the last
+        // is read whatever it is, as a walk reading each leaves the buffer.
+        const auto bytes = g.artist.bytesOf(a);
+        const bool writes = fieldAt<uint8_t>(bytes, kArtistSongQuality) != 0 &&
+                            fieldAt<int16_t>(bytes, kArtistBand) >= 1 &&
+                            fieldAt<int16_t>(bytes, kArtistRetired) == kFalse;
+        if (!writes && a + 1 < artists) continue;
         g.artist.read(a);
         if (g.artist->songQuality == 0 || g.artist->band < 1 || g.artist->retired != kFalse) continue;
         g.band.read(g.artist->band);
@@ -167,18 +184,35 @@ std::string pickAlbumTitle(Game& g) {
     const int32_t count = g.newalbum.recordCount();
     if (count < 2) return "Untitled";
     const uint8_t style = g.band->style;
-    for (int attempt = 0; attempt < 1001; ++attempt) {
+    // Each title in use and the first disc bearing it, read once from the
+    // discs' bytes. A title is taken when some disc bears it; the disc buffer
+    // is left where a walk of the discs comparing each title stops last.
+    std::unordered_map<std::string, int32_t> firstBearing;
+    bool listed = false;
+    int32_t stoppedAt = 0;
+    std::string chosen;
+    bool found = false;
+    for (int attempt = 0; attempt < 1001 && !found; ++attempt) {
         g.newalbum.read(g.rng.between(1, count - 1));
         if (g.newalbum->style != style) continue;
-        const std::string title = trim(g.newalbum->title.value);
-        bool taken = false;
-        for (int32_t d = 1; d < g.disc.recordCount() && !taken; ++d) {
-            g.disc.read(d);
-            taken = trim(g.disc->title.value) == title;
+        if (!listed) {
+            Text<50> t;
+            for (int32_t d = 1; d < g.disc.recordCount(); ++d) {
+                codec::getText(g.disc.bytesOf(d).data() + kDiscTitle, t);
+                firstBearing.try_emplace(trim(t.value), d);
+            }
+            listed = true;
         }
-        if (!taken) return title;
+        std::string title = trim(g.newalbum->title.value);
+        const auto bearer = firstBearing.find(title);
+        stoppedAt = bearer != firstBearing.end() ? bearer->second : g.disc.recordCount() - 1;
+        if (bearer == firstBearing.end()) {
+            chosen = std::move(title);
+            found = true;
+        }
     }
-    return trim(g.newalbum->title.value);
+    if (stoppedAt > 0) g.disc.read(stoppedAt);
+    return found ? chosen : trim(g.newalbum->title.value);
 }
 
 bool isAlreadySingle(const SongRecord& song) {
