@@ -334,6 +334,12 @@ int chooseSupportBands(Game& g, int16_t tour) {
     // Each act is read from its bytes: the rating goes by the reputation
     // alone, so only that is put in the band buffer.
     std::vector<SupportCandidate> found;
+    // Whether a style is of the headliner's family is asked once a style.
+    // The style buffer is left by the last question that read a style, so
+    // that one is asked again at the end.
+    std::array<int8_t, 256> family{};
+    family.fill(-1);
+    int lastStyleRead = -1;
     for (int32_t b = 1; b < g.band.recordCount(); ++b) {
         const auto bytes = g.band.bytesOf(b);
         if (fieldAt<int16_t>(bytes, kBandRetired) != kFalse || b == headliner.id) continue;
@@ -342,13 +348,17 @@ int chooseSupportBands(Game& g, int16_t tour) {
         for (std::size_t m = 0; m < g.band.rec.reputation.size(); ++m)
             g.band.rec.reputation[m] = fieldAt<uint8_t>(bytes, kBandReputation + m);
         int32_t worth2 = bandRating(g);
-        if (!stylesAssociated(g, headliner.style, fieldAt<uint8_t>(bytes, kBandStyle))) continue;
+        const auto style = fieldAt<uint8_t>(bytes, kBandStyle);
+        if (style > 0 && style != headliner.style && style < g.style.recordCount()) lastStyleRead = style;
+        if (family[style] < 0) family[style] = stylesAssociated(g, headliner.style, style) ? 1 : 0;
+        if (family[style] == 0) continue;
         if (!sameLabel) worth2 *= 2;
         if (worth2 > worth || busy[static_cast<std::size_t>(b)]) continue;
         found.push_back({.band = static_cast<int16_t>(b),
                          .rating = sameLabel ? worth2 * 2 : toLong(worth2 / 2.0),
                          .players = player > 0 && label == player});
     }
+    if (lastStyleRead >= 0) stylesAssociated(g, headliner.style, lastStyleRead);
     // The buffer is left at the last act, as a walk reading each leaves it.
     if (g.band.recordCount() > 1) g.band.read(g.band.recordCount() - 1);
     std::stable_sort(found.begin(), found.end(),
