@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <unordered_map>
+#include <span>
+#include <string_view>
 
 #include "floor/formats.h"
 #include "floor/grammar.h"
@@ -26,6 +27,17 @@ const std::size_t kArtistRetired = offsetIn<ArtistRecord>("retired");
 const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
 const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
 const std::size_t kDiscTitle = offsetIn<DiscRecord>("title");
+const std::size_t kNewAlbumStyle = offsetIn<NewAlbumRecord>("style");
+const std::size_t kNewAlbumTitle = offsetIn<NewAlbumRecord>("title");
+constexpr std::size_t kTitleWidth = 50;
+
+// A title of 50 characters as stored, without the spaces around it.
+std::string_view trimmedTitle(std::span<const uint8_t> bytes, std::size_t at) {
+    std::string_view t(reinterpret_cast<const char*>(bytes.data() + at), kTitleWidth);
+    const auto first = t.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return t.substr(first, t.find_last_not_of(' ') - first + 1);
+}
 
 constexpr std::array<int32_t, 5> kPrice = {50000, 20000, 5000, 2500, 500};
 constexpr std::array<int, 5> kQualityBase = {90, 80, 65, 50, 40};
@@ -184,35 +196,28 @@ std::string pickAlbumTitle(Game& g) {
     const int32_t count = g.newalbum.recordCount();
     if (count < 2) return "Untitled";
     const uint8_t style = g.band->style;
-    // Each title in use and the first disc bearing it, read once from the
-    // discs' bytes. A title is taken when some disc bears it; the disc buffer
-    // is left where a walk of the discs comparing each title stops last.
-    std::unordered_map<std::string, int32_t> firstBearing;
-    bool listed = false;
+    // The titles drawn and the discs' titles are compared on their bytes,
+    // trimmed, which match exactly when the titles do. The buffers are left
+    // at the last title drawn and the disc where the last comparison stopped.
+    int32_t drawn = 0;
     int32_t stoppedAt = 0;
-    std::string chosen;
     bool found = false;
     for (int attempt = 0; attempt < 1001 && !found; ++attempt) {
-        g.newalbum.read(g.rng.between(1, count - 1));
-        if (g.newalbum->style != style) continue;
-        if (!listed) {
-            Text<50> t;
-            for (int32_t d = 1; d < g.disc.recordCount(); ++d) {
-                codec::getText(g.disc.bytesOf(d).data() + kDiscTitle, t);
-                firstBearing.try_emplace(trim(t.value), d);
-            }
-            listed = true;
-        }
-        std::string title = trim(g.newalbum->title.value);
-        const auto bearer = firstBearing.find(title);
-        stoppedAt = bearer != firstBearing.end() ? bearer->second : g.disc.recordCount() - 1;
-        if (bearer == firstBearing.end()) {
-            chosen = std::move(title);
-            found = true;
+        drawn = g.rng.between(1, count - 1);
+        const auto entry = g.newalbum.bytesOf(drawn);
+        if (fieldAt<uint8_t>(entry, kNewAlbumStyle) != style) continue;
+        const std::string_view title = trimmedTitle(entry, kNewAlbumTitle);
+        found = true;
+        stoppedAt = g.disc.recordCount() - 1;
+        for (int32_t d = 1; d < g.disc.recordCount() && found; ++d) {
+            if (trimmedTitle(g.disc.bytesOf(d), kDiscTitle) != title) continue;
+            found = false;
+            stoppedAt = d;
         }
     }
+    g.newalbum.read(drawn);
     if (stoppedAt > 0) g.disc.read(stoppedAt);
-    return found ? chosen : trim(g.newalbum->title.value);
+    return trim(g.newalbum->title.value);
 }
 
 bool isAlreadySingle(const SongRecord& song) {
