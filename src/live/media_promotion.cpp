@@ -13,9 +13,11 @@
 #include "schedule/schedule_types.h"
 #include "talent/band_functions.h"
 #include "talent/reputation.h"
+#include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/numbers.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -110,19 +112,46 @@ double nextAnnualIssue(const MediaRecord& m, double today) {
     return date;
 }
 
+const std::size_t kDiscId = offsetIn<DiscRecord>("id");
+const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
+const std::size_t kMediaReach = offsetIn<MediaRecord>("reach");
+const std::size_t kMediaCountry = offsetIn<MediaRecord>("country");
+
 // The band's latest disc released in the territory by today, 0 when none.
+// Only the band's own discs are looked at, from their bytes; when none is
+// found the disc buffer is left at the table's last record, as a walk of
+// every disc leaves it (one found is read by the caller).
 int16_t latestDiscIn(Game& g, int16_t band, int territory) {
     int16_t best = 0;
     double when = 0;
-    auto t = static_cast<std::size_t>(territory);
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        g.disc.read(n);
-        double d = g.disc->releaseDate[t];
-        if (g.disc->band != band || d <= kNoDate || d > g.gameDate || d < when) continue;
+    const std::size_t at = kDiscReleaseDate + 8 * static_cast<std::size_t>(territory);
+    for (int32_t n : discsOfBand(g, band)) {
+        const auto bytes = g.disc.bytesOf(n);
+        const auto d = fieldAt<double>(bytes, at);
+        if (d <= kNoDate || d > g.gameDate || d < when) continue;
         when = d;
-        best = g.disc->id;
+        best = fieldAt<int16_t>(bytes, kDiscId);
     }
+    if (best == 0 && g.disc.recordCount() > 1) g.disc.read(g.disc.recordCount() - 1);
     return best;
+}
+
+// The territory of outlet n as mediaTerritory finds it, from the outlet's and
+// its country's bytes; the market of each country is worked out once.
+int territoryOfOutlet(Game& g, int32_t n, std::vector<int>& marketOf) {
+    const auto bytes = g.media.bytesOf(n);
+    if (fieldAt<uint8_t>(bytes, kMediaReach) == kGlobalReach) return kOther;
+    const uint8_t country = fieldAt<uint8_t>(bytes, kMediaCountry);
+    if (country < 1 || country >= g.country.recordCount()) return kOther;
+    if (marketOf.empty()) marketOf.assign(static_cast<std::size_t>(g.country.recordCount()), -1);
+    int& market = marketOf[country];
+    if (market < 0) {
+        const CountryRecord held = g.country.rec;
+        decodeRecord(g.country.bytesOf(country).data(), g.country.rec);
+        market = venueMarket(g);
+        g.country.rec = held;
+    }
+    return market;
 }
 
 }  // namespace
@@ -207,11 +236,23 @@ MediaOffer bestMediaOffer(Game& g) {
 
 std::vector<MediaOffer> findMediaOffers(Game& g, int territory) {
     std::vector<MediaOffer> out;
-    for (int32_t n = 1; n < g.media.recordCount(); ++n) {
+    std::vector<int> marketOf;
+    const int32_t outlets = g.media.recordCount();
+    for (int32_t n = 1; n < outlets; ++n) {
+        // Outlets of other territories are passed over on their bytes; the
+        // last is read as a walk reading each would leave the buffers.
+        if (territoryOfOutlet(g, n, marketOf) != territory && n + 1 < outlets) continue;
         g.media.read(n);
         if (mediaTerritory(g) != territory) continue;
         MediaOffer o = bestMediaOffer(g);
         if (o.value > 0) out.push_back(o);
+    }
+    // The country buffer holds the country of the last outlet whose country was read.
+    for (int32_t n = outlets - 1; n >= 1; --n) {
+        const auto bytes = g.media.bytesOf(n);
+        if (fieldAt<uint8_t>(bytes, kMediaReach) == kGlobalReach) continue;
+        g.country.readIfPresent(fieldAt<uint8_t>(bytes, kMediaCountry));
+        break;
     }
     std::stable_sort(out.begin(), out.end(),
                      [](const MediaOffer& a, const MediaOffer& b) { return a.value > b.value; });

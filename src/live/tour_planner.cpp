@@ -1,6 +1,7 @@
 #include "live/tour_planner.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "label/scouting.h"
 #include "live/gigs.h"
@@ -11,11 +12,27 @@
 #include "talent/band_functions.h"
 #include "world/game.h"
 #include "world/numbers.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 namespace {
+
+const std::size_t kVenueId = offsetIn<VenueRecord>("id");
+const std::size_t kVenueCapacity = offsetIn<VenueRecord>("capacity");
+const std::size_t kVenueCity = offsetIn<VenueRecord>("city");
+const std::size_t kVenueRating = offsetIn<VenueRecord>("rating");
+const std::size_t kCityCountry = offsetIn<CityRecord>("country");
+const std::size_t kBandRetired = offsetIn<BandRecord>("retired");
+const std::size_t kBandLabel = offsetIn<BandRecord>("label");
+const std::size_t kBandStyle = offsetIn<BandRecord>("style");
+const std::size_t kBandReputation = offsetIn<BandRecord>("reputation");
+const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
+const std::size_t kEntryBand = offsetIn<ScheduleRecord>("band");
+const std::size_t kEntryGig = offsetIn<ScheduleRecord>("gig");
+const std::size_t kGigBill = offsetIn<GigRecord>("bill");
+constexpr std::size_t kBillSlots = std::tuple_size_v<decltype(GigRecord::bill)>;
 
 constexpr int32_t kBigVenue = 25000;
 constexpr int kMostGigs = 40;
@@ -109,13 +126,19 @@ std::vector<TourVenue> listTourVenues(Game& g, int mode, const TourFlags& flags,
         homeOf[static_cast<std::size_t>(c)] = isHomeNation(g.country.rec);
     }
 
+    // The venues are read from their bytes, and their cities'.
     std::vector<TourVenue> out;
     const int32_t venues = g.venue.recordCount();
+    const int32_t cities = g.city.recordCount();
     for (int32_t v = 1; v < venues; ++v) {
-        g.venue.read(v);
-        const VenueRecord venue = g.venue.rec;
-        if (!g.city.readIfPresent(venue.city)) continue;
-        const int16_t country = g.city->country;
+        const auto bytes = g.venue.bytesOf(v);
+        VenueRecord venue;
+        venue.id = fieldAt<int16_t>(bytes, kVenueId);
+        venue.capacity = fieldAt<int32_t>(bytes, kVenueCapacity);
+        venue.city = fieldAt<int16_t>(bytes, kVenueCity);
+        venue.rating = fieldAt<uint8_t>(bytes, kVenueRating);
+        if (venue.city < 1 || venue.city >= cities) continue;
+        const int16_t country = fieldAt<uint8_t>(g.city.bytesOf(venue.city), kCityCountry);
         if (country < 1 || country >= countries) continue;
         const std::string& region = regionOf[static_cast<std::size_t>(country)];
         if (mode == 2) {
@@ -140,6 +163,11 @@ std::vector<TourVenue> listTourVenues(Game& g, int mode, const TourFlags& flags,
                        .country = country,
                        .region = region,
                        .used = false});
+    }
+    // The buffers are left as a walk reading each venue and its city leaves them.
+    if (venues > 1) {
+        g.venue.read(venues - 1);
+        g.city.readIfPresent(g.venue->city);
     }
     return out;
 }
@@ -265,20 +293,20 @@ std::vector<bool> actsBusyBetween(Game& g, double first, double last) {
     auto mark = [&](int32_t band) {
         if (band > 0 && band < static_cast<int32_t>(busy.size())) busy[static_cast<std::size_t>(band)] = true;
     };
-    const ScheduleRecord heldEntry = g.schedule.rec;
-    const GigRecord heldGig = g.gig.rec;
+    // The entries and gigs are read from their bytes; no buffer changes.
     for (double d = first; d <= last; ++d) {
         for (int32_t id : entriesOfDay(g, d)) {
-            if (!g.schedule.readIfPresent(id)) continue;
-            const ScheduleRecord e = g.schedule.rec;
-            if (e.type == static_cast<uint8_t>(ScheduleType::calledOff)) continue;
-            mark(e.band);
-            if (e.type == static_cast<uint8_t>(ScheduleType::gig) && g.gig.readIfPresent(e.gig))
-                for (int16_t act : g.gig->bill) mark(act);
+            if (id < 1 || id >= g.schedule.recordCount()) continue;
+            const auto e = g.schedule.bytesOf(id);
+            const auto type = fieldAt<uint8_t>(e, kEntryType);
+            if (type == static_cast<uint8_t>(ScheduleType::calledOff)) continue;
+            mark(fieldAt<int16_t>(e, kEntryBand));
+            const auto gig = fieldAt<int32_t>(e, kEntryGig);
+            if (type != static_cast<uint8_t>(ScheduleType::gig) || gig < 1 || gig >= g.gig.recordCount()) continue;
+            const auto bill = g.gig.bytesOf(gig);
+            for (std::size_t slot = 0; slot < kBillSlots; ++slot) mark(fieldAt<int16_t>(bill, kGigBill + 2 * slot));
         }
     }
-    g.schedule.rec = heldEntry;
-    g.gig.rec = heldGig;
     return busy;
 }
 
@@ -303,20 +331,36 @@ int chooseSupportBands(Game& g, int16_t tour) {
     const std::vector<bool> busy = actsBusyBetween(g, first, last);
     const int16_t player = g.player.playerLabel;
 
+    // Each act is read from its bytes: the rating goes by the reputation
+    // alone, so only that is put in the band buffer.
     std::vector<SupportCandidate> found;
+    // Whether a style is of the headliner's family is asked once a style.
+    // The style buffer is left by the last question that read a style, so
+    // that one is asked again at the end.
+    std::array<int8_t, 256> family{};
+    family.fill(-1);
+    int lastStyleRead = -1;
     for (int32_t b = 1; b < g.band.recordCount(); ++b) {
-        g.band.read(b);
-        if (g.band->retired != kFalse || b == headliner.id) continue;
-        const int16_t label = g.band->label;
+        const auto bytes = g.band.bytesOf(b);
+        if (fieldAt<int16_t>(bytes, kBandRetired) != kFalse || b == headliner.id) continue;
+        const auto label = fieldAt<int16_t>(bytes, kBandLabel);
         const bool sameLabel = label == headliner.label;
+        for (std::size_t m = 0; m < g.band.rec.reputation.size(); ++m)
+            g.band.rec.reputation[m] = fieldAt<uint8_t>(bytes, kBandReputation + m);
         int32_t worth2 = bandRating(g);
-        if (!stylesAssociated(g, headliner.style, g.band->style)) continue;
+        const auto style = fieldAt<uint8_t>(bytes, kBandStyle);
+        if (style > 0 && style != headliner.style && style < g.style.recordCount()) lastStyleRead = style;
+        if (family[style] < 0) family[style] = stylesAssociated(g, headliner.style, style) ? 1 : 0;
+        if (family[style] == 0) continue;
         if (!sameLabel) worth2 *= 2;
         if (worth2 > worth || busy[static_cast<std::size_t>(b)]) continue;
         found.push_back({.band = static_cast<int16_t>(b),
                          .rating = sameLabel ? worth2 * 2 : toLong(worth2 / 2.0),
                          .players = player > 0 && label == player});
     }
+    if (lastStyleRead >= 0) stylesAssociated(g, headliner.style, lastStyleRead);
+    // The buffer is left at the last act, as a walk reading each leaves it.
+    if (g.band.recordCount() > 1) g.band.read(g.band.recordCount() - 1);
     std::stable_sort(found.begin(), found.end(),
                      [](const SupportCandidate& a, const SupportCandidate& b) { return a.rating > b.rating; });
     if (found.size() > 3) found.resize(3);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <span>
+#include <string_view>
 
 #include "floor/formats.h"
 #include "floor/grammar.h"
@@ -12,11 +14,30 @@
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 namespace {
+
+const std::size_t kArtistSongQuality = offsetIn<ArtistRecord>("songQuality");
+const std::size_t kArtistBand = offsetIn<ArtistRecord>("band");
+const std::size_t kArtistRetired = offsetIn<ArtistRecord>("retired");
+const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
+const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
+const std::size_t kDiscTitle = offsetIn<DiscRecord>("title");
+const std::size_t kNewAlbumStyle = offsetIn<NewAlbumRecord>("style");
+const std::size_t kNewAlbumTitle = offsetIn<NewAlbumRecord>("title");
+constexpr std::size_t kTitleWidth = 50;
+
+// A title of 50 characters as stored, without the spaces around it.
+std::string_view trimmedTitle(std::span<const uint8_t> bytes, std::size_t at) {
+    std::string_view t(reinterpret_cast<const char*>(bytes.data() + at), kTitleWidth);
+    const auto first = t.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return t.substr(first, t.find_last_not_of(' ') - first + 1);
+}
 
 constexpr std::array<int32_t, 5> kPrice = {50000, 20000, 5000, 2500, 500};
 constexpr std::array<int, 5> kQualityBase = {90, 80, 65, 50, 40};
@@ -68,13 +89,14 @@ void payFirstInstallment(Game& g) {
 // The latest first release of the band's albums, or none.
 double latestAlbumRelease(Game& g, int16_t band) {
     double latest = 0;
-    DiscRecord disc{};
     for (int32_t n : discsOfBand(g, band)) {
-        decodeRecord(g.disc.bytesOf(n).data(), disc);
-        if (disc.isSingle != 0) continue;
+        const auto bytes = g.disc.bytesOf(n);
+        if (fieldAt<uint8_t>(bytes, kDiscIsSingle) != 0) continue;
         double first = 0;
-        for (double d : disc.releaseDate)
+        for (std::size_t t = 0; t < 5; ++t) {
+            const auto d = fieldAt<double>(bytes, kDiscReleaseDate + 8 * t);
             if (d > kNoDate && (first == 0 || d < first)) first = d;
+        }
         latest = std::max(latest, first);
     }
     return latest;
@@ -96,6 +118,13 @@ int materialQualityBase(int budget) { return kQualityBase[static_cast<std::size_
 void updateSongs(Game& g) {
     const int32_t artists = g.artist.recordCount();
     for (int32_t a = 1; a < artists; ++a) {
+        // Artists who write nothing are passed over on their bytes; the last
+        // is read whatever it is, as a walk reading each leaves the buffer.
+        const auto bytes = g.artist.bytesOf(a);
+        const bool writes = fieldAt<uint8_t>(bytes, kArtistSongQuality) != 0 &&
+                            fieldAt<int16_t>(bytes, kArtistBand) >= 1 &&
+                            fieldAt<int16_t>(bytes, kArtistRetired) == kFalse;
+        if (!writes && a + 1 < artists) continue;
         g.artist.read(a);
         if (g.artist->songQuality == 0 || g.artist->band < 1 || g.artist->retired != kFalse) continue;
         g.band.read(g.artist->band);
@@ -167,17 +196,27 @@ std::string pickAlbumTitle(Game& g) {
     const int32_t count = g.newalbum.recordCount();
     if (count < 2) return "Untitled";
     const uint8_t style = g.band->style;
-    for (int attempt = 0; attempt < 1001; ++attempt) {
-        g.newalbum.read(g.rng.between(1, count - 1));
-        if (g.newalbum->style != style) continue;
-        const std::string title = trim(g.newalbum->title.value);
-        bool taken = false;
-        for (int32_t d = 1; d < g.disc.recordCount() && !taken; ++d) {
-            g.disc.read(d);
-            taken = trim(g.disc->title.value) == title;
+    // The titles drawn and the discs' titles are compared on their bytes,
+    // trimmed, which match exactly when the titles do. The buffers are left
+    // at the last title drawn and the disc where the last comparison stopped.
+    int32_t drawn = 0;
+    int32_t stoppedAt = 0;
+    bool found = false;
+    for (int attempt = 0; attempt < 1001 && !found; ++attempt) {
+        drawn = g.rng.between(1, count - 1);
+        const auto entry = g.newalbum.bytesOf(drawn);
+        if (fieldAt<uint8_t>(entry, kNewAlbumStyle) != style) continue;
+        const std::string_view title = trimmedTitle(entry, kNewAlbumTitle);
+        found = true;
+        stoppedAt = g.disc.recordCount() - 1;
+        for (int32_t d = 1; d < g.disc.recordCount() && found; ++d) {
+            if (trimmedTitle(g.disc.bytesOf(d), kDiscTitle) != title) continue;
+            found = false;
+            stoppedAt = d;
         }
-        if (!taken) return title;
     }
+    g.newalbum.read(drawn);
+    if (stoppedAt > 0) g.disc.read(stoppedAt);
     return trim(g.newalbum->title.value);
 }
 

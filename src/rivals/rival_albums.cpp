@@ -1,6 +1,7 @@
 #include "rivals/rival_albums.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -22,8 +24,24 @@ namespace {
 constexpr uint16_t kNotOnDisc = 65535;
 constexpr int kMaxGathered = 50;
 
+const std::size_t kBandRetired = offsetIn<BandRecord>("retired");
+const std::size_t kBandLabel = offsetIn<BandRecord>("label");
+const std::size_t kBandAlbumStatus = offsetIn<BandRecord>("albumStatus");
+const std::size_t kBandSongsWritten = offsetIn<BandRecord>("songsWritten");
+const std::size_t kBusinessKind = offsetIn<BusinessRecord>("kind");
+const std::size_t kBusinessQuality = offsetIn<BusinessRecord>("quality");
+const std::size_t kBusinessOpen = offsetIn<BusinessRecord>("open");
+const std::size_t kSongQuality = offsetIn<SongRecord>("quality");
+const std::size_t kSongCommerciality = offsetIn<SongRecord>("commerciality");
+
 bool isRivalBandRecord(const BandRecord& b, int16_t player) {
     return b.retired == 0 && b.label > 0 && b.label != player;
+}
+
+// The same test on a band's bytes.
+bool isRivalBandBytes(std::span<const uint8_t> b, int16_t player) {
+    const auto label = fieldAt<int16_t>(b, kBandLabel);
+    return fieldAt<int16_t>(b, kBandRetired) == 0 && label > 0 && label != player;
 }
 
 }  // namespace
@@ -55,6 +73,11 @@ int trackTargetFor(const int* qualities, int count) {
 void computerRecordAlbum(Game& g) {
     const int16_t player = g.player.playerLabel;
     for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+        // Bands that cannot qualify are passed over on their bytes; the last
+        // is read whatever it is, as a walk reading each leaves the buffer.
+        const auto bytes = g.band.bytesOf(n);
+        const bool candidate = fieldAt<uint8_t>(bytes, kBandAlbumStatus) == 0 && isRivalBandBytes(bytes, player);
+        if (!candidate && n + 1 < g.band.recordCount()) continue;
         g.band.read(n);
         if (g.band->albumStatus != 0 || !isRivalBandRecord(g.band.rec, player)) continue;
         const auto band = static_cast<int16_t>(n);
@@ -71,6 +94,10 @@ void computerRecordAlbum(Game& g) {
 void computerCheckAlbumProgress(Game& g) {
     const int16_t player = g.player.playerLabel;
     for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+        const auto bytes = g.band.bytesOf(n);
+        const bool candidate = fieldAt<uint8_t>(bytes, kBandAlbumStatus) <= 1 && isRivalBandBytes(bytes, player) &&
+                               fieldAt<int32_t>(bytes, kBandSongsWritten) >= 10;
+        if (!candidate && n + 1 < g.band.recordCount()) continue;
         g.band.read(n);
         if (g.band->albumStatus > 1 || !isRivalBandRecord(g.band.rec, player)) continue;
         if (g.band->songsWritten < 10) continue;
@@ -85,7 +112,9 @@ void rivalStartAlbum(Game& g) {
     SongRecord s{};
     for (int32_t n : unusedSongsOf(g, band)) {
         if (std::ssize(gathered) >= kMaxGathered) break;
-        decodeRecord(g.song.bytesOf(n).data(), s);
+        const auto bytes = g.song.bytesOf(n);
+        s.quality = fieldAt<uint8_t>(bytes, kSongQuality);
+        s.commerciality = fieldAt<uint8_t>(bytes, kSongCommerciality);
         gathered.emplace_back(trackQuality(s), n);
     }
     if (gathered.empty()) return;
@@ -129,14 +158,18 @@ void rivalChooseStudio(Game& g) {
         anyStudio = g.business->kind == kStudio;
     }
     if (!anyStudio) return;  // a world without studios records nothing
+    // The firms drawn are tested on their bytes; the draws end on a studio,
+    // which is read, as reading each would leave it.
     int16_t studio = 0;
     for (int draws = 1;; ++draws) {
         const int32_t n = g.rng.between(1, firms);
-        g.business.read(n);
-        if (g.business->kind != kStudio) continue;
-        const bool fits = g.business->open == kFirmOpen && low <= g.business->quality && g.business->quality <= high;
+        const auto firm = g.business.bytesOf(n);
+        if (fieldAt<uint8_t>(firm, kBusinessKind) != kStudio) continue;
+        const auto quality = fieldAt<uint8_t>(firm, kBusinessQuality);
+        const bool fits = fieldAt<int16_t>(firm, kBusinessOpen) == kFirmOpen && low <= quality && quality <= high;
         if (fits || draws > 100) {
             studio = static_cast<int16_t>(n);
+            g.business.read(n);
             break;
         }
     }

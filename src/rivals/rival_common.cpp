@@ -1,12 +1,14 @@
 #include "rivals/rival_common.h"
 
 #include <algorithm>
+#include <array>
 
 #include "label/scouting.h"
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/numbers.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
@@ -20,12 +22,18 @@ bool songIsSingle(const SongRecord& song) {
 
 namespace {
 
+const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
+const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
+
+// Each disc of the band with whether it is a single and its release dates,
+// read from its bytes.
 template <class Visit>
 void eachDiscOf(Game& g, int16_t band, Visit visit) {
-    DiscRecord d{};
+    std::array<double, 5> dates{};
     for (int32_t n : discsOfBand(g, band)) {
-        decodeRecord(g.disc.bytesOf(n).data(), d);
-        visit(n, d);
+        const auto bytes = g.disc.bytesOf(n);
+        for (std::size_t t = 0; t < dates.size(); ++t) dates[t] = fieldAt<double>(bytes, kDiscReleaseDate + 8 * t);
+        visit(n, fieldAt<uint8_t>(bytes, kDiscIsSingle) != 0, dates);
     }
 }
 
@@ -34,9 +42,9 @@ void eachDiscOf(Game& g, int16_t band, Visit visit) {
 int16_t latestAlbum(Game& g, int16_t band) {
     int16_t latest = 0;
     double when = kNoDate;
-    eachDiscOf(g, band, [&](int32_t n, const DiscRecord& d) {
-        if (d.isSingle != 0) return;
-        for (double date : d.releaseDate)
+    eachDiscOf(g, band, [&](int32_t n, bool single, const std::array<double, 5>& dates) {
+        if (single) return;
+        for (double date : dates)
             if (date > when) when = date, latest = static_cast<int16_t>(n);
     });
     return latest;
@@ -44,10 +52,10 @@ int16_t latestAlbum(Game& g, int16_t band) {
 
 double latestReleaseOf(Game& g, int16_t band, int isSingle, int territory) {
     double when = kNoDate;
-    eachDiscOf(g, band, [&](int32_t, const DiscRecord& d) {
-        if ((d.isSingle != 0) != (isSingle != 0)) return;
+    eachDiscOf(g, band, [&](int32_t, bool single, const std::array<double, 5>& dates) {
+        if (single != (isSingle != 0)) return;
         for (int t = 0; t < 5; ++t)
-            if (territory < 0 || t == territory) when = std::max(when, d.releaseDate[static_cast<std::size_t>(t)]);
+            if (territory < 0 || t == territory) when = std::max(when, dates[static_cast<std::size_t>(t)]);
     });
     return when;
 }

@@ -20,9 +20,18 @@ constexpr int kEnough = 150;
 FreeDays freeDaysOf(Game& g, double from, double to) {
     const BandRecord band = g.band.rec;
     FreeDays out{.first = std::max(from, g.gameDate + 1)};
-    for (double d = out.first; d <= to; ++d) {
+    if (out.first > to) return out;
+    // One pass counts the free days and a second lists them. Asking day by
+    // day reads what a walk of the whole stretch reads, so the days after
+    // the last free one are walked too, and the buffers end as they would.
+    out.free.assign(static_cast<std::size_t>(to - out.first) + 1, false);
+    const int32_t free = countFreeDays(g, out.first, to + 1);
+    g.band.rec = band;
+    if (free > 0) {
+        const std::vector<double> dates = nextFreeDates(g, out.first, free);
+        for (double d : dates) out.free[static_cast<std::size_t>(d - out.first)] = true;
         g.band.rec = band;
-        out.free.push_back(bandEngagement(g, 1, d) == 0);
+        countFreeDays(g, dates.back() + 1, to + 1);
     }
     g.band.rec = band;
     return out;

@@ -12,6 +12,7 @@
 #include "world/band_lookups.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
@@ -20,12 +21,21 @@ namespace {
 // The song's singleDisc fields run UK, US, Global, Europe, Oceania.
 constexpr std::array<std::size_t, 5> kSingleDiscField = {0, 1, 3, 4, 2};
 
+const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
+const std::size_t kEntryBand = offsetIn<ScheduleRecord>("band");
+const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
+const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
+const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
+const std::size_t kBandReputation = offsetIn<BandRecord>("reputation");
+const std::size_t kBusinessKind = offsetIn<BusinessRecord>("kind");
+const std::size_t kBusinessOpen = offsetIn<BusinessRecord>("open");
+
+// The entries and discs below are read from their bytes; no buffer changes.
 bool gigBooked(Game& g, int16_t band, double from, double to) {
-    ScheduleRecord e{};
     for (double day = from; day <= to; ++day)
         for (int32_t id : entriesOfDay(g, day)) {
-            decodeRecord(g.schedule.bytesOf(id).data(), e);
-            if (e.type == 8 && e.band == band) return true;
+            const auto e = g.schedule.bytesOf(id);
+            if (fieldAt<uint8_t>(e, kEntryType) == 8 && fieldAt<int16_t>(e, kEntryBand) == band) return true;
         }
     return false;
 }
@@ -35,14 +45,15 @@ bool crowded(Game& g, const DiscRecord& disc, int t, double date, int r) {
     const int low = std::clamp(roundTo<int>(r - r / 4.0), 0, 255);
     const int high = std::clamp(roundTo<int>(r + r / 4.0), 0, 255);
     int equals = 0;
-    DiscRecord d{};
-    BandRecord b{};
+    const auto territory = static_cast<std::size_t>(t);
     for (int32_t n : discsOutOn(g, date)) {
-        decodeRecord(g.disc.bytesOf(n).data(), d);
-        if (d.releaseDate[static_cast<std::size_t>(t)] != date || d.isSingle != disc.isSingle || n == disc.id) continue;
-        if (d.band < 1 || d.band >= g.band.recordCount()) continue;
-        decodeRecord(g.band.bytesOf(d.band).data(), b);
-        const int rep = b.reputation[static_cast<std::size_t>(t)];
+        const auto d = g.disc.bytesOf(n);
+        if (fieldAt<double>(d, kDiscReleaseDate + 8 * territory) != date ||
+            fieldAt<uint8_t>(d, kDiscIsSingle) != disc.isSingle || n == disc.id)
+            continue;
+        const auto band = fieldAt<int16_t>(d, kDiscBand);
+        if (band < 1 || band >= g.band.recordCount()) continue;
+        const int rep = fieldAt<uint8_t>(g.band.bytesOf(band), kBandReputation + territory);
         if (low <= rep && rep <= high && ++equals >= 3) return true;
     }
     return false;
@@ -62,9 +73,14 @@ void rivalChooseReleaseDate(Game& g, int territory) {
     g.band.read(band);
     const int r = g.band->reputation[static_cast<std::size_t>(t)];
     bool accepted = false;
+    // The free days from today are counted on from the last date tried, a
+    // week at a time: the buffers end as a count from today leaves them.
+    int32_t freeDays = 0;
+    double countedTo = g.gameDate;
     for (int week = 0; week < 11 && !accepted; ++week) {
         g.band.read(band);
-        const int32_t freeDays = countFreeDays(g, g.gameDate, candidate);
+        freeDays += countFreeDays(g, countedTo, candidate);
+        countedTo = candidate;
         g.band.read(band);
         const bool freeThatDay = bandEngagement(g, 1, candidate) == 0;
         accepted = freeDays >= 42 && freeThatDay && !crowded(g, disc, t, candidate, r);
@@ -90,14 +106,22 @@ void rivalPressDisc(Game& g) {
     if (total <= 0) return;
     const int32_t required = roundTo<int32_t>(static_cast<double>(total) / 35);
     const int32_t firms = g.business.recordCount() - 1;
+    // The firms drawn are tested on their bytes and only open plants read;
+    // the buffer is left at the last firm drawn, as reading each leaves it.
     int16_t plant = 0;
+    int32_t unread = 0;
     for (int draw = 0; draw < 1001 && firms > 0; ++draw) {
         const int32_t n = g.rng.between(1, firms);
+        const auto firm = g.business.bytesOf(n);
+        unread = n;
+        if (fieldAt<uint8_t>(firm, kBusinessKind) != kPlant || fieldAt<int16_t>(firm, kBusinessOpen) != kFirmOpen)
+            continue;
         g.business.read(n);
-        if (g.business->kind != kPlant || g.business->open != kFirmOpen) continue;
+        unread = 0;
         plant = static_cast<int16_t>(n);
         if (plantDailyCapacity(g) > required) break;
     }
+    if (unread > 0) g.business.read(unread);
     if (plant == 0) return;  // no plant for hire anywhere: the disc waits unpressed
     pressDiscs(g, disc, plant, copies);
     g.disc.read(disc);

@@ -12,11 +12,29 @@
 #include "talent/contract_terms.h"
 #include "talent/contracts.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 namespace {
+
+const std::size_t kRowBand = offsetIn<ShortlistRecord>("band");
+const std::size_t kRowLabel = offsetIn<ShortlistRecord>("label");
+const std::size_t kBandLabel = offsetIn<BandRecord>("label");
+const std::size_t kBandRetired = offsetIn<BandRecord>("retired");
+
+// Whether a row of the shortlist may lead to a bid, from the bytes of the
+// row and its band: a label other than the player's, and a free act.
+bool mayBid(Game& g, int32_t row, int16_t player) {
+    const auto r = g.shortlist.bytesOf(row);
+    const auto label = fieldAt<int16_t>(r, kRowLabel);
+    const auto band = fieldAt<int16_t>(r, kRowBand);
+    if (label < 1 || label == player || label >= g.label.recordCount()) return false;
+    if (band < 1 || band >= g.band.recordCount()) return false;
+    const auto b = g.band.bytesOf(band);
+    return fieldAt<int16_t>(b, kBandLabel) == 0 && fieldAt<int16_t>(b, kBandRetired) == kFalse;
+}
 
 int32_t scaled(double value, double scale, double high) {
     return roundTo<int32_t>(std::clamp(roundHalfEven(value * scale), 0.0, high));
@@ -59,6 +77,9 @@ void computerApproachBands(Game& g) {
     const int16_t player = g.player.playerLabel;
     std::vector<std::vector<int16_t>> bidders(static_cast<std::size_t>(std::max(g.band.recordCount(), 1)));
     for (int32_t s = 1; s < g.shortlist.recordCount(); ++s) {
+        // A row that cannot lead to a bid is passed over on its bytes; the
+        // last is read whatever it is, as a walk reading each leaves the buffers.
+        if (!mayBid(g, s, player) && s + 1 < g.shortlist.recordCount()) continue;
         g.shortlist.read(s);
         const int16_t label = g.shortlist->label;
         const int16_t band = g.shortlist->band;

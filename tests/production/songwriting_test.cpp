@@ -343,3 +343,22 @@ TEST(Songwriting, TheNewPlayerIsBriefedOnBandsWithTracksAndNoAlbumInTheStudio) {
               "label are progressing on forthcoming albums, the report can be seen below :-\n- One : written 1 track "
               "to appear on a future album.\n- Many : written 12 tracks to appear on a future album.");
 }
+
+TEST(Songwriting, AnAlbumTitleSomeDiscBearsIsNeverChosen) {
+    AlbumWorld w;
+    Game& g = w.g;
+    int16_t band = w.addBand("Ours", AlbumWorld::kPlayer);
+    for (const char* title : {"Taken", "Fresh", "Elsewhere"}) {
+        g.newalbum.rec = NewAlbumRecord{};
+        g.newalbum->title = std::string(title);
+        g.newalbum->style = title[0] == 'E' ? 2 : 1;
+        g.newalbum.append();
+    }
+    g.disc.rec = DiscRecord{};
+    g.disc->title = std::string("  Taken");  // the spaces around a title do not free it
+    g.disc.append();
+    for (int i = 0; i < 20; ++i) {
+        g.band.read(band);
+        EXPECT_EQ(pickAlbumTitle(g), "Fresh");
+    }
+}

@@ -3,6 +3,8 @@
 
 #include "production/businesses.h"
 #include "rivals/rival_albums.h"
+#include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
 #include "support/album_world.h"
 #include "world/dates.h"
 #include "world/strings.h"
@@ -289,6 +291,24 @@ TEST_F(RivalRelease, ElevenCrowdedWeeksFallBackUpToEightWeeks) {
     EXPECT_LE(date, first + 77);
     EXPECT_GE(date, first + 77 - 56);
     EXPECT_EQ(static_cast<int64_t>(first + 77 - date) % 7, 0);
+}
+
+TEST_F(RivalRelease, FreeDaysAreCountedFromTodayForEachWeekTried) {
+    setReputation({30, 0, 0, 0, 0});
+    for (int d = 1; d <= 20; ++d) {
+        ScheduleRecord rest{};
+        rest.type = static_cast<uint8_t>(ScheduleType::restDay);
+        rest.date = g.gameDate + d;
+        rest.band = band;
+        addSchedule(g, rest);
+    }
+    const int16_t disc = recorded(0);
+    g.disc.read(disc);
+    rivalChooseReleaseDate(g, 1);
+    g.disc.read(disc);
+    // Twenty days of rest from 2 March 2005: 18 April has 48 - 20 = 28 free
+    // days before it, 25 April 35, 2 May 42, the first with enough.
+    EXPECT_EQ(g.disc->releaseDate[0], serialFromCivil(2005, 5, 2));
 }
 
 }  // namespace
