@@ -5,7 +5,6 @@
 #include <fmt/format.h>
 
 #include "label/departments.h"
-#include "production/field_patch.h"
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/record_bytes.h"

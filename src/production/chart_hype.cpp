@@ -5,7 +5,6 @@
 #include <optional>
 #include <span>
 
-#include "production/field_patch.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
 #include "world/record_bytes.h"

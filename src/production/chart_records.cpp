@@ -76,14 +76,6 @@ T element(std::span<const uint8_t> bytes, std::size_t base, int i) {
     return fieldAt<T>(bytes, base + static_cast<std::size_t>(i) * sizeof(T));
 }
 
-// A name or title read from the record's bytes, without its padding.
-template <class TextField>
-std::string textAt(std::span<const uint8_t> bytes, std::size_t offset) {
-    TextField text;
-    codec::getText(bytes.data() + offset, text);
-    return trim(text.value);
-}
-
 std::string bandName(std::span<const uint8_t> b) { return textAt<decltype(BandRecord::name)>(b, kBandName); }
 
 }  // namespace

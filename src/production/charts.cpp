@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "production/disc_release.h"
-#include "production/field_patch.h"
 #include "production/weekly_sales.h"
 #include "talent/band_functions.h"
 #include "talent/reputation.h"

@@ -13,7 +13,6 @@
 #include "production/businesses.h"
 #include "production/chart_history.h"
 #include "production/charts.h"
-#include "production/field_patch.h"
 #include "talent/band_functions.h"
 #include "world/record_bytes.h"
 #include "world/record_store.h"

@@ -5,7 +5,6 @@
 
 #include "label/finances.h"
 #include "production/chart_hype.h"
-#include "production/field_patch.h"
 #include "world/game.h"
 #include "world/record_bytes.h"
 

@@ -6,7 +6,11 @@
 //   const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
 //   if (fieldAt<int16_t>(g.disc.bytesOf(n), kDiscBand) == band) ...
 //
+// A step that moves a counter of many records changes it in the bytes the same
+// way (patchField), leaving the table's buffer as it was.
+//
 // Numbers are stored little-endian, so on this machine they are read in place.
+#include <array>
 #include <bit>
 #include <cassert>
 #include <cstdint>
@@ -17,6 +21,8 @@
 
 #include "world/fatal_error.h"
 #include "world/record_codec.h"
+#include "world/strings.h"
+#include "world/table.h"
 
 namespace trovane {
 
@@ -39,6 +45,14 @@ T fieldAt(const uint8_t* record, std::size_t at) {
     return v;
 }
 
+// A name or title read from a record's bytes, without its padding.
+template <class TextField>
+std::string textAt(std::span<const uint8_t> bytes, std::size_t at) {
+    TextField text;
+    codec::getText(bytes.data() + at, text);
+    return trim(text.value);
+}
+
 // The byte offset of a field of R, by the name it is declared under ("band",
 // or "player.gameNumber" for a nested one). A name R lacks is a fault in the
 // program, reported when the offset is first taken.
@@ -46,6 +60,38 @@ template <PackedRecord R>
 std::size_t offsetIn(std::string_view name) {
     if (auto at = fieldOffset<R>(name)) return *at;
     throw FatalError("a record is read for a field it lacks: " + std::string(name));
+}
+
+// Sets the value of type T at byte offset at of record n to change(old).
+// Writes only when the bytes change, as a write of the whole record would.
+template <class T, PackedRecord R, class F>
+void patchField(Table<R>& table, int32_t n, std::size_t at, F&& change) {
+    std::array<uint8_t, R::kLength> bytes;
+    const auto now = table.bytesOf(n);
+    std::memcpy(bytes.data(), now.data(), bytes.size());
+    T v;
+    std::memcpy(&v, bytes.data() + at, sizeof v);
+    const T next = change(v);
+    if (next == v) return;
+    std::memcpy(bytes.data() + at, &next, sizeof next);
+    table.putBytes(n, bytes);
+}
+
+// Writes v at byte offset at of a record's bytes.
+template <class T>
+void putFieldAt(uint8_t* record, std::size_t at, T v) {
+    std::memcpy(record + at, &v, sizeof v);
+}
+
+// Lets change(bytes) alter a copy of record n's bytes, then writes the copy
+// (a write that changes nothing does nothing).
+template <PackedRecord R, class F>
+void patchRecord(Table<R>& table, int32_t n, F&& change) {
+    std::array<uint8_t, R::kLength> bytes;
+    const auto now = table.bytesOf(n);
+    std::memcpy(bytes.data(), now.data(), bytes.size());
+    change(bytes.data());
+    table.putBytes(n, bytes);
 }
 
 }  // namespace trovane
