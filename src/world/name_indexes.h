@@ -80,6 +80,20 @@ struct CityRows {
     std::vector<Row> rows;
 };
 
+// Each country's links to the others in the nations' table, in record order,
+// for a new member's country of birth: a link's other end and its weight.
+// Read again when the table is opened or emptied or its count of records
+// moves, or when a write changes one of its rows.
+struct NationLinks {
+    struct Link {
+        int country = 0;
+        int weight = 0;
+    };
+    uint64_t generation = UINT64_MAX;
+    int32_t records = -1;
+    std::unordered_map<int, std::vector<Link>> byHome;
+};
+
 // Artists by what the daily walks over them need, so the walks cost what the
 // artists still at work cost however many have retired (see artist_sets.h).
 struct ArtistSets {

@@ -3,16 +3,28 @@
 // number between two bounds, both included, is the low bound plus the whole
 // part of draw times the width. Seeded from the clock by the desktop game,
 // explicitly by tests and trovane-sim, and then a whole game repeats exactly.
+//
+// The numbers are those of the 64-bit Mersenne Twister (std::mt19937_64),
+// kept here so that a run of draws whose values are not wanted can move the
+// state on without tempering each one, and so the state is renewed in plain
+// loops the compiler can widen.
+#include <array>
 #include <cstdint>
-#include <random>
 
 namespace trovane {
 
 class Random {
 public:
-    explicit Random(uint64_t seed = 1) : engine_(seed) {}
+    explicit Random(uint64_t seed = 1) { this->seed(seed); }
 
-    void seed(uint64_t s) { engine_.seed(s); }
+    void seed(uint64_t s) {
+        state_[0] = s;
+        for (std::size_t i = 1; i < kN; ++i) {
+            const uint64_t prev = state_[i - 1];
+            state_[i] = 6364136223846793005ULL * (prev ^ (prev >> 62)) + i;
+        }
+        next_ = kN;
+    }
 
     float draw() { return static_cast<float>(bits()) / 16777216.0f; }
 
@@ -21,7 +33,12 @@ public:
 
     // Moves on as many draws as `count` would take, their values unused.
     void discard(uint64_t count) {
-        for (; count != 0; --count) static_cast<void>(engine_());
+        while (count > 0) {
+            if (next_ >= kN) renew();
+            const uint64_t step = count < kN - next_ ? count : kN - next_;
+            next_ += static_cast<std::size_t>(step);
+            count -= step;
+        }
     }
 
     // The whole number from low to high that a draw of these 24 bits gives.
@@ -38,10 +55,34 @@ public:
     }
 
 private:
-    // 24 random bits: every draw made of them is an exact single below 1.
-    uint32_t bits() { return static_cast<uint32_t>(engine_() >> 40); }
+    static constexpr std::size_t kN = 312;
+    static constexpr std::size_t kM = 156;
 
-    std::mt19937_64 engine_;
+    // 24 random bits: every draw made of them is an exact single below 1.
+    uint32_t bits() {
+        if (next_ >= kN) renew();
+        uint64_t y = state_[next_++];
+        y ^= (y >> 29) & 0x5555555555555555ULL;
+        y ^= (y << 17) & 0x71D67FFFEDA60000ULL;
+        y ^= (y << 37) & 0xFFF7EEE000000000ULL;
+        y ^= y >> 43;
+        return static_cast<uint32_t>(y >> 40);
+    }
+
+    static uint64_t twist(uint64_t upper, uint64_t lower, uint64_t far) {
+        const uint64_t y = (upper & 0xFFFFFFFF80000000ULL) | (lower & 0x7FFFFFFFULL);
+        return far ^ (y >> 1) ^ ((0 - (y & 1)) & 0xB5026F5AA96619E9ULL);
+    }
+
+    void renew() {
+        for (std::size_t i = 0; i < kN - kM; ++i) state_[i] = twist(state_[i], state_[i + 1], state_[i + kM]);
+        for (std::size_t i = kN - kM; i < kN - 1; ++i) state_[i] = twist(state_[i], state_[i + 1], state_[i + kM - kN]);
+        state_[kN - 1] = twist(state_[kN - 1], state_[0], state_[kM - 1]);
+        next_ = 0;
+    }
+
+    std::array<uint64_t, kN> state_{};
+    std::size_t next_ = kN;
 };
 
 }  // namespace trovane

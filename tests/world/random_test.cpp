@@ -54,15 +54,19 @@ TEST(RandomScale, MatchesTheFloatingReadingAtEveryEdge) {
 }
 
 TEST(RandomStream, DrawsBetweensAndDiscardsFollowTheSeededEngine) {
-    std::mt19937_64 engine(7);
-    auto next = [&engine] { return static_cast<uint32_t>(engine() >> 40); };
-    Random rng(7);
-    for (int i = 0; i < 500; ++i) {
-        const int32_t high = i * 37 % 5000;
-        ASSERT_EQ(rng.between(1, high), floatReading(next(), 1, high)) << i;
-        ASSERT_EQ(rng.draw(), static_cast<float>(next()) / 16777216.0f) << i;
-        rng.discard(static_cast<uint64_t>(i % 4));
-        for (int d = 0; d < i % 4; ++d) engine();
+    for (uint64_t seed : {uint64_t{7}, uint64_t{0}, ~uint64_t{0}}) {
+        std::mt19937_64 engine(seed);
+        auto next = [&engine] { return static_cast<uint32_t>(engine() >> 40); };
+        Random rng(seed);
+        for (int i = 0; i < 500; ++i) {
+            const int32_t high = i * 37 % 5000;
+            ASSERT_EQ(rng.between(1, high), floatReading(next(), 1, high)) << i;
+            ASSERT_EQ(rng.draw(), static_cast<float>(next()) / 16777216.0f) << i;
+            // Short skips within a renewal of the state, and long ones across several.
+            const int skip = i % 50 == 49 ? 311 * (i / 50) + 1 : i % 4;
+            rng.discard(static_cast<uint64_t>(skip));
+            for (int d = 0; d < skip; ++d) engine();
+        }
+        EXPECT_EQ(rng.between(0, 1 << 28), floatReading(next(), 0, 1 << 28)) << seed;
     }
-    EXPECT_EQ(rng.between(0, 1 << 28), floatReading(next(), 0, 1 << 28));
 }
