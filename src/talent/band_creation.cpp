@@ -15,6 +15,7 @@
 #include "world/act_names.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -24,6 +25,10 @@ namespace {
 constexpr int kNameDraws = 1000;
 constexpr int kCityDraws = 1000;
 constexpr int kStyleDraws = 100000;
+
+const std::size_t kAssA = offsetIn<AssRecord>("a");
+const std::size_t kAssB = offsetIn<AssRecord>("b");
+const std::size_t kAssWeight = offsetIn<AssRecord>("weight");
 
 std::string fullName(const ArtistRecord& a) { return trim(trim(a.forename.value) + " " + trim(a.surname.value)); }
 
@@ -98,6 +103,28 @@ const std::vector<CityRows::Row>& cityRowsOf(Game& g) {
     return index.rows;
 }
 
+// The links of a home country, of weight above 0, in the nations' table's
+// order; read from the table's bytes when the table is new to the game or was
+// written (see watchActNames). Null for a country with none.
+const std::vector<NationLinks::Link>* nationLinksOf(Game& g, int home) {
+    NationLinks& index = g.nationLinks;
+    if (index.generation != g.assnation.generation() || index.records != g.assnation.recordCount()) {
+        index.generation = g.assnation.generation();
+        index.records = g.assnation.recordCount();
+        index.byHome.clear();
+        for (int32_t n = 1; n < g.assnation.recordCount(); ++n) {
+            const auto bytes = g.assnation.bytesOf(n);
+            const int weight = fieldAt<uint8_t>(bytes, kAssWeight);
+            if (weight == 0) continue;
+            const int a = fieldAt<uint8_t>(bytes, kAssA), b = fieldAt<uint8_t>(bytes, kAssB);
+            index.byHome[a].push_back({b, weight});
+            if (b != a) index.byHome[b].push_back({a, weight});
+        }
+    }
+    auto it = index.byHome.find(home);
+    return it == index.byHome.end() ? nullptr : &it->second;
+}
+
 }  // namespace
 
 int32_t pickStyle(Game& g) {
@@ -135,27 +162,15 @@ std::string pickBandName(Game& g, int style) {
 
 int pickBirthCountry(Game& g, int home, bool solo) {
     if (solo || g.rng.between(0, 99) < 70) return home;
-    struct Link {
-        int country;
-        int weight;
-    };
-    std::vector<Link> links;
+    const std::vector<NationLinks::Link>* links = nationLinksOf(g, home);
+    const int32_t last = g.assnation.recordCount() - 1;
+    if (last >= 1) g.assnation.read(last);  // the buffer as a walk of them leaves it
     int total = 0;
-    for (int32_t n = 1; n < g.assnation.recordCount(); ++n) {
-        g.assnation.read(n);
-        const AssRecord& r = g.assnation.rec;
-        if (r.weight == 0) continue;
-        if (r.a == home)
-            links.push_back({r.b, r.weight});
-        else if (r.b == home)
-            links.push_back({r.a, r.weight});
-        else
-            continue;
-        total += r.weight;
-    }
+    if (links != nullptr)
+        for (const NationLinks::Link& l : *links) total += l.weight;
     if (total == 0) return home;
     int draw = g.rng.between(0, total - 1);
-    for (const Link& l : links) {
+    for (const NationLinks::Link& l : *links) {
         if (draw < l.weight) return l.country;
         draw -= l.weight;
     }

@@ -100,6 +100,7 @@ void watchActNames(Game& g) {
     forgetRowsOnWrite(g.forename, g.forenameRows);
     forgetRowsOnWrite(g.surname, g.surnameRows);
     forgetRowsOnWrite(g.city, g.cityRows);
+    forgetRowsOnWrite(g.assnation, g.nationLinks);
 }
 
 }  // namespace trovane

@@ -170,10 +170,11 @@ public:
     NameIndex activeActNames;
     NameBank newBandNames;
     // What a draw of an artist's names reads of each forename and surname
-    // (see talent/artist_names.h), and of each city for a birthplace.
+    // (see talent/artist_names.h), and of each city and nation for a birthplace.
     NameRows forenameRows;
     NameRows surnameRows;
     CityRows cityRows;
+    NationLinks nationLinks;
     ArtistSets artistSets;
     // Which entries may engage each band on each day (see band_calendar.h).
     EngagementIndex engagements;

@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace trovane {
@@ -49,9 +50,21 @@ struct NameRows {
         std::array<uint8_t, 5> countryLinks{};
         std::array<uint8_t, 5> countryWeights{};
     };
+    // What one country's draw of one sex (or of any, for surnames) needs of
+    // the rows: each row's chance of being kept, 0 to 100, in row order, and
+    // for the walk that follows too many tries, the rows with a chance and
+    // every row of the sex.
+    struct Draw {
+        std::vector<uint8_t> chance;
+        bool anyKept = false;
+        std::vector<std::pair<int32_t, int>> fitting;  // row, chance
+        int32_t total = 0;
+        std::vector<int32_t> ofTheSex;
+    };
     uint64_t generation = UINT64_MAX;
     int32_t records = -1;
     std::vector<Row> rows;
+    std::unordered_map<int, Draw> draws;  // by country * 4 + sex (0 woman, 1 man, 2 either)
 };
 
 // What a new artist's birthplace draw reads of each city, in record order.
@@ -65,6 +78,20 @@ struct CityRows {
     uint64_t generation = UINT64_MAX;
     int32_t records = -1;
     std::vector<Row> rows;
+};
+
+// Each country's links to the others in the nations' table, in record order,
+// for a new member's country of birth: a link's other end and its weight.
+// Read again when the table is opened or emptied or its count of records
+// moves, or when a write changes one of its rows.
+struct NationLinks {
+    struct Link {
+        int country = 0;
+        int weight = 0;
+    };
+    uint64_t generation = UINT64_MAX;
+    int32_t records = -1;
+    std::unordered_map<int, std::vector<Link>> byHome;
 };
 
 // Artists by what the daily walks over them need, so the walks cost what the

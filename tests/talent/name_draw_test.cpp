@@ -126,3 +126,58 @@ TEST(Birthplaces, ACityWrittenInPlayIsDrawnAsItNowReads) {
     }
     EXPECT_EQ(pickBirthCity(g, 201), first + 1);
 }
+
+namespace {
+
+// A member's country of birth as a walk of the nations' table, each row read.
+int walkedBirthCountry(Random& rng, Game& g, int home) {
+    if (rng.between(0, 99) < 70) return home;
+    std::vector<std::pair<int, int>> links;  // country, weight
+    int total = 0;
+    for (int32_t n = 1; n < g.assnation.recordCount(); ++n) {
+        g.assnation.read(n);
+        const AssRecord& r = g.assnation.rec;
+        if (r.weight == 0 || (r.a != home && r.b != home)) continue;
+        links.emplace_back(r.a == home ? r.b : r.a, r.weight);
+        total += r.weight;
+    }
+    if (total == 0) return home;
+    int draw = rng.between(0, total - 1);
+    for (auto [country, weight] : links) {
+        if (draw < weight) return country;
+        draw -= weight;
+    }
+    return home;
+}
+
+}  // namespace
+
+TEST(Birthplaces, AMembersCountryIsTheOneAWalkOfTheNationsGives) {
+    test::PlayedWorld w;
+    Game& g = w.g;
+    ASSERT_GT(g.assnation.recordCount(), 10);
+    int picked = 0;  // draws that went past the home country
+    for (int round = 0; round < 2; ++round) {
+        if (round == 1) {  // a link written in play: its ends swap and its weight moves
+            g.assnation.read(1);
+            std::swap(g.assnation->a, g.assnation->b);
+            g.assnation->weight = static_cast<uint8_t>(g.assnation->weight + 40);
+            g.assnation.write();
+        }
+        for (int home = 0; home < g.country.recordCount() + 1; ++home) {  // one past: a country of no links
+            for (int i = 0; i < 6; ++i) {
+                g.assnation.read(1);
+                Random walked = g.rng;
+                const int expected = walkedBirthCountry(walked, g, home);
+                const AssRecord left = g.assnation.rec;
+                g.assnation.read(1);
+                EXPECT_EQ(pickBirthCountry(g, home, false), expected) << "home " << home;
+                EXPECT_EQ(g.assnation->a, left.a) << "the buffer as the walk leaves it";
+                EXPECT_EQ(g.assnation->b, left.b);
+                ASSERT_EQ(g.rng.between(0, 1 << 30), walked.between(0, 1 << 30)) << "the same draws, home " << home;
+                picked += expected != home;
+            }
+        }
+    }
+    EXPECT_GT(picked, 20);
+}
