@@ -28,30 +28,34 @@ struct LookReading {
     int value = 0;  // through Marketing's error
 };
 
-// The looks and each style's liking for them, read once for a pass over many
-// artists: the first asslook row of a look and a style gives its bonus.
-struct LookTable {
-    std::vector<LookRecord> looks;  // in table order
-    std::unordered_map<uint32_t, int> bonus;
-};
+// The looks and each style's liking for them: the first asslook row of a look
+// and a style gives its bonus. Kept on the game and read again only when the
+// tables change (see LookRows).
+using LookTable = LookRows;
 
 uint32_t bonusKey(int look, int style) { return (static_cast<uint32_t>(look) << 8) | static_cast<uint8_t>(style); }
 
-LookTable readLookTable(Game& g) {
-    LookTable t;
-    const LookRecord held = g.look.rec;
-    t.looks.reserve(static_cast<std::size_t>(std::max(0, g.look.recordCount() - 1)));
+const LookTable& readLookTable(Game& g) {
+    LookTable& t = g.lookRows;
+    if (t.generation == g.look.generation() && t.records == g.look.recordCount() &&
+        t.assGeneration == g.asslook.generation() && t.assRecords == g.asslook.recordCount())
+        return t;
+    t.looks.clear();
+    t.bonus.clear();
+    LookRecord look{};
     for (int32_t n = 1; n < g.look.recordCount(); ++n) {
-        g.look.read(n);
-        t.looks.push_back(g.look.rec);
+        decodeRecord(g.look.bytesOf(n).data(), look);
+        t.looks.push_back(look);
     }
-    g.look.rec = held;
-    const AssRecord heldAss = g.asslook.rec;
+    AssRecord link{};
     for (int32_t n = 1; n < g.asslook.recordCount(); ++n) {
-        g.asslook.read(n);
-        t.bonus.try_emplace(bonusKey(static_cast<uint16_t>(g.asslook->a), g.asslook->b), g.asslook->weight);
+        decodeRecord(g.asslook.bytesOf(n).data(), link);
+        t.bonus.try_emplace(bonusKey(static_cast<uint16_t>(link.a), link.b), link.weight);
     }
-    g.asslook.rec = heldAss;
+    t.generation = g.look.generation();
+    t.records = g.look.recordCount();
+    t.assGeneration = g.asslook.generation();
+    t.assRecords = g.asslook.recordCount();
     return t;
 }
 
@@ -106,12 +110,12 @@ LookReading readLook(Game& g, const LookTable& t) {
 }  // namespace
 
 int16_t bestLook(Game& g) {
-    const LookTable table = readLookTable(g);
+    const LookTable& table = readLookTable(g);
     return bestLookIn(g, table);
 }
 
 void deliverMarketingReports(Game& g) {
-    const LookTable looks = readLookTable(g);
+    const LookTable& looks = readLookTable(g);
     // The acts of each label that have not retired, in table order, gathered in one walk.
     std::vector<std::vector<BandRecord>> actsOf(static_cast<std::size_t>(std::max(1, g.label.recordCount())));
     for (int32_t b = 1; b < g.band.recordCount(); ++b) {

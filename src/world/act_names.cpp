@@ -20,17 +20,10 @@ const std::size_t kBandRetired = offsetIn<BandRecord>("retired");
 const std::size_t kNewBandName = offsetIn<NewBandRecord>("name");
 const std::size_t kNewBandStyle = offsetIn<NewBandRecord>("style");
 
-template <std::size_t N>
-std::string textAt(std::span<const uint8_t> bytes, std::size_t at) {
-    Text<N> t;
-    codec::getText(bytes.data() + at, t);
-    return trim(t.value);
-}
-
 // The name an act bears while it has not retired, or none.
 std::optional<std::string> activeName(std::span<const uint8_t> bytes) {
     if (fieldAt<int16_t>(bytes, kBandRetired) != kFalse) return std::nullopt;
-    return textAt<50>(bytes, kBandName);
+    return textAt<decltype(BandRecord::name)>(bytes, kBandName);
 }
 
 const NameIndex& refreshNames(Game& g) {
@@ -72,7 +65,7 @@ const std::vector<std::string>& newBandNamesFor(Game& g, int style) {
         bank.records = g.newband.recordCount();
         for (int32_t n = 1; n < g.newband.recordCount(); ++n) {
             const auto bytes = g.newband.bytesOf(n);
-            std::string name = textAt<32>(bytes, kNewBandName);
+            std::string name = textAt<decltype(NewBandRecord::name)>(bytes, kNewBandName);
             bank.byKey[bytes[kNewBandStyle]].push_back(name);
             bank.all.push_back(std::move(name));
         }
@@ -88,9 +81,14 @@ void watchActNames(Game& g) {
         NameIndex& index = g.activeActNames;
         // An index not built for the table as it is now is built whole at the next lookup.
         if (index.generation != g.band.generation()) return;
+        // Most writes are a week's figures: the name and the mark of retirement stand as they were.
+        constexpr std::size_t kNameBytes = decltype(BandRecord::name)::width;
+        if (!before.empty() && std::memcmp(before.data() + kBandName, after.data() + kBandName, kNameBytes) == 0 &&
+            fieldAt<int16_t>(before, kBandRetired) == fieldAt<int16_t>(after, kBandRetired))
+            return;
         const auto was = before.empty() ? std::nullopt : activeName(before);
         const auto now = activeName(after);
-        if (was == now) return;  // most writes are a week's figures
+        if (was == now) return;
         if (was) index.remove(*was);
         if (now) index.add(*now);
     };
@@ -101,6 +99,8 @@ void watchActNames(Game& g) {
     forgetRowsOnWrite(g.surname, g.surnameRows);
     forgetRowsOnWrite(g.city, g.cityRows);
     forgetRowsOnWrite(g.assnation, g.nationLinks);
+    forgetRowsOnWrite(g.look, g.lookRows);
+    forgetRowsOnWrite(g.asslook, g.lookRows);
 }
 
 }  // namespace trovane

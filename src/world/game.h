@@ -175,6 +175,8 @@ public:
     NameRows surnameRows;
     CityRows cityRows;
     NationLinks nationLinks;
+    // The looks a new artist's look is chosen from (see label/image.h).
+    LookRows lookRows;
     ArtistSets artistSets;
     // Which entries may engage each band on each day (see band_calendar.h).
     EngagementIndex engagements;

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "world/records.h"
+
 namespace trovane {
 
 // How many records bear each name, for a name that a record may change or
@@ -100,6 +102,19 @@ struct ArtistSets {
     uint64_t generation = UINT64_MAX;
     std::set<int32_t> active;    // not retired
     std::set<int32_t> unrested;  // a day's recovery would change the record
+};
+
+// The looks and each style's liking for them, as a new artist's look is
+// chosen: every look in table order, and the first asslook row's weight for
+// each (look, style) pair. Read again when either table is opened or emptied
+// or its count of records moves, or when a write changes one of its rows.
+struct LookRows {
+    uint64_t generation = UINT64_MAX;  // of the look table; a write to either table clears it
+    uint64_t assGeneration = UINT64_MAX;
+    int32_t records = -1;
+    int32_t assRecords = -1;
+    std::vector<LookRecord> looks;
+    std::unordered_map<uint32_t, int> bonus;  // by look << 8 | style
 };
 
 }  // namespace trovane

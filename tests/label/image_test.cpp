@@ -72,6 +72,14 @@ TEST_F(Image, BestLookTakesTheFirstOfEqualsAndOnlyLooksForTheArtistsSex) {
     EXPECT_EQ(bestLook(g), gown);
     g.artist->style = static_cast<uint8_t>(addStyle(g, 10, 100, 0, "Folk"));  // no bonus: all four rate 50
     EXPECT_EQ(bestLook(g), plain);
+    // A look rewritten in play counts at once: the cape asking a charisma of
+    // 100 rates 50 - 100 + 45, held at 0, and the man's best is plain again.
+    g.artist->style = static_cast<uint8_t>(rock);
+    g.artist->male = kTrue;
+    g.look.read(cape);
+    g.look->bounds[0] = 100;
+    g.look.write();
+    EXPECT_EQ(bestLook(g), plain);
 }
 
 TEST_F(Image, ARivalChangesAsManyLooksAsATenthOfItsMarketingButAlwaysOne) {
