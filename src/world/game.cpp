@@ -29,6 +29,8 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
 #undef TROVANE_DEFER
     dayIndex.deferWrites(&parked);
     chart.deferWrites(&parked);
+    dayIndex.keepCleanImages(&cleanImages);
+    chart.keepCleanImages(&cleanImages);
     highscore.deferWrites(&parked);
     watchDiscDates(*this);
     watchActNames(*this);

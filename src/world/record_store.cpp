@@ -119,11 +119,13 @@ void openTable(Game& g, FileNo n, std::string_view ext) {
 void closeTable(Game& g, FileNo n) { tableByNumber(g, n).close(); }
 
 void openAllTables(Game& g, std::string_view ext) {
+    g.cleanImages.clear();
     for (FileNo n : openAllOrder()) openTable(g, n, ext);
 }
 
 void closeAllTables(Game& g) {
     flushAllTables(g);
+    g.cleanImages.clear();
 #define TROVANE_CLOSE(member, Record, fileNo) g.member.close();
     TROVANE_WORKING_TABLES(TROVANE_CLOSE)
     TROVANE_PER_USE_TABLES(TROVANE_CLOSE)
@@ -172,10 +174,14 @@ void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
         throw FatalError(fmt::format("Cannot copy the {} tables to {}: {} is not written yet", fromExt, toExt,
                                      g.parked.begin()->first.string()));
     if (fromExt == "gam") checkBaseSet(g.dataDir);
+    g.cleanImages.clear();
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
 }
 
-void copyEmptyFile(Game& g, const fs::path& target) { copyFile(g.dataDir / "empty.gam", target); }
+void copyEmptyFile(Game& g, const fs::path& target) {
+    g.cleanImages.forget(target);
+    copyFile(g.dataDir / "empty.gam", target);
+}
 
 int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     using enum FileNo;

@@ -48,6 +48,13 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
             dirty_ = std::move(p.dirty);
             return;
         }
+        if (clean_) {
+            if (auto image = clean_->take(path)) {
+                const std::size_t size = image->size();
+                adopt(path, std::move(*image), size);
+                return;
+            }
+        }
     }
     int flags = (parked_ ? O_RDONLY : O_RDWR) | O_CLOEXEC;
     if (ifMissing == IfMissing::createEmpty && !parked_) flags |= O_CREAT;
@@ -95,6 +102,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
 void TableBase::openNew(const fs::path& path) {
     close();
     if (parked_) parked_->erase(path);
+    if (clean_) clean_->forget(path);
     std::error_code ec;
     auto size = fs::file_size(path, ec);
     if (!parked_) {
@@ -125,6 +133,8 @@ void TableBase::close() {
     if (parked_) {
         if (dirty_.any() || diskLength_ != image_.size())
             (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_)};
+        else if (clean_)
+            clean_->keep(path_, std::move(image_));
         dirty_.clear();
     } else {
         flush();
@@ -153,6 +163,24 @@ void TableBase::missingRecord(int32_t n, const char* what) const {
 
 void TableBase::tableFull(int32_t n) const {
     throw FatalError(fmt::format("Table {} is full: record {} does not fit its record number field", displayName(), n));
+}
+
+std::optional<std::vector<uint8_t>> CleanImages::take(const fs::path& file) {
+    auto it = std::find_if(files_.begin(), files_.end(), [&](const auto& f) { return f.first == file; });
+    if (it == files_.end()) return std::nullopt;
+    std::vector<uint8_t> image = std::move(it->second);
+    files_.erase(it);
+    return image;
+}
+
+void CleanImages::keep(const fs::path& file, std::vector<uint8_t> image) {
+    forget(file);
+    if (files_.size() >= kFiles) files_.erase(files_.begin());
+    files_.emplace_back(file, std::move(image));
+}
+
+void CleanImages::forget(const fs::path& file) {
+    std::erase_if(files_, [&](const auto& f) { return f.first == file; });
 }
 
 void DirtyChunks::mark(std::size_t from, std::size_t to) {

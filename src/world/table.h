@@ -68,6 +68,23 @@ struct ParkedImage {
 };
 using ParkedFiles = std::map<fs::path, ParkedImage>;
 
+// The bytes of a few files closed unchanged since they were read, so that
+// opening one again need not read it again. Whoever changes files other than
+// through their tables empties it first.
+class CleanImages {
+public:
+    // The file's bytes, taken out; none when they are not kept.
+    std::optional<std::vector<uint8_t>> take(const fs::path& file);
+    // Keeps the bytes, dropping the file kept longest when full.
+    void keep(const fs::path& file, std::vector<uint8_t> image);
+    void forget(const fs::path& file);
+    void clear() { files_.clear(); }
+
+private:
+    static constexpr std::size_t kFiles = 3;
+    std::vector<std::pair<fs::path, std::vector<uint8_t>>> files_;  // the newest last
+};
+
 class TableBase {
 public:
     TableBase(FileNo number, std::size_t recordLength);
@@ -84,6 +101,9 @@ public:
     // parked when it is closed first. Set once, on a closed table.
     void deferWrites(ParkedFiles* parked) { parked_ = parked; }
     bool defersWrites() const { return parked_ != nullptr; }
+    // Makes a deferring table keep its bytes in clean when it is closed
+    // unchanged, and look there before reading its file.
+    void keepCleanImages(CleanImages* clean) { clean_ = clean; }
 
     // Opens the file for random read and write. A file whose length is not a
     // whole number of records is refused with a message that names it.
@@ -134,6 +154,7 @@ private:
     bool open_ = false;
     int fd_ = -1;  // held only by a table that writes its own file
     ParkedFiles* parked_ = nullptr;
+    CleanImages* clean_ = nullptr;
     std::vector<uint8_t> image_;
     std::optional<std::size_t> diskLength_;
     DirtyChunks dirty_;

@@ -131,6 +131,44 @@ TEST_F(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
     EXPECT_EQ(g.dayIndex->entries[0], 17);
 }
 
+TEST_F(PerUseFiles, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables) {
+    auto dayOneCount = [&] {
+        openDayFile(g, 2031);
+        const int32_t count = g.dayIndex.recordCount() > 1 ? (g.dayIndex.read(1), g.dayIndex->count) : -1;
+        closeDayFile(g);
+        return count;
+    };
+    auto writeDayOne = [&](int32_t count) {
+        openDayFile(g, 2031);
+        g.dayIndex.rec = DayRecord{};
+        g.dayIndex->count = count;
+        g.dayIndex.write(1);
+        closeDayFile(g);
+    };
+    copyEmptyFile(g, g.dataDir / "2031.vel");
+    writeDayOne(1);
+    flushAllTables(g);
+    EXPECT_EQ(dayOneCount(), 1);  // read from the file and kept
+    // A change made behind the tables' back is not seen: the kept bytes are used.
+    std::ofstream(g.dataDir / "2031.vel", std::ios::binary | std::ios::trunc);
+    EXPECT_EQ(dayOneCount(), 1);
+    // A change through the table is seen, before and after its commit.
+    writeDayOne(2);
+    EXPECT_EQ(dayOneCount(), 2);
+    flushAllTables(g);
+    EXPECT_EQ(dayOneCount(), 2);
+    // Files replaced beside the tables are read again.
+    copyEmptyFile(g, g.dataDir / "2031.vel");
+    EXPECT_EQ(dayOneCount(), -1);
+    writeDayOne(3);
+    flushAllTables(g);
+    EXPECT_EQ(dayOneCount(), 3);
+    std::ofstream(g.dataDir / "2031.vel", std::ios::binary | std::ios::trunc);
+    closeAllTables(g);
+    openAllTables(g, "vel");
+    EXPECT_EQ(dayOneCount(), -1);
+}
+
 TEST_F(PerUseFiles, ChartsAreClosedAfterTheirTidying) {
     openChart(g, 4);
     g.chart.rec.disc = 9;
