@@ -12,6 +12,7 @@
 #include "talent/contracts.h"
 #include "world/game.h"
 #include "world/record_store.h"
+#include "world/shortlist_lookups.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -26,13 +27,7 @@ int16_t currentBandId(Game& g) { return g.band->id; }
 int16_t currentLabelId(Game& g) { return g.label->id; }
 
 // The record of the pair, or 0.
-int32_t findPair(Game& g, int16_t band, int16_t label) {
-    for (int32_t n = 1; n < g.shortlist.recordCount(); ++n) {
-        g.shortlist.read(n);
-        if (g.shortlist->band == band && g.shortlist->label == label) return n;
-    }
-    return 0;
-}
+int32_t findPair(Game& g, int16_t band, int16_t label) { return findShortlistPair(g, band, label); }
 
 int mean(int sum, int count) { return count == 0 ? 0 : roundTo<int>(static_cast<double>(sum) / count); }
 

@@ -16,6 +16,7 @@
 #include "talent/band_functions.h"
 #include "world/record_bytes.h"
 #include "world/record_store.h"
+#include "world/shortlist_lookups.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -54,11 +55,7 @@ bool playerHearsOf(Game& g) {
     if (player < 1) return false;
     if (g.disc->label == player || g.band->label == player) return true;
     int16_t band = g.band->id;
-    for (int32_t n = 1; n < g.shortlist.recordCount(); ++n) {
-        g.shortlist.read(n);
-        if (g.shortlist->label == player && g.shortlist->band == band) return true;
-    }
-    return false;
+    return findShortlistPair(g, band, player) != 0;
 }
 
 void certify(Game& g, int t, const std::string& certification, int32_t points) {

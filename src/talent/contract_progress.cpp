@@ -10,6 +10,7 @@
 #include "talent/band_functions.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/shortlist_lookups.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -26,11 +27,7 @@ std::string labelName(Game& g, int16_t label) {
 std::string word(Game& g, int code, bool capital = false) { return grammarWord(g, code, capital); }
 
 bool onPlayersShortlist(Game& g, int16_t band) {
-    for (int32_t n = 1; n < g.shortlist.recordCount(); ++n) {
-        g.shortlist.read(n);
-        if (g.shortlist->band == band && g.shortlist->label == g.player.playerLabel) return true;
-    }
-    return false;
+    return findShortlistPair(g, band, g.player.playerLabel) != 0;
 }
 
 std::string money(const Game& g, Money amount) { return formatMoney(g, amount, "###,###,##0"); }

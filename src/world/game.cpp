@@ -6,6 +6,7 @@
 #include "world/dates.h"
 #include "world/journal.h"
 #include "world/news_lookups.h"
+#include "world/shortlist_lookups.h"
 
 namespace trovane {
 
@@ -36,6 +37,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     watchActNames(*this);
     watchArtistSets(*this);
     watchHeldNews(*this);
+    watchShortlistPairs(*this);
 }
 
 }  // namespace trovane

@@ -182,6 +182,8 @@ public:
     EngagementIndex engagements;
     // The news items waiting for a reply (see news_lookups.h).
     HeldNewsIndex heldNews;
+    // The shortlist's (band, label) pairs (see shortlist_lookups.h).
+    ShortlistPairIndex shortlistPairs;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

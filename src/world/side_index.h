@@ -108,4 +108,18 @@ struct HeldNewsIndex {
     }
 };
 
+// The shortlist records of each (band, label) pair, by the pair packed in 32
+// bits; brought up to date like the held news.
+struct ShortlistPairIndex {
+    uint64_t generation = UINT64_MAX;
+    int32_t covered = 0;
+    std::unordered_map<uint32_t, std::set<int32_t>> records;
+
+    void reset(uint64_t gen) {
+        generation = gen;
+        covered = 0;
+        records.clear();
+    }
+};
+
 }  // namespace trovane

@@ -146,14 +146,8 @@ void TableBase::close() {
     image_.shrink_to_fit();
 }
 
-int32_t TableBase::recordCount() const {
-    requireOpen("count");
-    return narrow<int32_t>(image_.size() / length_ + 1);
-}
-
-void TableBase::requireOpen(const char* what) const {
-    if (!open_)
-        throw FatalError(fmt::format("Cannot {} table {}: it is not open", what, catalogueEntry(number_).table));
+void TableBase::notOpen(const char* what) const {
+    throw FatalError(fmt::format("Cannot {} table {}: it is not open", what, catalogueEntry(number_).table));
 }
 
 void TableBase::missingRecord(int32_t n, const char* what) const {
@@ -215,12 +209,6 @@ void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file
                                                 image.begin() + static_cast<std::ptrdiff_t>(to))});
         c = end;
     }
-}
-
-std::span<const uint8_t> TableBase::bytesOf(int32_t n) const {
-    requireOpen("read");
-    if (n < 1 || n > records()) missingRecord(n, "read");
-    return {image_.data() + static_cast<std::size_t>(n - 1) * length_, length_};
 }
 
 void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {

@@ -121,14 +121,23 @@ public:
     std::vector<FileWrite> takeWrites();
 
     // The number of records plus one: the next free record number, and where a walk stops.
-    int32_t recordCount() const;
+    int32_t recordCount() const {
+        requireOpen("count");
+        return static_cast<int32_t>(image_.size() / length_ + 1);
+    }
     int32_t records() const { return static_cast<int32_t>(image_.size() / length_); }
     // Goes up each time the file is opened or emptied, so a side index built
     // over the records can tell that what it covered is gone.
     uint64_t generation() const { return generation_; }
 
     // The bytes of record n (1-based); a record that does not exist is a fatal error.
-    std::span<const uint8_t> bytesOf(int32_t n) const;
+    std::span<const uint8_t> bytesOf(int32_t n) const {
+        requireOpen("read");
+        const std::size_t at = static_cast<std::size_t>(n - 1) * length_;
+        if (n < 1 || at + length_ > image_.size()) [[unlikely]]
+            missingRecord(n, "read");
+        return {image_.data() + at, length_};
+    }
     // Writes the bytes of record n; n may be one past the last record, which adds it.
     void putBytes(int32_t n, std::span<const uint8_t> bytes);
     // Forgets every record (the file becomes empty on the next flush).
@@ -140,7 +149,11 @@ public:
     std::function<void(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after)> watchWrites;
 
 protected:
-    void requireOpen(const char* what) const;
+    void requireOpen(const char* what) const {
+        if (!open_) [[unlikely]]
+            notOpen(what);
+    }
+    [[noreturn]] void notOpen(const char* what) const;
     [[noreturn]] void missingRecord(int32_t n, const char* what) const;
     [[noreturn]] void tableFull(int32_t n) const;
     std::string displayName() const;
