@@ -10,6 +10,7 @@
 #include "schedule/schedule_types.h"
 #include "talent/retirement.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -165,15 +166,21 @@ void markCast(Game& g, int16_t first, int16_t second, int type, int16_t value) {
     }
 }
 
+const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
+
+bool isStoryStage(std::span<const uint8_t> bytes) {
+    return fieldAt<uint8_t>(bytes, kEntryType) == static_cast<uint8_t>(ScheduleType::storyStage);
+}
+
 // Whether a stage other than `ending`, of a story of the type and naming the
 // artist in its cast, is still to run: dated after today, or today and after
 // `ending` in the day's order. A stage filed by a reply is one.
 bool stageWaitsFor(Game& g, int16_t artist, int type, const ScheduleRecord& ending) {
-    for (int32_t n = 1; n < g.schedule.recordCount(); ++n) {
+    if (!g.storyStages.keeping()) g.storyStages.keep(g.schedule, isStoryStage);
+    for (int32_t n : g.storyStages.records()) {
         if (n == ending.id) continue;
         ScheduleRecord e{};
         decodeRecord(g.schedule.bytesOf(n).data(), e);
-        if (e.type != static_cast<uint8_t>(ScheduleType::storyStage)) continue;
         if (e.artist != artist && e.artist2 != artist) continue;
         if (e.date < g.gameDate || (e.date == g.gameDate && n < ending.id)) continue;
         const ScheduleRecord held = g.schedule.rec;

@@ -189,14 +189,14 @@ int32_t daySerialOfWrite(Game& g, int32_t n) {
 }
 
 void watchTheCalendar(Game& g) {
-    g.schedule.watchWrites = [&g](int32_t n, Bytes before, Bytes after) {
+    g.schedule.watchWrites(&g.engagements, [&g](int32_t n, Bytes before, Bytes after) {
         if (!isCurrent(g)) return;
         const Entry was = entryIn(before), is = entryIn(after);
         noteGig(g.engagements, is, n);
         if (!before.empty() && was.type == is.type && was.band == is.band && was.gig == is.gig) return;
         rebind(g.engagements, n, bandsOf(g, was), bandsOf(g, is));
-    };
-    g.gig.watchWrites = [&g](int32_t n, Bytes before, Bytes after) {
+    });
+    g.gig.watchWrites(&g.engagements, [&g](int32_t n, Bytes before, Bytes after) {
         if (!isCurrent(g)) return;
         EngagementIndex& x = g.engagements;
         if (static_cast<std::size_t>(n) >= x.entriesOfGig.size()) return;
@@ -212,8 +212,8 @@ void watchTheCalendar(Game& g) {
             addBillBands(to, e, after);
             rebind(x, id, from, to);
         }
-    };
-    g.dayIndex.watchWrites = [&g](int32_t n, Bytes before, Bytes after) {
+    });
+    g.dayIndex.watchWrites(&g.engagements, [&g](int32_t n, Bytes before, Bytes after) {
         if (!isCurrent(g)) return;
         const int32_t day = daySerialOfWrite(g, n);
         if (day == 0) return;
@@ -222,7 +222,7 @@ void watchTheCalendar(Game& g) {
         while (same < was.size() && same < is.size() && was[same] == is[same]) ++same;
         for (std::size_t i = same; i < was.size(); ++i) unlistEntry(g, was[i], {day, static_cast<int32_t>(i)});
         for (std::size_t i = same; i < is.size(); ++i) listEntry(g, is[i], {day, static_cast<int32_t>(i)});
-    };
+    });
 }
 
 // Reads every day file of the game into a new index. The years with a file

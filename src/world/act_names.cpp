@@ -37,11 +37,9 @@ const NameIndex& refreshNames(Game& g) {
 
 template <class R, class Index>
 void forgetRowsOnWrite(Table<R>& table, Index& rows) {
-    auto earlier = std::move(table.watchWrites);
-    table.watchWrites = [&rows, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-        if (earlier) earlier(n, before, after);
+    table.watchWrites(&rows, [&rows](int32_t, std::span<const uint8_t>, std::span<const uint8_t>) {
         rows.generation = UINT64_MAX;
-    };
+    });
 }
 
 }  // namespace
@@ -75,9 +73,8 @@ const std::vector<std::string>& newBandNamesFor(Game& g, int style) {
 }
 
 void watchActNames(Game& g) {
-    auto earlier = std::move(g.band.watchWrites);
-    g.band.watchWrites = [&g, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-        if (earlier) earlier(n, before, after);
+    g.band.watchWrites(&g.activeActNames, [&g](int32_t, std::span<const uint8_t> before,
+                                               std::span<const uint8_t> after) {
         NameIndex& index = g.activeActNames;
         // An index not built for the table as it is now is built whole at the next lookup.
         if (index.generation != g.band.generation()) return;
@@ -91,7 +88,7 @@ void watchActNames(Game& g) {
         if (was == now) return;
         if (was) index.remove(*was);
         if (now) index.add(*now);
-    };
+    });
     // The banks of names and the cities do not change in play; a write to one
     // all the same has what is kept of it read again.
     forgetRowsOnWrite(g.newband, g.newBandNames);

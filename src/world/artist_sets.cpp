@@ -62,12 +62,10 @@ std::vector<int32_t> unrestedArtists(Game& g) {
 void noteArtist(Game& g, int32_t n) { file(refresh(g), n, g.artist.bytesOf(n)); }
 
 void watchArtistSets(Game& g) {
-    auto earlier = std::move(g.artist.watchWrites);
-    g.artist.watchWrites = [&g, earlier](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-        if (earlier) earlier(n, before, after);
+    g.artist.watchWrites(&g.artistSets, [&g](int32_t n, std::span<const uint8_t>, std::span<const uint8_t> after) {
         // Sets not built for the table as it is now are built whole at the next lookup.
         if (g.artistSets.generation == g.artist.generation()) file(g.artistSets, n, after);
-    };
+    });
 }
 
 }  // namespace trovane

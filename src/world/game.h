@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "world/matching_records.h"
 #include "world/name_indexes.h"
 #include "world/random.h"
 #include "world/records.h"
@@ -181,7 +182,9 @@ public:
     // Which entries may engage each band on each day (see band_calendar.h).
     EngagementIndex engagements;
     // The news items waiting for a reply (see news_lookups.h).
-    HeldNewsIndex heldNews;
+    MatchingRecords heldNews;
+    // The schedule's entries that are stages of a story (see story_events.cpp).
+    MatchingRecords storyStages;
     // The shortlist's (band, label) pairs (see shortlist_lookups.h).
     ShortlistPairIndex shortlistPairs;
     // The bytes of working-set tables closed since the last commit; declared

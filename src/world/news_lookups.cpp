@@ -23,26 +23,10 @@ bool isHeld(std::span<const uint8_t> bytes) {
 }  // namespace
 
 int32_t firstHeldNewsItem(Game& g) {
-    HeldNewsIndex& index = g.heldNews;
-    const int32_t last = g.news.recordCount() - 1;
-    if (index.generation != g.news.generation() || index.covered > last) index.reset(g.news.generation());
-    for (int32_t n = index.covered + 1; n <= last; ++n) {
-        if (isHeld(g.news.bytesOf(n))) index.held.insert(n);
-        index.covered = n;
-    }
-    return index.held.empty() ? 0 : *index.held.begin();
+    const auto& held = g.heldNews.records();
+    return held.empty() ? 0 : *held.begin();
 }
 
-void watchHeldNews(Game& g) {
-    g.news.watchWrites = [&g](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-        HeldNewsIndex& index = g.heldNews;
-        // A record the index has not taken in yet is read whole at the next lookup.
-        if (index.generation != g.news.generation() || n > index.covered || before.empty()) return;
-        if (isHeld(after))
-            index.held.insert(n);
-        else
-            index.held.erase(n);
-    };
-}
+void watchHeldNews(Game& g) { g.heldNews.keep(g.news, isHeld); }
 
 }  // namespace trovane

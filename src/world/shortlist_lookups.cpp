@@ -44,7 +44,8 @@ int32_t findShortlistPair(Game& g, int16_t band, int16_t label) {
 }
 
 void watchShortlistPairs(Game& g) {
-    g.shortlist.watchWrites = [&g](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+    g.shortlist.watchWrites(&g.shortlistPairs, [&g](int32_t n, std::span<const uint8_t> before,
+                                                    std::span<const uint8_t> after) {
         ShortlistPairIndex& index = g.shortlistPairs;
         // A record the index has not taken in yet is read whole at the next lookup.
         if (index.generation != g.shortlist.generation() || n > index.covered || before.empty()) return;
@@ -57,7 +58,7 @@ void watchShortlistPairs(Game& g) {
             if (it->second.empty()) index.records.erase(it);
         }
         index.records[now].insert(n);
-    };
+    });
 }
 
 }  // namespace trovane

@@ -93,21 +93,6 @@ struct EngagementIndex {
     void reset() { *this = EngagementIndex{}; }
 };
 
-// The news items still waiting for a reply the player must give, by record
-// number; brought up to date from the bytes of records added since the last
-// lookup and told of every write to the records it already covers.
-struct HeldNewsIndex {
-    uint64_t generation = UINT64_MAX;
-    int32_t covered = 0;
-    std::set<int32_t> held;
-
-    void reset(uint64_t gen) {
-        generation = gen;
-        covered = 0;
-        held.clear();
-    }
-};
-
 // The shortlist records of each (band, label) pair, by the pair packed in 32
 // bits; brought up to date like the held news.
 struct ShortlistPairIndex {

@@ -146,6 +146,15 @@ void TableBase::close() {
     image_.shrink_to_fit();
 }
 
+void TableBase::watchWrites(const void* owner, WriteWatcher watcher) {
+    for (auto& w : watchers_)
+        if (w.first == owner) {
+            w.second = std::move(watcher);
+            return;
+        }
+    watchers_.emplace_back(owner, std::move(watcher));
+}
+
 void TableBase::notOpen(const char* what) const {
     throw FatalError(fmt::format("Cannot {} table {}: it is not open", what, catalogueEntry(number_).table));
 }
@@ -218,10 +227,10 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     const bool adds = at + length_ > image_.size();
     if (!adds && std::memcmp(image_.data() + at, bytes.data(), length_) == 0)
         return;  // the same bytes again change nothing and need no write
-    if (watchWrites) {
+    if (!watchers_.empty()) {
         std::span<const uint8_t> before;
         if (!adds) before = {image_.data() + at, length_};
-        watchWrites(n, before, bytes.first(length_));
+        for (const auto& w : watchers_) w.second(n, before, bytes.first(length_));
     }
     if (adds) image_.resize(at + length_);
     std::memcpy(image_.data() + at, bytes.data(), length_);

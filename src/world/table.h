@@ -146,7 +146,11 @@ public:
     // Told of each write that changes a record, before the bytes change: the
     // record's number, its bytes until now (empty when the write adds it) and
     // its new bytes. A side index whose key can change keeps in step by it.
-    std::function<void(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after)> watchWrites;
+    using WriteWatcher =
+        std::function<void(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after)>;
+    // Adds a watcher of the writes, told after those added before it; one per
+    // owner: watching again for the same owner replaces its watcher.
+    void watchWrites(const void* owner, WriteWatcher watcher);
 
 protected:
     void requireOpen(const char* what) const {
@@ -168,6 +172,7 @@ private:
     int fd_ = -1;  // held only by a table that writes its own file
     ParkedFiles* parked_ = nullptr;
     CleanImages* clean_ = nullptr;
+    std::vector<std::pair<const void*, WriteWatcher>> watchers_;
     std::vector<uint8_t> image_;
     std::optional<std::size_t> diskLength_;
     DirtyChunks dirty_;
