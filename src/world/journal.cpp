@@ -153,7 +153,22 @@ std::optional<std::vector<uint8_t>> readWhole(const fs::path& file) {
     return bytes;
 }
 
-// Each file is opened once for the writes to it that stand together.
+void setLength(int fd, const FileWrite& w) {
+    if (::ftruncate(fd, static_cast<off_t>(w.length)) != 0)
+        throw FatalError(fmt::format("Cannot write {}: {}", w.file.string(), std::strerror(errno)));
+}
+
+void putBytes(int fd, const FileWrite& w) {
+    std::size_t done = 0;
+    while (done < w.bytes.size()) {
+        ssize_t put = ::pwrite(fd, w.bytes.data() + done, w.bytes.size() - done, static_cast<off_t>(w.offset + done));
+        if (put <= 0) throw FatalError(fmt::format("Cannot write {}: {}", w.file.string(), std::strerror(errno)));
+        done += static_cast<std::size_t>(put);
+    }
+}
+
+// Each file is opened once for the writes to it that stand together, and its
+// length asked once.
 void applyAll(const std::vector<FileWrite>& writes) {
     std::size_t i = 0;
     while (i < writes.size()) {
@@ -161,7 +176,16 @@ void applyAll(const std::vector<FileWrite>& writes) {
         int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
         if (fd < 0) throw FatalError(fmt::format("Cannot write {}: {}", file.string(), std::strerror(errno)));
         try {
-            for (; i < writes.size() && writes[i].file == file; ++i) applyWrite(fd, writes[i]);
+            struct stat st {};
+            std::optional<uint64_t> length;
+            if (::fstat(fd, &st) == 0) length = static_cast<uint64_t>(st.st_size);
+            for (; i < writes.size() && writes[i].file == file; ++i) {
+                if (length != writes[i].length) {
+                    setLength(fd, writes[i]);
+                    length = writes[i].length;
+                }
+                putBytes(fd, writes[i]);
+            }
         } catch (...) {
             ::close(fd);
             throw;
@@ -177,16 +201,8 @@ fs::path journalFile(const fs::path& dataDir) { return dataDir / "journal.jnl"; 
 
 void applyWrite(int fd, const FileWrite& w) {
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || static_cast<uint64_t>(st.st_size) != w.length) {
-        if (::ftruncate(fd, static_cast<off_t>(w.length)) != 0)
-            throw FatalError(fmt::format("Cannot write {}: {}", w.file.string(), std::strerror(errno)));
-    }
-    std::size_t done = 0;
-    while (done < w.bytes.size()) {
-        ssize_t put = ::pwrite(fd, w.bytes.data() + done, w.bytes.size() - done, static_cast<off_t>(w.offset + done));
-        if (put <= 0) throw FatalError(fmt::format("Cannot write {}: {}", w.file.string(), std::strerror(errno)));
-        done += static_cast<std::size_t>(put);
-    }
+    if (::fstat(fd, &st) != 0 || static_cast<uint64_t>(st.st_size) != w.length) setLength(fd, w);
+    putBytes(fd, w);
 }
 
 void commitWrites(const fs::path& dataDir, const std::vector<FileWrite>& writes) {

@@ -152,6 +152,9 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
     }
     for (auto& w : extra) writes.push_back(std::move(w));
     commitWrites(g.dataDir, writes);
+    // Written, a parked image is what its file holds.
+    for (auto& [file, p] : g.parked)
+        if (p.keepWhenWritten) g.cleanImages.keep(file, std::move(p.image));
     g.parked.clear();
 }
 

@@ -14,6 +14,38 @@
 
 namespace trovane {
 
+namespace {
+
+// How many bytes from the start of a and b are the same, eight at a time.
+std::size_t sameBytesFromStart(const uint8_t* a, const uint8_t* b, std::size_t n) {
+    std::size_t i = 0;
+    for (; i + 8 <= n; i += 8) {
+        uint64_t x = 0;
+        uint64_t y = 0;
+        std::memcpy(&x, a + i, 8);
+        std::memcpy(&y, b + i, 8);
+        if (x != y) break;
+    }
+    while (i < n && a[i] == b[i]) ++i;
+    return i;
+}
+
+// The length of a and b up to and including their last differing byte.
+std::size_t differingLength(const uint8_t* a, const uint8_t* b, std::size_t n) {
+    std::size_t end = n;
+    for (; end >= 8; end -= 8) {
+        uint64_t x = 0;
+        uint64_t y = 0;
+        std::memcpy(&x, a + end - 8, 8);
+        std::memcpy(&y, b + end - 8, 8);
+        if (x != y) break;
+    }
+    while (end > 0 && a[end - 1] == b[end - 1]) --end;
+    return end;
+}
+
+}  // namespace
+
 TableBase::TableBase(FileNo number, std::size_t recordLength) : number_(number), length_(recordLength) {}
 
 TableBase::~TableBase() {
@@ -132,7 +164,7 @@ void TableBase::close() {
     if (!open_) return;
     if (parked_) {
         if (dirty_.any() || diskLength_ != image_.size())
-            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_)};
+            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_), clean_ != nullptr};
         else if (clean_)
             clean_->keep(path_, std::move(image_));
         dirty_.clear();
@@ -189,27 +221,36 @@ void CleanImages::forget(const fs::path& file) {
 void DirtyChunks::mark(std::size_t from, std::size_t to) {
     if (from >= to) return;
     const std::size_t last = (to - 1) / kChunk;
-    if (chunks_.size() <= last) chunks_.resize(last + 1);
-    for (std::size_t c = from / kChunk; c <= last; ++c) chunks_[c] = true;
+    if (words_.size() <= last / 64) words_.resize(last / 64 + 1);
+    for (std::size_t c = from / kChunk; c <= last; ++c) words_[c / 64] |= uint64_t{1} << (c % 64);
     any_ = true;
 }
 
 void DirtyChunks::clear() {
-    chunks_.clear();
+    words_.clear();
     any_ = false;
 }
 
 void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file,
                                const std::vector<uint8_t>& image) const {
     if (!any_) return;
+    const std::size_t chunks = words_.size() * 64;
+    auto dirty = [&](std::size_t c) { return (words_[c / 64] >> (c % 64) & 1U) != 0; };
     std::size_t c = 0;
-    while (c < chunks_.size()) {
-        if (!chunks_[c]) {
+    while (c < chunks) {
+        if (words_[c / 64] == 0) {
+            c = (c / 64 + 1) * 64;
+            continue;
+        }
+        if (!dirty(c)) {
             ++c;
             continue;
         }
+        // A run takes in clean gaps of up to kJoinedGap chunks: one write
+        // costs less than two with a few bytes between them.
         std::size_t end = c;
-        while (end < chunks_.size() && chunks_[end]) ++end;
+        for (std::size_t next = c; next < chunks && next <= end + kJoinedGap; ++next)
+            if (dirty(next)) end = next + 1;
         const std::size_t from = std::min(c * kChunk, image.size());
         const std::size_t to = std::min(end * kChunk, image.size());
         if (from < to)
@@ -225,8 +266,16 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     if (n < 1 || n > records() + 1) missingRecord(n, "write");
     std::size_t at = static_cast<std::size_t>(n - 1) * length_;
     const bool adds = at + length_ > image_.size();
-    if (!adds && std::memcmp(image_.data() + at, bytes.data(), length_) == 0)
-        return;  // the same bytes again change nothing and need no write
+    // Only the bytes from the first that differs to the last that differs
+    // need writing; the same bytes again change nothing and need no write.
+    std::size_t first = 0;
+    std::size_t end = length_;
+    if (!adds) {
+        const uint8_t* was = image_.data() + at;
+        first = sameBytesFromStart(was, bytes.data(), length_);
+        if (first == length_) return;
+        end = first + differingLength(was + first, bytes.data() + first, length_ - first);
+    }
     if (!watchers_.empty()) {
         std::span<const uint8_t> before;
         if (!adds) before = {image_.data() + at, length_};
@@ -234,7 +283,7 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     }
     if (adds) image_.resize(at + length_);
     std::memcpy(image_.data() + at, bytes.data(), length_);
-    dirty_.mark(at, at + length_);
+    dirty_.mark(at + first, at + end);
 }
 
 void TableBase::clearAll() {

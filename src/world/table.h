@@ -41,11 +41,12 @@ namespace fs = std::filesystem;
 enum class IfMissing { createEmpty, fail };
 
 // Which stretches of a file's bytes changed since they were last written, kept
-// in chunks of kChunk bytes, so a day that changes a few records scattered
+// in chunks of kChunk bytes, so a day that changes a few fields scattered
 // over a large file writes those few chunks and not everything between them.
 class DirtyChunks {
 public:
-    static constexpr std::size_t kChunk = 256;
+    static constexpr std::size_t kChunk = 64;
+    static constexpr std::size_t kJoinedGap = 4;
 
     // Bytes from up to (not including) to changed.
     void mark(std::size_t from, std::size_t to);
@@ -56,7 +57,7 @@ public:
     void appendWrites(std::vector<FileWrite>& out, const fs::path& file, const std::vector<uint8_t>& image) const;
 
 private:
-    std::vector<bool> chunks_;
+    std::vector<uint64_t> words_;  // a bit for each chunk
     bool any_ = false;
 };
 
@@ -65,6 +66,7 @@ struct ParkedImage {
     std::vector<uint8_t> image;
     std::optional<std::size_t> diskLength;  // none: the file is not on disk yet
     DirtyChunks dirty;
+    bool keepWhenWritten = false;  // its table keeps clean images
 };
 using ParkedFiles = std::map<fs::path, ParkedImage>;
 

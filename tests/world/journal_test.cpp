@@ -171,15 +171,42 @@ TEST_F(DayCommit, RecordsChangedFarApartAreWrittenWithoutWhatLiesBetween) {
     });
     flushAllTables(g);
     setCommitHook(nullptr);
-    // Two records, each in the chunks of 256 bytes it touches, and the
-    // journal's own few hundred bytes; the 38 records between are not in it.
-    EXPECT_GT(journalSize, 2 * BandRecord::kLength);
-    EXPECT_LT(journalSize, 4 * 256 + 400);
+    // Two names, each in the one or two chunks it touches, and the journal's
+    // own bytes: not even one whole record, let alone the 38 between.
+    EXPECT_LT(journalSize, BandRecord::kLength);
+    EXPECT_GT(journalSize, 2 * DirtyChunks::kChunk);
     const std::string file = fileBytes(g.dataDir / "band.vel");
     ASSERT_EQ(file.size(), 40 * BandRecord::kLength);
     EXPECT_EQ(file.substr(2, 9), "Renamed 1");  // the name follows the record's 2-byte number
     EXPECT_EQ(file.substr(39 * BandRecord::kLength + 2, 10), "Renamed 40");
     EXPECT_EQ(file.substr(19 * BandRecord::kLength + 2, 7), "Band 20");
+}
+
+TEST(DirtyChunks, ChangesAFewChunksApartAreWrittenTogetherAndFartherOnesApart) {
+    constexpr std::size_t k = DirtyChunks::kChunk;
+    const std::vector<uint8_t> image(40 * k + 10, 7);
+    auto runs = [&](const std::vector<std::pair<std::size_t, std::size_t>>& marks) {
+        DirtyChunks d;
+        for (auto [from, to] : marks) d.mark(from, to);
+        std::vector<FileWrite> out;
+        d.appendWrites(out, "f", image);
+        std::vector<std::pair<std::size_t, std::size_t>> got;
+        for (const auto& w : out) {
+            EXPECT_EQ(w.length, image.size());
+            got.emplace_back(w.offset, w.bytes.size());
+        }
+        return got;
+    };
+    using Runs = std::vector<std::pair<std::size_t, std::size_t>>;
+    EXPECT_EQ(runs({}), Runs{});
+    EXPECT_EQ(runs({{k + 3, k + 4}}), (Runs{{k, k}}));
+    EXPECT_EQ(runs({{k - 1, k + 1}}), (Runs{{0, 2 * k}}));  // a change across a chunk's edge
+    // Four clean chunks between two changes are written through; five are not.
+    EXPECT_EQ(runs({{0, 1}, {5 * k, 5 * k + 1}}), (Runs{{0, 6 * k}}));
+    EXPECT_EQ(runs({{0, 1}, {6 * k, 6 * k + 1}}), (Runs{{0, k}, {6 * k, k}}));
+    // The last chunk is cut at the file's end; chunks past a whole word of bits are found.
+    EXPECT_EQ(runs({{40 * k + 2, 40 * k + 3}}), (Runs{{40 * k, 10}}));
+    EXPECT_EQ(runs({{3, 4}, {39 * k, 39 * k + 1}}), (Runs{{0, k}, {39 * k, k}}));
 }
 
 }  // namespace
