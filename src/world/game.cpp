@@ -30,8 +30,8 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
 #undef TROVANE_DEFER
     dayIndex.deferWrites(&parked);
     chart.deferWrites(&parked);
-    dayIndex.keepCleanImages(&cleanImages);
-    chart.keepCleanImages(&cleanImages);
+    dayIndex.keepCleanImages(&cleanDayFiles);
+    chart.keepCleanImages(&cleanCharts);
     highscore.deferWrites(&parked);
     watchDiscDates(*this);
     watchActNames(*this);

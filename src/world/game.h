@@ -190,8 +190,10 @@ public:
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;
-    // The day and chart files last closed unchanged (see table.h).
-    CleanImages cleanImages;
+    // The day files and the charts last closed unchanged (see table.h): a
+    // year's calendar, the next and the last; a week's ten charts.
+    CleanImages cleanDayFiles{3};
+    CleanImages cleanCharts{10};
 
 #define TROVANE_TABLE_MEMBER(member, Record, fileNo) Table<Record> member{FileNo::fileNo};
     TROVANE_WORKING_TABLES(TROVANE_TABLE_MEMBER)

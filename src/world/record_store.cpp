@@ -65,6 +65,11 @@ bool fullNameMatches(const Text<A>& fore, const Text<B>& sur, std::string_view n
     return trim(fore.value) + " " + trim(sur.value) == name || untrimmed(fore) + " " + untrimmed(sur) == name;
 }
 
+void forgetCleanImages(Game& g) {
+    g.cleanDayFiles.clear();
+    g.cleanCharts.clear();
+}
+
 // A per-use file number holds one file at a time: opening it again before it
 // is closed means some caller forgot to close it.
 void openPerUse(TableBase& t, const fs::path& file) {
@@ -119,13 +124,13 @@ void openTable(Game& g, FileNo n, std::string_view ext) {
 void closeTable(Game& g, FileNo n) { tableByNumber(g, n).close(); }
 
 void openAllTables(Game& g, std::string_view ext) {
-    g.cleanImages.clear();
+    forgetCleanImages(g);
     for (FileNo n : openAllOrder()) openTable(g, n, ext);
 }
 
 void closeAllTables(Game& g) {
     flushAllTables(g);
-    g.cleanImages.clear();
+    forgetCleanImages(g);
 #define TROVANE_CLOSE(member, Record, fileNo) g.member.close();
     TROVANE_WORKING_TABLES(TROVANE_CLOSE)
     TROVANE_PER_USE_TABLES(TROVANE_CLOSE)
@@ -154,7 +159,7 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
     commitWrites(g.dataDir, writes);
     // Written, a parked image is what its file holds.
     for (auto& [file, p] : g.parked)
-        if (p.keepWhenWritten) g.cleanImages.keep(file, std::move(p.image));
+        if (p.keepIn != nullptr) p.keepIn->keep(file, std::move(p.image));
     g.parked.clear();
 }
 
@@ -177,12 +182,13 @@ void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
         throw FatalError(fmt::format("Cannot copy the {} tables to {}: {} is not written yet", fromExt, toExt,
                                      g.parked.begin()->first.string()));
     if (fromExt == "gam") checkBaseSet(g.dataDir);
-    g.cleanImages.clear();
+    forgetCleanImages(g);
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
 }
 
 void copyEmptyFile(Game& g, const fs::path& target) {
-    g.cleanImages.forget(target);
+    g.cleanDayFiles.forget(target);
+    g.cleanCharts.forget(target);
     copyFile(g.dataDir / "empty.gam", target);
 }
 

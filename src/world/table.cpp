@@ -164,7 +164,7 @@ void TableBase::close() {
     if (!open_) return;
     if (parked_) {
         if (dirty_.any() || diskLength_ != image_.size())
-            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_), clean_ != nullptr};
+            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_), clean_};
         else if (clean_)
             clean_->keep(path_, std::move(image_));
         dirty_.clear();
@@ -210,7 +210,7 @@ std::optional<std::vector<uint8_t>> CleanImages::take(const fs::path& file) {
 
 void CleanImages::keep(const fs::path& file, std::vector<uint8_t> image) {
     forget(file);
-    if (files_.size() >= kFiles) files_.erase(files_.begin());
+    if (files_.size() >= most_) files_.erase(files_.begin());
     files_.emplace_back(file, std::move(image));
 }
 

@@ -62,11 +62,12 @@ private:
 };
 
 // The bytes of a table closed before the commit that writes them.
+class CleanImages;
 struct ParkedImage {
     std::vector<uint8_t> image;
     std::optional<std::size_t> diskLength;  // none: the file is not on disk yet
     DirtyChunks dirty;
-    bool keepWhenWritten = false;  // its table keeps clean images
+    CleanImages* keepIn = nullptr;  // where its table keeps clean images
 };
 using ParkedFiles = std::map<fs::path, ParkedImage>;
 
@@ -75,6 +76,7 @@ using ParkedFiles = std::map<fs::path, ParkedImage>;
 // through their tables empties it first.
 class CleanImages {
 public:
+    explicit CleanImages(std::size_t files) : most_(files) {}
     // The file's bytes, taken out; none when they are not kept.
     std::optional<std::vector<uint8_t>> take(const fs::path& file);
     // Keeps the bytes, dropping the file kept longest when full.
@@ -83,7 +85,7 @@ public:
     void clear() { files_.clear(); }
 
 private:
-    static constexpr std::size_t kFiles = 3;
+    std::size_t most_;
     std::vector<std::pair<fs::path, std::vector<uint8_t>>> files_;  // the newest last
 };
 
