@@ -9,11 +9,21 @@
 #include "talent/reputation.h"
 #include "world/artist_sets.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
 
 namespace {
+
+const std::size_t kBandReputation = offsetIn<BandRecord>("reputation");
+const std::size_t kBandHype = offsetIn<BandRecord>("hype");
+const std::size_t kBandMemberCount = offsetIn<BandRecord>("memberCount");
+const std::size_t kBandMembers = offsetIn<BandRecord>("members");
+const std::size_t kBandComplaints = offsetIn<BandRecord>("complaints");
+const std::size_t kArtistEnergy = offsetIn<ArtistRecord>("energy");
+constexpr int kMemberSlots = 10;
+constexpr std::size_t kComplaintSlots = 3;
 
 constexpr uint8_t kWantsABreak = 1;
 constexpr int kIdleDaysOfConcern = 60;
@@ -83,25 +93,62 @@ std::string headOfArtistAndRepertoire(Game& g) {
 }  // namespace
 
 void dropBandHype(Game& g) {
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+    const int32_t last = g.band.recordCount() - 1;
+    for (int32_t n = 1; n <= last; ++n) {
         for (int m = 0; m < 5; ++m) {
+            // A meter that only falls changes one field, written in the bytes;
+            // one that moves the reputation takes the whole way.
+            const auto bytes = g.band.bytesOf(n);
+            const std::size_t hypeAt = kBandHype + 2 * static_cast<std::size_t>(m);
+            const HypeStep step = hypeStep(fieldAt<uint8_t>(bytes, kBandReputation + static_cast<std::size_t>(m)),
+                                           fieldAt<int16_t>(bytes, hypeAt), -1);
+            if (step.change == 0) {
+                patchField<int16_t>(g.band, n, hypeAt, [&](int16_t) { return narrow<int16_t>(step.hype); });
+                continue;
+            }
             g.band.read(n);
             changeHype(g, -1, m, -1);
         }
     }
+    // The buffer holds the last band, as it was left.
+    if (last >= 1) g.band.read(last);
 }
 
+namespace {
+
+// Whether the band's members are rested on average and it has asked for a
+// break, read from the bytes; `lastMember` is the last member whose energy
+// was read, 0 when none was.
+bool restedAfterABreak(Game& g, int32_t n, int16_t& lastMember) {
+    const auto bytes = g.band.bytesOf(n);
+    const int count = fieldAt<uint8_t>(bytes, kBandMemberCount);
+    if (count == 0) return false;
+    int sum = 0;
+    for (int i = 0; i < std::min(count, kMemberSlots); ++i) {
+        const auto who = fieldAt<int16_t>(bytes, kBandMembers + 2 * static_cast<std::size_t>(i));
+        if (who <= 0) continue;
+        sum += fieldAt<int16_t>(g.artist.bytesOf(who), kArtistEnergy);
+        lastMember = who;
+    }
+    if (toInteger(static_cast<double>(sum) / count) <= 49) return false;
+    for (std::size_t c = 0; c < kComplaintSlots; ++c)
+        if (fieldAt<uint8_t>(bytes, kBandComplaints + c) == kWantsABreak) return true;
+    return false;
+}
+
+}  // namespace
+
 void checkBandEnergy(Game& g) {
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+    const int32_t last = g.band.recordCount() - 1;
+    int16_t lastMember = 0;
+    for (int32_t n = 1; n <= last; ++n) {
+        // Most bands are not rested after a break: they are passed over in
+        // their bytes, and the buffers set as the walk would leave them after.
+        if (!restedAfterABreak(g, n, lastMember)) continue;
+        lastMember = 0;
         g.band.read(n);
         const BandRecord band = g.band.rec;
-        if (band.memberCount == 0) continue;
-        int sum = 0;
-        for (int16_t who : membersOf(band)) {
-            g.artist.read(who);
-            sum += g.artist->energy;
-        }
-        if (toInteger(static_cast<double>(sum) / band.memberCount) <= 49) continue;
+        for (int16_t who : membersOf(band)) g.artist.read(who);
         bool removed = false;
         for (auto& c : g.band->complaints)
             if (c == kWantsABreak) {
@@ -124,6 +171,8 @@ void checkBandEnergy(Game& g) {
                              " " + are + " still feeling a little jaded the break that " + they + " " + have +
                              " just had has made a huge difference."});
     }
+    if (last >= 1) g.band.read(last);
+    if (lastMember != 0) g.artist.read(lastMember);
 }
 
 void checkPlayerControlledBands(Game& g) {

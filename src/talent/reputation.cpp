@@ -16,13 +16,11 @@ int held(int v, int low, int high) { return std::clamp(v, low, high); }
 
 }  // namespace
 
-void changeHype(Game& g, int16_t amount, int market, int reason) {
-    static_cast<void>(reason);
-    const auto m = static_cast<std::size_t>(market);
+HypeStep hypeStep(int reputation, int hype, int amount) {
     const int doubled = amount * 2;
-    const int before = g.band->reputation[m];
+    const int before = reputation;
     int r = before;
-    int h = g.band->hype[m];
+    int h = hype;
     int change = 0;
     if (h < -r && doubled > 0) h = -r;
     h += doubled;
@@ -38,6 +36,13 @@ void changeHype(Game& g, int16_t amount, int market, int reason) {
         change = r - before;
         h = held(-r, -80, 0);
     }
+    return {h, change};
+}
+
+void changeHype(Game& g, int16_t amount, int market, int reason) {
+    static_cast<void>(reason);
+    const auto m = static_cast<std::size_t>(market);
+    const auto [h, change] = hypeStep(g.band->reputation[m], g.band->hype[m], amount);
     // The spread reads and writes only the charts and the discs.
     if (market != 4 && change != 0 && g.band->label > 0) spreadHypeRise(g, 0, market, g.band->label, change);
     g.band->hype[m] = narrow<int16_t>(h);

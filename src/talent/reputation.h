@@ -8,6 +8,14 @@ namespace trovane {
 
 class Game;
 
+// Where a market's meter stands after a move of `amount`, and the change it
+// makes to the reputation there.
+struct HypeStep {
+    int hype;
+    int change;
+};
+HypeStep hypeStep(int reputation, int hype, int amount);
+
 // On the current band: the one way its reputation in a market moves. The
 // amount counts double; a boost first recovers the whole slump; a meter that
 // passes the reputation raises it, one that falls below -100 costs a point.

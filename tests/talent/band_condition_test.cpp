@@ -80,11 +80,21 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
     EXPECT_EQ(g.band->ability, 60) << "round(60.5) to even";
 }
 
-TEST_F(Condition, DropBandHypeTakesTwoFromEveryMarket) {
+TEST_F(Condition, DropBandHypeTakesTwoFromEveryMarketAndAPointBelowMinusAHundred) {
     int16_t band = addAct(g, {.reputation = {20, 20, 20, 20, 20}});
+    int16_t slumped = addAct(g, {.reputation = {20, 30, 2, 40, 50}});
+    g.band.read(slumped);
+    g.band->hype = {-99, -98, -99, 0, 0};
+    g.band.write();
     dropBandHype(g);
     g.band.read(band);
     EXPECT_EQ(g.band->hype, (std::array<int16_t, 5>{-22, -22, -22, -22, -22}));
+    g.band.read(slumped);
+    // -101 costs a point and the meter starts again at minus the reputation;
+    // -100 does not; at the floor of 2 the point is not lost.
+    EXPECT_EQ(g.band->reputation, (std::array<uint8_t, 5>{19, 30, 2, 40, 50}));
+    EXPECT_EQ(g.band->hype, (std::array<int16_t, 5>{-19, -100, -2, -2, -2}));
+    EXPECT_EQ(g.band.rec.id, slumped) << "the buffer is left on the last band";
 }
 
 TEST_F(Condition, ARestedPlayerBandSaysThanksOnce) {
@@ -191,14 +201,12 @@ TEST_F(Condition, UnsignedMonthsCountOnlyForFreeActiveBands) {
 TEST_F(Condition, FeelingsNameTheBreakOrContentment) {
     int16_t band = addAct(g, {});
     g.band.read(band);
-    g.artist.read(g.band->members[0]);
     g.artist->male = kFalse;
     g.artist.write();
     EXPECT_EQ(artistFeelings(g), std::vector<std::string>{"Happy with conditions."});
     g.band.read(band);
     g.band->complaints = {0, 0, 1};
     g.band.write();
-    g.artist.read(g.band->members[0]);
     EXPECT_EQ(artistFeelings(g), std::vector<std::string>{"Requested time off from her busy schedule."});
 }
 
