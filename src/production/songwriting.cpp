@@ -13,6 +13,7 @@
 #include "talent/contract_progress.h"
 #include "world/band_lookups.h"
 #include "world/dates.h"
+#include "world/disc_title_lookups.h"
 #include "world/game.h"
 #include "world/record_bytes.h"
 #include "world/strings.h"
@@ -26,18 +27,9 @@ const std::size_t kArtistBand = offsetIn<ArtistRecord>("band");
 const std::size_t kArtistRetired = offsetIn<ArtistRecord>("retired");
 const std::size_t kDiscIsSingle = offsetIn<DiscRecord>("isSingle");
 const std::size_t kDiscReleaseDate = offsetIn<DiscRecord>("releaseDate");
-const std::size_t kDiscTitle = offsetIn<DiscRecord>("title");
 const std::size_t kNewAlbumStyle = offsetIn<NewAlbumRecord>("style");
 const std::size_t kNewAlbumTitle = offsetIn<NewAlbumRecord>("title");
-constexpr std::size_t kTitleWidth = 50;
-
-// A title of 50 characters as stored, without the spaces around it.
-std::string_view trimmedTitle(std::span<const uint8_t> bytes, std::size_t at) {
-    std::string_view t(reinterpret_cast<const char*>(bytes.data() + at), kTitleWidth);
-    const auto first = t.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return t.substr(first, t.find_last_not_of(' ') - first + 1);
-}
+static_assert(decltype(NewAlbumRecord::title)::width == decltype(DiscRecord::title)::width);
 
 constexpr std::array<int32_t, 5> kPrice = {50000, 20000, 5000, 2500, 500};
 constexpr std::array<int, 5> kQualityBase = {90, 80, 65, 50, 40};
@@ -206,14 +198,10 @@ std::string pickAlbumTitle(Game& g) {
         drawn = g.rng.between(1, count - 1);
         const auto entry = g.newalbum.bytesOf(drawn);
         if (fieldAt<uint8_t>(entry, kNewAlbumStyle) != style) continue;
-        const std::string_view title = trimmedTitle(entry, kNewAlbumTitle);
-        found = true;
-        stoppedAt = g.disc.recordCount() - 1;
-        for (int32_t d = 1; d < g.disc.recordCount() && found; ++d) {
-            if (trimmedTitle(g.disc.bytesOf(d), kDiscTitle) != title) continue;
-            found = false;
-            stoppedAt = d;
-        }
+        // A walk of the discs would stop at the first bearing the title, or run to the last.
+        const int32_t taken = firstDiscTitled(g, storedTitle(entry, kNewAlbumTitle));
+        found = taken == 0;
+        stoppedAt = found ? g.disc.recordCount() - 1 : taken;
     }
     g.newalbum.read(drawn);
     if (stoppedAt > 0) g.disc.read(stoppedAt);

@@ -4,6 +4,7 @@
 #include "world/artist_sets.h"
 #include "world/band_lookups.h"
 #include "world/dates.h"
+#include "world/disc_title_lookups.h"
 #include "world/journal.h"
 #include "world/news_lookups.h"
 #include "world/shortlist_lookups.h"
@@ -38,6 +39,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
     watchArtistSets(*this);
     watchHeldNews(*this);
     watchShortlistPairs(*this);
+    watchDiscTitles(*this);
 }
 
 }  // namespace trovane

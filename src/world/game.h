@@ -187,6 +187,8 @@ public:
     MatchingRecords storyStages;
     // The shortlist's (band, label) pairs (see shortlist_lookups.h).
     ShortlistPairIndex shortlistPairs;
+    // The discs' titles (see disc_title_lookups.h).
+    DiscTitleIndex discTitles;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

@@ -4,6 +4,7 @@
 // so a lookup never touches the table's buffer.
 #include <cstdint>
 #include <set>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -104,6 +105,20 @@ struct ShortlistPairIndex {
         generation = gen;
         covered = 0;
         records.clear();
+    }
+};
+
+// The discs bearing each title, by the title as stored without the spaces
+// around it; brought up to date like the shortlist's pairs.
+struct DiscTitleIndex {
+    uint64_t generation = UINT64_MAX;
+    int32_t covered = 0;
+    std::unordered_map<std::string, std::set<int32_t>> discs;
+
+    void reset(uint64_t gen) {
+        generation = gen;
+        covered = 0;
+        discs.clear();
     }
 };
 
