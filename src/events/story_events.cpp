@@ -167,21 +167,28 @@ void markCast(Game& g, int16_t first, int16_t second, int type, int16_t value) {
 }
 
 const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
+const std::size_t kEntryArtist = offsetIn<ScheduleRecord>("artist");
+const std::size_t kEntryArtist2 = offsetIn<ScheduleRecord>("artist2");
 
-bool isStoryStage(std::span<const uint8_t> bytes) {
-    return fieldAt<uint8_t>(bytes, kEntryType) == static_cast<uint8_t>(ScheduleType::storyStage);
+// A story stage is filed under each artist of its cast.
+KeyedRecords<int16_t>::Keys castOfStage(std::span<const uint8_t> bytes) {
+    KeyedRecords<int16_t>::Keys keys;
+    if (fieldAt<uint8_t>(bytes, kEntryType) == static_cast<uint8_t>(ScheduleType::storyStage)) {
+        keys.add(fieldAt<int16_t>(bytes, kEntryArtist));
+        keys.add(fieldAt<int16_t>(bytes, kEntryArtist2));
+    }
+    return keys;
 }
 
 // Whether a stage other than `ending`, of a story of the type and naming the
 // artist in its cast, is still to run: dated after today, or today and after
 // `ending` in the day's order. A stage filed by a reply is one.
 bool stageWaitsFor(Game& g, int16_t artist, int type, const ScheduleRecord& ending) {
-    if (!g.storyStages.keeping()) g.storyStages.keep(g.schedule, isStoryStage);
-    for (int32_t n : g.storyStages.records()) {
+    if (!g.storyStages.keeping()) g.storyStages.keep(g.schedule, castOfStage);
+    for (int32_t n : g.storyStages.of(artist)) {
         if (n == ending.id) continue;
         ScheduleRecord e{};
         decodeRecord(g.schedule.bytesOf(n).data(), e);
-        if (e.artist != artist && e.artist2 != artist) continue;
         if (e.date < g.gameDate || (e.date == g.gameDate && n < ending.id)) continue;
         const ScheduleRecord held = g.schedule.rec;
         const EventRecord heldEvent = g.event.rec;

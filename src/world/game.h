@@ -183,12 +183,13 @@ public:
     EngagementIndex engagements;
     // The news items waiting for a reply (see news_lookups.h).
     MatchingRecords heldNews;
-    // The schedule's entries that are stages of a story (see story_events.cpp).
-    MatchingRecords storyStages;
-    // The shortlist's (band, label) pairs (see shortlist_lookups.h).
-    ShortlistPairIndex shortlistPairs;
-    // The discs' titles (see disc_title_lookups.h).
-    DiscTitleIndex discTitles;
+    // The schedule's entries that are stages of a story, by each artist of
+    // their cast (see story_events.cpp).
+    KeyedRecords<int16_t> storyStages;
+    // The shortlist's records by (band, label) pair (see shortlist_lookups.h).
+    KeyedRecords<uint32_t> shortlistPairs;
+    // The discs by title (see disc_title_lookups.h).
+    KeyedRecords<std::string> discTitles;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

@@ -23,15 +23,7 @@ uint32_t pairOf(std::span<const uint8_t> bytes) {
 }  // namespace
 
 int32_t shortlistRecordOf(Game& g, int16_t band, int16_t label) {
-    ShortlistPairIndex& index = g.shortlistPairs;
-    const int32_t last = g.shortlist.recordCount() - 1;
-    if (index.generation != g.shortlist.generation() || index.covered > last) index.reset(g.shortlist.generation());
-    for (int32_t n = index.covered + 1; n <= last; ++n) {
-        index.records[pairOf(g.shortlist.bytesOf(n))].insert(n);
-        index.covered = n;
-    }
-    auto it = index.records.find(pairOf(band, label));
-    return it == index.records.end() || it->second.empty() ? 0 : *it->second.begin();
+    return g.shortlistPairs.firstOf(pairOf(band, label));
 }
 
 int32_t findShortlistPair(Game& g, int16_t band, int16_t label) {
@@ -44,20 +36,10 @@ int32_t findShortlistPair(Game& g, int16_t band, int16_t label) {
 }
 
 void watchShortlistPairs(Game& g) {
-    g.shortlist.watchWrites(&g.shortlistPairs, [&g](int32_t n, std::span<const uint8_t> before,
-                                                    std::span<const uint8_t> after) {
-        ShortlistPairIndex& index = g.shortlistPairs;
-        // A record the index has not taken in yet is read whole at the next lookup.
-        if (index.generation != g.shortlist.generation() || n > index.covered || before.empty()) return;
-        const uint32_t was = pairOf(before);
-        const uint32_t now = pairOf(after);
-        if (was == now) return;
-        auto it = index.records.find(was);
-        if (it != index.records.end()) {
-            it->second.erase(n);
-            if (it->second.empty()) index.records.erase(it);
-        }
-        index.records[now].insert(n);
+    g.shortlistPairs.keep(g.shortlist, [](std::span<const uint8_t> bytes) {
+        KeyedRecords<uint32_t>::Keys keys;
+        keys.add(pairOf(bytes));
+        return keys;
     });
 }
 

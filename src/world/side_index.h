@@ -3,8 +3,6 @@
 // numbers of each key, brought up to date from the bytes of the new records,
 // so a lookup never touches the table's buffer.
 #include <cstdint>
-#include <set>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -92,34 +90,6 @@ struct EngagementIndex {
     int32_t dayFileJanuary1 = 0;
 
     void reset() { *this = EngagementIndex{}; }
-};
-
-// The shortlist records of each (band, label) pair, by the pair packed in 32
-// bits; brought up to date like the held news.
-struct ShortlistPairIndex {
-    uint64_t generation = UINT64_MAX;
-    int32_t covered = 0;
-    std::unordered_map<uint32_t, std::set<int32_t>> records;
-
-    void reset(uint64_t gen) {
-        generation = gen;
-        covered = 0;
-        records.clear();
-    }
-};
-
-// The discs bearing each title, by the title as stored without the spaces
-// around it; brought up to date like the shortlist's pairs.
-struct DiscTitleIndex {
-    uint64_t generation = UINT64_MAX;
-    int32_t covered = 0;
-    std::unordered_map<std::string, std::set<int32_t>> discs;
-
-    void reset(uint64_t gen) {
-        generation = gen;
-        covered = 0;
-        discs.clear();
-    }
 };
 
 }  // namespace trovane
