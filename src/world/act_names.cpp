@@ -37,9 +37,8 @@ const NameIndex& refreshNames(Game& g) {
 
 template <class R, class Index>
 void forgetRowsOnWrite(Table<R>& table, Index& rows) {
-    table.watchWrites(&rows, [&rows](int32_t, std::span<const uint8_t>, std::span<const uint8_t>) {
-        rows.generation = UINT64_MAX;
-    });
+    table.watchWrites(
+        &rows, [&rows](int32_t, std::span<const uint8_t>, std::span<const uint8_t>) { rows.generation = UINT64_MAX; });
 }
 
 }  // namespace
@@ -73,22 +72,24 @@ const std::vector<std::string>& newBandNamesFor(Game& g, int style) {
 }
 
 void watchActNames(Game& g) {
-    g.band.watchWrites(&g.activeActNames, [&g](int32_t, std::span<const uint8_t> before,
-                                               std::span<const uint8_t> after) {
-        NameIndex& index = g.activeActNames;
-        // An index not built for the table as it is now is built whole at the next lookup.
-        if (index.generation != g.band.generation()) return;
-        // Most writes are a week's figures: the name and the mark of retirement stand as they were.
-        constexpr std::size_t kNameBytes = decltype(BandRecord::name)::width;
-        if (!before.empty() && std::memcmp(before.data() + kBandName, after.data() + kBandName, kNameBytes) == 0 &&
-            fieldAt<int16_t>(before, kBandRetired) == fieldAt<int16_t>(after, kBandRetired))
-            return;
-        const auto was = before.empty() ? std::nullopt : activeName(before);
-        const auto now = activeName(after);
-        if (was == now) return;
-        if (was) index.remove(*was);
-        if (now) index.add(*now);
-    });
+    constexpr std::size_t kNameBytes = decltype(BandRecord::name)::width;
+    g.band.watchWrites(&g.activeActNames,
+                       [&g](int32_t, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+                           NameIndex& index = g.activeActNames;
+                           // An index not built for the table as it is now is built whole at the next lookup.
+                           if (index.generation != g.band.generation()) return;
+                           // Most writes are a week's figures: the name and the mark of retirement stand as they were.
+                           if (!before.empty() &&
+                               std::memcmp(before.data() + kBandName, after.data() + kBandName, kNameBytes) == 0 &&
+                               fieldAt<int16_t>(before, kBandRetired) == fieldAt<int16_t>(after, kBandRetired))
+                               return;
+                           const auto was = before.empty() ? std::nullopt : activeName(before);
+                           const auto now = activeName(after);
+                           if (was == now) return;
+                           if (was) index.remove(*was);
+                           if (now) index.add(*now);
+                       },
+                       {{kBandName, kNameBytes}, {kBandRetired, sizeof(int16_t)}});
     // The banks of names and the cities do not change in play; a write to one
     // all the same has what is kept of it read again.
     forgetRowsOnWrite(g.newband, g.newBandNames);

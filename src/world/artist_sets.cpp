@@ -62,10 +62,13 @@ std::vector<int32_t> unrestedArtists(Game& g) {
 void noteArtist(Game& g, int32_t n) { file(refresh(g), n, g.artist.bytesOf(n)); }
 
 void watchArtistSets(Game& g) {
-    g.artist.watchWrites(&g.artistSets, [&g](int32_t n, std::span<const uint8_t>, std::span<const uint8_t> after) {
-        // Sets not built for the table as it is now are built whole at the next lookup.
-        if (g.artistSets.generation == g.artist.generation()) file(g.artistSets, n, after);
-    });
+    g.artist.watchWrites(
+        &g.artistSets,
+        [&g](int32_t n, std::span<const uint8_t>, std::span<const uint8_t> after) {
+            // Sets not built for the table as it is now are built whole at the next lookup.
+            if (g.artistSets.generation == g.artist.generation()) file(g.artistSets, n, after);
+        },
+        {{kRetired, sizeof(int16_t)}, {kEnergy, sizeof(int16_t)}, {kSongQuality, 1}, {kWritingFocus, 1}});
 }
 
 }  // namespace trovane

@@ -66,15 +66,13 @@ std::size_t offsetIn(std::string_view name) {
 // Writes only when the bytes change, as a write of the whole record would.
 template <class T, PackedRecord R, class F>
 void patchField(Table<R>& table, int32_t n, std::size_t at, F&& change) {
-    std::array<uint8_t, R::kLength> bytes;
-    const auto now = table.bytesOf(n);
-    std::memcpy(bytes.data(), now.data(), bytes.size());
     T v;
-    std::memcpy(&v, bytes.data() + at, sizeof v);
+    std::memcpy(&v, table.bytesOf(n).data() + at, sizeof v);
     const T next = change(v);
     if (next == v) return;
-    std::memcpy(bytes.data() + at, &next, sizeof next);
-    table.putBytes(n, bytes);
+    std::array<uint8_t, sizeof(T)> bytes;
+    std::memcpy(bytes.data(), &next, sizeof next);
+    table.putStretch(n, at, bytes);
 }
 
 // Writes v at byte offset at of a record's bytes.

@@ -178,13 +178,20 @@ void TableBase::close() {
     image_.shrink_to_fit();
 }
 
-void TableBase::watchWrites(const void* owner, WriteWatcher watcher) {
+void TableBase::watchWrites(const void* owner, WriteWatcher watcher, std::vector<ByteStretch> onlyBytes) {
     for (auto& w : watchers_)
-        if (w.first == owner) {
-            w.second = std::move(watcher);
+        if (w.owner == owner) {
+            w.tell = std::move(watcher);
+            w.onlyBytes = std::move(onlyBytes);
             return;
         }
-    watchers_.emplace_back(owner, std::move(watcher));
+    watchers_.push_back({owner, std::move(watcher), std::move(onlyBytes)});
+}
+
+void TableBase::tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after,
+                             std::size_t first, std::size_t end) const {
+    for (const auto& w : watchers_)
+        if (before.empty() || w.wants(first, end)) w.tell(n, before, after);
 }
 
 void TableBase::notOpen(const char* what) const {
@@ -279,11 +286,31 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
     if (!watchers_.empty()) {
         std::span<const uint8_t> before;
         if (!adds) before = {image_.data() + at, length_};
-        for (const auto& w : watchers_) w.second(n, before, bytes.first(length_));
+        tellWatchers(n, before, bytes.first(length_), first, end);
     }
     if (adds) image_.resize(at + length_);
     std::memcpy(image_.data() + at, bytes.data(), length_);
     dirty_.mark(at + first, at + end);
+}
+
+void TableBase::putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes) {
+    requireOpen("write");
+    if (n < 1 || n > records()) missingRecord(n, "write");
+    if (at + bytes.size() > length_) throw FatalError("a write runs past the end of a record of " + displayName());
+    uint8_t* record = image_.data() + static_cast<std::size_t>(n - 1) * length_;
+    const std::size_t same = sameBytesFromStart(record + at, bytes.data(), bytes.size());
+    if (same == bytes.size()) return;
+    const std::size_t first = at + same;
+    const std::size_t end = first + differingLength(record + first, bytes.data() + same, bytes.size() - same);
+    // Only when a watcher is told of the write is the record as it will be put together.
+    if (std::any_of(watchers_.begin(), watchers_.end(), [&](const Watcher& w) { return w.wants(first, end); })) {
+        std::vector<uint8_t> after(record, record + length_);
+        std::memcpy(after.data() + at, bytes.data(), bytes.size());
+        tellWatchers(n, {record, length_}, after, first, end);
+    }
+    std::memcpy(record + first, bytes.data() + same, end - first);
+    const std::size_t base = static_cast<std::size_t>(n - 1) * length_;
+    dirty_.mark(base + first, base + end);
 }
 
 void TableBase::clearAll() {

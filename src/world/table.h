@@ -144,6 +144,9 @@ public:
     }
     // Writes the bytes of record n; n may be one past the last record, which adds it.
     void putBytes(int32_t n, std::span<const uint8_t> bytes);
+    // Writes bytes over record n's from byte `at` of the record on, as
+    // writing the whole record with them in place would; n must exist.
+    void putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes);
     // Forgets every record (the file becomes empty on the next flush).
     void clearAll();
 
@@ -153,8 +156,11 @@ public:
     using WriteWatcher =
         std::function<void(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after)>;
     // Adds a watcher of the writes, told after those added before it; one per
-    // owner: watching again for the same owner replaces its watcher.
-    void watchWrites(const void* owner, WriteWatcher watcher);
+    // owner: watching again for the same owner replaces its watcher. A watcher
+    // given stretches of a record's bytes (offset, length) is told only of the
+    // writes that add a record or change a byte within them.
+    using ByteStretch = std::pair<std::size_t, std::size_t>;
+    void watchWrites(const void* owner, WriteWatcher watcher, std::vector<ByteStretch> onlyBytes = {});
 
 protected:
     void requireOpen(const char* what) const {
@@ -176,7 +182,23 @@ private:
     int fd_ = -1;  // held only by a table that writes its own file
     ParkedFiles* parked_ = nullptr;
     CleanImages* clean_ = nullptr;
-    std::vector<std::pair<const void*, WriteWatcher>> watchers_;
+    struct Watcher {
+        const void* owner;
+        WriteWatcher tell;
+        std::vector<ByteStretch> onlyBytes;  // empty: every byte
+        // Whether a change of an existing record's bytes from first up to end concerns it.
+        bool wants(std::size_t first, std::size_t end) const {
+            if (onlyBytes.empty()) return true;
+            for (const auto& [at, length] : onlyBytes)
+                if (first < at + length && at < end) return true;
+            return false;
+        }
+    };
+    // Tells the watchers of a write to record n that changes its bytes from
+    // `first` up to `end` (before is empty when the write adds the record).
+    void tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after, std::size_t first,
+                      std::size_t end) const;
+    std::vector<Watcher> watchers_;
     std::vector<uint8_t> image_;
     std::optional<std::size_t> diskLength_;
     DirtyChunks dirty_;

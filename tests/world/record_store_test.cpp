@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "support/game_test.h"
+#include "world/record_bytes.h"
 
 using namespace trovane;
 using test::fatalMessage;
@@ -68,6 +69,42 @@ TEST_F(RecordStore, AChangeSurvivesOnlyUntilTheNextReadOfItsTable) {
     g.band.read(2);
     EXPECT_EQ(g.band->ability, 20);
     EXPECT_EQ(g.artist->forename, "Ann");
+}
+
+// A field patched in place reads back as a whole-record write would leave it,
+// and a watcher of some bytes hears only of the writes that change them.
+TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
+    const std::size_t kAbility = offsetIn<BandRecord>("ability");
+    const std::size_t kName = offsetIn<BandRecord>("name");
+    addBand(g, "One", 10);
+    std::vector<std::string> heard;
+    int everyWrite = 0;
+    g.band.watchWrites(
+        &heard,
+        [&](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+            heard.push_back(std::to_string(n) + ":" + std::to_string(before.empty() ? -1 : before[kAbility]) + ">" +
+                            std::to_string(after[kAbility]));
+        },
+        {{kAbility, 1}});
+    g.band.watchWrites(&everyWrite, [&](int32_t, auto, auto) { ++everyWrite; });
+
+    patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{12}; });
+    patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{12}; });  // the same: no write
+    g.band.read(1);
+    EXPECT_EQ(g.band->ability, 12);
+    EXPECT_EQ(g.band->name, "One");
+    g.band->name = "Uno";  // a change beside the watched byte, not in it
+    g.band.write();
+    addBand(g, "Two", 30);  // an added record is told to every watcher
+    EXPECT_EQ(heard, (std::vector<std::string>{"1:10>12", "2:-1>30"}));
+    EXPECT_EQ(everyWrite, 3);
+    // A stretch is compared from its first byte that differs to its last.
+    const std::array<uint8_t, 3> uno{'U', 'n', 'a'};
+    g.band.putStretch(1, kName, uno);
+    g.band.read(1);
+    EXPECT_EQ(g.band->name, "Una");
+    EXPECT_EQ(everyWrite, 4);
+    EXPECT_THROW(g.band.putStretch(1, BandRecord::kLength - 1, uno), FatalError);
 }
 
 TEST_F(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
