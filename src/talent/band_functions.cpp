@@ -8,6 +8,7 @@
 #include "label/finances.h"
 #include "world/dates.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -34,9 +35,11 @@ Members membersOf(const BandRecord& band) {
     return {band.members, band.memberCount};
 }
 
-void addWealth(ArtistRecord& a, double units) {
-    a.wealth = narrow<int32_t>(static_cast<int64_t>(a.wealth) + roundTo<int32_t>(units));
+int32_t wealthAfter(int32_t wealth, double units) {
+    return narrow<int32_t>(static_cast<int64_t>(wealth) + roundTo<int32_t>(units));
 }
+
+void addWealth(ArtistRecord& a, double units) { a.wealth = wealthAfter(a.wealth, units); }
 
 }  // namespace
 
@@ -129,31 +132,40 @@ void payArtistsEvenly(Game& g, Money amount) {
 }
 
 void payArtists(Game& g, Money amount) {
+    static const std::size_t kSongWriter = offsetIn<SongRecord>("writer");
+    static const std::size_t kArtistWealth = offsetIn<ArtistRecord>("wealth");
+    static const std::size_t kArtistRoyaltyShare = offsetIn<ArtistRecord>("royaltyShare");
     auto [members, n] = membersOf(g.band.rec);
     double x = moneyToDouble(amount);
 
-    // Who wrote the disc's tracks, counted per member before anyone is paid.
+    // Who wrote the disc's tracks, counted per member before anyone is paid;
+    // read in the songs' bytes, the buffer left at the last track's song.
     std::size_t trackCount = std::min<std::size_t>(g.disc->trackCount, g.disc->tracks.size());
     std::array<int, 10> written{};
+    int32_t lastSong = 0;
     for (std::size_t t = 0; t < trackCount; ++t) {
         int32_t song = g.disc->tracks[t];
         if (song <= 0) continue;
-        g.song.read(song);
+        const auto writer = fieldAt<int16_t>(g.song.bytesOf(song), kSongWriter);
+        lastSong = song;
         for (std::size_t i = 0; i < n; ++i)
-            if (g.song->writer != 0 && g.song->writer == members[i]) ++written[i];
+            if (writer != 0 && writer == members[i]) ++written[i];
     }
+    if (lastSong > 0) g.song.read(lastSong);
 
-    for (std::size_t i = 0; i < n; ++i) {
-        g.artist.read(members[i]);
-        addWealth(g.artist.rec, x * g.artist->royaltyShare / 100.0);
-        g.artist.write();
-    }
-    for (std::size_t i = 0; i < n; ++i) {
-        if (written[i] == 0) continue;
-        g.artist.read(members[i]);
-        addWealth(g.artist.rec, static_cast<double>(written[i]) / static_cast<double>(trackCount) * x * 0.3);
-        g.artist.write();
-    }
+    // Each is paid in the wealth of its record; the buffer is left at the
+    // last member paid, as reading and writing each in turn leaves it.
+    int16_t lastPaid = 0;
+    auto pay = [&](int16_t who, double units) {
+        patchField<int32_t>(g.artist, who, kArtistWealth, [&](int32_t w) { return wealthAfter(w, units); });
+        lastPaid = who;
+    };
+    for (std::size_t i = 0; i < n; ++i)
+        pay(members[i], x * fieldAt<uint8_t>(g.artist.bytesOf(members[i]), kArtistRoyaltyShare) / 100.0);
+    for (std::size_t i = 0; i < n; ++i)
+        if (written[i] != 0)
+            pay(members[i], static_cast<double>(written[i]) / static_cast<double>(trackCount) * x * 0.3);
+    if (lastPaid > 0) g.artist.read(lastPaid);
 }
 
 void setRoyaltyShares(Game& g) {

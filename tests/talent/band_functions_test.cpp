@@ -101,6 +101,8 @@ TEST_F(Bands, DiscRoyaltiesPaySharesThenTheWritersThirtyPercent) {
     g.disc->trackCount = 4;  // the drummer's song is past the disc's tracks
     g.disc->tracks = {song(singer), song(0), song(singer), song(singer), song(drummer)};
     payArtists(g, moneyUnits(1000));
+    EXPECT_EQ(g.song->id, g.disc->tracks[3]) << "the buffers are left at the last track and the last paid";
+    EXPECT_EQ(g.artist->id, singer);
     EXPECT_EQ(artist(singer).wealth, 420 + 225) << "3 of 4 tracks of the writers' 300";
     EXPECT_EQ(artist(drummer).wealth, 280);
     payArtistsEvenly(g, moneyUnits(1001));
