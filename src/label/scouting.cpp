@@ -11,6 +11,7 @@
 #include "talent/contract_terms.h"
 #include "talent/contracts.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 #include "world/shortlist_lookups.h"
 #include "world/strings.h"
@@ -90,15 +91,24 @@ std::vector<std::string> fillInterestedList(Game& g) {
 }
 
 bool stylesAssociated(Game& g, int labelStyle, int bandStyle) {
+    static const std::size_t kParentStyle = offsetIn<StyleRecord>("parentStyle");
     int style = bandStyle;
+    // The parents are read in the styles' bytes; the buffer is left at the
+    // last style whose parent was read, as reading each in turn leaves it.
+    int lastRead = 0;
+    bool found = false;
     // A loop in the parent links would walk for ever; no chain is longer than the table.
     for (int steps = 0; style > 0 && steps < g.style.recordCount(); ++steps) {
-        if (style == labelStyle) return true;
-        if (style >= g.style.recordCount()) return false;
-        g.style.read(style);
-        style = g.style->parentStyle;
+        if (style == labelStyle) {
+            found = true;
+            break;
+        }
+        if (style >= g.style.recordCount()) break;
+        lastRead = style;
+        style = fieldAt<decltype(StyleRecord::parentStyle)>(g.style.bytesOf(style), kParentStyle);
     }
-    return false;
+    if (lastRead > 0) g.style.read(lastRead);
+    return found;
 }
 
 bool considerForShortlist(Game& g, int force) {

@@ -10,6 +10,7 @@
 #include "talent/contract_progress.h"
 #include "talent/contract_terms.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
@@ -18,11 +19,13 @@ void computerCheckBands(Game& g) {
     // A signed band never qualifies and draws nothing, so only the free acts
     // are read, once; judging lists bands and signs none, so no band or label
     // changes while it runs and a copy of each record stands for a read of it.
+    static const std::size_t kRetired = offsetIn<BandRecord>("retired");
+    static const std::size_t kLabel = offsetIn<BandRecord>("label");
     std::vector<BandRecord> free;
-    BandRecord b{};
     for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        decodeRecord(g.band.bytesOf(n).data(), b);
-        if (b.retired == kFalse && b.label == 0) free.push_back(b);
+        const auto bytes = g.band.bytesOf(n);
+        if (fieldAt<int16_t>(bytes, kRetired) != kFalse || fieldAt<int16_t>(bytes, kLabel) != 0) continue;
+        decodeRecord(bytes.data(), free.emplace_back());
     }
     LabelRecord label{};
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {

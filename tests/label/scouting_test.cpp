@@ -60,6 +60,7 @@ TEST_F(Scouting, AStyleTakesItsDescendantsButNotItsParent) {
     int16_t indie = addStyle(g, 10, 100, static_cast<uint8_t>(rock), "Indie");
     int16_t britpop = addStyle(g, 10, 100, static_cast<uint8_t>(indie), "Britpop");
     EXPECT_TRUE(stylesAssociated(g, rock, britpop));
+    EXPECT_EQ(g.style->id, indie) << "the last style whose parent was read";
     EXPECT_TRUE(stylesAssociated(g, indie, indie));
     EXPECT_FALSE(stylesAssociated(g, britpop, rock));
     EXPECT_FALSE(stylesAssociated(g, britpop, indie));
