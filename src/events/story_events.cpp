@@ -184,7 +184,9 @@ KeyedRecords<int16_t>::Keys castOfStage(std::span<const uint8_t> bytes) {
 // artist in its cast, is still to run: dated after today, or today and after
 // `ending` in the day's order. A stage filed by a reply is one.
 bool stageWaitsFor(Game& g, int16_t artist, int type, const ScheduleRecord& ending) {
-    if (!g.storyStages.keeping()) g.storyStages.keep(g.schedule, castOfStage);
+    if (!g.storyStages.keeping())
+        g.storyStages.keep(g.schedule, castOfStage,
+                           {{kEntryType, 1}, {kEntryArtist, sizeof(int16_t)}, {kEntryArtist2, sizeof(int16_t)}});
     for (int32_t n : g.storyStages.of(artist)) {
         if (n == ending.id) continue;
         ScheduleRecord e{};

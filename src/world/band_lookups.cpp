@@ -99,14 +99,16 @@ std::vector<int32_t> discsOutOn(Game& g, double date) {
 }
 
 void watchDiscDates(Game& g) {
-    g.disc.watchWrites(&g.discsByDay, [&g](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-        DayIndex& index = g.discsByDay;
-        // A record the index has not taken in yet is read whole at the next lookup.
-        if (index.generation != g.disc.generation() || n > index.covered) return;
-        if (!before.empty() && datesIn(before) == datesIn(after)) return;  // most writes are sales
-        if (!before.empty()) removeDates(index, n, before);
-        addDates(index, n, after);
-    });
+    g.disc.watchWrites(&g.discsByDay,
+                       [&g](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+                           DayIndex& index = g.discsByDay;
+                           // A record the index has not taken in yet is read whole at the next lookup.
+                           if (index.generation != g.disc.generation() || n > index.covered) return;
+                           if (!before.empty() && datesIn(before) == datesIn(after)) return;
+                           if (!before.empty()) removeDates(index, n, before);
+                           addDates(index, n, after);
+                       },
+                       {{kDiscDates, sizeof(DiscRecord::releaseDate)}});
 }
 
 }  // namespace trovane

@@ -26,11 +26,14 @@ std::string_view storedTitle(std::span<const uint8_t> bytes, std::size_t at) {
 int32_t firstDiscTitled(Game& g, std::string_view title) { return g.discTitles.firstOf(std::string(title)); }
 
 void watchDiscTitles(Game& g) {
-    g.discTitles.keep(g.disc, [](std::span<const uint8_t> bytes) {
-        KeyedRecords<std::string>::Keys keys;
-        keys.add(std::string(titleOf(bytes)));
-        return keys;
-    });
+    g.discTitles.keep(
+        g.disc,
+        [](std::span<const uint8_t> bytes) {
+            KeyedRecords<std::string>::Keys keys;
+            keys.add(std::string(titleOf(bytes)));
+            return keys;
+        },
+        {{kDiscTitle, kTitleWidth}});
 }
 
 }  // namespace trovane

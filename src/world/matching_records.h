@@ -42,25 +42,29 @@ public:
     KeyedRecords(const KeyedRecords&) = delete;
     KeyedRecords& operator=(const KeyedRecords&) = delete;
 
-    // Starts keeping the table's records by the keys keysOf gives.
-    void keep(TableBase& table, KeysOf keysOf) {
+    // Starts keeping the table's records by the keys keysOf gives; keysOf
+    // may be said to read only some stretches of the bytes.
+    void keep(TableBase& table, KeysOf keysOf, std::vector<TableBase::ByteStretch> onlyBytes = {}) {
         table_ = &table;
         keysOf_ = std::move(keysOf);
         generation_ = UINT64_MAX;
-        table.watchWrites(this, [this](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-            // A record not taken in yet is read whole at the next lookup.
-            if (generation_ != table_->generation() || n > covered_ || before.empty()) return;
-            const Keys was = keysOf_(before);
-            const Keys now = keysOf_(after);
-            if (was == now) return;
-            for (int i = 0; i < was.count; ++i) {
-                auto it = byKey_.find(was.key[static_cast<std::size_t>(i)]);
-                if (it == byKey_.end()) continue;
-                it->second.erase(n);
-                if (it->second.empty()) byKey_.erase(it);
-            }
-            file(n, now);
-        });
+        table.watchWrites(
+            this,
+            [this](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+                // A record not taken in yet is read whole at the next lookup.
+                if (generation_ != table_->generation() || n > covered_ || before.empty()) return;
+                const Keys was = keysOf_(before);
+                const Keys now = keysOf_(after);
+                if (was == now) return;
+                for (int i = 0; i < was.count; ++i) {
+                    auto it = byKey_.find(was.key[static_cast<std::size_t>(i)]);
+                    if (it == byKey_.end()) continue;
+                    it->second.erase(n);
+                    if (it->second.empty()) byKey_.erase(it);
+                }
+                file(n, now);
+            },
+            std::move(onlyBytes));
     }
     bool keeping() const { return table_ != nullptr; }
 

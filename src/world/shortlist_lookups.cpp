@@ -36,11 +36,14 @@ int32_t findShortlistPair(Game& g, int16_t band, int16_t label) {
 }
 
 void watchShortlistPairs(Game& g) {
-    g.shortlistPairs.keep(g.shortlist, [](std::span<const uint8_t> bytes) {
-        KeyedRecords<uint32_t>::Keys keys;
-        keys.add(pairOf(bytes));
-        return keys;
-    });
+    g.shortlistPairs.keep(
+        g.shortlist,
+        [](std::span<const uint8_t> bytes) {
+            KeyedRecords<uint32_t>::Keys keys;
+            keys.add(pairOf(bytes));
+            return keys;
+        },
+        {{kBand, sizeof(int16_t)}, {kLabel, sizeof(int16_t)}});
 }
 
 }  // namespace trovane
