@@ -251,17 +251,25 @@ void increaseBandAges(Game& g) {
 // Only artists the day can change are read: one at full energy, and at full
 // focus if they write, stays as it is.
 void increaseArtistEnergy(Game& g) {
+    static const std::size_t kStamina = offsetIn<ArtistRecord>("stamina");
+    static const std::size_t kSongQuality = offsetIn<ArtistRecord>("songQuality");
+    static const std::size_t kWritingFocus = offsetIn<ArtistRecord>("writingFocus");
+    // The two fields that recover are written in each artist's bytes; the
+    // buffer is set after, as the walk would leave it.
     for (int32_t n : unrestedArtists(g)) {
-        g.artist.read(n);
-        ArtistRecord& a = g.artist.rec;
-        if (a.energy < 0) {
-            a.energy = a.energy == -1 ? int16_t{100} : narrow<int16_t>(a.energy + 1);
+        const auto bytes = g.artist.bytesOf(n);
+        const auto energy = fieldAt<int16_t>(bytes, kArtistEnergy);
+        if (energy < 0) {
+            patchField<int16_t>(g.artist, n, kArtistEnergy,
+                                [&](int16_t) { return energy == -1 ? int16_t{100} : narrow<int16_t>(energy + 1); });
         } else {
-            double recovered = a.energy + a.stamina / 32.0 + 1;
-            a.energy = std::clamp<int16_t>(toInteger(recovered), 0, 100);
-            if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(std::min(a.writingFocus + 3, 100));
+            double recovered = energy + fieldAt<uint8_t>(bytes, kStamina) / 32.0 + 1;
+            patchField<int16_t>(g.artist, n, kArtistEnergy,
+                                [&](int16_t) { return std::clamp<int16_t>(toInteger(recovered), 0, 100); });
+            if (fieldAt<uint8_t>(bytes, kSongQuality) > 0)
+                patchField<uint8_t>(g.artist, n, kWritingFocus,
+                                    [](uint8_t focus) { return static_cast<uint8_t>(std::min(focus + 3, 100)); });
         }
-        g.artist.write(n);
         noteArtist(g, n);  // a write that changes nothing is not told to the sets
     }
     const int32_t last = g.artist.recordCount() - 1;

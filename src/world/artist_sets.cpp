@@ -64,9 +64,13 @@ void noteArtist(Game& g, int32_t n) { file(refresh(g), n, g.artist.bytesOf(n)); 
 void watchArtistSets(Game& g) {
     g.artist.watchWrites(
         &g.artistSets,
-        [&g](int32_t n, std::span<const uint8_t>, std::span<const uint8_t> after) {
+        [&g](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
             // Sets not built for the table as it is now are built whole at the next lookup.
-            if (g.artistSets.generation == g.artist.generation()) file(g.artistSets, n, after);
+            if (g.artistSets.generation != g.artist.generation()) return;
+            // A write that leaves both marks as they were leaves the sets as they are.
+            if (!before.empty() && isActive(before) == isActive(after) && artistAtRest(before) == artistAtRest(after))
+                return;
+            file(g.artistSets, n, after);
         },
         {{kRetired, sizeof(int16_t)}, {kEnergy, sizeof(int16_t)}, {kSongQuality, 1}, {kWritingFocus, 1}});
 }

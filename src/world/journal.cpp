@@ -70,9 +70,19 @@ fs::path fileOf(const fs::path& dataDir, const std::string& name) {
 }
 
 std::vector<uint8_t> encode(const fs::path& dataDir, const std::vector<FileWrite>& writes) {
-    std::vector<uint8_t> out(kHeader, kHeader + kTagLength);
+    std::size_t size = kTagLength * 2 + 8;
+    for (const auto& w : writes) size += 2 + w.file.native().size() + 24 + w.bytes.size();
+    std::vector<uint8_t> out;
+    out.reserve(size);
+    out.insert(out.end(), kHeader, kHeader + kTagLength);
+    // A file's writes come together: its name is worked out once for them.
+    const fs::path* named = nullptr;
+    std::string name;
     for (const auto& w : writes) {
-        std::string name = nameIn(dataDir, w.file);
+        if (named == nullptr || named->native() != w.file.native()) {
+            name = nameIn(dataDir, w.file);
+            named = &w.file;
+        }
         put<uint16_t>(out, static_cast<uint16_t>(name.size()));
         out.insert(out.end(), name.begin(), name.end());
         put<uint64_t>(out, w.length);
