@@ -7,6 +7,7 @@
 #include "floor/news_post.h"
 #include "schedule/schedule_types.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -57,24 +58,39 @@ void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
     const bool onTheRoad = entry.type == static_cast<uint8_t>(ScheduleType::gig) ||
                            entry.type == static_cast<uint8_t>(ScheduleType::travelDay) ||
                            entry.type == static_cast<uint8_t>(ScheduleType::restDay);
+    static const std::size_t kEnergy = offsetIn<ArtistRecord>("energy");
+    static const std::size_t kSongQuality = offsetIn<ArtistRecord>("songQuality");
+    static const std::size_t kWritingFocus = offsetIn<ArtistRecord>("writingFocus");
+    static const std::size_t kMorale = offsetIn<ArtistRecord>("morale");
+    static const std::size_t kDrugHabit = offsetIn<ArtistRecord>("drugHabit");
     g.band.read(entry.band);
     int members = std::min<int>(g.band->memberCount, static_cast<int>(g.band->members.size()));
     int energySum = 0;
+    // The members are worn in their records' bytes; the artist buffer is left
+    // at the last, as reading and writing each in turn leaves it.
+    int16_t lastMember = 0;
     for (int i = 0; i < members; ++i) {
         int16_t who = g.band->members[static_cast<std::size_t>(i)];
         if (who < 1) continue;
-        g.artist.read(who);
-        ArtistRecord& a = g.artist.rec;
+        lastMember = who;
+        const auto bytes = g.artist.bytesOf(who);
         // A member away resting is not at work: the rest runs its course.
-        if (a.energy >= 0) {
-            a.energy = static_cast<int16_t>(heldPercent(a.energy - wear.energy));
-            if (a.songQuality > 0) a.writingFocus = static_cast<uint8_t>(heldPercent(a.writingFocus - wear.energy));
-            a.morale = static_cast<uint8_t>(heldPercent(a.morale + wear.morale));
-            if (onTheRoad && a.drugHabit > 0) a.drugHabit = static_cast<uint8_t>(std::min(100, a.drugHabit + 1));
-            g.artist.write(who);
+        if (fieldAt<int16_t>(bytes, kEnergy) >= 0) {
+            patchField<int16_t>(g.artist, who, kEnergy,
+                                [&](int16_t e) { return static_cast<int16_t>(heldPercent(e - wear.energy)); });
+            if (fieldAt<uint8_t>(bytes, kSongQuality) > 0)
+                patchField<uint8_t>(g.artist, who, kWritingFocus,
+                                    [&](uint8_t f) { return static_cast<uint8_t>(heldPercent(f - wear.energy)); });
+            patchField<uint8_t>(g.artist, who, kMorale,
+                                [&](uint8_t m) { return static_cast<uint8_t>(heldPercent(m + wear.morale)); });
+            if (onTheRoad)
+                patchField<uint8_t>(g.artist, who, kDrugHabit, [](uint8_t d) {
+                    return d > 0 ? static_cast<uint8_t>(std::min(100, d + 1)) : d;
+                });
         }
-        energySum += a.energy;
+        energySum += fieldAt<int16_t>(bytes, kEnergy);
     }
+    if (lastMember > 0) g.artist.read(lastMember);
     if (members == 0) return;
     bool players = g.player.playerLabel > 0 && g.band->label == g.player.playerLabel;
     if (players && toInteger(static_cast<double>(energySum) / g.band->memberCount) < 35) askForABreak(g);
