@@ -25,6 +25,7 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
           return serialFromCivil(static_cast<int>(ymd.year()), static_cast<unsigned>(ymd.month()),
                                  static_cast<unsigned>(ymd.day()));
       }) {
+    keepLargeImagesApart();
     recoverJournal(dataDir);
 #define TROVANE_DEFER(member, Record, fileNo) member.deferWrites(&parked);
     TROVANE_WORKING_TABLES(TROVANE_DEFER)

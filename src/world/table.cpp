@@ -1,6 +1,7 @@
 #include "world/table.h"
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,6 +46,14 @@ std::size_t differingLength(const uint8_t* a, const uint8_t* b, std::size_t n) {
 }
 
 }  // namespace
+
+void keepLargeImagesApart() {
+    static const bool done = [] {
+        constexpr int kOwnMappingFrom = 1 << 20;
+        return mallopt(M_MMAP_THRESHOLD, kOwnMappingFrom) == 1;
+    }();
+    static_cast<void>(done);
+}
 
 TableBase::TableBase(FileNo number, std::size_t recordLength) : number_(number), length_(recordLength) {}
 

@@ -89,6 +89,13 @@ private:
     std::vector<std::pair<fs::path, std::vector<uint8_t>>> files_;  // the newest last
 };
 
+// Has the allocator give every block of 1 MB or more a mapping of its own,
+// handed back to the system when freed. A table's bytes grow by doubling; left
+// to the allocator's own rule, the blocks a large table outgrows stay in the
+// heap and a long game holds far more memory than its tables. Called by each
+// game as it is made; asking again does nothing.
+void keepLargeImagesApart();
+
 class TableBase {
 public:
     TableBase(FileNo number, std::size_t recordLength);
