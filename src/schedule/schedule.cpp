@@ -9,9 +9,17 @@
 #include "world/dates.h"
 #include "world/fatal_error.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/record_store.h"
 
 namespace trovane {
+
+namespace {
+
+const std::size_t kDayEntries = offsetIn<DayRecord>("entries");
+const std::size_t kDayCount = offsetIn<DayRecord>("count");
+
+}  // namespace
 
 int32_t dayNumberInYear(double date) {
     int year = yearOf(date);
@@ -63,6 +71,7 @@ std::vector<int32_t> addSchedules(Game& g, const std::vector<ScheduleRecord>& re
     ids.reserve(records.size());
     const ScheduleRecord kept = g.schedule.rec;
     int openYear = 0;
+    int32_t lastDay = 0;
     for (ScheduleRecord record : records) {
         if (record.date < g.gameStartDate) {
             ids.push_back(0);
@@ -79,19 +88,22 @@ std::vector<int32_t> addSchedules(Game& g, const std::vector<ScheduleRecord>& re
             openYear = year;
         }
         const int32_t day = dayNumberInYear(record.date);
-        g.dayIndex.read(day);
-        DayRecord& d = g.dayIndex.rec;
-        if (d.count < 0 || d.count >= kMaxEntriesPerDay) {
+        // The entry and the count are written in the day's bytes, the entry
+        // first; the buffer is set to the last day written before the file closes.
+        const auto count = fieldAt<int32_t>(g.dayIndex.bytesOf(day), kDayCount);
+        if (count < 0 || count >= kMaxEntriesPerDay) {
+            g.dayIndex.read(day);
             closeDayFile(g);
             g.schedule.rec = kept;
             throw FatalError(fmt::format("Subscript out of range: day {} of {} already holds {} schedule entries", day,
-                                         year, d.count));
+                                         year, count));
         }
-        d.entries[static_cast<std::size_t>(d.count)] = record.id;
-        d.count += 1;
-        g.dayIndex.write(day);
+        putFieldIn(g.dayIndex, day, kDayEntries + sizeof(int32_t) * static_cast<std::size_t>(count), record.id);
+        putFieldIn(g.dayIndex, day, kDayCount, count + 1);
+        lastDay = day;
         ids.push_back(record.id);
     }
+    if (lastDay > 0) g.dayIndex.read(lastDay);
     closeDayFile(g);
     g.schedule.rec = kept;
     return ids;

@@ -64,15 +64,22 @@ std::size_t offsetIn(std::string_view name) {
 
 // Sets the value of type T at byte offset at of record n to change(old).
 // Writes only when the bytes change, as a write of the whole record would.
+// Writes v at byte offset at of record n, as writing the whole record with
+// the field set to v would.
+template <class T, PackedRecord R>
+void putFieldIn(Table<R>& table, int32_t n, std::size_t at, T v) {
+    std::array<uint8_t, sizeof(T)> bytes;
+    std::memcpy(bytes.data(), &v, sizeof v);
+    table.putStretch(n, at, bytes);
+}
+
 template <class T, PackedRecord R, class F>
 void patchField(Table<R>& table, int32_t n, std::size_t at, F&& change) {
     T v;
     std::memcpy(&v, table.bytesOf(n).data() + at, sizeof v);
     const T next = change(v);
     if (next == v) return;
-    std::array<uint8_t, sizeof(T)> bytes;
-    std::memcpy(bytes.data(), &next, sizeof next);
-    table.putStretch(n, at, bytes);
+    putFieldIn(table, n, at, next);
 }
 
 // Writes v at byte offset at of a record's bytes.

@@ -21,6 +21,9 @@ TEST(AddSchedules, EntriesAreNumberedAndListedAsOneByOneAcrossYears) {
     records[2].date = eve + 1;              // a year with no day file yet
     records[3].date = eve;
     EXPECT_EQ(addSchedules(g, records), (std::vector<int32_t>{1, 0, 2, 3}));
+    // The day buffer holds the last day written: New Year's Eve with both its entries.
+    EXPECT_EQ(g.dayIndex->count, 2);
+    EXPECT_EQ(g.dayIndex->entries[1], 3);
     EXPECT_EQ(entriesOfDay(g, eve), (std::vector<int32_t>{1, 3}));
     EXPECT_EQ(entriesOfDay(g, eve + 1), (std::vector<int32_t>{2}));
     EXPECT_EQ(g.lastScheduleYear, 2007);
