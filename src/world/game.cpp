@@ -30,6 +30,9 @@ Game::Game(std::filesystem::path dataFolder, uint64_t seed)
 #define TROVANE_DEFER(member, Record, fileNo) member.deferWrites(&parked);
     TROVANE_WORKING_TABLES(TROVANE_DEFER)
 #undef TROVANE_DEFER
+    // Tables whose old records pile up over a long game and are seldom read.
+    for (TableBase* t : std::initializer_list<TableBase*>{&news, &schedule, &song, &gig, &chartrun, &achieve})
+        t->holdOnlyPagesInUse();
     dayIndex.deferWrites(&parked);
     chart.deferWrites(&parked);
     dayIndex.keepCleanImages(&cleanDayFiles);

@@ -193,6 +193,9 @@ public:
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;
+    // Commits since the pages of the tables that hold only the pages in use
+    // last went back to the system (see flushAllTables).
+    int commitsSincePagesWentBack = 0;
     // The day files and the charts last closed unchanged (see table.h): a
     // year's calendar, the next and the last; a week's ten charts.
     CleanImages cleanDayFiles{3};

@@ -13,6 +13,8 @@ namespace trovane {
 
 namespace {
 
+constexpr int kCommitsBetweenLettingPagesGo = 7;
+
 bool createdEmptyWhenMissing(FileNo n) {
     using enum FileNo;
     return n == fileNews || n == fileSchedule || n == fileOffer || n == fileShortlist || n == fileChartRecs ||
@@ -152,7 +154,7 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
 #undef TROVANE_TAKE
     for (auto& [file, p] : g.parked) {
         const std::size_t before = writes.size();
-        p.dirty.appendWrites(writes, file, p.image);
+        p.dirty.appendWrites(writes, file, p.image.bytes());
         if (writes.size() == before) writes.push_back({file, p.image.size(), 0, {}});
     }
     for (auto& w : extra) writes.push_back(std::move(w));
@@ -161,6 +163,15 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
     for (auto& [file, p] : g.parked)
         if (p.keepIn != nullptr) p.keepIn->keep(file, std::move(p.image));
     g.parked.clear();
+    // A week of days reads few of the old records of the tables that pile
+    // them up; their pages go back to the system once a week and come back
+    // from the files as they are read again.
+    if (++g.commitsSincePagesWentBack >= kCommitsBetweenLettingPagesGo) {
+        g.commitsSincePagesWentBack = 0;
+#define TROVANE_LET_GO(member, Record, fileNo) g.member.letPagesGo();
+        TROVANE_WORKING_TABLES(TROVANE_LET_GO)
+#undef TROVANE_LET_GO
+    }
 }
 
 bool dataFileExists(const Game& g, const fs::path& file) {

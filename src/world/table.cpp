@@ -48,11 +48,8 @@ std::size_t differingLength(const uint8_t* a, const uint8_t* b, std::size_t n) {
 }  // namespace
 
 void keepLargeImagesApart() {
-    static const bool done = [] {
-        constexpr int kOwnMappingFrom = 1 << 20;
-        return mallopt(M_MMAP_THRESHOLD, kOwnMappingFrom) == 1;
-    }();
-    static_cast<void>(done);
+    constexpr int kOwnMappingFrom = 1 << 20;
+    mallopt(M_MMAP_THRESHOLD, kOwnMappingFrom);
 }
 
 TableBase::TableBase(FileNo number, std::size_t recordLength) : number_(number), length_(recordLength) {}
@@ -69,7 +66,7 @@ std::string TableBase::displayName() const {
     return path_.empty() ? table : fmt::format("{} ({})", table, path_.string());
 }
 
-void TableBase::adopt(const fs::path& path, std::vector<uint8_t> image, std::optional<std::size_t> diskLength) {
+void TableBase::adopt(const fs::path& path, TableImage image, std::optional<std::size_t> diskLength) {
     path_ = path;
     image_ = std::move(image);
     diskLength_ = diskLength;
@@ -121,17 +118,12 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
             fmt::format("The data file {} is damaged: its length of {} bytes is not a whole number of {}-byte records",
                         path.string(), size, length_));
     }
-    std::vector<uint8_t> image(size);
-    std::size_t done = 0;
-    while (done < size) {
-        ssize_t got = ::pread(fd, image.data() + done, size - done, static_cast<off_t>(done));
-        if (got <= 0) {
-            int err = errno;
-            ::close(fd);
-            throw FatalError(
-                fmt::format("Cannot read {}: {}", path.string(), got == 0 ? "it ended early" : std::strerror(err)));
-        }
-        done += static_cast<std::size_t>(got);
+    TableImage image;
+    try {
+        image.readFrom(fd, size, path, pagesOnDemand_);
+    } catch (...) {
+        ::close(fd);
+        throw;
     }
     if (parked_)
         ::close(fd);
@@ -157,7 +149,7 @@ void TableBase::openNew(const fs::path& path) {
 std::vector<FileWrite> TableBase::takeWrites() {
     std::vector<FileWrite> writes;
     if (!open_) return writes;
-    dirty_.appendWrites(writes, path_, image_);
+    dirty_.appendWrites(writes, path_, image_.bytes());
     if (writes.empty() && diskLength_ != image_.size()) writes.push_back({path_, image_.size(), 0, {}});
     diskLength_ = image_.size();
     dirty_.clear();
@@ -184,7 +176,11 @@ void TableBase::close() {
     }
     open_ = false;
     image_.clear();
-    image_.shrink_to_fit();
+}
+
+void TableBase::letPagesGo() {
+    if (!open_ || !pagesOnDemand_ || !parked_ || dirty_.any() || diskLength_ != image_.size()) return;
+    image_.letPagesGo(path_);
 }
 
 void TableBase::watchWrites(const void* owner, WriteWatcher watcher, std::vector<ByteStretch> onlyBytes) {
@@ -216,15 +212,15 @@ void TableBase::tableFull(int32_t n) const {
     throw FatalError(fmt::format("Table {} is full: record {} does not fit its record number field", displayName(), n));
 }
 
-std::optional<std::vector<uint8_t>> CleanImages::take(const fs::path& file) {
+std::optional<TableImage> CleanImages::take(const fs::path& file) {
     auto it = std::find_if(files_.begin(), files_.end(), [&](const auto& f) { return f.first == file; });
     if (it == files_.end()) return std::nullopt;
-    std::vector<uint8_t> image = std::move(it->second);
+    TableImage image = std::move(it->second);
     files_.erase(it);
     return image;
 }
 
-void CleanImages::keep(const fs::path& file, std::vector<uint8_t> image) {
+void CleanImages::keep(const fs::path& file, TableImage image) {
     forget(file);
     if (files_.size() >= most_) files_.erase(files_.begin());
     files_.emplace_back(file, std::move(image));
@@ -248,7 +244,7 @@ void DirtyChunks::clear() {
 }
 
 void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file,
-                               const std::vector<uint8_t>& image) const {
+                               std::span<const uint8_t> image) const {
     if (!any_) return;
     const std::size_t chunks = words_.size() * 64;
     auto dirty = [&](std::size_t c) { return (words_[c / 64] >> (c % 64) & 1U) != 0; };

@@ -13,7 +13,8 @@
 // The file's bytes are kept in memory while it is open and written back to the
 // file on close and flush, so a walk costs no system call per record. The
 // buffer rule is not affected: the copy in memory is the file, not a cache of
-// records.
+// records. A table whose old records pile up may hold only the pages of them
+// in use (holdOnlyPagesInUse); the rest are read from its file when touched.
 //
 // A table of a game's working set defers its writes instead: what changed is
 // handed to the game's commit (see flushAllTables), and a table closed before
@@ -33,6 +34,7 @@
 #include "world/journal.h"
 #include "world/numbers.h"
 #include "world/record_codec.h"
+#include "world/table_image.h"
 
 namespace trovane {
 
@@ -54,7 +56,7 @@ public:
     void clear();
     // A write to file for each run of changed chunks of image, cut at its end,
     // in file order; each carries the file's length after the write.
-    void appendWrites(std::vector<FileWrite>& out, const fs::path& file, const std::vector<uint8_t>& image) const;
+    void appendWrites(std::vector<FileWrite>& out, const fs::path& file, std::span<const uint8_t> image) const;
 
 private:
     std::vector<uint64_t> words_;  // a bit for each chunk
@@ -64,7 +66,7 @@ private:
 // The bytes of a table closed before the commit that writes them.
 class CleanImages;
 struct ParkedImage {
-    std::vector<uint8_t> image;
+    TableImage image;
     std::optional<std::size_t> diskLength;  // none: the file is not on disk yet
     DirtyChunks dirty;
     CleanImages* keepIn = nullptr;  // where its table keeps clean images
@@ -78,22 +80,22 @@ class CleanImages {
 public:
     explicit CleanImages(std::size_t files) : most_(files) {}
     // The file's bytes, taken out; none when they are not kept.
-    std::optional<std::vector<uint8_t>> take(const fs::path& file);
+    std::optional<TableImage> take(const fs::path& file);
     // Keeps the bytes, dropping the file kept longest when full.
-    void keep(const fs::path& file, std::vector<uint8_t> image);
+    void keep(const fs::path& file, TableImage image);
     void forget(const fs::path& file);
     void clear() { files_.clear(); }
 
 private:
     std::size_t most_;
-    std::vector<std::pair<fs::path, std::vector<uint8_t>>> files_;  // the newest last
+    std::vector<std::pair<fs::path, TableImage>> files_;  // the newest last
 };
 
 // Has the allocator give every block of 1 MB or more a mapping of its own,
-// handed back to the system when freed. A table's bytes grow by doubling; left
-// to the allocator's own rule, the blocks a large table outgrows stay in the
-// heap and a long game holds far more memory than its tables. Called by each
-// game as it is made; asking again does nothing.
+// handed back to the system when freed. The side indexes over a long game's
+// tables grow by doubling; left to the allocator's own rule, the blocks they
+// outgrow stay in the heap. Called by each game as it is made; asking again
+// does nothing.
 void keepLargeImagesApart();
 
 class TableBase {
@@ -115,7 +117,14 @@ public:
     // Makes a deferring table keep its bytes in clean when it is closed
     // unchanged, and look there before reading its file.
     void keepCleanImages(CleanImages* clean) { clean_ = clean; }
-
+    // Marks a deferring table whose old records pile up and are seldom read
+    // again: its image's pages are mapped from its file when it opens, and go
+    // back to the system when letPagesGo is called after a commit.
+    void holdOnlyPagesInUse() { pagesOnDemand_ = true; }
+    // Hands the pages of a table so marked back to the system, to be read
+    // again from its file as they are touched. Only right after a commit,
+    // when the file holds every byte of the image.
+    void letPagesGo();
     // Opens the file for random read and write. A file whose length is not a
     // whole number of records is refused with a message that names it.
     void open(const fs::path& path, IfMissing ifMissing);
@@ -180,7 +189,7 @@ protected:
     std::string displayName() const;
 
 private:
-    void adopt(const fs::path& path, std::vector<uint8_t> image, std::optional<std::size_t> diskLength);
+    void adopt(const fs::path& path, TableImage image, std::optional<std::size_t> diskLength);
 
     FileNo number_;
     std::size_t length_;
@@ -206,7 +215,8 @@ private:
     void tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after, std::size_t first,
                       std::size_t end) const;
     std::vector<Watcher> watchers_;
-    std::vector<uint8_t> image_;
+    TableImage image_;
+    bool pagesOnDemand_ = false;
     std::optional<std::size_t> diskLength_;
     DirtyChunks dirty_;
     uint64_t generation_ = 0;

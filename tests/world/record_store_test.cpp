@@ -2,10 +2,17 @@
 // compaction, and the errors that stop the game.
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstring>
 #include <filesystem>
+
+#include <fmt/format.h>
 
 #include "support/game_test.h"
 #include "world/record_bytes.h"
+#include "world/table_image.h"
 
 using namespace trovane;
 using test::fatalMessage;
@@ -124,6 +131,65 @@ TEST_F(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
     std::string message = fatalMessage([&] { add(g.look, [](LookRecord&) {}); });
     EXPECT_NE(message.find("look"), std::string::npos) << message;
     EXPECT_EQ(g.look.recordCount(), 32768);  // the file did not grow
+}
+
+TEST_F(RecordStore, APilingTableReadsItsOldRecordsAgainFromItsFileAfterAWeekOfCommits) {
+    for (int i = 1; i <= 10; ++i) add(g.news, [&](NewsRecord& n) { n.title = fmt::format("Item {}", i); });
+    const fs::path file = g.news.path();
+    constexpr std::size_t kTitle = 11;
+    // Changes the first letter of a title in the file, behind the table's back.
+    auto scribble = [&](int32_t n, char c) {
+        const int fd = ::open(file.c_str(), O_WRONLY);
+        ASSERT_EQ(::pwrite(fd, &c, 1, static_cast<off_t>((n - 1) * NewsRecord::kLength + kTitle)), 1);
+        ::close(fd);
+    };
+    auto title = [&](int32_t n) {
+        g.news.read(n);
+        return g.news->title.value;
+    };
+    g.commitsSincePagesWentBack = 0;
+    for (int day = 1; day <= 6; ++day) flushAllTables(g);
+    scribble(3, 'J');
+    EXPECT_EQ(title(3), "Item 3");  // still held whole
+    scribble(3, 'I');
+    flushAllTables(g);
+    scribble(3, 'J');
+    EXPECT_EQ(title(3), "Jtem 3");  // read again from the file
+    scribble(3, 'I');
+
+    // What changes after is the table's own until the commit writes it.
+    g.news.read(9);
+    g.news->title = "Changed";
+    g.news.write();
+    add(g.news, [](NewsRecord& n) { n.title = "Item 11"; });
+    scribble(9, 'X');
+    EXPECT_EQ(title(9), "Changed");
+    flushAllTables(g);
+    g.news.close();
+    g.news.open(file, IfMissing::fail);
+    EXPECT_EQ(title(9), "Changed");
+    EXPECT_EQ(title(10), "Item 10");
+    EXPECT_EQ(title(11), "Item 11");
+    EXPECT_EQ(g.news.recordCount(), 12);
+}
+
+TEST(TableImage, GrowsWhereItIsWithZerosAndACutPartReadsZeroWhenGrownAgain) {
+    TableImage image;
+    image.resize(100);
+    uint8_t* const at = image.data();
+    std::memset(at, 7, 100);
+    image.resize(std::size_t{1} << 20);
+    EXPECT_EQ(image.data(), at);
+    EXPECT_EQ(image.data()[99], 7);
+    EXPECT_EQ(image.data()[100], 0);
+    image.resize(50);
+    image.resize(100);
+    EXPECT_EQ(image.data()[49], 7);
+    EXPECT_EQ(image.data()[50], 0);
+    // Past its reservation the bytes move with it.
+    image.resize(std::size_t{300} << 20);
+    EXPECT_EQ(image.data()[49], 7);
+    EXPECT_EQ(image.data()[50], 0);
 }
 
 struct NameCase {

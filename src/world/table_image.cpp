@@ -1,0 +1,126 @@
+#include "world/table_image.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "world/fatal_error.h"
+
+namespace trovane {
+
+namespace {
+
+std::size_t pageSize() {
+    static const std::size_t size = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    return size;
+}
+
+std::size_t wholePagesIn(std::size_t n) { return n / pageSize() * pageSize(); }
+
+// Address space is cheap and untouched pages cost nothing, so a table
+// reserves far more than it holds and seldom has to move.
+constexpr std::size_t kLeastReservation = std::size_t{64} << 20;
+
+}  // namespace
+
+TableImage::TableImage(TableImage&& other) noexcept
+    : base_(std::exchange(other.base_, nullptr)),
+      size_(std::exchange(other.size_, 0)),
+      reserved_(std::exchange(other.reserved_, 0)) {}
+
+TableImage& TableImage::operator=(TableImage&& other) noexcept {
+    if (this != &other) {
+        clear();
+        base_ = std::exchange(other.base_, nullptr);
+        size_ = std::exchange(other.size_, 0);
+        reserved_ = std::exchange(other.reserved_, 0);
+    }
+    return *this;
+}
+
+TableImage::~TableImage() { clear(); }
+
+void TableImage::clear() {
+    if (base_ != nullptr) ::munmap(base_, reserved_);
+    base_ = nullptr;
+    size_ = 0;
+    reserved_ = 0;
+}
+
+void TableImage::reserve(std::size_t n) {
+    if (n <= reserved_) return;
+    const std::size_t want = std::max(kLeastReservation, wholePagesIn(n * 4 + pageSize() - 1));
+    void* fresh = ::mmap(nullptr, want, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (fresh == MAP_FAILED)
+        throw FatalError(fmt::format("Cannot set aside {} bytes of memory: {}", want, std::strerror(errno)));
+    if (base_ != nullptr) {
+        std::memcpy(fresh, base_, size_);
+        ::munmap(base_, reserved_);
+    }
+    base_ = static_cast<uint8_t*>(fresh);
+    reserved_ = want;
+}
+
+void TableImage::resize(std::size_t n) {
+    if (n > size_) {
+        reserve(n);
+    } else if (n < size_) {
+        // Bytes past the end read as zero when the image grows again.
+        std::memset(base_ + n, 0, size_ - n);
+    }
+    size_ = n;
+}
+
+void TableImage::mapWholePages(int fd, std::size_t whole, const std::filesystem::path& file) {
+    if (whole == 0) return;
+    void* at = ::mmap(base_, whole, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_FIXED, fd, 0);
+    if (at == MAP_FAILED)
+        throw FatalError(fmt::format("Cannot map {} into memory: {}", file.string(), std::strerror(errno)));
+}
+
+void TableImage::readFrom(int fd, std::size_t n, const std::filesystem::path& file, bool mapPages) {
+    clear();
+    resize(n);
+    std::size_t done = 0;
+    if (mapPages) {
+        done = wholePagesIn(n);
+        mapWholePages(fd, done, file);
+    }
+    while (done < n) {
+        ssize_t got = ::pread(fd, base_ + done, n - done, static_cast<off_t>(done));
+        if (got <= 0) {
+            const int err = errno;
+            clear();
+            throw FatalError(
+                fmt::format("Cannot read {}: {}", file.string(), got == 0 ? "it ended early" : std::strerror(err)));
+        }
+        done += static_cast<std::size_t>(got);
+    }
+}
+
+void TableImage::letPagesGo(const std::filesystem::path& file) {
+    const std::size_t whole = wholePagesIn(size_);
+    if (whole == 0) return;
+    const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return;
+    struct stat st {};
+    if (::fstat(fd, &st) == 0 && static_cast<std::size_t>(st.st_size) >= whole) {
+        try {
+            mapWholePages(fd, whole, file);
+        } catch (...) {
+            ::close(fd);
+            throw;
+        }
+    }
+    ::close(fd);
+}
+
+}  // namespace trovane
