@@ -120,7 +120,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     }
     TableImage image;
     try {
-        image.readFrom(fd, size, path, pagesOnDemand_);
+        if (!image.readFrom(fd, size, path, pagesOnDemand_)) pagesOnDemand_ = false;
     } catch (...) {
         ::close(fd);
         throw;

@@ -79,20 +79,23 @@ void TableImage::resize(std::size_t n) {
     size_ = n;
 }
 
-void TableImage::mapWholePages(int fd, std::size_t whole, const std::filesystem::path& file) {
-    if (whole == 0) return;
+bool TableImage::mapWholePages(int fd, std::size_t whole, const std::filesystem::path& file) {
+    if (whole == 0) return true;
     void* at = ::mmap(base_, whole, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_FIXED, fd, 0);
-    if (at == MAP_FAILED)
-        throw FatalError(fmt::format("Cannot map {} into memory: {}", file.string(), std::strerror(errno)));
+    if (at != MAP_FAILED) return true;
+    // These are refused before anything is unmapped; after any other failure
+    // the image's bytes may be gone, and the game must stop (its files hold them).
+    if (errno == ENODEV || errno == EACCES || errno == EPERM) return false;
+    throw FatalError(fmt::format("Cannot map {} into memory: {}", file.string(), std::strerror(errno)));
 }
 
-void TableImage::readFrom(int fd, std::size_t n, const std::filesystem::path& file, bool mapPages) {
+bool TableImage::readFrom(int fd, std::size_t n, const std::filesystem::path& file, bool mapPages) {
     clear();
     resize(n);
     std::size_t done = 0;
     if (mapPages) {
-        done = wholePagesIn(n);
-        mapWholePages(fd, done, file);
+        mapPages = mapWholePages(fd, wholePagesIn(n), file);
+        if (mapPages) done = wholePagesIn(n);
     }
     while (done < n) {
         ssize_t got = ::pread(fd, base_ + done, n - done, static_cast<off_t>(done));
@@ -104,6 +107,7 @@ void TableImage::readFrom(int fd, std::size_t n, const std::filesystem::path& fi
         }
         done += static_cast<std::size_t>(got);
     }
+    return mapPages;
 }
 
 void TableImage::letPagesGo(const std::filesystem::path& file) {
@@ -114,7 +118,7 @@ void TableImage::letPagesGo(const std::filesystem::path& file) {
     struct stat st {};
     if (::fstat(fd, &st) == 0 && static_cast<std::size_t>(st.st_size) >= whole) {
         try {
-            mapWholePages(fd, whole, file);
+            static_cast<void>(mapWholePages(fd, whole, file));
         } catch (...) {
             ::close(fd);
             throw;

@@ -34,8 +34,9 @@ public:
     // Drops every byte and the memory that held them.
     void clear();
     // The image becomes the first n bytes of the open file fd, read, or with
-    // mapPages every whole page of it mapped from the file instead.
-    void readFrom(int fd, std::size_t n, const std::filesystem::path& file, bool mapPages);
+    // mapPages every whole page of it mapped from the file instead. False
+    // when the file's system cannot map it: its bytes are then read.
+    bool readFrom(int fd, std::size_t n, const std::filesystem::path& file, bool mapPages);
     // Hands the whole pages of the image back to the system, to be read again
     // from file when touched. The file must hold the image's bytes: a file
     // that is shorter than the image, or cannot be opened, leaves the image
@@ -44,8 +45,9 @@ public:
 
 private:
     void reserve(std::size_t n);
-    // Maps the first `whole` bytes (whole pages) of fd over the image's start.
-    void mapWholePages(int fd, std::size_t whole, const std::filesystem::path& file);
+    // Maps the first `whole` bytes (whole pages) of fd over the image's start;
+    // false, the image untouched, when the file's system cannot.
+    bool mapWholePages(int fd, std::size_t whole, const std::filesystem::path& file);
 
     uint8_t* base_ = nullptr;
     std::size_t size_ = 0;
