@@ -293,9 +293,14 @@ std::vector<bool> actsBusyBetween(Game& g, double first, double last) {
     auto mark = [&](int32_t band) {
         if (band > 0 && band < static_cast<int32_t>(busy.size())) busy[static_cast<std::size_t>(band)] = true;
     };
-    // The entries and gigs are read from their bytes; no buffer changes.
+    // The entries and gigs are read from their bytes; no buffer changes but
+    // the day's, left at the last day read as reading each day leaves it.
+    DayFileReader days(g);
+    double lastRead = 0;
     for (double d = first; d <= last; ++d) {
-        for (int32_t id : entriesOfDay(g, d)) {
+        if (!days.hasFile(d)) continue;
+        lastRead = d;
+        for (int32_t id : days.entries(d)) {
             if (id < 1 || id >= g.schedule.recordCount()) continue;
             const auto e = g.schedule.bytesOf(id);
             const auto type = fieldAt<uint8_t>(e, kEntryType);
@@ -307,6 +312,7 @@ std::vector<bool> actsBusyBetween(Game& g, double first, double last) {
             for (std::size_t slot = 0; slot < kBillSlots; ++slot) mark(fieldAt<int16_t>(bill, kGigBill + 2 * slot));
         }
     }
+    if (lastRead > 0) days.day(lastRead);
     return busy;
 }
 
@@ -345,15 +351,15 @@ int chooseSupportBands(Game& g, int16_t tour) {
         if (fieldAt<int16_t>(bytes, kBandRetired) != kFalse || b == headliner.id) continue;
         const auto label = fieldAt<int16_t>(bytes, kBandLabel);
         const bool sameLabel = label == headliner.label;
-        for (std::size_t m = 0; m < g.band.rec.reputation.size(); ++m)
-            g.band.rec.reputation[m] = fieldAt<uint8_t>(bytes, kBandReputation + m);
-        int32_t worth2 = bandRating(g);
         const auto style = fieldAt<uint8_t>(bytes, kBandStyle);
         if (style > 0 && style != headliner.style && style < g.style.recordCount()) lastStyleRead = style;
         if (family[style] < 0) family[style] = stylesAssociated(g, headliner.style, style) ? 1 : 0;
-        if (family[style] == 0) continue;
+        if (family[style] == 0 || busy[static_cast<std::size_t>(b)]) continue;
+        for (std::size_t m = 0; m < g.band.rec.reputation.size(); ++m)
+            g.band.rec.reputation[m] = fieldAt<uint8_t>(bytes, kBandReputation + m);
+        int32_t worth2 = bandRating(g);
         if (!sameLabel) worth2 *= 2;
-        if (worth2 > worth || busy[static_cast<std::size_t>(b)]) continue;
+        if (worth2 > worth) continue;
         found.push_back({.band = static_cast<int16_t>(b),
                          .rating = sameLabel ? worth2 * 2 : toLong(worth2 / 2.0),
                          .players = player > 0 && label == player});

@@ -99,7 +99,9 @@ void addChartRow(Game& g) {
     g.chart.write(n);
 }
 
-int positionValue(int position) {
+namespace {
+
+int positionValueWorkedOut(int position) {
     double r = 100;
     double p = 100;
     for (int i = 2; i <= position; ++i) {
@@ -110,6 +112,21 @@ int positionValue(int position) {
         p = roundHalfEven(u - static_cast<double>(e));
     }
     return static_cast<int>(p);
+}
+
+// The values of the hundred places a chart pays for, worked out once.
+constexpr int kValuedPlaces = 100;
+const std::array<int, kValuedPlaces + 1> kPlaceValues = [] {
+    std::array<int, kValuedPlaces + 1> values{};
+    for (int i = 1; i <= kValuedPlaces; ++i) values[static_cast<std::size_t>(i)] = positionValueWorkedOut(i);
+    return values;
+}();
+
+}  // namespace
+
+int positionValue(int position) {
+    if (position >= 1 && position <= kValuedPlaces) return kPlaceValues[static_cast<std::size_t>(position)];
+    return positionValueWorkedOut(position);
 }
 
 void addDiscPoints(Game& g, int t, int32_t points) {

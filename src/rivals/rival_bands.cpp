@@ -21,12 +21,16 @@ void computerCheckBands(Game& g) {
     // changes while it runs and a copy of each record stands for a read of it.
     static const std::size_t kRetired = offsetIn<BandRecord>("retired");
     static const std::size_t kLabel = offsetIn<BandRecord>("label");
-    std::vector<BandRecord> free;
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+    auto isFree = [&](int32_t n) {
         const auto bytes = g.band.bytesOf(n);
-        if (fieldAt<int16_t>(bytes, kRetired) != kFalse || fieldAt<int16_t>(bytes, kLabel) != 0) continue;
-        decodeRecord(bytes.data(), free.emplace_back());
-    }
+        return fieldAt<int16_t>(bytes, kRetired) == kFalse && fieldAt<int16_t>(bytes, kLabel) == 0;
+    };
+    std::size_t count = 0;
+    for (int32_t n = 1; n < g.band.recordCount(); ++n) count += isFree(n) ? 1 : 0;
+    std::vector<BandRecord> free(count);
+    auto next = free.begin();
+    for (int32_t n = 1; n < g.band.recordCount(); ++n)
+        if (isFree(n)) decodeRecord(g.band.bytesOf(n).data(), *next++);
     LabelRecord label{};
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         if (l == player) continue;

@@ -30,14 +30,25 @@ const std::size_t kBandReputation = offsetIn<BandRecord>("reputation");
 const std::size_t kBusinessKind = offsetIn<BusinessRecord>("kind");
 const std::size_t kBusinessOpen = offsetIn<BusinessRecord>("open");
 
-// The entries and discs below are read from their bytes; no buffer changes.
+// The entries and discs below are read from their bytes; no buffer changes
+// but the day's, left at the last day read as reading each day leaves it.
 bool gigBooked(Game& g, int16_t band, double from, double to) {
-    for (double day = from; day <= to; ++day)
-        for (int32_t id : entriesOfDay(g, day)) {
+    DayFileReader days(g);
+    double lastRead = 0;
+    bool found = false;
+    for (double day = from; day <= to && !found; ++day) {
+        if (!days.hasFile(day)) continue;
+        lastRead = day;
+        for (int32_t id : days.entries(day)) {
             const auto e = g.schedule.bytesOf(id);
-            if (fieldAt<uint8_t>(e, kEntryType) == 8 && fieldAt<int16_t>(e, kEntryBand) == band) return true;
+            if (fieldAt<uint8_t>(e, kEntryType) == 8 && fieldAt<int16_t>(e, kEntryBand) == band) {
+                found = true;
+                break;
+            }
         }
-    return false;
+    }
+    if (lastRead > 0) days.day(lastRead);
+    return found;
 }
 
 // Three discs of the type out that day in t by bands of about the same standing.

@@ -19,8 +19,6 @@ namespace trovane {
 
 namespace {
 
-const std::size_t kDayEntries = offsetIn<DayRecord>("entries");
-const std::size_t kDayCount = offsetIn<DayRecord>("count");
 const std::size_t kEntryType = offsetIn<ScheduleRecord>("type");
 const std::size_t kEntryBand = offsetIn<ScheduleRecord>("band");
 const std::size_t kEntryGig = offsetIn<ScheduleRecord>("gig");
@@ -38,58 +36,6 @@ ScheduleRecord peekEntry(Game& g, int32_t id) {
     e.gig = fieldAt<decltype(e.gig)>(bytes, kEntryGig);
     return e;
 }
-
-// Keeps one year's day file open while a stretch of dates is tested, so a
-// stretch costs one opening per year and not one per day.
-class DayReader {
-public:
-    explicit DayReader(Game& g) : g_(g) {}
-    DayReader(const DayReader&) = delete;
-    DayReader& operator=(const DayReader&) = delete;
-    ~DayReader() {
-        try {
-            closeDayFile(g_);
-        } catch (...) {}
-    }
-
-    // The day's record in the day buffer, or nullptr when its year has no file.
-    const DayRecord* day(double date) {
-        int year = yearOf(date);
-        if (year != year_) {
-            year_ = year;
-            present_ = hasDayFile(g_, year);
-            // A walk may cross the year's end: the old year's file is closed first.
-            closeDayFile(g_);
-            if (present_) openDayFile(g_, year);
-        }
-        if (!present_) return nullptr;
-        g_.dayIndex.read(dayNumberInYear(date));
-        return &g_.dayIndex.rec;
-    }
-
-    // The day's entries, read from the file's bytes without the day buffer;
-    // none when its year has no file.
-    std::vector<int32_t> entries(double date) {
-        int year = yearOf(date);
-        if (year != year_) {
-            year_ = year;
-            present_ = hasDayFile(g_, year);
-            closeDayFile(g_);
-            if (present_) openDayFile(g_, year);
-        }
-        if (!present_) return {};
-        const auto bytes = g_.dayIndex.bytesOf(dayNumberInYear(date));
-        const int32_t count = std::clamp(fieldAt<int32_t>(bytes, kDayCount), 0, kMaxEntriesPerDay);
-        std::vector<int32_t> ids(static_cast<std::size_t>(count));
-        if (count > 0) std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
-        return ids;
-    }
-
-private:
-    Game& g_;
-    int year_ = 0;
-    bool present_ = false;
-};
 
 // True when the band stands on the bill of the entry's gig as a support act
 // (a tour) or anywhere on a festival's bill.
@@ -145,7 +91,7 @@ int16_t festivalOfGig(Game& g, int32_t gig) {
 // the last test of a bill read them, the festival as the last test that read
 // one. Days are looked at from the last back, only their entries' bytes
 // read, until all are found.
-void leaveBuffersAsTheWalk(Game& g, DayReader& reader, int16_t band, double from, double last) {
+void leaveBuffersAsTheWalk(Game& g, DayFileReader& reader, int16_t band, double from, double last) {
     bool scheduleLeft = false;
     bool gigLeft = false;
     bool festivalLeft = false;
@@ -181,7 +127,7 @@ void leaveBuffersAsTheWalk(Game& g, DayReader& reader, int16_t band, double from
 }
 
 // The index answers when it can; the walk of the day's entries otherwise.
-int32_t engagementOn(Game& g, DayReader& reader, double date) {
+int32_t engagementOn(Game& g, DayFileReader& reader, double date) {
     const int16_t band = g.band->id;
     if (auto id = indexedEngagement(g, band, date)) {
         leaveBuffersAsTheWalk(g, reader, band, date, date);
@@ -217,7 +163,7 @@ public:
 
 private:
     Game& g_;
-    DayReader reader_;
+    DayFileReader reader_;
     int16_t band_;
     bool walked_ = false;
     bool indexed_ = false;
@@ -228,13 +174,13 @@ private:
 }  // namespace
 
 int32_t bandEngagementByWalk(Game& g, double date) {
-    DayReader reader(g);
+    DayFileReader reader(g);
     return walkTheDay(g, reader.day(date));
 }
 
 int32_t bandEngagement(Game& g, int mode, double date) {
     if (mode != 1) return 0;
-    DayReader reader(g);
+    DayFileReader reader(g);
     return engagementOn(g, reader, date);
 }
 
@@ -307,7 +253,7 @@ MonthCalendarView monthCalendar(Game& g, CalendarMonth m) {
     view.monthText = formatDate(first, "mmmm");
     view.yearText = formatDate(first, "yyyy");
     unsigned last = daysInMonth(m.year, m.month);
-    DayReader reader(g);
+    DayFileReader reader(g);
     for (unsigned day = 1; day <= last; ++day) {
         CalendarCell& cell = view.cells[day - 1];
         cell.visible = true;

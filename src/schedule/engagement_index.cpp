@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstring>
 #include <span>
 #include <string>
@@ -280,8 +281,8 @@ std::optional<int32_t> indexedEngagement(Game& g, int16_t band, double date) {
         rebuild(g);
     }
     const EngagementIndex& x = g.engagements;
-    const int year = yearOf(date);
-    const auto day = static_cast<int32_t>(serialFromCivil(year, 1, 1)) + dayNumberInYear(date) - 1;
+    // The day's serial: the date's whole days.
+    const auto day = static_cast<int32_t>(std::floor(date));
     if (static_cast<std::size_t>(band) >= x.byBand.size()) return 0;
     const auto& items = x.byBand[static_cast<std::size_t>(band)];
     int32_t supporting = 0;

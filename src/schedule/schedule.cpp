@@ -1,6 +1,8 @@
 #include "schedule/schedule.h"
 #include "schedule/schedule_types.h"
 
+#include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <string>
 
@@ -122,6 +124,39 @@ std::vector<int32_t> entriesOfDay(Game& g, double date) {
     }
     std::vector<int32_t> ids(d.entries.begin(), d.entries.begin() + count);
     closeDayFile(g);
+    return ids;
+}
+
+DayFileReader::~DayFileReader() {
+    try {
+        closeDayFile(g_);
+    } catch (...) {}
+}
+
+bool DayFileReader::hasFile(double date) {
+    const int year = yearOf(date);
+    if (year != year_) {
+        year_ = year;
+        present_ = hasDayFile(g_, year);
+        // A walk may cross the year's end: the old year's file is closed first.
+        closeDayFile(g_);
+        if (present_) openDayFile(g_, year);
+    }
+    return present_;
+}
+
+const DayRecord* DayFileReader::day(double date) {
+    if (!hasFile(date)) return nullptr;
+    g_.dayIndex.read(dayNumberInYear(date));
+    return &g_.dayIndex.rec;
+}
+
+std::vector<int32_t> DayFileReader::entries(double date) {
+    if (!hasFile(date)) return {};
+    const auto bytes = g_.dayIndex.bytesOf(dayNumberInYear(date));
+    const int32_t count = std::clamp(fieldAt<int32_t>(bytes, kDayCount), 0, kMaxEntriesPerDay);
+    std::vector<int32_t> ids(static_cast<std::size_t>(count));
+    if (count > 0) std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
     return ids;
 }
 

@@ -40,4 +40,28 @@ bool hasDayFile(const Game& g, int year);
 // year that has no day file.
 std::vector<int32_t> entriesOfDay(Game& g, double date);
 
+// Keeps one year's day file open while a stretch of dates is read, so a
+// stretch costs one opening per year and not one per day. The file is closed
+// when the reader goes.
+class DayFileReader {
+public:
+    explicit DayFileReader(Game& g) : g_(g) {}
+    DayFileReader(const DayFileReader&) = delete;
+    DayFileReader& operator=(const DayFileReader&) = delete;
+    ~DayFileReader();
+
+    // Whether the date's year has a day file.
+    bool hasFile(double date);
+    // The day's record in the day buffer, or nullptr when its year has no file.
+    const DayRecord* day(double date);
+    // The day's entries, read from the file's bytes without the day buffer;
+    // none when its year has no file.
+    std::vector<int32_t> entries(double date);
+
+private:
+    Game& g_;
+    int year_ = 0;
+    bool present_ = false;
+};
+
 }  // namespace trovane
