@@ -19,14 +19,8 @@ const std::size_t kWritingFocus = offsetIn<ArtistRecord>("writingFocus");
 bool isActive(std::span<const uint8_t> bytes) { return fieldAt<int16_t>(bytes, kRetired) == kFalse; }
 
 void file(ArtistSets& sets, int32_t n, std::span<const uint8_t> bytes) {
-    if (isActive(bytes))
-        sets.active.insert(n);
-    else
-        sets.active.erase(n);
-    if (artistAtRest(bytes))
-        sets.unrested.erase(n);
-    else
-        sets.unrested.insert(n);
+    sets.active.put(n, isActive(bytes));
+    sets.unrested.put(n, !artistAtRest(bytes));
 }
 
 ArtistSets& refresh(Game& g) {
@@ -36,8 +30,8 @@ ArtistSets& refresh(Game& g) {
     sets.active.clear();
     sets.unrested.clear();
     for (int32_t n = 1; n < g.artist.recordCount(); ++n) {
-        if (isActive(g.artist.bytesOf(n))) sets.active.insert(sets.active.end(), n);
-        sets.unrested.insert(sets.unrested.end(), n);
+        sets.active.put(n, isActive(g.artist.bytesOf(n)));
+        sets.unrested.put(n, true);
     }
     return sets;
 }
@@ -50,13 +44,11 @@ bool artistAtRest(std::span<const uint8_t> bytes) {
 }
 
 std::vector<int32_t> activeArtists(Game& g) {
-    const auto& s = refresh(g).active;
-    return {s.begin(), s.end()};
+    return refresh(g).active.list();
 }
 
 std::vector<int32_t> unrestedArtists(Game& g) {
-    const auto& s = refresh(g).unrested;
-    return {s.begin(), s.end()};
+    return refresh(g).unrested.list();
 }
 
 void noteArtist(Game& g, int32_t n) { file(refresh(g), n, g.artist.bytesOf(n)); }

@@ -2,8 +2,8 @@
 // The side indexes that name lookups keep on the game (see act_names.h and
 // talent/artist_names.h): plain data, kept in step by their owners.
 #include <array>
+#include <bit>
 #include <cstdint>
-#include <set>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -98,10 +98,35 @@ struct NationLinks {
 
 // Artists by what the daily walks over them need, so the walks cost what the
 // artists still at work cost however many have retired (see artist_sets.h).
+// A set of record numbers, one bit each, listed in record order.
+class RecordBits {
+public:
+    void put(int32_t n, bool in) {
+        const auto word = static_cast<std::size_t>(n) / 64;
+        if (word >= words_.size()) {
+            if (!in) return;
+            words_.resize(word + 1);
+        }
+        const uint64_t bit = uint64_t{1} << (static_cast<unsigned>(n) % 64);
+        words_[word] = in ? words_[word] | bit : words_[word] & ~bit;
+    }
+    void clear() { words_.clear(); }
+    std::vector<int32_t> list() const {
+        std::vector<int32_t> out;
+        for (std::size_t w = 0; w < words_.size(); ++w)
+            for (uint64_t bits = words_[w]; bits != 0; bits &= bits - 1)
+                out.push_back(static_cast<int32_t>(w * 64 + static_cast<std::size_t>(std::countr_zero(bits))));
+        return out;
+    }
+
+private:
+    std::vector<uint64_t> words_;
+};
+
 struct ArtistSets {
     uint64_t generation = UINT64_MAX;
-    std::set<int32_t> active;    // not retired
-    std::set<int32_t> unrested;  // a day's recovery would change the record
+    RecordBits active;    // not retired
+    RecordBits unrested;  // a day's recovery would change the record
 };
 
 // The looks and each style's liking for them, as a new artist's look is
