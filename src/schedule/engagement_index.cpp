@@ -223,7 +223,10 @@ void watchTheCalendar(Game& g) {
         while (same < was.size() && same < is.size() && was[same] == is[same]) ++same;
         for (std::size_t i = same; i < was.size(); ++i) unlistEntry(g, was[i], {day, static_cast<int32_t>(i)});
         for (std::size_t i = same; i < is.size(); ++i) listEntry(g, is[i], {day, static_cast<int32_t>(i)});
-    });
+    },
+    // A day's list changes only with its count: an entry is filed in the slot
+    // past the count before the count takes it in, and never moved after.
+    {{kDayCount, sizeof(int32_t)}});
 }
 
 // Reads every day file of the game into a new index. The years with a file
