@@ -25,15 +25,18 @@ std::size_t pageSize() {
 
 std::size_t wholePagesIn(std::size_t n) { return n / pageSize() * pageSize(); }
 
-// Address space is cheap and untouched pages cost nothing, so a table
-// reserves far more than it holds and seldom has to move.
+// Address space is cheap, so a table reserves far more than it holds and
+// seldom has to move. Only the part in use is made writable, a megabyte at a
+// time: a system that counts the memory a program may write counts only that.
 constexpr std::size_t kLeastReservation = std::size_t{64} << 20;
+constexpr std::size_t kUsableStep = std::size_t{1} << 20;
 
 }  // namespace
 
 TableImage::TableImage(TableImage&& other) noexcept
     : base_(std::exchange(other.base_, nullptr)),
       size_(std::exchange(other.size_, 0)),
+      usable_(std::exchange(other.usable_, 0)),
       reserved_(std::exchange(other.reserved_, 0)) {}
 
 TableImage& TableImage::operator=(TableImage&& other) noexcept {
@@ -41,6 +44,7 @@ TableImage& TableImage::operator=(TableImage&& other) noexcept {
         clear();
         base_ = std::exchange(other.base_, nullptr);
         size_ = std::exchange(other.size_, 0);
+        usable_ = std::exchange(other.usable_, 0);
         reserved_ = std::exchange(other.reserved_, 0);
     }
     return *this;
@@ -52,21 +56,45 @@ void TableImage::clear() {
     if (base_ != nullptr) ::munmap(base_, reserved_);
     base_ = nullptr;
     size_ = 0;
+    usable_ = 0;
     reserved_ = 0;
 }
 
 void TableImage::reserve(std::size_t n) {
-    if (n <= reserved_) return;
-    const std::size_t want = std::max(kLeastReservation, wholePagesIn(n * 4 + pageSize() - 1));
-    void* fresh = ::mmap(nullptr, want, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (fresh == MAP_FAILED)
-        throw FatalError(fmt::format("Cannot set aside {} bytes of memory: {}", want, std::strerror(errno)));
-    if (base_ != nullptr) {
-        std::memcpy(fresh, base_, size_);
-        ::munmap(base_, reserved_);
+    if (n <= usable_) return;
+    if (n > reserved_) {
+        const std::size_t want = std::max(kLeastReservation, wholePagesIn(n * 4 + pageSize() - 1));
+        void* fresh = ::mmap(nullptr, want, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        if (fresh == MAP_FAILED)
+            throw FatalError(fmt::format("Cannot set aside {} bytes of memory: {}", want, std::strerror(errno)));
+        const std::size_t wasUsable = usable_;
+        uint8_t* const was = base_;
+        const std::size_t wasReserved = reserved_;
+        base_ = static_cast<uint8_t*>(fresh);
+        reserved_ = want;
+        usable_ = 0;
+        try {
+            makeUsable(n);
+        } catch (...) {
+            ::munmap(fresh, want);
+            base_ = was, reserved_ = wasReserved, usable_ = wasUsable;
+            throw;
+        }
+        if (was != nullptr) {
+            std::memcpy(base_, was, size_);
+            ::munmap(was, wasReserved);
+        }
+        return;
     }
-    base_ = static_cast<uint8_t*>(fresh);
-    reserved_ = want;
+    makeUsable(n);
+}
+
+void TableImage::makeUsable(std::size_t n) {
+    const std::size_t to = std::min(reserved_, (n + kUsableStep - 1) / kUsableStep * kUsableStep);
+    if (to <= usable_) return;
+    if (::mprotect(base_ + usable_, to - usable_, PROT_READ | PROT_WRITE) != 0)
+        throw FatalError(fmt::format("Cannot set aside {} bytes of memory: {}", to, std::strerror(errno)));
+    usable_ = to;
 }
 
 void TableImage::resize(std::size_t n) {

@@ -44,13 +44,17 @@ public:
     void letPagesGo(const std::filesystem::path& file);
 
 private:
+    // Makes the first n bytes writable, reserving more address space (and
+    // moving the bytes there) when the reservation is too small.
     void reserve(std::size_t n);
+    void makeUsable(std::size_t n);
     // Maps the first `whole` bytes (whole pages) of fd over the image's start;
     // false, the image untouched, when the file's system cannot.
     bool mapWholePages(int fd, std::size_t whole, const std::filesystem::path& file);
 
     uint8_t* base_ = nullptr;
     std::size_t size_ = 0;
+    std::size_t usable_ = 0;  // writable bytes from the start
     std::size_t reserved_ = 0;
 };
 
