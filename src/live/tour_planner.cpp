@@ -296,10 +296,7 @@ std::vector<bool> actsBusyBetween(Game& g, double first, double last) {
     // The entries and gigs are read from their bytes; no buffer changes but
     // the day's, left at the last day read as reading each day leaves it.
     DayFileReader days(g);
-    double lastRead = 0;
     for (double d = first; d <= last; ++d) {
-        if (!days.hasFile(d)) continue;
-        lastRead = d;
         for (int32_t id : days.entries(d)) {
             if (id < 1 || id >= g.schedule.recordCount()) continue;
             const auto e = g.schedule.bytesOf(id);
@@ -312,7 +309,7 @@ std::vector<bool> actsBusyBetween(Game& g, double first, double last) {
             for (std::size_t slot = 0; slot < kBillSlots; ++slot) mark(fieldAt<int16_t>(bill, kGigBill + 2 * slot));
         }
     }
-    if (lastRead > 0) days.day(lastRead);
+    days.finish();
     return busy;
 }
 

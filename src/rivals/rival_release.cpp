@@ -34,11 +34,8 @@ const std::size_t kBusinessOpen = offsetIn<BusinessRecord>("open");
 // but the day's, left at the last day read as reading each day leaves it.
 bool gigBooked(Game& g, int16_t band, double from, double to) {
     DayFileReader days(g);
-    double lastRead = 0;
     bool found = false;
     for (double day = from; day <= to && !found; ++day) {
-        if (!days.hasFile(day)) continue;
-        lastRead = day;
         for (int32_t id : days.entries(day)) {
             const auto e = g.schedule.bytesOf(id);
             if (fieldAt<uint8_t>(e, kEntryType) == 8 && fieldAt<int16_t>(e, kEntryBand) == band) {
@@ -47,7 +44,7 @@ bool gigBooked(Game& g, int16_t band, double from, double to) {
             }
         }
     }
-    if (lastRead > 0) days.day(lastRead);
+    days.finish();
     return found;
 }
 

@@ -96,7 +96,7 @@ void leaveBuffersAsTheWalk(Game& g, DayFileReader& reader, int16_t band, double 
     bool gigLeft = false;
     bool festivalLeft = false;
     for (double d = last; d >= from && !(scheduleLeft && gigLeft && festivalLeft); d -= 1) {
-        const std::vector<int32_t> ids = reader.entries(d);
+        const std::span<const int32_t> ids = reader.entries(d);
         if (ids.empty()) continue;
         std::size_t stop = ids.size() - 1;
         for (std::size_t i = 0; i < ids.size(); ++i) {

@@ -134,14 +134,15 @@ DayFileReader::~DayFileReader() {
 }
 
 bool DayFileReader::hasFile(double date) {
+    if (date >= yearStart_ && date < yearEnd_) return present_;
     const int year = yearOf(date);
-    if (year != year_) {
-        year_ = year;
-        present_ = hasDayFile(g_, year);
-        // A walk may cross the year's end: the old year's file is closed first.
-        closeDayFile(g_);
-        if (present_) openDayFile(g_, year);
-    }
+    // A walk may cross the year's end: the old year's file is closed first.
+    closeDayFile(g_);
+    yearStart_ = yearEnd_ = 0;
+    present_ = hasDayFile(g_, year);
+    if (present_) openDayFile(g_, year);
+    yearStart_ = serialFromCivil(year, 1, 1);
+    yearEnd_ = serialFromCivil(year + 1, 1, 1);
     return present_;
 }
 
@@ -151,13 +152,18 @@ const DayRecord* DayFileReader::day(double date) {
     return &g_.dayIndex.rec;
 }
 
-std::vector<int32_t> DayFileReader::entries(double date) {
+std::span<const int32_t> DayFileReader::entries(double date) {
     if (!hasFile(date)) return {};
+    lastAsked_ = date;
     const auto bytes = g_.dayIndex.bytesOf(dayNumberInYear(date));
     const int32_t count = std::clamp(fieldAt<int32_t>(bytes, kDayCount), 0, kMaxEntriesPerDay);
-    std::vector<int32_t> ids(static_cast<std::size_t>(count));
-    if (count > 0) std::memcpy(ids.data(), bytes.data() + kDayEntries, ids.size() * sizeof(int32_t));
-    return ids;
+    ids_.resize(static_cast<std::size_t>(count));
+    if (count > 0) std::memcpy(ids_.data(), bytes.data() + kDayEntries, ids_.size() * sizeof(int32_t));
+    return ids_;
+}
+
+void DayFileReader::finish() {
+    if (lastAsked_ > 0) day(lastAsked_);
 }
 
 }  // namespace trovane

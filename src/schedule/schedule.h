@@ -2,6 +2,7 @@
 // The schedule: every later happening is a dated entry, listed in the day
 // index of its year and carried out on its day.
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "world/records.h"
@@ -55,13 +56,19 @@ public:
     // The day's record in the day buffer, or nullptr when its year has no file.
     const DayRecord* day(double date);
     // The day's entries, read from the file's bytes without the day buffer;
-    // none when its year has no file.
-    std::vector<int32_t> entries(double date);
+    // none when its year has no file. They hold until the next call.
+    std::span<const int32_t> entries(double date);
+    // Leaves the day buffer at the last day whose entries were asked for, as
+    // reading each of those days in turn would leave it.
+    void finish();
 
 private:
     Game& g_;
-    int year_ = 0;
     bool present_ = false;
+    double yearStart_ = 0;  // the serials of the open year's 1 January and the next
+    double yearEnd_ = 0;
+    double lastAsked_ = 0;  // 0: no day's entries asked for
+    std::vector<int32_t> ids_;
 };
 
 }  // namespace trovane
