@@ -157,6 +157,14 @@ void rebind(EngagementIndex& x, int32_t id, const std::vector<int16_t>& from, co
     }
 }
 
+// The number of entries a day's bytes list (none for no bytes), and the i-th.
+std::size_t countIn(Bytes day) {
+    if (day.empty()) return 0;
+    return static_cast<std::size_t>(std::clamp(fieldAt<int32_t>(day, kDayCount), 0, kMaxEntriesPerDay));
+}
+
+int32_t entryAt(Bytes day, std::size_t i) { return fieldAt<int32_t>(day, kDayEntries + i * sizeof(int32_t)); }
+
 std::vector<int32_t> entriesIn(Bytes day) {
     if (day.empty()) return {};
     const int32_t count = std::clamp(fieldAt<int32_t>(day, kDayCount), 0, kMaxEntriesPerDay);
@@ -189,6 +197,24 @@ int32_t daySerialOfWrite(Game& g, int32_t n) {
     return x.dayFileJanuary1 == 0 ? 0 : x.dayFileJanuary1 + n - 1;
 }
 
+// A write to a day of the open day file: the entries it drops leave the
+// index and those it adds join it. The lists are compared in the bytes;
+// usually one entry is added at the end.
+void noteDayWrite(Game& g, int32_t n, Bytes before, Bytes after) {
+    if (!isCurrent(g)) return;
+    const int32_t day = daySerialOfWrite(g, n);
+    if (day == 0) return;
+    const std::size_t was = countIn(before), is = countIn(after);
+    std::size_t same = std::min(was, is);
+    if (same > 0 && std::memcmp(before.data() + kDayEntries, after.data() + kDayEntries, same * sizeof(int32_t)) != 0) {
+        std::size_t i = 0;
+        while (entryAt(before, i) == entryAt(after, i)) ++i;
+        same = i;
+    }
+    for (std::size_t i = same; i < was; ++i) unlistEntry(g, entryAt(before, i), {day, static_cast<int32_t>(i)});
+    for (std::size_t i = same; i < is; ++i) listEntry(g, entryAt(after, i), {day, static_cast<int32_t>(i)});
+}
+
 void watchTheCalendar(Game& g) {
     g.schedule.watchWrites(&g.engagements, [&g](int32_t n, Bytes before, Bytes after) {
         if (!isCurrent(g)) return;
@@ -214,19 +240,11 @@ void watchTheCalendar(Game& g) {
             rebind(x, id, from, to);
         }
     });
-    g.dayIndex.watchWrites(&g.engagements, [&g](int32_t n, Bytes before, Bytes after) {
-        if (!isCurrent(g)) return;
-        const int32_t day = daySerialOfWrite(g, n);
-        if (day == 0) return;
-        const std::vector<int32_t> was = entriesIn(before), is = entriesIn(after);
-        std::size_t same = 0;
-        while (same < was.size() && same < is.size() && was[same] == is[same]) ++same;
-        for (std::size_t i = same; i < was.size(); ++i) unlistEntry(g, was[i], {day, static_cast<int32_t>(i)});
-        for (std::size_t i = same; i < is.size(); ++i) listEntry(g, is[i], {day, static_cast<int32_t>(i)});
-    },
     // A day's list changes only with its count: an entry is filed in the slot
     // past the count before the count takes it in, and never moved after.
-    {{kDayCount, sizeof(int32_t)}});
+    g.dayIndex.watchWrites(&g.engagements,
+                           [&g](int32_t n, Bytes before, Bytes after) { noteDayWrite(g, n, before, after); },
+                           {{kDayCount, sizeof(int32_t)}});
 }
 
 // Reads every day file of the game into a new index. The years with a file

@@ -309,9 +309,14 @@ void TableBase::putStretch(int32_t n, std::size_t at, std::span<const uint8_t> b
     const std::size_t end = first + differingLength(record + first, bytes.data() + same, bytes.size() - same);
     // Only when a watcher is told of the write is the record as it will be put together.
     if (std::any_of(watchers_.begin(), watchers_.end(), [&](const Watcher& w) { return w.wants(first, end); })) {
-        std::vector<uint8_t> after(record, record + length_);
+        // The record as it will be is put together in a buffer kept between
+        // writes (taken out while in use, so a write from a watcher makes its own).
+        static thread_local std::vector<uint8_t> kept;
+        std::vector<uint8_t> after = std::move(kept);
+        after.assign(record, record + length_);
         std::memcpy(after.data() + at, bytes.data(), bytes.size());
         tellWatchers(n, {record, length_}, after, first, end);
+        kept = std::move(after);
     }
     std::memcpy(record + first, bytes.data() + same, end - first);
     const std::size_t base = static_cast<std::size_t>(n - 1) * length_;
