@@ -24,6 +24,8 @@ const std::size_t kVenueCapacity = offsetIn<VenueRecord>("capacity");
 const std::size_t kVenueCity = offsetIn<VenueRecord>("city");
 const std::size_t kVenueRating = offsetIn<VenueRecord>("rating");
 const std::size_t kCityCountry = offsetIn<CityRecord>("country");
+const std::size_t kCountryName = offsetIn<CountryRecord>("name");
+const std::size_t kCountryRegion = offsetIn<CountryRecord>("region");
 const std::size_t kBandRetired = offsetIn<BandRecord>("retired");
 const std::size_t kBandLabel = offsetIn<BandRecord>("label");
 const std::size_t kBandStyle = offsetIn<BandRecord>("style");
@@ -39,11 +41,11 @@ constexpr int kMostGigs = 40;
 // A nation-less tour moves on once this many gigs stand in one country.
 constexpr int kGigsBeforeMovingOn = 6;
 
-bool isHomeNation(const CountryRecord& c) {
-    std::string name = trim(c.name.value);
-    return trim(c.region.value) == "E" &&
-           (name == "England" || name == "Scotland" || name == "Wales" || name == "Northern Ireland");
+bool isHomeNation(const std::string& region, const std::string& name) {
+    return region == "E" && (name == "England" || name == "Scotland" || name == "Wales" || name == "Northern Ireland");
 }
+
+bool isHomeNation(const CountryRecord& c) { return isHomeNation(trim(c.region.value), trim(c.name.value)); }
 
 // The planner's four regions: "E" 0, "N" 1, "O" 2, the rest of the world 3.
 int regionIndex(const std::string& region) {
@@ -116,15 +118,28 @@ std::vector<TourVenue> listTourVenues(Game& g, int mode, const TourFlags& flags,
         for (std::size_t k = 0; k < 4; ++k) size[k] = tourCrowdSize(g, r[k]);
     }
 
-    // Each country's area and whether it is a home nation, read once.
+    // Each country's area and where it stands for this tour, worked out once:
+    // for a planned tour its region's index (-1: none of the four), for the
+    // assistant's whether its venues are in the place asked for.
     const int32_t countries = g.country.recordCount();
     std::vector<std::string> regionOf(static_cast<std::size_t>(std::max(countries, 1)));
-    std::vector<bool> homeOf(regionOf.size());
+    std::vector<int8_t> placeOf(regionOf.size(), -1);
     for (int32_t c = 1; c < countries; ++c) {
-        g.country.read(c);
-        regionOf[static_cast<std::size_t>(c)] = trim(g.country->region.value);
-        homeOf[static_cast<std::size_t>(c)] = isHomeNation(g.country.rec);
+        const auto bytes = g.country.bytesOf(c);
+        const auto at = static_cast<std::size_t>(c);
+        regionOf[at] = textAt<decltype(CountryRecord::region)>(bytes, kCountryRegion);
+        if (mode != 2) {
+            placeOf[at] = static_cast<int8_t>(regionIndex(regionOf[at]));
+            continue;
+        }
+        bool inPlace = c == nation;
+        if (nation == 0)
+            inPlace = areaCode == "X" || regionOf[at] == areaCode;
+        else if (homeTour)
+            inPlace = isHomeNation(regionOf[at], textAt<decltype(CountryRecord::name)>(bytes, kCountryName));
+        placeOf[at] = inPlace ? 0 : -1;
     }
+    if (countries > 1) g.country.read(countries - 1);  // as a walk reading each country leaves it
 
     // The venues are read from their bytes, and their cities'.
     std::vector<TourVenue> out;
@@ -140,23 +155,20 @@ std::vector<TourVenue> listTourVenues(Game& g, int mode, const TourFlags& flags,
         if (venue.city < 1 || venue.city >= cities) continue;
         const int16_t country = fieldAt<uint8_t>(g.city.bytesOf(venue.city), kCityCountry);
         if (country < 1 || country >= countries) continue;
-        const std::string& region = regionOf[static_cast<std::size_t>(country)];
+        const int k = placeOf[static_cast<std::size_t>(country)];
+        if (k < 0) continue;
+        const auto kk = static_cast<std::size_t>(k);
         if (mode == 2) {
-            bool inPlace = nation == 0 ? (areaCode == "X" || region == areaCode)
-                                       : (homeTour ? homeOf[static_cast<std::size_t>(country)] : country == nation);
-            if (!inPlace) continue;
             if (venue.capacity >= 2 * size[0]) continue;
             if (venue.capacity < size[0] && venue.capacity < kBigVenue) continue;
             if (r[0] <= venue.rating) continue;
         } else {
-            int k = regionIndex(region);
-            if (k < 0) continue;
-            auto kk = static_cast<std::size_t>(k);
             if (!flags[kWorldFlag] && (k == 3 || !flags[kk])) continue;
             if (venue.capacity < size[kk] && venue.capacity < kBigVenue) continue;
             if (venue.capacity >= 2 * size[kk]) continue;
             if (r[kk] < venue.rating) continue;
         }
+        const std::string& region = regionOf[static_cast<std::size_t>(country)];
         out.push_back({.venue = venue.id,
                        .capacity = venue.capacity,
                        .city = venue.city,
