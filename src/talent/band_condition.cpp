@@ -118,22 +118,23 @@ namespace {
 
 // Whether the band's members are rested on average and it has asked for a
 // break, read from the bytes; `lastMember` is the last member whose energy
-// was read, 0 when none was.
+// was read, 0 when none was. The energies matter only to a band that asked
+// for a break, so only then are the members' records looked at.
 bool restedAfterABreak(Game& g, int32_t n, int16_t& lastMember) {
     const auto bytes = g.band.bytesOf(n);
     const int count = fieldAt<uint8_t>(bytes, kBandMemberCount);
     if (count == 0) return false;
+    bool askedForABreak = false;
+    for (std::size_t c = 0; c < kComplaintSlots; ++c)
+        if (fieldAt<uint8_t>(bytes, kBandComplaints + c) == kWantsABreak) askedForABreak = true;
     int sum = 0;
     for (int i = 0; i < std::min(count, kMemberSlots); ++i) {
         const auto who = fieldAt<int16_t>(bytes, kBandMembers + 2 * static_cast<std::size_t>(i));
         if (who <= 0) continue;
-        sum += fieldAt<int16_t>(g.artist.bytesOf(who), kArtistEnergy);
+        if (askedForABreak) sum += fieldAt<int16_t>(g.artist.bytesOf(who), kArtistEnergy);
         lastMember = who;
     }
-    if (toInteger(static_cast<double>(sum) / count) <= 49) return false;
-    for (std::size_t c = 0; c < kComplaintSlots; ++c)
-        if (fieldAt<uint8_t>(bytes, kBandComplaints + c) == kWantsABreak) return true;
-    return false;
+    return askedForABreak && toInteger(static_cast<double>(sum) / count) > 49;
 }
 
 }  // namespace
