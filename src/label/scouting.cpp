@@ -90,50 +90,67 @@ std::vector<std::string> fillInterestedList(Game& g) {
     return names;
 }
 
-bool stylesAssociated(Game& g, int labelStyle, int bandStyle) {
+StyleWalk walkStyles(const Game& g, int labelStyle, int bandStyle) {
     static const std::size_t kParentStyle = offsetIn<StyleRecord>("parentStyle");
+    StyleWalk walk;
     int style = bandStyle;
-    // The parents are read in the styles' bytes; the buffer is left at the
-    // last style whose parent was read, as reading each in turn leaves it.
-    int lastRead = 0;
-    bool found = false;
     // A loop in the parent links would walk for ever; no chain is longer than the table.
     for (int steps = 0; style > 0 && steps < g.style.recordCount(); ++steps) {
         if (style == labelStyle) {
-            found = true;
+            walk.associated = true;
             break;
         }
         if (style >= g.style.recordCount()) break;
-        lastRead = style;
+        walk.lastRead = style;
         style = fieldAt<decltype(StyleRecord::parentStyle)>(g.style.bytesOf(style), kParentStyle);
     }
-    if (lastRead > 0) g.style.read(lastRead);
-    return found;
+    return walk;
+}
+
+bool stylesAssociated(Game& g, int labelStyle, int bandStyle) {
+    const StyleWalk walk = walkStyles(g, labelStyle, bandStyle);
+    if (walk.lastRead > 0) g.style.read(walk.lastRead);
+    return walk.associated;
+}
+
+ShortlistVerdict shortlistVerdict(const Game& g, const LabelRecord& label, const BandRecord& band, int force,
+                                  const StyleWalker& walk) {
+    ShortlistVerdict v;
+    if (band.label == 0) {
+        if (label.labelStyle == 0) {
+            v.qualifies = true;
+        } else {
+            const StyleWalk w = walk(label.labelStyle, band.style);
+            v.qualifies = w.associated;
+            v.styleRead = w.lastRead;
+        }
+    }
+    std::size_t top = 0;
+    if (v.qualifies) {
+        const auto& rep = band.reputation;
+        top = static_cast<std::size_t>(std::max_element(rep.begin(), rep.end()) - rep.begin());
+        // The player's label has no controversy bounds: its test passes.
+        const bool players = g.player.playerLabel > 0 && label.id == g.player.playerLabel;
+        v.qualifies = players || (label.minControversy <= band.controversy && band.controversy <= label.maxControversy);
+    }
+    if (force == 0 && v.qualifies) {
+        const double t = label.reputationTarget[top];
+        const double r = band.reputation[top];
+        v.qualifies = r < t && t / 2 <= r;
+    }
+    return v;
 }
 
 bool considerForShortlist(Game& g, int force) {
-    bool qualifies = false;
-    if (g.band->label == 0)
-        qualifies = g.label->labelStyle == 0 || stylesAssociated(g, g.label->labelStyle, g.band->style);
-    int top = 0;
-    if (qualifies) {
-        top = bandBestMarket(g);
-        // The player's label has no controversy bounds: its test passes.
-        const bool players = g.player.playerLabel > 0 && g.label->id == g.player.playerLabel;
-        qualifies = players ||
-                    (g.label->minControversy <= g.band->controversy && g.band->controversy <= g.label->maxControversy);
-    }
-    if (force == 0) {
-        if (!qualifies) return false;
-        const double t = g.label->reputationTarget[static_cast<std::size_t>(top)];
-        const double r = g.band->reputation[static_cast<std::size_t>(top)];
-        qualifies = r < t && t / 2 <= r;
-    }
-    if (qualifies) {
+    const ShortlistVerdict v = shortlistVerdict(g, g.label.rec, g.band.rec, force, [&g](int labelStyle, int bandStyle) {
+        return walkStyles(g, labelStyle, bandStyle);
+    });
+    if (v.styleRead > 0) g.style.read(v.styleRead);
+    if (v.qualifies) {
         const int n = g.rng.between(0, 99);
         if (force != 0 || n > 50) shortlistAdd(g);
     }
-    return qualifies;
+    return v.qualifies;
 }
 
 BandEstimate estimateBand(Game& g) {
@@ -165,12 +182,19 @@ BandEstimate estimateBand(Game& g) {
 }
 
 void deliverScoutingReports(Game& g) {
+    // The free acts are counted in the bands' bytes; the buffer is left at the
+    // last band, as reading each in turn leaves it.
+    static const std::size_t kLabel = offsetIn<BandRecord>("label");
+    static const std::size_t kRetired = offsetIn<BandRecord>("retired");
     int unsignedCount = 0;
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        g.band.read(n);
-        if (g.band->label == 0 && g.band->retired == kFalse) ++unsignedCount;
-    }
     const int32_t bands = g.band.recordCount() - 1;
+    for (int32_t n = 1; n <= bands; ++n) {
+        const auto bytes = g.band.bytesOf(n);
+        if (fieldAt<decltype(BandRecord::label)>(bytes, kLabel) == 0 &&
+            fieldAt<decltype(BandRecord::retired)>(bytes, kRetired) == kFalse)
+            ++unsignedCount;
+    }
+    if (bands >= 1) g.band.read(bands);
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         g.label.read(l);
         const int samples = std::min(

@@ -2,12 +2,15 @@
 // Scouting and the shortlist that all labels share. The shortlist functions
 // work on the current band and the current label.
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace trovane {
 
 class Game;
+struct BandRecord;
+struct LabelRecord;
 
 void deliverScoutingReports(Game& g);
 // Rewrites the shortlist without its freed rows.
@@ -32,7 +35,28 @@ std::vector<std::string> fillInterestedList(Game& g);
 // The rng draws 0 to 99 once for a band that passes the window.
 bool considerForShortlist(Game& g, int force);
 // True when bandStyle is labelStyle or descends from it through parentStyle.
+// The style buffer is left at the last style whose parent was read.
 bool stylesAssociated(Game& g, int labelStyle, int bandStyle);
+
+// The walk of stylesAssociated in the styles' bytes, its buffer untouched:
+// the answer, and the style it leaves in the buffer (0: none).
+struct StyleWalk {
+    bool associated = false;
+    int lastRead = 0;
+};
+StyleWalk walkStyles(const Game& g, int labelStyle, int bandStyle);
+using StyleWalker = std::function<StyleWalk(int labelStyle, int bandStyle)>;
+
+// The test of considerForShortlist on a label and a band given, without its
+// draw, its listing or its buffers: whether the band qualifies, and the style
+// the test leaves in the style buffer (0: none). The styles are walked by
+// `walk`, which answers as walkStyles does.
+struct ShortlistVerdict {
+    bool qualifies = false;
+    int styleRead = 0;
+};
+ShortlistVerdict shortlistVerdict(const Game& g, const LabelRecord& label, const BandRecord& band, int force,
+                                  const StyleWalker& walk);
 
 // The current label's A&R reading of the current band: the present value,
 // with the erred talent and potential beside it.

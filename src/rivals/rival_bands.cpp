@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include "label/scouting.h"
@@ -31,16 +33,39 @@ void computerCheckBands(Game& g) {
     auto next = free.begin();
     for (int32_t n = 1; n < g.band.recordCount(); ++n)
         if (isFree(n)) decodeRecord(g.band.bytesOf(n).data(), *next++);
+    // Each pair is tested on the copies; the buffers are set only where the
+    // test's listing reads them, and at the end as the last pair left them.
+    // The styles do not change, so a walk of theirs is made once.
+    std::map<std::pair<int, int>, StyleWalk> walks;
+    const StyleWalker walk = [&](int labelStyle, int bandStyle) {
+        auto [it, added] = walks.try_emplace({labelStyle, bandStyle});
+        if (added) it->second = walkStyles(g, labelStyle, bandStyle);
+        return it->second;
+    };
+    int styleToRead = 0;  // the style the last test read, not yet in the buffer
+    bool buffersSet = true;
     LabelRecord label{};
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         if (l == player) continue;
         decodeRecord(g.label.bytesOf(l).data(), label);
         for (const BandRecord& band : free) {
+            const ShortlistVerdict v = shortlistVerdict(g, label, band, 0, walk);
+            if (v.styleRead > 0) styleToRead = v.styleRead;
+            buffersSet = false;
+            if (!v.qualifies || g.rng.between(0, 99) <= 50) continue;
             g.band.rec = band;
             g.label.rec = label;
-            considerForShortlist(g, 0);
+            buffersSet = true;
+            if (styleToRead > 0) g.style.read(styleToRead);
+            styleToRead = 0;
+            shortlistAdd(g);
         }
     }
+    if (!buffersSet) {
+        g.band.rec = free.back();
+        g.label.rec = label;
+    }
+    if (styleToRead > 0) g.style.read(styleToRead);
 }
 
 void rivalFollowUpSingle(Game& g) {
