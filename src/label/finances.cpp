@@ -54,10 +54,12 @@ void addExpense(Game& g, Money amount, int category) {
     book(g, -amount, category);
 }
 
-void addLabelPoints(Game& g, int market, int32_t amount) {
+void addLabelPoints(Game& g, int16_t label, int market, int32_t amount) {
     std::size_t m = marketIndex(market);
-    g.label->points[m] = narrow<int32_t>(static_cast<int64_t>(g.label->points[m]) + amount);
-    g.label.write();
+    static const std::size_t kLabelPoints = offsetIn<LabelRecord>("points");
+    patchField<int32_t>(g.label, label, kLabelPoints + m * sizeof(int32_t),
+                        [&](int32_t points) { return narrow<int32_t>(static_cast<int64_t>(points) + amount); });
+    g.label.read(label);
     // Earners are taken from the buffer before it can be read over.
     std::array<int16_t, 7> earners{};
     earners[0] = g.label->boss;

@@ -46,9 +46,10 @@ void addIncome(Game& g, Money amount, int category);
 // The same, the amount taken from the cash balance.
 void addExpense(Game& g, Money amount, int category);
 
-// On the current label: the market's points are raised, the label written, and
-// the boss and every department head earn the same points.
-void addLabelPoints(Game& g, int market, int32_t amount);
+// Label `label`'s points in the market are raised, and its boss and every
+// department head earn the same points. The label buffer then holds the label
+// as written, and the staff buffer the last earner.
+void addLabelPoints(Game& g, int16_t label, int market, int32_t amount);
 
 // On the current staff member: the market's points are raised and the record written.
 void addStaffPoints(Game& g, int market, int32_t amount);

@@ -117,8 +117,7 @@ void addBandPoints(Game& g, int market, int32_t amount) {
     points = narrow<int32_t>(static_cast<int64_t>(points) + amount);
     g.band.write();
     if (g.band->label <= 0) return;
-    g.label.read(g.band->label);
-    addLabelPoints(g, market, amount);
+    addLabelPoints(g, g.band->label, market, amount);
 }
 
 void payArtistsEvenly(Game& g, Money amount) {

@@ -56,7 +56,9 @@ TEST_F(LabelFinances, PointsReachTheBossAndEachHeadAndTheBufferEndsOnTheLast) {
     g.label->department[5].head = 1;  // the boss heads a department too
     g.label->points[2] = 5;
     g.label.append();
-    addLabelPoints(g, 2, 30);
+    g.label.rec = LabelRecord{};  // the label is given by number, not by the buffer
+    addLabelPoints(g, 1, 2, 30);
+    EXPECT_EQ(g.label->points[2], 35);  // the buffer holds the label as written
     // The boss earns twice, 30 + 30; the head 30; the idle one nothing.
     EXPECT_EQ(g.staff->id, 1);  // the last earner, the sixth head
     EXPECT_EQ(g.staff->points, (std::array<int32_t, 5>{0, 0, 60, 0, 0}));
