@@ -297,15 +297,20 @@ struct BestFields {
 };
 
 // Moves an act's or label's biggest disc and best week to disc id when it
-// beats them; discTotal gives a disc's sales to date.
-template <class Id, class DiscTotal>
-void offerBest(uint8_t* r, BestFields f, int16_t id, int64_t week, int64_t total, DiscTotal&& discTotal) {
+// beats them; discTotal gives a disc's sales to date. Only the fields that
+// change are written.
+template <class Id, class R, class DiscTotal>
+void offerBest(Table<R>& table, int32_t n, BestFields f, int16_t id, int64_t week, int64_t total,
+               DiscTotal&& discTotal) {
+    const uint8_t* r = table.bytesOf(n).data();
     const Id biggest = fieldAt<Id>(r, f.biggest);
-    if ((biggest < 1 && total > 0) || (biggest > 0 && discTotal(biggest) < total)) putFieldAt<Id>(r, f.biggest, id);
+    const bool biggestMoves = (biggest < 1 && total > 0) || (biggest > 0 && discTotal(biggest) < total);
     const Id bestWeek = fieldAt<Id>(r, f.bestWeek);
-    if ((bestWeek < 1 && week > 0) || (bestWeek > 0 && fieldAt<int32_t>(r, f.copies) < week)) {
-        putFieldAt<Id>(r, f.bestWeek, id);
-        putFieldAt<int32_t>(r, f.copies, narrow<int32_t>(week));
+    const bool bestWeekMoves = (bestWeek < 1 && week > 0) || (bestWeek > 0 && fieldAt<int32_t>(r, f.copies) < week);
+    if (biggestMoves) putFieldIn<Id>(table, n, f.biggest, id);
+    if (bestWeekMoves) {
+        putFieldIn<Id>(table, n, f.bestWeek, id);
+        putFieldIn<int32_t>(table, n, f.copies, narrow<int32_t>(week));
     }
 }
 
@@ -341,11 +346,9 @@ void updateBestSellers(Game& g) {
         const int64_t total = sumOf5(d, kDiscTotals);
         const std::size_t single = fieldAt<uint8_t>(d, kDiscSingle) != 0 ? 1 : 0;
         const auto id = fieldAt<int16_t>(d, kDiscId);
-        patchRecord(g.band, band,
-                    [&](uint8_t* r) { offerBest<int32_t>(r, kBand[single], id, week, total, discTotal); });
+        offerBest<int32_t>(g.band, band, kBand[single], id, week, total, discTotal);
         lastBand = band;
-        patchRecord(g.label, label,
-                    [&](uint8_t* r) { offerBest<int16_t>(r, kLabel[single], id, week, total, discTotal); });
+        offerBest<int16_t>(g.label, label, kLabel[single], id, week, total, discTotal);
         lastLabel = label;
     }
     if (lastDisc > 0) g.disc.read(lastDisc);
