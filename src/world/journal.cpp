@@ -69,10 +69,11 @@ fs::path fileOf(const fs::path& dataDir, const std::string& name) {
     return p.is_absolute() ? p : dataDir / p;
 }
 
-std::vector<uint8_t> encode(const fs::path& dataDir, const std::vector<FileWrite>& writes) {
+// The journal of the writes, in `out` (emptied first).
+void encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::vector<uint8_t>& out) {
     std::size_t size = kTagLength * 2 + 8;
     for (const auto& w : writes) size += 2 + w.file.native().size() + 24 + w.bytes.size();
-    std::vector<uint8_t> out;
+    out.clear();
     out.reserve(size);
     out.insert(out.end(), kHeader, kHeader + kTagLength);
     // A file's writes come together: its name is worked out once for them.
@@ -94,7 +95,6 @@ std::vector<uint8_t> encode(const fs::path& dataDir, const std::vector<FileWrite
     out.insert(out.end(), kMark, kMark + kTagLength);
     put<uint32_t>(out, static_cast<uint32_t>(writes.size()));
     put<uint32_t>(out, crc);
-    return out;
 }
 
 // The writes of a complete journal, or nothing for an incomplete one.
@@ -218,7 +218,14 @@ void applyWrite(int fd, const FileWrite& w) {
 void commitWrites(const fs::path& dataDir, const std::vector<FileWrite>& writes) {
     if (writes.empty()) return;
     fs::path journal = journalFile(dataDir);
-    writeWhole(journal, encode(dataDir, writes));
+    // The journal is put together in memory kept from one commit to the next,
+    // so a day's commit does not fault in fresh pages for it; a commit of
+    // unusual size does not keep its memory.
+    constexpr std::size_t kKeptJournal = std::size_t{4} << 20;
+    static thread_local std::vector<uint8_t> bytes;
+    encode(dataDir, writes, bytes);
+    writeWhole(journal, bytes);
+    if (bytes.capacity() > kKeptJournal) bytes = std::vector<uint8_t>();
     tell(CommitPoint::journalWritten);
     applyAll(writes);
     std::error_code ec;

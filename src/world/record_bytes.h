@@ -82,21 +82,4 @@ void patchField(Table<R>& table, int32_t n, std::size_t at, F&& change) {
     putFieldIn(table, n, at, next);
 }
 
-// Writes v at byte offset at of a record's bytes.
-template <class T>
-void putFieldAt(uint8_t* record, std::size_t at, T v) {
-    std::memcpy(record + at, &v, sizeof v);
-}
-
-// Lets change(bytes) alter a copy of record n's bytes, then writes the copy
-// (a write that changes nothing does nothing).
-template <PackedRecord R, class F>
-void patchRecord(Table<R>& table, int32_t n, F&& change) {
-    std::array<uint8_t, R::kLength> bytes;
-    const auto now = table.bytesOf(n);
-    std::memcpy(bytes.data(), now.data(), bytes.size());
-    change(bytes.data());
-    table.putBytes(n, bytes);
-}
-
 }  // namespace trovane
