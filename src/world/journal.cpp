@@ -72,7 +72,7 @@ fs::path fileOf(const fs::path& dataDir, const std::string& name) {
 // The journal of the writes, in `out` (emptied first).
 void encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::vector<uint8_t>& out) {
     std::size_t size = kTagLength * 2 + 8;
-    for (const auto& w : writes) size += 2 + w.file.native().size() + 24 + w.bytes.size();
+    for (const auto& w : writes) size += 2 + w.file.native().size() + 24 + w.data().size();
     out.clear();
     out.reserve(size);
     out.insert(out.end(), kHeader, kHeader + kTagLength);
@@ -88,8 +88,9 @@ void encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::
         out.insert(out.end(), name.begin(), name.end());
         put<uint64_t>(out, w.length);
         put<uint64_t>(out, w.offset);
-        put<uint64_t>(out, w.bytes.size());
-        out.insert(out.end(), w.bytes.begin(), w.bytes.end());
+        const std::span<const uint8_t> bytes = w.data();
+        put<uint64_t>(out, bytes.size());
+        out.insert(out.end(), bytes.begin(), bytes.end());
     }
     uint32_t crc = crcOf(out.data(), out.size());
     out.insert(out.end(), kMark, kMark + kTagLength);
@@ -170,8 +171,9 @@ void setLength(int fd, const FileWrite& w) {
 
 void putBytes(int fd, const FileWrite& w) {
     std::size_t done = 0;
-    while (done < w.bytes.size()) {
-        ssize_t put = ::pwrite(fd, w.bytes.data() + done, w.bytes.size() - done, static_cast<off_t>(w.offset + done));
+    const std::span<const uint8_t> bytes = w.data();
+    while (done < bytes.size()) {
+        ssize_t put = ::pwrite(fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(w.offset + done));
         if (put <= 0) throw FatalError(fmt::format("Cannot write {}: {}", w.file.string(), std::strerror(errno)));
         done += static_cast<std::size_t>(put);
     }

@@ -22,6 +22,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <vector>
 
 namespace trovane {
@@ -30,7 +31,12 @@ struct FileWrite {
     std::filesystem::path file;
     uint64_t length = 0;  // of the file after the write
     uint64_t offset = 0;
-    std::vector<uint8_t> bytes;
+    std::vector<uint8_t> bytes;  // the bytes written, held by the write
+    // Or where they stand (a table's image), when `bytes` is empty: they must
+    // stay as they are until the write is made.
+    std::span<const uint8_t> standing;
+
+    std::span<const uint8_t> data() const { return bytes.empty() ? standing : std::span<const uint8_t>(bytes); }
 };
 
 std::filesystem::path journalFile(const std::filesystem::path& dataDir);

@@ -265,10 +265,7 @@ void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file
             if (dirty(next)) end = next + 1;
         const std::size_t from = std::min(c * kChunk, image.size());
         const std::size_t to = std::min(end * kChunk, image.size());
-        if (from < to)
-            out.push_back({file, image.size(), from,
-                           std::vector<uint8_t>(image.begin() + static_cast<std::ptrdiff_t>(from),
-                                                image.begin() + static_cast<std::ptrdiff_t>(to))});
+        if (from < to) out.push_back({file, image.size(), from, {}, image.subspan(from, to - from)});
         c = end;
     }
 }

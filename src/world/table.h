@@ -55,7 +55,8 @@ public:
     bool any() const { return any_; }
     void clear();
     // A write to file for each run of changed chunks of image, cut at its end,
-    // in file order; each carries the file's length after the write.
+    // in file order; each carries the file's length after the write and
+    // stands on image's bytes, which must not change until it is made.
     void appendWrites(std::vector<FileWrite>& out, const fs::path& file, std::span<const uint8_t> image) const;
 
 private:
@@ -137,7 +138,8 @@ public:
     // leaves it to the commit.
     void flush();
     // What changed since the last write, as writes in file order (none when
-    // nothing changed), and the table counts as written.
+    // nothing changed), and the table counts as written. The writes stand on
+    // the table's bytes: they are made before the table changes again.
     std::vector<FileWrite> takeWrites();
 
     // The number of records plus one: the next free record number, and where a walk stops.

@@ -193,7 +193,7 @@ TEST(DirtyChunks, ChangesAFewChunksApartAreWrittenTogetherAndFartherOnesApart) {
         std::vector<std::pair<std::size_t, std::size_t>> got;
         for (const auto& w : out) {
             EXPECT_EQ(w.length, image.size());
-            got.emplace_back(w.offset, w.bytes.size());
+            got.emplace_back(w.offset, w.data().size());
         }
         return got;
     };
