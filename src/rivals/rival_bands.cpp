@@ -1,9 +1,8 @@
 #include "rivals/rival_bands.h"
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
-#include <map>
-#include <utility>
 #include <vector>
 
 #include "label/scouting.h"
@@ -35,12 +34,22 @@ void computerCheckBands(Game& g) {
         if (isFree(n)) decodeRecord(g.band.bytesOf(n).data(), *next++);
     // Each pair is tested on the copies; the buffers are set only where the
     // test's listing reads them, and at the end as the last pair left them.
-    // The styles do not change, so a walk of theirs is made once.
-    std::map<std::pair<int, int>, StyleWalk> walks;
+    // The styles do not change, so a label's walk from each style is made once.
+    struct KnownWalk {
+        bool known = false;
+        StyleWalk walk;
+    };
+    std::array<KnownWalk, 256> walks{};
+    int walksFrom = -1;  // the label style the known walks lead to
     const StyleWalker walk = [&](int labelStyle, int bandStyle) {
-        auto [it, added] = walks.try_emplace({labelStyle, bandStyle});
-        if (added) it->second = walkStyles(g, labelStyle, bandStyle);
-        return it->second;
+        if (bandStyle < 0 || bandStyle >= static_cast<int>(walks.size())) return walkStyles(g, labelStyle, bandStyle);
+        if (labelStyle != walksFrom) {
+            walks.fill({});
+            walksFrom = labelStyle;
+        }
+        KnownWalk& k = walks[static_cast<std::size_t>(bandStyle)];
+        if (!k.known) k = {true, walkStyles(g, labelStyle, bandStyle)};
+        return k.walk;
     };
     int styleToRead = 0;  // the style the last test read, not yet in the buffer
     bool buffersSet = true;
