@@ -6,7 +6,6 @@
 #include <optional>
 #include <vector>
 
-#include "production/chart_hype.h"
 #include "production/disc_release.h"
 #include "production/weekly_sales.h"
 #include "talent/band_functions.h"
@@ -162,8 +161,6 @@ void awardChartPoints(Game& g, int chart) {
     int t = chart % 5;
     int length = publishedLength(chart);
     int32_t last = std::min(g.chart.recordCount() - 1, 100);
-    // The rows, and their discs' labels and bands, stay as they are over the walk.
-    const HeldChartRows held(g);
     for (int32_t i = 1; i <= last; ++i) {
         g.chart.read(i);
         g.disc.read(g.chart->disc);

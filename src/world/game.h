@@ -181,6 +181,8 @@ public:
     ArtistSets artistSets;
     // Which entries may engage each band on each day (see band_calendar.h).
     EngagementIndex engagements;
+    // The discs of the charts' rows, for a rise of hype (see chart_hype.h).
+    ChartRowKeys chartRowKeys;
     // The news items waiting for a reply (see news_lookups.h).
     MatchingRecords heldNews;
     // The schedule's entries that are stages of a story, by each artist of

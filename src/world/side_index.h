@@ -2,6 +2,7 @@
 // A side index over a table whose records are only ever added: the record
 // numbers of each key, brought up to date from the bytes of the new records,
 // so a lookup never touches the table's buffer.
+#include <array>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -90,6 +91,28 @@ struct EngagementIndex {
     int32_t dayFileJanuary1 = 0;
 
     void reset() { *this = EngagementIndex{}; }
+};
+
+// The discs each chart's rows name, with the fields of each disc that a rise
+// of hype over the chart tests (see production/chart_hype.cpp). A chart's
+// copy stands while its rows name the same discs, the disc table is the one
+// it was made from, and no disc's id, label or band has been written since.
+struct ChartRowKeys {
+    struct Row {
+        int16_t disc = 0;  // 0: the row names no disc of the table
+        int16_t id = 0;
+        int16_t label = 0;
+        int16_t band = 0;
+    };
+    struct Chart {
+        uint64_t discGeneration = UINT64_MAX;
+        uint64_t keysVersion = UINT64_MAX;
+        std::vector<int16_t> named;  // the disc field of each row, from row 1
+        std::vector<Row> rows;       // by row, from row 1
+    };
+    bool watching = false;
+    uint64_t keysVersion = 0;  // moves with each write to a disc's id, label or band
+    std::array<Chart, 10> charts;
 };
 
 }  // namespace trovane

@@ -148,6 +148,20 @@ TEST_F(Charts, ARiseSpreadsOverTheDiscsItNames) {
     EXPECT_EQ(disc(ours).hype[0], 100);
     EXPECT_EQ(disc(theirs).hype[0], 100);
     EXPECT_EQ(disc(elsewhere).hype[0], 50);
+    // A disc that changes hands, and then a row added, are seen by the next rise.
+    g.disc.read(theirs);
+    g.disc->label = rival;
+    g.disc.write();
+    spreadHypeRise(g, 0, 0, rival, -20);
+    EXPECT_EQ(disc(theirs).hype[0], 80);
+    EXPECT_EQ(disc(elsewhere).hype[0], 30);
+    EXPECT_EQ(disc(ours).hype[0], 100);
+    int16_t late = addDisc("Late");
+    addRow(0, late);
+    spreadHypeRise(g, 0, 0, label, -10);
+    EXPECT_EQ(disc(late).hype[0], 40);
+    EXPECT_EQ(disc(ours).hype[0], 90);
+    EXPECT_EQ(disc(theirs).hype[0], 80);
 }
 
 TEST_F(Charts, ARiseByDiscReachesThatDiscAndLeavesTheBuffersAtTheLastRow) {
