@@ -24,15 +24,6 @@ const std::size_t kDiscHype = offsetIn<DiscRecord>("hype");
 
 using Row = ChartRowKeys::Row;
 
-bool belongs(const Row& d, int mode, int32_t who) {
-    switch (mode) {
-    case 0: return d.label == who;
-    case 1: return d.band == who;
-    case 2: return d.id == who;
-    default: return false;
-    }
-}
-
 // Row n of the open chart, its disc's fields read from the disc's bytes.
 Row rowFromBytes(const Game& g, int32_t n) {
     const auto disc = fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
@@ -44,9 +35,11 @@ Row rowFromBytes(const Game& g, int32_t n) {
             .band = fieldAt<decltype(DiscRecord::band)>(d, kDiscBand)};
 }
 
-// The rows of the open chart, number `chart`, from the copy kept of them when
-// it still stands, or read anew into it.
-const std::vector<Row>& rowsOfChart(Game& g, int chart) {
+int16_t keyOf(const Row& row, int mode) { return mode == 0 ? row.label : mode == 1 ? row.band : row.id; }
+
+// What a rise over the open chart, number `chart`, needs of its rows: from
+// the copy kept of them when it still stands, or read anew into it.
+const ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
     ChartRowKeys& keys = g.chartRowKeys;
     if (!keys.watching) {
         g.disc.watchWrites(&keys,
@@ -57,22 +50,28 @@ const std::vector<Row>& rowsOfChart(Game& g, int chart) {
         keys.watching = true;
     }
     ChartRowKeys::Chart& c = keys.charts[static_cast<std::size_t>(chart)];
-    const auto rows = static_cast<std::size_t>(std::max(g.chart.recordCount() - 1, 0));
-    bool stands =
-        c.discGeneration == g.disc.generation() && c.keysVersion == keys.keysVersion && c.named.size() == rows;
-    for (std::size_t n = 1; stands && n <= rows; ++n)
+    const int32_t rows = std::max(g.chart.recordCount() - 1, 0);
+    bool stands = c.discGeneration == g.disc.generation() && c.keysVersion == keys.keysVersion &&
+                  c.named.size() == static_cast<std::size_t>(rows);
+    for (int32_t n = 1; stands && n <= rows; ++n)
         stands =
-            c.named[n - 1] == fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(static_cast<int32_t>(n)), kRowDisc);
-    if (stands) return c.rows;
-    c.named.resize(rows);
-    c.rows.resize(rows);
-    for (std::size_t n = 1; n <= rows; ++n) {
-        c.named[n - 1] = fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(static_cast<int32_t>(n)), kRowDisc);
-        c.rows[n - 1] = rowFromBytes(g, static_cast<int32_t>(n));
+            c.named[static_cast<std::size_t>(n - 1)] == fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
+    if (stands) return c;
+    c.named.resize(static_cast<std::size_t>(rows));
+    c.lastDisc = 0;
+    for (auto& by : c.discsBy) by.clear();
+    for (int32_t n = 1; n <= rows; ++n) {
+        c.named[static_cast<std::size_t>(n - 1)] = fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
+        const Row row = rowFromBytes(g, n);
+        if (row.disc == 0) continue;
+        c.lastDisc = row.disc;
+        for (int mode = 0; mode < 3; ++mode)
+            c.discsBy[static_cast<std::size_t>(mode)].emplace_back(keyOf(row, mode), row.disc);
     }
+    for (auto& by : c.discsBy) std::stable_sort(by.begin(), by.end(), [](auto a, auto b) { return a.first < b.first; });
     c.discGeneration = g.disc.generation();
     c.keysVersion = keys.keysVersion;
-    return c.rows;
+    return c;
 }
 
 // The number of the chart open in the chart table, from its file's name
@@ -83,20 +82,37 @@ int openChartNumber(const Game& g) {
     return stem[5] - '0';
 }
 
+// The discs of the open chart's rows that belong to `who`, in row order, and
+// the disc of the last row that names one.
+void discsOfChart(Game& g, int chart, int mode, int32_t who, std::vector<int16_t>& out, int16_t& lastDisc) {
+    out.clear();
+    lastDisc = 0;
+    if (chart < 0 || mode < 0 || mode > 2) {
+        for (int32_t n = 1; n < g.chart.recordCount(); ++n) {
+            const Row row = rowFromBytes(g, n);
+            if (row.disc == 0) continue;
+            lastDisc = row.disc;
+            if (mode >= 0 && mode <= 2 && keyOf(row, mode) == who) out.push_back(row.disc);
+        }
+        return;
+    }
+    const ChartRowKeys::Chart& c = rowsOfChart(g, chart);
+    lastDisc = c.lastDisc;
+    const auto& by = c.discsBy[static_cast<std::size_t>(mode)];
+    auto it = std::lower_bound(by.begin(), by.end(), who, [](auto e, int32_t k) { return e.first < k; });
+    for (; it != by.end() && it->first == who; ++it) out.push_back(it->second);
+}
+
 // Leaves the chart and disc buffers at the last row and disc it looked at,
 // as a walk reading each of them would.
 void spreadInChart(Game& g, int chart, int mode, int t, int32_t who, int rise) {
-    const int32_t rows = g.chart.recordCount() - 1;
-    const std::vector<Row>* kept = chart >= 0 ? &rowsOfChart(g, chart) : nullptr;
+    static thread_local std::vector<int16_t> discs;
     int16_t lastDisc = 0;
-    for (int32_t n = 1; n <= rows; ++n) {
-        const Row row = kept != nullptr ? (*kept)[static_cast<std::size_t>(n - 1)] : rowFromBytes(g, n);
-        if (row.disc == 0) continue;
-        lastDisc = row.disc;
-        if (!belongs(row, mode, who)) continue;
-        patchField<uint8_t>(g.disc, row.disc, kDiscHype + static_cast<std::size_t>(t),
+    discsOfChart(g, chart, mode, who, discs, lastDisc);
+    for (int16_t disc : discs)
+        patchField<uint8_t>(g.disc, disc, kDiscHype + static_cast<std::size_t>(t),
                             [&](uint8_t hype) { return static_cast<uint8_t>(std::clamp(hype + rise, 1, 100)); });
-    }
+    const int32_t rows = g.chart.recordCount() - 1;
     if (rows >= 1) g.chart.read(rows);
     if (lastDisc != 0) g.disc.read(lastDisc);
 }

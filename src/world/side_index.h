@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace trovane {
@@ -108,7 +109,9 @@ struct ChartRowKeys {
         uint64_t discGeneration = UINT64_MAX;
         uint64_t keysVersion = UINT64_MAX;
         std::vector<int16_t> named;  // the disc field of each row, from row 1
-        std::vector<Row> rows;       // by row, from row 1
+        int16_t lastDisc = 0;        // the disc of the last row that names one
+        // The discs of the rows by label, by band and by id, each sorted by key.
+        std::array<std::vector<std::pair<int16_t, int16_t>>, 3> discsBy;
     };
     bool watching = false;
     uint64_t keysVersion = 0;  // moves with each write to a disc's id, label or band

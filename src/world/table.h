@@ -256,7 +256,7 @@ public:
 
     // Writes the buffer as record n (n may be the next free number).
     void write(int32_t n) {
-        std::array<uint8_t, R::kLength> bytes{};
+        std::array<uint8_t, R::kLength> bytes;  // every byte is packed
         encodeRecord(rec, bytes.data());
         putBytes(n, bytes);
     }
