@@ -62,31 +62,23 @@ void TableImage::clear() {
 
 void TableImage::reserve(std::size_t n) {
     if (n <= usable_) return;
-    if (n > reserved_) {
-        const std::size_t want = std::max(kLeastReservation, wholePagesIn(n * 4 + pageSize() - 1));
-        void* fresh = ::mmap(nullptr, want, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-        if (fresh == MAP_FAILED)
-            throw FatalError(fmt::format("Cannot set aside {} bytes of memory: {}", want, std::strerror(errno)));
-        const std::size_t wasUsable = usable_;
-        uint8_t* const was = base_;
-        const std::size_t wasReserved = reserved_;
-        base_ = static_cast<uint8_t*>(fresh);
-        reserved_ = want;
-        usable_ = 0;
-        try {
-            makeUsable(n);
-        } catch (...) {
-            ::munmap(fresh, want);
-            base_ = was, reserved_ = wasReserved, usable_ = wasUsable;
-            throw;
-        }
-        if (was != nullptr) {
-            std::memcpy(base_, was, size_);
-            ::munmap(was, wasReserved);
-        }
+    if (n <= reserved_) {
+        makeUsable(n);
         return;
     }
-    makeUsable(n);
+    // A larger reservation is made whole before the bytes move to it; if it
+    // cannot be had, this one stays as it was.
+    TableImage fresh;
+    const std::size_t want = std::max(kLeastReservation, wholePagesIn(n * 4 + pageSize() - 1));
+    void* at = ::mmap(nullptr, want, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (at == MAP_FAILED)
+        throw FatalError(fmt::format("Cannot set aside {} bytes of memory: {}", want, std::strerror(errno)));
+    fresh.base_ = static_cast<uint8_t*>(at);
+    fresh.reserved_ = want;
+    fresh.makeUsable(n);
+    if (size_ > 0) std::memcpy(fresh.base_, base_, size_);
+    fresh.size_ = size_;
+    *this = std::move(fresh);
 }
 
 void TableImage::makeUsable(std::size_t n) {
