@@ -39,17 +39,23 @@ int held(double v) { return static_cast<int>(std::clamp(v, 0.0, 100.0)); }
 
 // The members' mean energy; the band buffer is kept.
 int meanEnergy(Game& g) {
-    const BandRecord band = g.band.rec;
+    // The energies are read in the members' bytes; the artist buffer is left
+    // as reading each member in turn leaves it.
+    static const std::size_t kEnergy = offsetIn<ArtistRecord>("energy");
+    const BandRecord& band = g.band.rec;
     int members = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
     double sum = 0;
     int counted = 0;
+    int16_t lastAsked = 0;
     for (int i = 0; i < members; ++i) {
         int16_t who = band.members[static_cast<std::size_t>(i)];
-        if (who < 1 || !g.artist.readIfPresent(who)) continue;
-        sum += g.artist->energy;
+        if (who < 1) continue;
+        lastAsked = who;
+        if (who >= g.artist.recordCount()) continue;
+        sum += fieldAt<decltype(ArtistRecord::energy)>(g.artist.bytesOf(who), kEnergy);
         ++counted;
     }
-    g.band.rec = band;
+    if (lastAsked > 0) g.artist.readIfPresent(lastAsked);
     return counted == 0 ? 0 : static_cast<int>(roundHalfEven(sum / counted));
 }
 
