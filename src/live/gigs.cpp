@@ -9,6 +9,7 @@
 #include "talent/band_functions.h"
 #include "talent/reputation.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 #include "world/numbers.h"
 #include "world/strings.h"
 
@@ -40,17 +41,22 @@ int32_t tired(int32_t v, int32_t avg) {
 }
 
 int32_t membersEnergy(Game& g) {
-    const BandRecord band = g.band.rec;
+    // The energies are read in the members' bytes; the artist buffer is left
+    // at the last member, as reading each in turn leaves it.
+    static const std::size_t kEnergy = offsetIn<ArtistRecord>("energy");
+    const BandRecord& band = g.band.rec;
     int members = std::min<int>(band.memberCount, static_cast<int>(band.members.size()));
     double sum = 0;
     int counted = 0;
+    int16_t last = 0;
     for (int i = 0; i < members; ++i) {
         int16_t who = band.members[static_cast<std::size_t>(i)];
         if (who < 1) continue;
-        g.artist.read(who);
-        sum += g.artist->energy;
+        sum += fieldAt<decltype(ArtistRecord::energy)>(g.artist.bytesOf(who), kEnergy);
+        last = who;
         ++counted;
     }
+    if (last > 0) g.artist.read(last);
     return counted == 0 ? 0 : static_cast<int32_t>(roundHalfEven(sum / counted));
 }
 
