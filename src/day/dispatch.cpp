@@ -25,6 +25,7 @@
 #include "talent/event_fatigue.h"
 #include "talent/retirement.h"
 #include "world/game.h"
+#include "world/record_bytes.h"
 
 namespace trovane {
 
@@ -140,15 +141,21 @@ void runScheduleEntry(Game& g) {
 }
 
 bool membersFit(Game& g) {
+    // The energies are read in the members' bytes; the artist buffer is left
+    // at the last member looked at, as reading each in turn leaves it.
+    static const std::size_t kEnergy = offsetIn<ArtistRecord>("energy");
     const BandRecord& b = g.band.rec;
     int members = std::min<int>(b.memberCount, static_cast<int>(b.members.size()));
-    for (int i = 0; i < members; ++i) {
+    int16_t last = 0;
+    bool fit = true;
+    for (int i = 0; i < members && fit; ++i) {
         int16_t who = b.members[static_cast<std::size_t>(i)];
         if (who < 1) continue;
-        g.artist.read(who);
-        if (g.artist->energy < 0) return false;
+        last = who;
+        fit = fieldAt<decltype(ArtistRecord::energy)>(g.artist.bytesOf(who), kEnergy) >= 0;
     }
-    return true;
+    if (last > 0) g.artist.read(last);
+    return fit;
 }
 
 bool gigCanGoAhead(Game& g) {
