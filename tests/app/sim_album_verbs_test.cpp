@@ -2,15 +2,13 @@
 // refusals in the game's words (status 1) and bad arguments (status 2).
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
 #include <string>
 
 #include "production/businesses.h"
 #include "production/recording.h"
 #include "session/session_record.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "support/sim_run.h"
 #include "talent/contract_progress.h"
 
@@ -76,9 +74,7 @@ TEST(SimAlbumVerbs, AlbumFinalisesTitlesAndBooksOrRefusesWithNothingChanged) {
 TEST(SimAlbumVerbs, AnEndedOptionIsAnsweredWithExtendOrRelease) {
     SimWorld w;
     Game& g = w.g;
-    g.band.read(w.band);
-    g.band->optionsRemaining = 2;
-    g.band.write();
+    amend(g.band, w.band, [&] { g.band->optionsRemaining = 2; });
     ScheduleRecord e{};
     e.type = 18;
     e.band = w.band;

@@ -21,22 +21,12 @@ std::pair<int, std::string> sim(const test::TempFolder& data, const std::string&
 void makeGame(const test::TempFolder& data, Money cashSlip = 0) {
     Game g(data.path(), 1);
     createEmptyWorkingSet(g);
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = "Kim";
-    g.staff->surname = "Rowe";
-    g.staff->employer = 1;
+    g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe", .employer = 1};
     g.player.playerStaff = static_cast<int16_t>(g.staff.append());
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = "Gil";
-    g.staff->surname = "Head";
-    g.staff->employer = 1;
-    g.staff->department = 1;
-    g.staff->wage = moneyUnits(700);
+    g.staff.rec =
+        StaffRecord{.forename = "Gil", .surname = "Head", .employer = 1, .department = 1, .wage = moneyUnits(700)};
     g.staff.append();
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = "Fay";
-    g.staff->surname = "Free";
-    g.staff->wage = moneyUnits(500);
+    g.staff.rec = StaffRecord{.forename = "Fay", .surname = "Free", .wage = moneyUnits(500)};
     g.staff.append();
     g.label.rec = LabelRecord{};
     g.label->name = "Tin Roof";

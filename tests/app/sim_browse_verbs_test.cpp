@@ -2,15 +2,11 @@
 // display currency, the sort by header, refusals and bad arguments.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "floor/preferences.h"
 #include "session/session_record.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "support/sim_run.h"
@@ -36,9 +32,7 @@ void makeGame(const test::TempFolder& data) {
     for (auto [name, label, advance] : {std::tuple{"Dear", 0, 10'000}, std::tuple{"Cheap", 0, 5'000},
                                         std::tuple{"Ours", int(mine), 0}, std::tuple{"Taken", int(theirs), 0}}) {
         int16_t b = test::addAct(g, {.label = static_cast<int16_t>(label), .name = name});
-        g.band.read(b);
-        g.band->advanceToPay = moneyUnits(advance);
-        g.band.write();
+        amend(g.band, b, [&] { g.band->advanceToPay = moneyUnits(advance); });
     }
     writeSessionFile(g, workingSessionFile(g));
     closeAllTables(g);
@@ -46,7 +40,7 @@ void makeGame(const test::TempFolder& data) {
 
 }  // namespace
 
-TEST(SimBrowseVerbs, AdvanceFlagsAreInTheDisplayCurrencyAndSortByValue) {
+TEST(SimBrowseVerbs, AdvanceFlagsAreInTheDisplayCurrencyAndSortByValueAndBadArgumentsExitTwo) {
     test::TempFolder data;
     makeGame(data);
     // 10,000 pounds show as 14,700 euros; --advance 7350..14700 is 5,000..10,000 pounds.
@@ -61,11 +55,6 @@ TEST(SimBrowseVerbs, AdvanceFlagsAreInTheDisplayCurrencyAndSortByValue) {
     const std::string past = sim(data, "browse band --advance 7351..14700").second;
     EXPECT_NE(past.find("Dear"), std::string::npos);
     EXPECT_EQ(past.find("Cheap"), std::string::npos);
-}
-
-TEST(SimBrowseVerbs, BadArgumentsExitTwo) {
-    test::TempFolder data;
-    makeGame(data);
     for (const char* args : {"browse band --age 5..3", "browse band --royalty 0..101", "browse band --gig x..2",
                              "browse band --reputation mars=1..2", "browse band --sort Nope", "browse band --desc",
                              "browse band --where Style=Rock", "image \"No One\""})
@@ -93,10 +82,8 @@ TEST(SimBrowseVerbs, AnyTableIsListedByItsBrowserWithItsChoicesAndSort) {
         for (auto [title, band, single, released] :
              {std::tuple{"Early", 1, 0, 12000.0}, std::tuple{"Other", 2, 0, 0.0}, std::tuple{"Late", 1, 0, 13000.0},
               std::tuple{"Song", 1, 1, 0.0}}) {
-            g.disc.rec = DiscRecord{};
-            g.disc->title = title;
-            g.disc->band = static_cast<int16_t>(band);
-            g.disc->isSingle = static_cast<uint8_t>(single);
+            g.disc.rec = DiscRecord{
+                .title = title, .isSingle = static_cast<uint8_t>(single), .band = static_cast<int16_t>(band)};
             g.disc->releaseDate[0] = released;
             g.disc.append();
         }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "session/session_record.h"
+#include "support/amend.h"
 #include "support/disc_world.h"
 #include "support/sim_run.h"
 
@@ -20,13 +21,9 @@ protected:
     int16_t theirs = 0, ours = 0;
     void SetUp() override {
         ours = addDisc("Ours", 0);
-        g.disc.read(ours);
-        g.disc->releaseDate = {};
-        g.disc.write();
+        amend(g.disc, ours, [&] { g.disc->releaseDate = {}; });
         theirs = addDisc("Theirs", 1000000, addBand("Others", rival));
-        g.disc.read(theirs);
-        g.disc->label = rival;
-        g.disc.write();
+        amend(g.disc, theirs, [&] { g.disc->label = rival; });
         addRow(0, theirs);
         writeSessionFile(g, workingSessionFile(g));
         closeAllTables(g);

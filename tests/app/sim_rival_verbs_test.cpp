@@ -10,6 +10,7 @@
 #include "floor/news_post.h"
 #include "session/session_record.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "support/sim_run.h"
 
 using namespace trovane;
@@ -20,16 +21,14 @@ namespace {
 struct RivalSim : AlbumWorld {
     int16_t act = addBand("Wanted", 0, 1);
     RivalSim() {
-        g.style.read(1);
-        g.style->lifeSpan = 10;
-        g.style.write();
-        g.band.read(act);
-        g.band->initialAdvance = moneyUnits(1000);
-        g.band->additionalAdvance = moneyUnits(500);
-        g.band->additionalAdvanceCount = 2;
-        g.band->optionLength = 18;
-        g.band->royaltyRate = 10;
-        g.band.write();
+        amend(g.style, 1, [&] { g.style->lifeSpan = 10; });
+        amend(g.band, act, [&] {
+            g.band->initialAdvance = moneyUnits(1000);
+            g.band->additionalAdvance = moneyUnits(500);
+            g.band->additionalAdvanceCount = 2;
+            g.band->optionLength = 18;
+            g.band->royaltyRate = 10;
+        });
         g.gameDate = serialFromCivil(2005, 3, 7);
         for (double date : {g.gameDate + 7, g.gameDate - 1}) {
             g.offer.rec = OfferRecord{};

@@ -216,9 +216,7 @@ TEST_F(ArtistBrowse, TheRichListOpensByWealthAndLeavesOutTheRetired) {
 }
 
 TEST_F(ArtistBrowse, TheJobIsNamedBySex) {
-    g.job.rec = JobRecord{};
-    g.job->title = "Frontman";
-    g.job->titleFemale = "Frontwoman";
+    g.job.rec = JobRecord{.title = "Frontman", .titleFemale = "Frontwoman"};
     const auto job = static_cast<uint8_t>(g.job.append());
     artist("Ann", 1);
     g.artist.read(1), g.artist->job = job, g.artist->male = kFalse, g.artist.write();
@@ -241,9 +239,7 @@ TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
     g.staff->department = 3;
     g.staff->wage = moneyUnits(1250);
     g.staff.append();
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = "Fay";
-    g.staff->surname = "Free";
+    g.staff.rec = StaffRecord{.forename = "Fay", .surname = "Free"};
     g.staff.append();
     populateStaffGrid(g, "", sort, grid);
     ASSERT_EQ(grid.rows.size(), 2u);

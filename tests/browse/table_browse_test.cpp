@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "browse/table_browse.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "world/dates.h"
@@ -25,15 +26,11 @@ protected:
     int16_t paris = city("Paris", france), rio = city("Rio", brazil);
 
     int16_t country(const char* name, const char* region) {
-        g.country.rec = CountryRecord{};
-        g.country->name = name;
-        g.country->region = region;
+        g.country.rec = CountryRecord{.name = name, .region = region};
         return static_cast<int16_t>(g.country.append());
     }
     int16_t city(const char* name, int16_t in) {
-        g.city.rec = CityRecord{};
-        g.city->name = name;
-        g.city->country = static_cast<uint8_t>(in);
+        g.city.rec = CityRecord{.name = name, .country = static_cast<uint8_t>(in)};
         return static_cast<int16_t>(g.city.append());
     }
     int16_t venue(const char* name, int32_t capacity, int16_t in) {
@@ -115,12 +112,11 @@ TEST_F(TableBrowse, AFirmInBuildingAndAnIndependentOneSaySo) {
 }
 
 TEST_F(TableBrowse, MediaShowScopeAndType) {
-    g.media.rec = MediaRecord{};
-    g.media->mediaName = "Le Monde";
-    g.media->mediaType = 0;
-    g.media->country = static_cast<uint8_t>(france);
-    g.media->smallValue = 7;
-    g.media->largeValue = 12;
+    g.media.rec = MediaRecord{.mediaName = "Le Monde",
+                              .mediaType = 0,
+                              .smallValue = 7,
+                              .largeValue = 12,
+                              .country = static_cast<uint8_t>(france)};
     g.media.append();
     g.media->mediaName = "World TV";
     g.media->mediaType = 3;
@@ -184,9 +180,7 @@ TEST_F(TableBrowse, ABandsToursSayWhetherItHeadsOrSupports) {
 
 TEST_F(TableBrowse, AStylesPopularityIsTheWeightedOverallFigure) {
     addStyle(g, 10, 100, 0, "Rock");
-    g.style.read(1);
-    g.style->popularity = {50, 100, 0, 0, 0};
-    g.style.write();
+    amend(g.style, 1, [&] { g.style->popularity = {50, 100, 0, 0, 0}; });
     // (8 x 50 + 10 x 100) / 33 = 1400 / 33 = 42.4 -> 42.
     EXPECT_EQ(names(BrowseTable::style, 1), (Names{"42%"}));
 }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "day/dispatch.h"
+#include "support/amend.h"
 #include "support/festival_world.h"
 
 using namespace trovane;
@@ -14,10 +15,10 @@ protected:
         g.band.read(act);
         const BandRecord b = g.band.rec;
         for (int i = 0; i < b.memberCount; ++i) {
-            g.artist.read(b.members[static_cast<std::size_t>(i)]);
-            g.artist->energy = energy;
-            g.artist->morale = morale;
-            g.artist.write();
+            amend(g.artist, b.members[static_cast<std::size_t>(i)], [&] {
+                g.artist->energy = energy;
+                g.artist->morale = morale;
+            });
         }
     }
     ArtistRecord member(int16_t act, std::size_t i) {
@@ -32,10 +33,10 @@ TEST_F(FestivalWear, EachActOnTheDaysBillSpendsAGigsEnergyAndMorale) {
     const int16_t beta = addAct("Beta", 80);
     const int16_t tour = scheduled();
     const int32_t firstDay = gigsOf(tour)[0];
-    g.gig.read(firstDay);
-    g.gig->bill[0] = alpha;
-    g.gig->bill[1] = beta;
-    g.gig.write();
+    amend(g.gig, firstDay, [&] {
+        g.gig->bill[0] = alpha;
+        g.gig->bill[1] = beta;
+    });
     setActMembers(alpha, 50, 50);
     setActMembers(beta, 50, 50);
     setActMembers(band, 50, 50);  // the player's act, not on the bill

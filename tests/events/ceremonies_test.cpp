@@ -6,6 +6,7 @@
 #include "events/ceremonies.h"
 #include "floor/news_post.h"
 #include "schedule/schedule.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/dates.h"
 #include "world/strings.h"
@@ -66,9 +67,8 @@ TEST_F(Ceremonies, EachCeremonyFilesItsInvitationNominationsAndNight) {
 TEST_F(Ceremonies, TheInvitationDatesTheNightAndAsksYesOrNo) {
     g.gameStartDate = g.gameDate = day(2005, 1, 25);
     int16_t brits = addCeremony("Brit Night", {7, 3, 5, 0, 0, 0});
-    g.ceremony.read(brits);
-    g.ceremony->playerInvited = kTrue;  // last year's acceptance
-    g.ceremony.write();
+    // last year's acceptance
+    amend(g.ceremony, brits, [&] { g.ceremony->playerInvited = kTrue; });
     g.schedule.rec = ScheduleRecord{};
     g.schedule->type = 21;
     g.schedule->date = g.gameDate;

@@ -4,6 +4,7 @@
 
 #include "events/ceremonies.h"
 #include "events/ceremony_judging.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 #include "world/strings.h"
 
@@ -54,11 +55,12 @@ protected:
     }
     int16_t formedIn(const char* name, int16_t city, uint8_t ability) {
         int16_t b = addBand(name, 0);
-        g.band.read(b);
-        g.band->formedInCity = -1;  // formedIn names a city
-        g.band->formedIn = city;
-        g.band->ability = ability;
-        g.band.write();
+        // formedIn names a city
+        amend(g.band, b, [&] {
+            g.band->formedInCity = -1;
+            g.band->formedIn = city;
+            g.band->ability = ability;
+        });
         return b;
     }
     std::vector<int16_t> nominees() {
@@ -74,9 +76,7 @@ TEST_F(Judging, ADuoPassesTheTwoMemberRuleAndASoloActDoesNot) {
     g.band->formedIn = england;  // formedIn names a country
     g.band.write();              // the world's duo, ability 80
     int16_t solo = formedIn("Solo", leeds, 90);
-    g.band.read(solo);
-    g.band->memberCount = 1;
-    g.band.write();
+    amend(g.band, solo, [&] { g.band->memberCount = 1; });
     award(3, 0);
     EXPECT_EQ(nominees(), std::vector<int16_t>{band});
     award(1, 0);
@@ -84,9 +84,8 @@ TEST_F(Judging, ADuoPassesTheTwoMemberRuleAndASoloActDoesNot) {
 }
 
 TEST_F(Judging, OriginGroupsSortTheActsByWhereTheyFormed) {
-    g.band.read(band);
-    g.band->retired = kTrue;  // out of every list
-    g.band.write();
+    // out of every list
+    amend(g.band, band, [&] { g.band->retired = kTrue; });
     int16_t british = formedIn("Leeds Lads", leeds, 70);
     int16_t french = formedIn("Les Parisiens", paris, 60);
     int16_t brazilian = formedIn("Rio Rhythm", rio, 50);
@@ -106,10 +105,10 @@ namespace {
 
 TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
     award(0, 0);
-    g.award.read(1);
-    g.award->nominees[0] = band;
-    g.award->nomineeCount = 1;
-    g.award.write();
+    amend(g.award, 1, [&] {
+        g.award->nominees[0] = band;
+        g.award->nomineeCount = 1;
+    });
     g.award.rec = AwardRecord{};
     g.award->name = "Nobody's Prize";
     g.award.append();  // no nominees

@@ -8,6 +8,7 @@
 #include "events/ceremony_show.h"
 #include "events/scores.h"
 #include "schedule/schedule.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 #include "world/strings.h"
 
@@ -139,12 +140,8 @@ TEST_F(Show, ABandInTheStudioSendsAMessageClosedOnTheScreen) {
 
 TEST_F(Show, ASoloActOnTourSpeaksInTheSingular) {
     int16_t solo = addBand("Ann Smith", label);
-    g.band.read(solo);
-    g.band->memberCount = 1;
-    g.band.write();
-    g.artist.read(g.band->members[0]);
-    g.artist->male = 0;
-    g.artist.write();
+    amend(g.band, solo, [&] { g.band->memberCount = 1; });
+    amend(g.artist, g.band->members[0], [&] { g.artist->male = 0; });
     busy(solo, 10);
     auto lines = speechOf(solo, "Ann Smith");
     EXPECT_EQ(lines[1],
@@ -185,9 +182,7 @@ TEST_F(Show, OnlyAnAttendedNightIsShown) {
     EXPECT_EQ(g.currentScreen, Screen::none);
 
     int16_t accepted = addCeremony({addAward("Best Band", 2, {{band, "The Testers"}})});
-    g.ceremony.read(accepted);
-    g.ceremony->playerInvited = kTrue;
-    g.ceremony.write();
+    amend(g.ceremony, accepted, [&] { g.ceremony->playerInvited = kTrue; });
     g.schedule->ceremony = accepted;
     finishCeremony(g);
     EXPECT_EQ(g.currentScreen, Screen::frmAwardCeremony);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "events/ceremony_judging.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 
 using namespace trovane;
@@ -56,9 +57,7 @@ protected:
                 for (std::size_t k = 0; k < 5; ++k)
                     g.artist->reputation[k] = static_cast<uint8_t>((i * 7 + m * 5 + k * 3) % 101);
                 const auto who = static_cast<int16_t>(g.artist.append());
-                g.band.read(act);
-                g.band->members[static_cast<std::size_t>(m)] = who;
-                g.band.write();
+                amend(g.band, act, [&] { g.band->members[static_cast<std::size_t>(m)] = who; });
             }
             for (int d = 0; d < 2; ++d) {
                 const int16_t disc = addDisc(("Disc " + std::to_string(i) + "." + std::to_string(d)).c_str(), 0, act,

@@ -4,6 +4,7 @@
 #include "browse/achievement_browse.h"
 #include "events/hidden_bands.h"
 #include "events/scores.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "world/dates.h"
@@ -99,14 +100,11 @@ TEST_F(Scores, WithNoOneSharingTheDayTheNoteSaysSorry) {
 
 TEST_F(Scores, OneCareerKeepsOneRowAndASecondCareerAddsItsOwn) {
     playerBornOn(0);
-    g.staff.read(g.player.playerStaff);
-    g.staff->points = {100, 200, 300, 400, 500};
-    g.staff.write();
+    amend(g.staff, g.player.playerStaff, [&] { g.staff->points = {100, 200, 300, 400, 500}; });
     g.player.gameNumber = 7;
     updateHighScoreTable(g);
-    g.staff.read(g.player.playerStaff);
-    g.staff->points[0] = 1100;  // 1,100 + 200 + 300 + 400 + 500 = 2,500
-    g.staff.write();
+    // 1,100 + 200 + 300 + 400 + 500 = 2,500
+    amend(g.staff, g.player.playerStaff, [&] { g.staff->points[0] = 1100; });
     updateHighScoreTable(g);
     g.player.gameNumber = 8;
     updateHighScoreTable(g);
@@ -157,14 +155,9 @@ protected:
     void makeBank(int members) {
         g.cb.open(dataFile(g, "cb", "gam"), IfMissing::createEmpty);
         g.ca.open(dataFile(g, "ca", "gam"), IfMissing::createEmpty);
-        g.cb.rec = BandRecord{};
-        g.cb->name = "Hollow Parade";
-        g.cb->memberCount = static_cast<uint8_t>(members);
+        g.cb.rec = BandRecord{.name = "Hollow Parade", .memberCount = static_cast<uint8_t>(members)};
         for (int m = 0; m < members; ++m) {
-            g.ca.rec = ArtistRecord{};
-            g.ca->forename = "Hidden";
-            g.ca->surname = std::to_string(m + 1);
-            g.ca->band = 1;
+            g.ca.rec = ArtistRecord{.forename = "Hidden", .surname = std::to_string(m + 1), .band = 1};
             g.cb->members[static_cast<std::size_t>(m)] = static_cast<int16_t>(g.ca.append());
         }
         g.cb.append();

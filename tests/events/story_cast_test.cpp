@@ -6,6 +6,7 @@
 #include "events/story_text.h"
 #include "session/invariants.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -27,9 +28,7 @@ struct Cast : AlbumWorld {
         c = g.band->members[0];
         g.band.read(solo);
         d = g.band->members[0];
-        g.artist.read(b);
-        g.artist->male = 0;
-        g.artist.write();
+        amend(g.artist, b, [&] { g.artist->male = 0; });
     }
     std::string test(const EventCondition& cond, int32_t who, int place = 0, int32_t first = 0) {
         g.artist.read(who);
@@ -41,10 +40,10 @@ struct Cast : AlbumWorld {
 
 TEST(StoryCast, BoundsAreInclusiveMinimaAndMaxima) {
     Cast w;
-    w.g.artist.read(w.a);
-    w.g.artist->age = 30;
-    w.g.artist->angst = 40;
-    w.g.artist.write();
+    amend(w.g.artist, w.a, [&] {
+        w.g.artist->age = 30;
+        w.g.artist->angst = 40;
+    });
     EventCondition c{};
     EXPECT_EQ(w.test(c, w.a), "");
     for (auto [age, fails] : {std::pair{30, false}, {31, true}, {-30, false}, {-29, true}}) {
@@ -145,11 +144,11 @@ TEST(Stories, AStageMovesMoneyAndBoundsThenFilesItsFollowUpAndTheLastEndsIt) {
     Cast w;
     Game& g = w.g;
     twoStageStory(w, 2);
-    g.artist.read(w.a);
-    g.artist->wealth = 1000;
-    g.artist->angst = 10;
-    g.artist->morale = 60;
-    g.artist.write();
+    amend(g.artist, w.a, [&] {
+        g.artist->wealth = 1000;
+        g.artist->angst = 10;
+        g.artist->morale = 60;
+    });
     g.event.read(1);
     startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
     const ScheduleRecord root = entry(g, 1);
@@ -199,9 +198,7 @@ TEST(Stories, ADefenceCostsTheLabelAndFilesItsStageForTheSameCast) {
     Cast w;
     Game& g = w.g;
     twoStageStory(w, 2);
-    g.event.read(1);
-    g.event->replyEffect = {100, 2, -300, 0, 0, 0, 0, 0, 0};
-    g.event.write();
+    amend(g.event, 1, [&] { g.event->replyEffect = {100, 2, -300, 0, 0, 0, 0, 0, 0}; });
     startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
     g.schedule.read(1);
     g.event.read(1);
@@ -223,9 +220,7 @@ TEST(Stories, AStageFiledByAReplyKeepsTheMarkUntilItRuns) {
     Cast w;
     Game& g = w.g;
     twoStageStory(w, 2);
-    g.event.read(1);
-    g.event->replyEffect = {100, 2, 0, 0, 0, 0, 0, 0, 0};
-    g.event.write();
+    amend(g.event, 1, [&] { g.event->replyEffect = {100, 2, 0, 0, 0, 0, 0, 0, 0}; });
     const double day = g.gameDate;
     startEvent(g, narrow<int16_t>(w.a), narrow<int16_t>(w.b));
     g.schedule.read(1);
@@ -264,19 +259,15 @@ TEST(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
     g.crime->guiltyEvent = 8;
     g.crime->defensibility = 100;  // line (100 - 100) + 0 = 0, score 0: 0 <= 0
     g.crime.append();
-    g.artist.read(w.d);
-    g.artist->band = 0;  // no band, no label: defence 0
-    g.artist.write();
+    // no band, no label: defence 0
+    amend(g.artist, w.d, [&] { g.artist->band = 0; });
     ScheduleRecord stage{};
     stage.artist = narrow<int16_t>(w.d);
     stage.value = 1;
     for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 8);
     stage.artist = narrow<int16_t>(w.a);  // the player's label, Finance and Law at 90
-    g.label.read(AlbumWorld::kPlayer);
-    g.label->department[1].rating = 90;
-    g.label.write();
-    g.crime.read(1);
-    g.crime->defensibility = 50;  // line 50 to 54, score 81 to 99
-    g.crime.write();
+    amend(g.label, AlbumWorld::kPlayer, [&] { g.label->department[1].rating = 90; });
+    // line 50 to 54, score 81 to 99
+    amend(g.crime, 1, [&] { g.crime->defensibility = 50; });
     for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 7);
 }

@@ -14,9 +14,7 @@ struct Story : AlbumWorld {
     int16_t group, solo;
     int32_t singer, bassist, loner, free;
     Story() {
-        g.job.rec = JobRecord{};
-        g.job->title = std::string("Singer");
-        g.job->titleFemale = std::string("Chanteuse");
+        g.job.rec = JobRecord{.title = std::string("Singer"), .titleFemale = std::string("Chanteuse")};
         g.job.append();
         group = addBand("The Rooks", kPlayer, 2);
         solo = addBand("Ann Lee", 0, 1);
@@ -25,12 +23,8 @@ struct Story : AlbumWorld {
         bassist = g.band->members[1];
         g.band.read(solo);
         loner = g.band->members[0];
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = std::string("Free ");
-        g.artist->surname = std::string("Agent");
-        g.artist->job = 1;
-        g.artist->male = 0;
-        g.artist->city = 1;
+        g.artist.rec = ArtistRecord{
+            .forename = std::string("Free "), .surname = std::string("Agent"), .job = 1, .city = 1, .male = 0};
         free = g.artist.append();
         setArtist(singer, [](ArtistRecord& a) {
             a.forename = std::string("Jo");
@@ -44,13 +38,9 @@ struct Story : AlbumWorld {
             a.male = 0;
             a.nickname = std::string("Annie");
         });
-        g.crime.rec = CrimeRecord{};
-        g.crime->crimeName = std::string("Theft");
-        g.crime->sentence = 3;
+        g.crime.rec = CrimeRecord{.crimeName = std::string("Theft"), .sentence = 3};
         g.crime.append();
-        g.event.rec = EventRecord{};
-        g.event->noun1 = std::string("car ");
-        g.event->noun2 = std::string("dog");
+        g.event.rec = EventRecord{.noun1 = std::string("car "), .noun2 = std::string("dog")};
         g.event.append();
         g.gameDate = serialFromCivil(2005, 1, 1);
         g.schedule.rec = ScheduleRecord{};

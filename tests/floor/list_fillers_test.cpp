@@ -30,10 +30,7 @@ struct ListFixture : ::testing::Test {
         }
     }
     void addCountry(const char* name, const char* adjective, const char* region) {
-        g.country.rec = CountryRecord{};
-        g.country->name = name;
-        g.country->adjective = adjective;
-        g.country->region = region;
+        g.country.rec = CountryRecord{.name = name, .adjective = adjective, .region = region};
         g.country.append();
     }
     void addCity(const char* name, uint8_t country) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "floor/news_post.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/strings.h"
 
@@ -38,9 +39,7 @@ TEST_F(NewsCompaction, DeletedThenOldestReadThenOldestUnreadGo) {
     post("deleted", true, true);
     post("read new", true);
     post("unread new", false);
-    g.news.read(2);
-    g.news->read = kTrue;
-    g.news.write();
+    amend(g.news, 2, [&] { g.news->read = kTrue; });
     EXPECT_EQ(compactNews(g, 4), 4);  // six items: the deleted one, then "read old"
     EXPECT_EQ(titles(), (std::vector<std::string>{"unread old", "held", "read new", "unread new"}));
     EXPECT_EQ(compactNews(g, 2), 2);  // "read new", then the oldest unread

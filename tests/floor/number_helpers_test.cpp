@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "floor/number_helpers.h"
 #include "support/empty_game.h"
 
@@ -24,34 +26,23 @@ TEST(Clamps, HoldTheValueAndWriteTheLimitBack) {
 }
 
 TEST(MoneySteps, StepTableEdges) {
-    struct Case {
-        int32_t value, step;
-    };
-    for (Case c : {Case{0, 5},
-                   Case{99, 5},
-                   Case{100, 50},
-                   Case{999, 50},
-                   Case{1000, 250},
-                   Case{4999, 250},
-                   Case{5000, 500},
-                   Case{24999, 500},
-                   Case{25000, 1000},
-                   Case{49999, 1000},
-                   Case{50000, 5000},
-                   Case{99999, 5000},
-                   Case{100000, 10000},
-                   Case{249999, 10000},
-                   Case{250000, 25000},
-                   Case{499999, 25000},
-                   Case{500000, 50000},
-                   Case{999999, 50000},
-                   Case{1000000, 100000},
-                   Case{4999999, 100000},
-                   Case{5000000, 250000},
-                   Case{9999999, 250000},
-                   Case{10000000, 500000},
-                   Case{-1, 500000}})
-        EXPECT_EQ(moneyStep(c.value), c.step) << c.value;
+    // Each step with the first and the last value it covers.
+    for (auto [first, last, step] : {std::tuple{0, 99, 5},
+                                     {100, 999, 50},
+                                     {1000, 4999, 250},
+                                     {5000, 24999, 500},
+                                     {25000, 49999, 1000},
+                                     {50000, 99999, 5000},
+                                     {100000, 249999, 10000},
+                                     {250000, 499999, 25000},
+                                     {500000, 999999, 50000},
+                                     {1000000, 4999999, 100000},
+                                     {5000000, 9999999, 250000}}) {
+        EXPECT_EQ(moneyStep(first), step) << first;
+        EXPECT_EQ(moneyStep(last), step) << last;
+    }
+    EXPECT_EQ(moneyStep(10000000), 500000);
+    EXPECT_EQ(moneyStep(-1), 500000);
 }
 
 TEST(MoneySteps, ArrowsStepFromTheValueBeforeTheClick) {

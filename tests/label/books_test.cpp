@@ -6,6 +6,7 @@
 #include "label/departments.h"
 #include "label/finances.h"
 #include "session/invariants.h"
+#include "support/amend.h"
 #include "support/game_test.h"
 #include "world/dates.h"
 
@@ -199,9 +200,7 @@ TEST_F(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty)
     dep.staffAtLevel = {2, 0, 0, 0, 0};
     setDepartmentRating(g, publicRelations);
     EXPECT_EQ(dep.rating, 10);  // 8 + 2.5 = 10.5, to the even 10
-    g.staff.read(dep.head);
-    g.staff->ability = 70;
-    g.staff.write();
+    amend(g.staff, dep.head, [&] { g.staff->ability = 70; });
     setDepartmentRating(g, publicRelations);
     EXPECT_EQ(dep.rating, 12);  // 8 + 3.5 = 11.5, to the even 12
 }

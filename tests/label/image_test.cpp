@@ -3,6 +3,7 @@
 
 #include "label/departments.h"
 #include "label/image.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 
@@ -39,18 +40,16 @@ protected:
         int16_t b = addAct(g, {.ranks = ranks, .label = label, .style = static_cast<uint8_t>(rock), .name = name});
         g.band.read(b);
         for (int m = 0; m < g.band->memberCount; ++m) {
-            g.artist.read(g.band->members[static_cast<std::size_t>(m)]);
-            g.artist->look = look;
-            g.artist->imageRating = imageRating;
-            g.artist.write();
+            amend(g.artist, g.band->members[static_cast<std::size_t>(m)], [&] {
+                g.artist->look = look;
+                g.artist->imageRating = imageRating;
+            });
         }
         return b;
     }
     int16_t labelWithMarketing(uint8_t rating, const std::string& name) {
         int16_t l = addLabel(g, {1, 1, 1, 1, 1}, name);
-        g.label.read(l);
-        g.label->department[marketing].rating = rating;
-        g.label.write();
+        amend(g.label, l, [&] { g.label->department[marketing].rating = rating; });
         return l;
     }
     int16_t lookOf(int16_t artist) {
@@ -64,9 +63,7 @@ TEST_F(Image, BestLookTakesTheFirstOfEqualsAndOnlyLooksForTheArtistsSex) {
     addLook("Plain Two", 0);                   // 50, later
     int16_t gown = addLook("Gown", 0, 2, 40);  // rock: 90, women only
     int16_t cape = addLook("Cape", 0, 1, 45);  // rock: 95, men only
-    g.artist.rec = ArtistRecord{};
-    g.artist->style = static_cast<uint8_t>(rock);
-    g.artist->male = kTrue;
+    g.artist.rec = ArtistRecord{.style = static_cast<uint8_t>(rock), .male = kTrue};
     EXPECT_EQ(bestLook(g), cape);
     g.artist->male = kFalse;
     EXPECT_EQ(bestLook(g), gown);
@@ -76,9 +73,7 @@ TEST_F(Image, BestLookTakesTheFirstOfEqualsAndOnlyLooksForTheArtistsSex) {
     // 100 rates 50 - 100 + 45, held at 0, and the man's best is plain again.
     g.artist->style = static_cast<uint8_t>(rock);
     g.artist->male = kTrue;
-    g.look.read(cape);
-    g.look->bounds[0] = 100;
-    g.look.write();
+    amend(g.look, cape, [&] { g.look->bounds[0] = 100; });
     EXPECT_EQ(bestLook(g), plain);
 }
 
@@ -110,9 +105,8 @@ TEST_F(Image, ThePlayersMarketingFilesOneLinePerArtistAndChangesNothing) {
     int16_t b = addMarketed(player, {1, 1}, static_cast<uint8_t>(plain), 10);
     g.band.read(b);
     const int16_t second = g.band->members[1];
-    g.artist.read(second);
-    g.artist->imageRating = 50;  // Better rates 50: not above
-    g.artist.write();
+    // Better rates 50: not above
+    amend(g.artist, second, [&] { g.artist->imageRating = 50; });
     deliverMarketingReports(g);
     ASSERT_EQ(g.news.recordCount(), 2);
     g.news.read(1);
@@ -140,11 +134,11 @@ TEST_P(ImageReport, TheTextFollowsTheRatingAndWhetherALookBeatsIt) {
     int16_t b = addMarketed(player, {1}, static_cast<uint8_t>(c.change ? grunge : glam), c.imageRating);
     g.band.read(b);
     int16_t artist = g.band->members[0];
-    g.artist.read(artist);
-    g.artist->forename = "Ada";
-    g.artist->surname = "Vox";
-    g.artist->male = kFalse;
-    g.artist.write();
+    amend(g.artist, artist, [&] {
+        g.artist->forename = "Ada";
+        g.artist->surname = "Vox";
+        g.artist->male = kFalse;
+    });
     int32_t entry = requestImageAnalysis(g, artist);
     g.schedule.read(entry);
     EXPECT_EQ(g.schedule->type, 9);
@@ -201,9 +195,7 @@ TEST_F(Image, AnotherLabelsArtistCannotBeAnalysed) {
     int16_t b = addMarketed(theirs, {1}, 0, 0);
     g.band.read(b);
     EXPECT_EQ(checkImageAnalysis(g, g.band->members[0]), "That artist is not signed to your label.");
-    g.band.read(b);
-    g.band->label = mine;
-    g.band.write();
+    amend(g.band, b, [&] { g.band->label = mine; });
     EXPECT_EQ(checkImageAnalysis(g, g.band->members[0]), "");
 }
 

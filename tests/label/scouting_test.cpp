@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "label/scouting.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "world/strings.h"
@@ -21,13 +22,11 @@ protected:
     void addStars(int count) {
         for (int i = 0; i < count; ++i) {
             int16_t b = addAct(g, {.style = static_cast<uint8_t>(rock), .name = "Star " + std::to_string(i + 1)});
-            g.band.read(b);
-            g.band->ability = 100;
-            g.band.write();
-            g.artist.read(g.band->members[0]);
-            g.artist->potential = 100;
-            g.artist->imageRating = 100;
-            g.artist.write();
+            amend(g.band, b, [&] { g.band->ability = 100; });
+            amend(g.artist, g.band->members[0], [&] {
+                g.artist->potential = 100;
+                g.artist->imageRating = 100;
+            });
         }
     }
     int listedBy(int16_t label) {
@@ -133,12 +132,9 @@ TEST_F(Scouting, OnlyAnEstimateAboveSeventyFiveIsListed) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Full", 100);  // a full department reads true
     addStars(2);
     for (int16_t b : {1, 2}) {
-        g.band.read(b);
-        g.band->ability = static_cast<uint8_t>(74 + b);  // P = ability when ability = potential
-        g.band.write();
-        g.artist.read(g.band->members[0]);
-        g.artist->potential = g.band->ability;
-        g.artist.write();
+        // P = ability when ability = potential
+        amend(g.band, b, [&] { g.band->ability = static_cast<uint8_t>(74 + b); });
+        amend(g.artist, g.band->members[0], [&] { g.artist->potential = g.band->ability; });
     }
     deliverScoutingReports(g);
     ASSERT_EQ(listedBy(label), 1);
@@ -175,9 +171,7 @@ TEST_F(Scouting, TheReportReadsThePresentAndTheFuture) {
 TEST_F(Scouting, AStyleThatLeansOnImageAddsMarketingsView) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
     addStars(1);
-    g.style.read(rock);
-    g.style->abilityWeight = 69;
-    g.style.write();
+    amend(g.style, rock, [&] { g.style->abilityWeight = 69; });
     g.schedule.rec = ScheduleRecord{};
     g.schedule->band = 1;
     g.schedule->label = label;
@@ -198,13 +192,11 @@ TEST_F(Scouting, AnEstimateWeighsPotentialByCareerAndTalentByCommerciality) {
     // careerAge round(5 x 100 / 10) = 50: weight 50: now round((50 x 80 + 50 x 40) / 100) = 60,
     // x 60 / 100 = 36; P = 36 + round(40 x 70 / 100) = 64; F = 80.
     int16_t b = addAct(g, {.style = static_cast<uint8_t>(pop), .age = 5});
-    g.band.read(b);
-    g.band->ability = 40;
-    g.band.write();
-    g.artist.read(g.band->members[0]);
-    g.artist->potential = 80;
-    g.artist->imageRating = 70;
-    g.artist.write();
+    amend(g.band, b, [&] { g.band->ability = 40; });
+    amend(g.artist, g.band->members[0], [&] {
+        g.artist->potential = 80;
+        g.artist->imageRating = 70;
+    });
     g.band.read(b);
     g.label.read(label);
     BandEstimate e = estimateBand(g);

@@ -8,6 +8,7 @@
 #include "label/finances.h"
 #include "label/staff.h"
 #include "session/invariants.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/dates.h"
 #include "world/strings.h"
@@ -26,18 +27,14 @@ struct StaffGame : ::testing::Test {
     void SetUp() override {
         g.prefs->exchangeRate = 1;
         g.prefs->currencySymbol = "£";
-        g.staff.rec = StaffRecord{};
-        g.staff->forename = "Pat";
-        g.staff->surname = "Boss";
+        g.staff.rec = StaffRecord{.forename = "Pat", .surname = "Boss"};
         g.player.playerStaff = static_cast<int16_t>(g.staff.append());
         g.label.rec = LabelRecord{};
         g.label->name = "Kettle Records";
         g.label->boss = g.player.playerStaff;
         label = static_cast<int16_t>(g.label.append());
         g.player.playerLabel = label;
-        g.staff.read(g.player.playerStaff);
-        g.staff->employer = label;
-        g.staff.write();
+        amend(g.staff, g.player.playerStaff, [&] { g.staff->employer = label; });
         writeOpeningLedgerRows(g);
     }
 
@@ -78,9 +75,8 @@ TEST_F(StaffGame, AnOfferAtExactlyNineTenthsIsTakenAndOneUnitLessIsNot) {
     approachStaff(g, ann, marketing, 900, 3);  // label of all styles: 1,000 less a tenth = 900
     int16_t bob = person("Bob", units(1000));
     approachStaff(g, bob, security, 900, 3);
-    g.staff.read(bob);
-    g.staff->offerWage -= 1;  // 899.9999
-    g.staff.write();
+    // 899.9999
+    amend(g.staff, bob, [&] { g.staff->offerWage -= 1; });
     playDay(8);  // the answers come a week on
     g.staff.read(ann);
     EXPECT_EQ(g.staff->offerLabel, label) << "an accepted offer stands until the deal";
@@ -97,9 +93,7 @@ TEST_F(StaffGame, AnOfferAtExactlyNineTenthsIsTakenAndOneUnitLessIsNot) {
 }
 
 TEST_F(StaffGame, ALabelOfAnotherStyleMustOfferATenthMore) {
-    g.label.read(label);
-    g.label->labelStyle = 4;
-    g.label.write();
+    amend(g.label, label, [&] { g.label->labelStyle = 4; });
     int16_t fan = person("Fan", units(1000), true, 4);    // likes the label's style: 900 is enough
     int16_t far = person("Far", units(1000), true, 7);    // 1,100 exactly is enough
     int16_t near = person("Near", units(1000), true, 7);  // 1,099 is not
@@ -117,11 +111,11 @@ TEST_F(StaffGame, ALabelOfAnotherStyleMustOfferATenthMore) {
 
 TEST_F(StaffGame, AYesHiresThePersonIntoTheDepartmentOnTheOfferedTerms) {
     int16_t ann = person("Ann", units(1000), false, 0, 70);
-    g.label.read(label);
-    g.label->department[marketing].staffAtLevel = {2, 0, 0, 0, 0};
-    g.label->department[marketing].rating = 8;
-    g.label->wageBill = units(3000);
-    g.label.write();
+    amend(g.label, label, [&] {
+        g.label->department[marketing].staffAtLevel = {2, 0, 0, 0, 0};
+        g.label->department[marketing].rating = 8;
+        g.label->wageBill = units(3000);
+    });
     approachStaff(g, ann, marketing, 950, 4);
     playDay(8);
     const double today = g.gameDate;  // Friday 13 August 2004
@@ -234,11 +228,12 @@ TEST_F(StaffGame, AReleasedHeadLeavesTheDepartmentAndAsksTheMarketRate) {
     g.staff->department = financeAndLaw;
     g.staff->hiredOn = serialFromCivil(2004, 7, 31);
     g.staff.write();
-    g.label.read(label);
-    g.label->department[financeAndLaw].head = ann;
-    g.label->department[financeAndLaw].rating = 3;  // 52 / 20 = 2.6 -> 3
-    g.label->wageBill = units(2000);
-    g.label.write();
+    // 52 / 20 = 2.6 -> 3
+    amend(g.label, label, [&] {
+        g.label->department[financeAndLaw].head = ann;
+        g.label->department[financeAndLaw].rating = 3;
+        g.label->wageBill = units(2000);
+    });
     EXPECT_EQ(checkTerminateStaff(g, ann), "");
     terminateStaff(g, ann);
     EXPECT_NE(checkTerminateStaff(g, ann), "") << "already on notice";
@@ -264,11 +259,11 @@ TEST_F(StaffGame, AFormerBossHeadsNothingAndGoesWithoutTouchingADepartment) {
     g.staff->employer = label;
     g.staff->department = security;
     g.staff.write();
-    g.label.read(label);
-    g.label->department[security].head = head;
-    g.label->department[security].rating = 3;
-    g.label->wageBill = units(300);
-    g.label.write();
+    amend(g.label, label, [&] {
+        g.label->department[security].head = head;
+        g.label->department[security].rating = 3;
+        g.label->wageBill = units(300);
+    });
     terminateStaff(g, old);
     playDay();
     g.label.read(label);

@@ -2,6 +2,7 @@
 // dropping out before a day plays.
 #include <gtest/gtest.h>
 
+#include "support/amend.h"
 #include "support/calendar_world.h"
 #include "support/festival_world.h"
 
@@ -37,12 +38,9 @@ TEST_F(FestivalBill, TakesTheMostReputedActsWithTiesInRecordOrder) {
 TEST_F(FestivalBill, ReputationIsTakenInTheFestivalsTerritory) {
     int16_t home = addAct("Home", 60);
     int16_t abroad = addAct("Abroad", 40);
-    g.band.read(abroad);
-    g.band->reputation[2] = 90;  // Europe
-    g.band.write();
-    g.festival.read(festival);
-    g.festival->territory = 2;
-    g.festival.write();
+    // Europe
+    amend(g.band, abroad, [&] { g.band->reputation[2] = 90; });
+    amend(g.festival, festival, [&] { g.festival->territory = 2; });
     tour = scheduled();
     fill(tour);
     // Home has 50 in Europe, as every act of the world made here.
@@ -59,13 +57,9 @@ TEST_F(FestivalBill, TakesOnlyTheFestivalsStyleAndItsDescendants) {
     int16_t punks = addAct("Punks", 50);
     addAct("Poppers", 90);  // of the world's first style
     for (auto [act, st] : {std::pair{rocker, rock}, std::pair{punks, punk}}) {
-        g.band.read(act);
-        g.band->style = static_cast<uint8_t>(st);
-        g.band.write();
+        amend(g.band, act, [&] { g.band->style = static_cast<uint8_t>(st); });
     }
-    g.festival.read(festival);
-    g.festival->festivalStyle = static_cast<uint8_t>(rock);
-    g.festival.write();
+    amend(g.festival, festival, [&] { g.festival->festivalStyle = static_cast<uint8_t>(rock); });
     tour = scheduled();
     fill(tour);
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{rocker, punks}));
@@ -76,9 +70,7 @@ TEST_F(FestivalBill, PassesOverAnActBusyOnAnyDayOrRetired) {
     int16_t supporting = addAct("Supporting", 85);
     int16_t retired = addAct("Retired", 80);
     int16_t free = addAct("Free", 40);
-    g.band.read(retired);
-    g.band->retired = kTrue;
-    g.band.write();
+    amend(g.band, retired, [&] { g.band->retired = kTrue; });
     // Gigging plays its own gig on the Sunday; Supporting supports it.
     int32_t other = test::addGig(g, gigging, day(2004, 7, 11), {supporting});
     test::file(g, 8, day(2004, 7, 11), gigging, other);
@@ -101,9 +93,7 @@ TEST_F(FestivalBill, AnotherFestivalsBillKeepsItsActsBusy) {
 
 TEST_F(FestivalBill, AnEmptyPlaceEndsTheBill) {
     int16_t only = addAct("Only", 30);
-    g.festival.read(festival);
-    g.festival->billSize = 5;
-    g.festival.write();
+    amend(g.festival, festival, [&] { g.festival->billSize = 5; });
     tour = scheduled();
     fill(tour);
     g.gig.read(gigsOf(tour)[1]);
@@ -115,9 +105,7 @@ TEST_F(FestivalBill, ThePlayersActIsInvitedAndTheNextActHoldsThePlace) {
     int16_t next = addAct("Next", 70);
     int16_t last = addAct("Last", 60);
     setReputation(band, 80);
-    g.festival.read(festival);
-    g.festival->billSize = 2;
-    g.festival.write();
+    amend(g.festival, festival, [&] { g.festival->billSize = 2; });
     tour = scheduled();
     const int32_t before = lastNews();
     fill(tour);
@@ -140,9 +128,7 @@ TEST_F(FestivalBill, ThePlayersActIsInvitedAndTheNextActHoldsThePlace) {
 TEST_F(FestivalBill, AOneDayInvitationReadsOneGigAndItsPlace) {
     addAct("Above", 90);
     setReputation(band, 80);
-    g.festival.read(festival);
-    g.festival->days = 1;
-    g.festival.write();
+    amend(g.festival, festival, [&] { g.festival->days = 1; });
     tour = scheduled();
     fill(tour);
     EXPECT_NE(newsText(lastNews()).find("will appear 2nd on the bill and will play 1 gig from 10/7/2004 on"),
@@ -203,17 +189,13 @@ TEST_F(FestivalBill, AnActOutOfActionDropsFromThatDayOnAndPlacesMoveUp) {
     tour = scheduled();
     fill(tour);
     g.band.read(b);
-    g.artist.read(g.band->members[1]);
-    g.artist->energy = -1;
-    g.artist.write();
+    amend(g.artist, g.band->members[1], [&] { g.artist->energy = -1; });
     loadDay(tour, 1);
     dropUnfitFestivalActs(g);
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{a, b, c}));
     EXPECT_EQ(billOfDay(1), (std::vector<int16_t>{a, c}));
     g.band.read(b);
-    g.artist.read(g.band->members[1]);
-    g.artist->energy = 0;
-    g.artist.write();
+    amend(g.artist, g.band->members[1], [&] { g.artist->energy = 0; });
     loadDay(tour, 0);
     dropUnfitFestivalActs(g);
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{a, b, c}));
@@ -226,9 +208,7 @@ TEST_F(FestivalBill, ThePlayersRetiredActIsRemovedWithTheNews) {
     fill(tour);
     accept(1);
     ASSERT_EQ(billOfDay(0), (std::vector<int16_t>{a, band}));
-    g.band.read(band);
-    g.band->retired = kTrue;
-    g.band.write();
+    amend(g.band, band, [&] { g.band->retired = kTrue; });
     loadDay(tour, 0);
     dropUnfitFestivalActs(g);
     EXPECT_EQ(billOfDay(0), std::vector<int16_t>{a});

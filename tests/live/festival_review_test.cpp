@@ -2,6 +2,7 @@
 // and the headliners named by how they played.
 #include <gtest/gtest.h>
 
+#include "support/amend.h"
 #include "support/festival_world.h"
 
 using namespace trovane;
@@ -29,11 +30,11 @@ protected:
         beta = addAct("Beta", 80);
         tour = scheduled();
         for (int32_t gig : gigsOf(tour)) {
-            g.gig.read(gig);
-            g.gig->bill[0] = band;
-            g.gig->bill[1] = alpha;
-            g.gig->bill[2] = beta;
-            g.gig.write();
+            amend(g.gig, gig, [&] {
+                g.gig->bill[0] = band;
+                g.gig->bill[1] = alpha;
+                g.gig->bill[2] = beta;
+            });
         }
     }
     // Both days played with these overall figures, each act's quality the same both days.

@@ -2,6 +2,7 @@
 // tour, gigs and entries a year's scheduling files.
 #include <gtest/gtest.h>
 
+#include "support/amend.h"
 #include "support/calendar_world.h"
 #include "support/festival_world.h"
 
@@ -116,10 +117,10 @@ TEST_F(FestivalScheduling, ATravellingFestivalTakesTheLargestSiteAfterFiftyMisse
     addVenue("Rio Club", 5000, rio);
     int16_t stadium = addVenue("Rio Bowl", 18727, rio);
     addVenue("Leeds Arena", 90000, leeds);  // big enough, but not in the area
-    g.festival.read(festival);
-    g.festival->travelling = -1;
-    g.festival->areaCode = "S";
-    g.festival.write();
+    amend(g.festival, festival, [&] {
+        g.festival->travelling = -1;
+        g.festival->areaCode = "S";
+    });
     int16_t tour = scheduled();
     for (int32_t gig : gigsOf(tour)) {
         g.gig.read(gig);
@@ -128,11 +129,11 @@ TEST_F(FestivalScheduling, ATravellingFestivalTakesTheLargestSiteAfterFiftyMisse
 }
 
 TEST_F(FestivalScheduling, AYearEndDayIsFiledInTheNextYearsPage) {
-    g.festival.read(festival);
-    g.festival->days = 1;
-    g.festival->weekday[0] = 1;
-    g.festival->week[0] = 53;
-    g.festival.write();
+    amend(g.festival, festival, [&] {
+        g.festival->days = 1;
+        g.festival->weekday[0] = 1;
+        g.festival->week[0] = 53;
+    });
     int16_t tour = scheduled();
     auto jan2 = entriesOn(day(2005, 1, 2));
     ASSERT_EQ(jan2.size(), 1u);

@@ -5,6 +5,7 @@
 #include "label/finances.h"
 #include "live/gig_review.h"
 #include "live/gigs.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 #include "world/strings.h"
 
@@ -95,9 +96,7 @@ TEST_F(Gigs, AClearBandsShareGoesToItsMembers) {
 
 TEST_F(Gigs, ABandInDebtPaysItsLabelFirst) {
     setMembers(100);
-    g.band.read(band);
-    g.band->costs = moneyUnits(500);
-    g.band.write();
+    amend(g.band, band, [&] { g.band->costs = moneyUnits(500); });
     Money before = cash();
     settle(addVenue("Hall", 1000, leeds), 1000, 14);
     // A debt of 500 out of 848: the label takes 500, the members 348.
@@ -131,9 +130,8 @@ TEST_F(Gigs, ALossChargesTheSignedBandTheLossLessHalfTheTake) {
 TEST_F(Gigs, SupportsShareAFifthAndHaveTheirDrinksAndBedsPaid) {
     setMembers(100);
     int16_t support = addBand("The Openers", 0);
-    g.band.read(support);
-    g.band->topAttitudeLevel = 95;  // level 0: the most demanding
-    g.band.write();
+    // level 0: the most demanding
+    amend(g.band, support, [&] { g.band->topAttitudeLevel = 95; });
     int32_t gig = oneGig(addVenue("Hall", 1000, leeds));
     g.tour->supportCount = 1;
     g.tour.write();
@@ -180,12 +178,12 @@ TEST_F(Gigs, StandingMovesInTheVenuesTerritoryOnly) {
 TEST_F(Gigs, ATiredBandLosesUpToAThird) {
     // Ability 9, live 0, dancing 9: a tenth of 9 is below 1, so no draw moves them.
     // Overall (9 x 50 + 9 x 30 + 50 x 20) / 100 = 17.2 -> 17 at the average content level.
-    g.band.read(band);
-    g.band->ability = 9;
-    g.band->dancing = 9;
-    g.band->gigCount = 1;
-    g.band->averageGigQuality = 20.0f;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->ability = 9;
+        g.band->dancing = 9;
+        g.band->gigCount = 1;
+        g.band->averageGigQuality = 20.0f;
+    });
     const std::tuple<int16_t, int, int> cases[] = {
         {100, 9, 17},  // 6 + round(300 / 100) = 9; 11.33 + round(567 / 100) = 17
         {50, 8, 14},   // 6 + round(150 / 100) = 8 (1.5 to 2); 11.33 + round(283 / 100) = 14

@@ -7,6 +7,7 @@
 #include "schedule/band_calendar.h"
 #include "schedule/schedule.h"
 #include "session/invariants.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 #include "talent/event_fatigue.h"
 
@@ -159,9 +160,7 @@ TEST_F(HandTour, SponsorsPayByTheirMinimumBestFirst) {
     int16_t low = addProduct("Low", 0, "E");    // 0 + 450 = 450
     int16_t mid = addProduct("Mid", 40, "E");   // 40^4 = 2,560,000; / 5 = 512,000; / 100 = 5,120; + 450 = 5,570
     int16_t top = addProduct("Top", 100, "E");  // 10^8 / 5 = 20,000,000; / 100 = 200,000; + 450 = 200,450
-    g.band.read(band);
-    g.band->reputation = {100, 100, 100, 100, 100};
-    g.band.write();
+    amend(g.band, band, [&] { g.band->reputation = {100, 100, 100, 100, 100}; });
     std::vector<SponsorOffer> offers = fittingSponsors(g, tour());
     ASSERT_EQ(offers.size(), 3u);
     EXPECT_EQ(offers[0].product, top);
@@ -186,17 +185,13 @@ TEST_F(HandTour, AProductWantsControversyInItsRange) {
     addProduct("Tame", 0, "E", {}, 10, 30);
     int16_t t = tour();
     for (auto [controversy, fits] : {std::pair{9, false}, {10, true}, {30, true}, {31, false}}) {
-        g.band.read(band);
-        g.band->controversy = static_cast<uint8_t>(controversy);
-        g.band.write();
+        amend(g.band, band, [&] { g.band->controversy = static_cast<uint8_t>(controversy); });
         EXPECT_EQ(productFitsTour(g, t, 1), fits) << controversy;
     }
 }
 
 TEST_F(HandTour, TheRatingOfTheTourMustReachTheMinimum) {
-    g.band.read(band);
-    g.band->reputation = {50, 20, 40, 10, 0};
-    g.band.write();
+    amend(g.band, band, [&] { g.band->reputation = {50, 20, 40, 10, 0}; });
     // A world tour: (50 x 8 + 20 x 10 + 40 x 7 + 10 x 5 + 0) / 33 = 930 / 33 = 28.2, so 28.
     int16_t world = tour("X", 0);
     EXPECT_EQ(tourRating(g, world), 28);
@@ -312,10 +307,10 @@ TEST_F(HandTour, TheRoadFeedsAHabitAlreadyBegunUpToAHundred) {
     g.band.read(band);
     const int16_t m0 = g.band->members[0], m1 = g.band->members[1];
     auto habit = [&](int16_t who, int value) {
-        g.artist.read(who);
-        g.artist->drugHabit = static_cast<uint8_t>(value);
-        g.artist->energy = 80;
-        g.artist.write();
+        amend(g.artist, who, [&] {
+            g.artist->drugHabit = static_cast<uint8_t>(value);
+            g.artist->energy = 80;
+        });
     };
     auto habitOf = [&](int16_t who) {
         g.artist.read(who);
@@ -349,14 +344,11 @@ std::optional<InvariantBreak> ruleOn(Game& g, std::string_view name) {
 
 TEST_F(Supports, TheCheckerFindsGigsOutOfOrderAndAFourthSupport) {
     EXPECT_FALSE(ruleOn(g, "tourGigsInDateOrder").has_value());
-    g.gig.read(two);
-    g.gig->gigDate = first;  // the same day as the first gig
-    g.gig.write();
+    // the same day as the first gig
+    amend(g.gig, two, [&] { g.gig->gigDate = first; });
     ASSERT_TRUE(ruleOn(g, "tourGigsInDateOrder").has_value());
     EXPECT_EQ(ruleOn(g, "tourGigsInDateOrder")->field, "gigs[1]");
-    g.tour.read(t);
-    g.tour->supportCount = 3;
-    g.tour.write();
+    amend(g.tour, t, [&] { g.tour->supportCount = 3; });
     EXPECT_FALSE(ruleOn(g, "supportCountsWithinThree").has_value());
     g.tour->supportCount = 4;
     g.tour.write();

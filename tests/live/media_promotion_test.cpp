@@ -6,6 +6,7 @@
 #include "live/media_promotion.h"
 #include "rivals/rival_promotion.h"
 #include "schedule/schedule.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 #include "world/strings.h"
 
@@ -70,10 +71,10 @@ protected:
         // Controversy 5 and full energy make an interview's skill exactly 5:
         // a tenth of 5 is below 1, so the spread takes nothing either way.
         setMembers(100);
-        g.band.read(band);
-        g.band->controversy = 5;
-        g.band->reputation = {1, 1, 1, 1, 1};
-        g.band.write();
+        amend(g.band, band, [&] {
+            g.band->controversy = 5;
+            g.band->reputation = {1, 1, 1, 1, 1};
+        });
     }
     // A daily paper in England taking small articles of the value.
     int16_t paper(const char* name, uint8_t value, uint8_t minimum = 1) {
@@ -129,12 +130,9 @@ TEST_F(Media, ControversyBoundsAreInclusiveAndAStyleTakesItsDescendants) {
 
     g.style.rec = StyleRecord{};
     int16_t parent = static_cast<int16_t>(g.style.append());
-    g.style.read(style);
-    g.style->parentStyle = static_cast<uint8_t>(parent);
-    g.style.write();
-    g.media.read(exact);
-    g.media->mediaStyle = static_cast<uint8_t>(parent);  // the band's style descends from it
-    g.media.write();
+    amend(g.style, style, [&] { g.style->parentStyle = static_cast<uint8_t>(parent); });
+    // the band's style descends from it
+    amend(g.media, exact, [&] { g.media->mediaStyle = static_cast<uint8_t>(parent); });
     g.media.read(below);
     g.media->maxControversy = 100;
     g.style.rec = StyleRecord{};
@@ -148,10 +146,10 @@ TEST_F(Media, RivalsBookBestFirstUntilPromotionPasses150) {
     double release = g.gameDate + 30;
     auto promote = [&](uint8_t promotion) {
         int16_t disc = addDisc("Out Soon", 1000, band);
-        g.disc.read(disc);
-        g.disc->releaseDate = {release, 0, 0, 0, 0};
-        g.disc->promotion[0] = promotion;
-        g.disc.write();
+        amend(g.disc, disc, [&] {
+            g.disc->releaseDate = {release, 0, 0, 0, 0};
+            g.disc->promotion[0] = promotion;
+        });
         g.band.read(band);
         bookRivalPromotion(g, 0);
         int n = 0;
@@ -184,10 +182,10 @@ TEST_F(Media, AnAnnualIssueIsBookedOnlyWithinSixWeeks) {
 TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
     int16_t daily = paper("Daily Beat", 73);  // effect 10
     int16_t disc = addDisc("Out Now", 1000, band);
-    g.disc.read(disc);
-    g.disc->releaseDate = {g.gameDate - 7, 0, 0, 0, 0};
-    g.disc->promotion = {95, 20, 20, 20, 20};
-    g.disc.write();
+    amend(g.disc, disc, [&] {
+        g.disc->releaseDate = {g.gameDate - 7, 0, 0, 0, 0};
+        g.disc->promotion = {95, 20, 20, 20, 20};
+    });
     g.band.read(band);
     double on = serialFromCivil(2004, 1, 20);
     ASSERT_EQ(checkAppearance(g, daily, smallArticle, on), "");

@@ -4,6 +4,7 @@
 #include "label/finances.h"
 #include "production/disc_release.h"
 #include "schedule/schedule.h"
+#include "support/amend.h"
 #include "support/disc_world.h"
 #include "world/dates.h"
 #include "world/strings.h"
@@ -17,10 +18,10 @@ protected:
     // An album recorded but not yet dated.
     int16_t recorded(const char* title = "New") {
         int16_t d = addDisc(title, 0);
-        g.disc.read(d);
-        g.disc->releaseDate = {};
-        g.disc->distributor = {};
-        g.disc.write();
+        amend(g.disc, d, [&] {
+            g.disc->releaseDate = {};
+            g.disc->distributor = {};
+        });
         return d;
     }
     std::vector<ScheduleRecord> entriesOfType(uint8_t type) {
@@ -39,9 +40,7 @@ protected:
 
 TEST_F(Release, AnotherAlbumPushesTheEarliestDateInItsTerritoryOnly) {
     int16_t first = recorded("First");
-    g.disc.read(first);
-    g.disc->releaseDate[0] = g.gameDate + 10;
-    g.disc.write();
+    amend(g.disc, first, [&] { g.disc->releaseDate[0] = g.gameDate + 10; });
     int16_t second = recorded("Second");
     g.disc.read(second);
     EXPECT_EQ(earliestReleaseDate(g, 0), g.gameDate + 190);
@@ -86,14 +85,12 @@ TEST_F(Release, DatingAgainCancelsTheEarlierEntries) {
 TEST_F(Release, OnlyThePlayersRecordedDiscCanBeDated) {
     int16_t d = recorded();
     std::array<double, 5> dates{serialFromCivil(2004, 9, 20), 0, 0, 0, 0};
-    g.disc.read(d);
-    g.disc->tracksRecorded = 9;
-    g.disc.write();
+    amend(g.disc, d, [&] { g.disc->tracksRecorded = 9; });
     EXPECT_EQ(setReleaseDatesRefusal(g, d, dates), "New has not been recorded yet.");
-    g.disc.read(d);
-    g.disc->tracksRecorded = 10;
-    g.disc->label = rival;
-    g.disc.write();
+    amend(g.disc, d, [&] {
+        g.disc->tracksRecorded = 10;
+        g.disc->label = rival;
+    });
     EXPECT_EQ(setReleaseDatesRefusal(g, d, dates), "New is not a disc of your label.");
 }
 
@@ -107,9 +104,7 @@ TEST_F(Release, PressingCostsASetUpChargeAndThreeQuartersACopy) {
 
 TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
     int16_t d = recorded();
-    g.disc.read(d);
-    g.disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
-    g.disc.write();
+    amend(g.disc, d, [&] { g.disc->releaseDate[0] = serialFromCivil(2004, 9, 20); });
     int16_t owned = addFirm(1, 20, rival);
     std::array<int32_t, 5> copies{100000, 0, 0, 0, 0};
     EXPECT_NE(pressDiscsRefusal(g, d, owned, {0, 1000, 0, 0, 0}), "");  // no US date
@@ -124,9 +119,7 @@ TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
 
 TEST_F(Release, APressWeekSharesItsOutputAndPassesOnWhatASmallOrderLeaves) {
     int16_t d = recorded();
-    g.disc.read(d);
-    g.disc->pressingOrder = {10000, 0, 100000, 200000, 0};
-    g.disc.write();
+    amend(g.disc, d, [&] { g.disc->pressingOrder = {10000, 0, 100000, 200000, 0}; });
     g.schedule.rec = ScheduleRecord{};
     g.schedule->disc = d;
     g.schedule->business = plant;
@@ -140,9 +133,7 @@ TEST_F(Release, APressWeekSharesItsOutputAndPassesOnWhatASmallOrderLeaves) {
 
 TEST_F(Release, TheLastPressWeekTellsThePlayerOnce) {
     int16_t d = recorded();
-    g.disc.read(d);
-    g.disc->pressingOrder = {112000, 0, 0, 0, 0};
-    g.disc.write();
+    amend(g.disc, d, [&] { g.disc->pressingOrder = {112000, 0, 0, 0, 0}; });
     g.schedule.rec = ScheduleRecord{};
     g.schedule->disc = d;
     g.schedule->business = plant;
@@ -157,11 +148,11 @@ TEST_F(Release, TheLastPressWeekTellsThePlayerOnce) {
 
 TEST_F(Release, TheBillCoversTerritoriesOutInSixDays) {
     int16_t d = recorded();
-    g.disc.read(d);
-    g.disc->releaseDate = {g.gameDate + 6, g.gameDate + 7, 0, 0, 0};
-    g.disc->stock = {100000, 100000, 0, 0, 0};
-    g.disc->distributor = {distributor, distributor, 0, 0, 0};
-    g.disc.write();
+    amend(g.disc, d, [&] {
+        g.disc->releaseDate = {g.gameDate + 6, g.gameDate + 7, 0, 0, 0};
+        g.disc->stock = {100000, 100000, 0, 0, 0};
+        g.disc->distributor = {distributor, distributor, 0, 0, 0};
+    });
     chooseDistributors(g, d, {});
     EXPECT_EQ(ledger(label, ledgerOtherExpense), -moneyUnits(130357));
 }
@@ -192,14 +183,15 @@ TEST_F(Release, DistributorNeededMovesItsDateAndNamesTheTerritories) {
 
 TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
     int16_t d = recorded();
-    g.disc.read(d);
-    g.disc->releaseDate = {g.gameDate, g.gameDate + 7, 0, 0, 0};
-    g.disc->promotion = {20, 20, 20, 20, 20};
-    g.disc.write();
-    g.band.read(band);
-    g.band->advanceToPay = moneyUnits(30000);
-    g.band->optionsRemaining = 1;  // 0 + 0 is not 1: the option months stay
-    g.band.write();
+    amend(g.disc, d, [&] {
+        g.disc->releaseDate = {g.gameDate, g.gameDate + 7, 0, 0, 0};
+        g.disc->promotion = {20, 20, 20, 20, 20};
+    });
+    // 0 + 0 is not 1: the option months stay
+    amend(g.band, band, [&] {
+        g.band->advanceToPay = moneyUnits(30000);
+        g.band->optionsRemaining = 1;
+    });
     g.schedule.rec = ScheduleRecord{};
     g.schedule->disc = d;
     releaseDay(g);
@@ -220,13 +212,12 @@ TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
 TEST_F(Release, AnAlbumsReleaseSetsTheNextOptionDateThreeMonthsOn) {
     for (bool single : {false, true}) {
         int16_t d = recorded(single ? "Single" : "Album");
-        g.disc.read(d);
-        g.disc->isSingle = single ? 1 : 0;
-        g.disc->releaseDate = {g.gameDate, 0, 0, 0, 0};
-        g.disc.write();
-        g.band.read(band);
-        g.band->optionsRemaining = 0;  // the last term: a decision, never a take-up
-        g.band.write();
+        amend(g.disc, d, [&] {
+            g.disc->isSingle = single ? 1 : 0;
+            g.disc->releaseDate = {g.gameDate, 0, 0, 0, 0};
+        });
+        // the last term: a decision, never a take-up
+        amend(g.band, band, [&] { g.band->optionsRemaining = 0; });
         g.schedule.rec = ScheduleRecord{};
         g.schedule->disc = d;
         releaseDay(g);

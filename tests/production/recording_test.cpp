@@ -7,6 +7,7 @@
 #include "production/recording.h"
 #include "schedule/schedule.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -20,10 +21,10 @@ struct Studio : AlbumWorld {
 
     explicit Studio(int tracks = 3) {
         for (int i = 0; i < tracks + 1; ++i) songs.push_back(addSong(band, 50, 50));
-        g.band.read(band);
-        g.band->albumStatus = 1;
-        g.band->advanceToPay = moneyUnits(60000);
-        g.band.write();
+        amend(g.band, band, [&] {
+            g.band->albumStatus = 1;
+            g.band->advanceToPay = moneyUnits(60000);
+        });
     }
     std::vector<int32_t> tracks() { return {songs.begin(), songs.end() - 1}; }
 
@@ -46,9 +47,7 @@ struct Studio : AlbumWorld {
         }
     }
     void setStamina(uint8_t s) {
-        g.band.read(band);
-        g.band->stamina = s;
-        g.band.write();
+        amend(g.band, band, [&] { g.band->stamina = s; });
     }
 };
 
@@ -57,14 +56,14 @@ struct Studio : AlbumWorld {
 TEST(Recording, FinalisingMakesTheDiscFromTheMarkedSongsAndHoldsTheRest) {
     Studio w(2);
     Game& g = w.g;
-    g.song.read(w.songs[0]);
-    g.song->quality = 40;
-    g.song->commerciality = 61;
-    g.song.write();
-    g.song.read(w.songs[1]);
-    g.song->quality = 41;
-    g.song->commerciality = 62;
-    g.song.write();
+    amend(g.song, w.songs[0], [&] {
+        g.song->quality = 40;
+        g.song->commerciality = 61;
+    });
+    amend(g.song, w.songs[1], [&] {
+        g.song->quality = 41;
+        g.song->commerciality = 62;
+    });
     ASSERT_EQ(checkFinaliseAlbum(g, w.band, w.tracks()), "");
     int16_t disc = finaliseAlbum(g, w.band, w.tracks());
     g.disc.read(disc);
@@ -97,9 +96,7 @@ TEST(Recording, ATracklistIsRefusedOutsideOneToTwentySongsInHand) {
     EXPECT_NE(checkFinaliseAlbum(g, w.band, {w.songs[0], other}), "");
     EXPECT_EQ(checkFinaliseAlbum(g, others, {other}), "Others are not signed to your label.");
     EXPECT_NE(checkFinaliseAlbum(g, w.band, {w.songs[0], w.songs[0]}), "");
-    g.band.read(w.band);
-    g.band->albumStatus = 2;
-    g.band.write();
+    amend(g.band, w.band, [&] { g.band->albumStatus = 2; });
     EXPECT_NE(checkFinaliseAlbum(g, w.band, {w.songs[0]}), "");
     EXPECT_EQ(g.disc.recordCount(), 1) << "nothing was made";
 }
@@ -110,15 +107,13 @@ TEST(Recording, AskingForAnAlbumNeedsThePlayersBandWithNoneInHand) {
     int16_t rival = w.addBand("Theirs", AlbumWorld::kRival);
     EXPECT_EQ(checkWorkOnAlbum(g, rival), "Theirs are not signed to your label.");
     for (uint8_t status : {1, 2, 3}) {
-        g.band.read(w.band);
-        g.band->albumStatus = status;
-        g.band.write();
+        amend(g.band, w.band, [&] { g.band->albumStatus = status; });
         EXPECT_EQ(checkWorkOnAlbum(g, w.band), "Tapes are already working on an album.");
     }
-    g.band.read(w.band);
-    g.band->albumStatus = 0;
-    g.band->songsWritten = 4;
-    g.band.write();
+    amend(g.band, w.band, [&] {
+        g.band->albumStatus = 0;
+        g.band->songsWritten = 4;
+    });
     EXPECT_EQ(checkWorkOnAlbum(g, w.band), "");
     EXPECT_EQ(workOnAlbumText(g, w.band),
               "Are you sure you want Tapes to dedicate all their free time to working on material for a new album? "
@@ -202,16 +197,13 @@ TEST(Recording, ALastDayLostToRestIsBookedAgain) {
     int16_t studio = w.addFirm("Rooms", kStudio, 10, 0);
     int16_t disc = finaliseAlbum(g, w.band, w.tracks());
     bookStudio(g, disc, studio);
-    g.artist.read(1);
-    g.artist->energy = -1;  // away: the guard skips the studio day
-    g.artist.write();
+    // away: the guard skips the studio day
+    amend(g.artist, 1, [&] { g.artist->energy = -1; });
     w.playStudioDay(today + 14);
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(300)) << "a day lost before the end";
     w.playStudioDay(today + 15);
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(450));
-    g.artist.read(1);
-    g.artist->energy = 50;
-    g.artist.write();
+    amend(g.artist, 1, [&] { g.artist->energy = 50; });
     w.playStudioDay(today + 16);
     g.disc.read(disc);
     EXPECT_EQ(g.disc->tracksRecorded, 1);

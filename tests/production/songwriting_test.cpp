@@ -7,6 +7,7 @@
 
 #include "production/songwriting.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -40,24 +41,17 @@ TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
     AlbumWorld w;
     Game& g = w.g;
     int16_t band = w.addBand("Full Time", AlbumWorld::kRival, 1, 50, 100);
-    g.band.read(band);
-    g.band->albumStatus = 1;  // the album takes all their time: focus 100 whatever writingFocus says
-    g.band.write();
+    // the album takes all their time: focus 100 whatever writingFocus says
+    amend(g.band, band, [&] { g.band->albumStatus = 1; });
     // c = round(100 x 7 x 100 / 100) = 700 against 0..899: 700 of 900 weeks.
     EXPECT_NEAR(weeksWritten(g, band, 1, 18000) / 18000.0, 700.0 / 900, 0.012);
 
-    g.band.read(band);
-    g.band->albumStatus = 0;
-    g.band.write();
-    g.artist.read(1);
-    g.artist->writingFocus = 50;
-    g.artist.write();
+    amend(g.band, band, [&] { g.band->albumStatus = 0; });
+    amend(g.artist, 1, [&] { g.artist->writingFocus = 50; });
     // c = round(100 x 7 x 50 / 100) = 350: 350 of 900.
     EXPECT_NEAR(weeksWritten(g, band, 1, 18000) / 18000.0, 350.0 / 900, 0.012);
 
-    g.artist.read(1);
-    g.artist->writingFocus = 0;
-    g.artist.write();
+    amend(g.artist, 1, [&] { g.artist->writingFocus = 0; });
     EXPECT_EQ(weeksWritten(g, band, 1, 2000), 0) << "c = 0 is never above a draw";
 }
 
@@ -68,13 +62,9 @@ TEST(Songwriting, ANonWriterOrARetiredArtistNeverWritesNorBuysIn) {
     int16_t band = w.addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);
     int16_t retired = w.addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);
     for (int16_t b : {band, retired}) {
-        g.band.read(b);
-        g.band->albumStatus = 1;
-        g.band.write();
+        amend(g.band, b, [&] { g.band->albumStatus = 1; });
     }
-    g.artist.read(3);
-    g.artist->retired = -1;
-    g.artist.write();
+    amend(g.artist, 3, [&] { g.artist->retired = -1; });
     for (int week = 0; week < 30; ++week) updateSongs(g);
     EXPECT_EQ(g.song.recordCount(), 1);
 }
@@ -121,9 +111,7 @@ TEST(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred
     AlbumWorld w;
     Game& g = w.g;
     int16_t band = w.addBand("Spread", AlbumWorld::kRival, 1, 50, 40);
-    g.artist.read(1);
-    g.artist->songCommerciality = 100;
-    g.artist.write();
+    amend(g.artist, 1, [&] { g.artist->songCommerciality = 100; });
     int lowQ = 100, highQ = 0, lowC = 100, highC = 0;
     for (int i = 0; i < 400; ++i) {
         g.band.read(band);
@@ -163,9 +151,7 @@ TEST_P(BoughtMaterial, EachBudgetHasItsQualityCommercialityAndPrice) {
     AlbumWorld w;
     Game& g = w.g;
     int16_t band = w.addBand("Buyers", AlbumWorld::kRival, 1, 50, 40);
-    g.band.read(band);
-    g.band->materialBudget = static_cast<uint8_t>(level);
-    g.band.write();
+    amend(g.band, band, [&] { g.band->materialBudget = static_cast<uint8_t>(level); });
     int lowQ = 100, highQ = 0, lowC = 100, highC = 0;
     const int songs = 600;
     for (int i = 0; i < songs; ++i) {
@@ -224,10 +210,10 @@ TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
     AlbumWorld w;
     Game& g = w.g;
     int16_t band = w.addBand("Paid", AlbumWorld::kPlayer, 2);
-    g.band.read(band);
-    g.band->advanceToPay = moneyUnits(30000);
-    g.band->firstInstallmentDue = 1;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->advanceToPay = moneyUnits(30000);
+        g.band->firstInstallmentDue = 1;
+    });
     g.artist.read(1);
     writeSong(g, true, true);
     // 30,000 / 3 = 10,000 to the advances; 5,000 to each of two members.
@@ -253,10 +239,10 @@ TEST(Songwriting, ProgressNewsFromTheTenthToTheFiftiethSong) {
     Game& g = w.g;
     int16_t band = w.addBand("Prolific", AlbumWorld::kPlayer, 2);
     auto writeAt = [&](int32_t before, uint8_t status) {
-        g.band.read(band);
-        g.band->songsWritten = before;
-        g.band->albumStatus = status;
-        g.band.write();
+        amend(g.band, band, [&] {
+            g.band->songsWritten = before;
+            g.band->albumStatus = status;
+        });
         g.artist.read(1);
         int32_t news = w.newsCount();
         writeSong(g, true, false);
@@ -303,9 +289,7 @@ TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
     int most = 0, total = 0;
     for (int round = 0; round < 40; ++round) {
         for (int16_t band : {recent, older}) {
-            g.band.read(band);
-            g.band->songsWritten = 0;
-            g.band.write();
+            amend(g.band, band, [&] { g.band->songsWritten = 0; });
             seedAlbumPlan(g);
             EXPECT_EQ(g.band->id, band) << "the band is left in the buffer";
         }
@@ -326,15 +310,13 @@ TEST(Songwriting, TheNewPlayerIsBriefedOnBandsWithTracksAndNoAlbumInTheStudio) {
     for (auto [name, songs, status] :
          {std::tuple{"One", 1, 0}, std::tuple{"Many", 12, 1}, std::tuple{"Busy", 9, 2}, std::tuple{"None", 0, 0}}) {
         int16_t b = w.addBand(name, AlbumWorld::kPlayer);
-        g.band.read(b);
-        g.band->songsWritten = songs;
-        g.band->albumStatus = static_cast<uint8_t>(status);
-        g.band.write();
+        amend(g.band, b, [&] {
+            g.band->songsWritten = songs;
+            g.band->albumStatus = static_cast<uint8_t>(status);
+        });
     }
     w.addBand("Theirs", AlbumWorld::kRival);
-    g.band.read(5);
-    g.band->songsWritten = 3;
-    g.band.write();
+    amend(g.band, 5, [&] { g.band->songsWritten = 3; });
     briefNewPlayerOnAlbums(g);
     ASSERT_EQ(w.newsCount(), 1);
     EXPECT_EQ(trim(w.lastNews().title.value), "Introductory album progress briefing");

@@ -5,6 +5,7 @@
 #include "label/finances.h"
 #include "production/charts.h"
 #include "production/weekly_sales.h"
+#include "support/amend.h"
 #include "support/disc_world.h"
 #include "world/strings.h"
 
@@ -26,9 +27,7 @@ protected:
         g.band.read(g.disc->band);
     }
     int32_t sellIn(int16_t d, int t, int32_t oldTotal, int32_t sales) {
-        g.disc.read(d);
-        g.disc->totalSales[static_cast<std::size_t>(t)] = oldTotal;
-        g.disc.write();
+        amend(g.disc, d, [&] { g.disc->totalSales[static_cast<std::size_t>(t)] = oldTotal; });
         current(d);
         limitAndCertify(g, sales, t);
         return disc(d).chartPoints[static_cast<std::size_t>(t)];
@@ -62,9 +61,8 @@ TEST_F(WeeklySales, NextWeekFollowsTheHypeAndHoldsBothHypes) {
 
 TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
     int16_t d = addDisc("Small", 5000);
-    g.disc.read(d);
-    g.disc->distributor[0] = addFirm(2, 5, 0);  // 2 x 125 = 250 a day, 1750 a week
-    g.disc.write();
+    // 2 x 125 = 250 a day, 1750 a week
+    amend(g.disc, d, [&] { g.disc->distributor[0] = addFirm(2, 5, 0); });
     current(d);
     limitAndCertify(g, 1751, 0);
     EXPECT_EQ(disc(d).weekSales[0], 1750);
@@ -78,7 +76,7 @@ TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
     EXPECT_EQ(disc(d).stock[2], 0);
 }
 
-TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGive) {
+TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGiveAndNeverTheUnawardedLevel) {
     struct Case {
         int t;
         int32_t threshold, points;
@@ -92,12 +90,9 @@ TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGive) {
         EXPECT_EQ(sellIn(d, c.t, c.threshold - 1, 1), c.points) << c.t;
         EXPECT_EQ(sellIn(d, c.t, c.threshold, 1), c.points) << "no second award at " << c.t;
     }
-}
-
-TEST_F(WeeklySales, TheUnawardedLevelIsNeverGivenEvenWhenReached) {
-    int16_t d = addDisc("Huge");
-    // Europe: 49999999 -> 50000000 crosses only platinum level 50.
-    EXPECT_EQ(sellIn(d, 2, 49999999, 1), 500);
+    // The unawarded level is never given even when reached: Europe's 49999999 -> 50000000
+    // crosses only platinum level 50.
+    EXPECT_EQ(sellIn(addDisc("Huge"), 2, 49999999, 1), 500);
 }
 
 TEST_F(WeeklySales, AWeekAcrossTwoPlatinumMultiplesGivesTwoAwards) {
@@ -115,9 +110,7 @@ TEST_F(WeeklySales, AWeekAcrossTwoPlatinumMultiplesGivesTwoAwards) {
 TEST_F(WeeklySales, OnlyThePlayersDiscsAndShortlistBringCertificationNews) {
     int16_t other = addBand("Others", rival);
     int16_t d = addDisc("Theirs", 1000000, other);
-    g.disc.read(d);
-    g.disc->label = rival;
-    g.disc.write();
+    amend(g.disc, d, [&] { g.disc->label = rival; });
     int32_t before = g.news.recordCount();
     sellIn(d, 0, 0, 60000);
     EXPECT_EQ(g.news.recordCount(), before);
@@ -136,13 +129,11 @@ protected:
     // 1000 albums: gross 7500, 20% royalty -> artists 1500, label 6000.
     void sellWithCosts(int64_t costs) {
         d = addDisc("Paid");
-        g.band.read(band);
-        g.band->royaltyRate = 20;
-        g.band->costs = moneyUnits(costs);
-        g.band.write();
-        g.disc.read(d);
-        g.disc->weekSales[0] = 1000;
-        g.disc.write();
+        amend(g.band, band, [&] {
+            g.band->royaltyRate = 20;
+            g.band->costs = moneyUnits(costs);
+        });
+        amend(g.disc, d, [&] { g.disc->weekSales[0] = 1000; });
         current(d);
         payDiscIncome(g, 0);
     }
@@ -183,9 +174,7 @@ TEST_F(DiscIncome, ASmallerDebtIsRecoupedAndTheRestPaid) {
 TEST_F(WeeklySales, EqualSalesKeepLastWeeksOrder) {
     int16_t a = addDisc("A"), b = addDisc("B"), c = addDisc("C"), e = addDisc("E");
     for (auto [disc, sales] : {std::pair{a, 10}, {b, 20}, {c, 10}, {e, 21}}) {
-        g.disc.read(disc);
-        g.disc->weekSales[0] = sales;
-        g.disc.write();
+        amend(g.disc, disc, [&] { g.disc->weekSales[0] = sales; });
         addRow(0, disc);
     }
     openChart(g, 0);
@@ -243,33 +232,26 @@ TEST_F(WeeklySales, AfterTheWeekTotalsAndHypeMoveOn) {
 
 TEST_F(WeeklySales, ASoldOutDiscNeverSellsAgainButAnUnsoldOneWaits) {
     int16_t soldOut = addDisc("Gone", 0), waiting = addDisc("Waiting", 0);
-    g.disc.read(soldOut);
-    g.disc->totalSales[0] = 100;
-    g.disc.write();
+    amend(g.disc, soldOut, [&] { g.disc->totalSales[0] = 100; });
     addRow(0, soldOut);
     addRow(0, waiting);
     calculateWeeklySales(g);
     EXPECT_EQ(disc(waiting).weekSales[0], 0);
     for (int16_t d : {soldOut, waiting}) {
-        g.disc.read(d);
-        g.disc->stock[0] = 100000;
-        g.disc.write();
+        amend(g.disc, d, [&] { g.disc->stock[0] = 100000; });
     }
     calculateWeeklySales(g);
     EXPECT_EQ(disc(soldOut).weekSales[0], 0);
     EXPECT_GT(disc(waiting).weekSales[0], 0);
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(WeeklySales, TheBiggestDiscAndBestWeekGoToTheBandAndLabelByKind) {
     auto sold = [&](int16_t d, int32_t week, int32_t total) {
-        g.disc.read(d);
-        g.disc->weekSales = {week, 0, 0, 0, 1};  // 1 more elsewhere
-        g.disc->totalSales = {total, 0, 0, 0, 1};
-        g.disc.write();
+        // 1 more elsewhere
+        amend(g.disc, d, [&] {
+            g.disc->weekSales = {week, 0, 0, 0, 1};
+            g.disc->totalSales = {total, 0, 0, 0, 1};
+        });
     };
     int16_t a = addDisc("A"), b = addDisc("B"), s = addDisc("S", 1000, 0, 1);
     sold(a, 100, 500);  // week 101, total 501

@@ -6,6 +6,7 @@
 #include "schedule/schedule.h"
 #include "schedule/schedule_types.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "world/dates.h"
 #include "world/strings.h"
 
@@ -74,10 +75,10 @@ TEST_F(RivalAlbums, SevenUnusedSongsMakeASevenTrackAlbumInWritingOrder) {
     std::vector<int32_t> songs;
     for (uint8_t q : {30, 90, 50, 70, 20, 60, 40}) songs.push_back(addSong(band, q, q));
     const int32_t used = addSong(band, 99, 99, 3);  // already on a disc: not gathered
-    g.band.read(band);
-    g.band->songsWritten = 10;
-    g.band->albumStatus = 1;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->songsWritten = 10;
+        g.band->albumStatus = 1;
+    });
     computerCheckAlbumProgress(g);  // m = 40 (mean song quality), needed 10, 10 written
     g.band.read(band);
     EXPECT_EQ(g.band->albumStatus, 2);
@@ -99,10 +100,10 @@ TEST_F(RivalAlbums, TheBestSongsGoOnAndTheRestAreHeld) {
     for (int i = 0; i < 9; ++i) songs.push_back(addSong(band, 30, 30));
     songs.push_back(addSong(band, 90, 90));
     songs.push_back(addSong(band, 85, 85));
-    g.band.read(band);
-    g.band->songsWritten = 13;
-    g.band->albumStatus = 1;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->songsWritten = 13;
+        g.band->albumStatus = 1;
+    });
     computerCheckAlbumProgress(g);
     g.band.read(band);
     const auto tracks = tracksOf(static_cast<int16_t>(g.band->songsWritten));
@@ -119,10 +120,10 @@ TEST_F(RivalAlbums, TheBestSongsGoOnAndTheRestAreHeld) {
 TEST_F(RivalAlbums, ABandBelowItsNeedWaits) {
     const int16_t band = addBand("The Rivals", kRival, 1, 80);  // m 80: needs 20
     for (int i = 0; i < 19; ++i) addSong(band, 50, 50);
-    g.band.read(band);
-    g.band->songsWritten = 19;
-    g.band->albumStatus = 1;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->songsWritten = 19;
+        g.band->albumStatus = 1;
+    });
     computerCheckAlbumProgress(g);
     g.band.read(band);
     EXPECT_EQ(g.band->albumStatus, 1);
@@ -159,15 +160,11 @@ protected:
         g.disc->tracks[0] = song;
         g.disc->releaseDate.fill(kNoDate);
         const auto disc = static_cast<int16_t>(g.disc.append());
-        g.song.read(song);
-        g.song->disc = static_cast<uint16_t>(disc);
-        g.song.write();
+        amend(g.song, song, [&] { g.song->disc = static_cast<uint16_t>(disc); });
         return disc;
     }
     void setReputation(std::array<uint8_t, 5> r) {
-        g.band.read(band);
-        g.band->reputation = r;
-        g.band.write();
+        amend(g.band, band, [&] { g.band->reputation = r; });
     }
 };
 
@@ -242,15 +239,11 @@ TEST_F(RivalRelease, ThreeEqualsOnADayPushTheDiscAWeekTwoDoNot) {
     // Equals are 30 to 50 (40 -/+ 10).
     for (uint8_t r : {30, 50}) {
         const int16_t other = addBand("Equal", kRival, 1, 40);
-        g.band.read(other);
-        g.band->reputation = {r, 0, 0, 0, 0};
-        g.band.write();
+        amend(g.band, other, [&] { g.band->reputation = {r, 0, 0, 0, 0}; });
         addReleased(other, 0, monday);
     }
     const int16_t weaker = addBand("Weaker", kRival, 1, 40);
-    g.band.read(weaker);
-    g.band->reputation = {29, 0, 0, 0, 0};
-    g.band.write();
+    amend(g.band, weaker, [&] { g.band->reputation = {29, 0, 0, 0, 0}; });
     addReleased(weaker, 0, monday);
     const int16_t disc = recorded(0);
     g.disc.read(disc);
@@ -259,9 +252,7 @@ TEST_F(RivalRelease, ThreeEqualsOnADayPushTheDiscAWeekTwoDoNot) {
     EXPECT_EQ(g.disc->releaseDate[0], monday);
 
     const int16_t third = addBand("Third", kRival, 1, 40);
-    g.band.read(third);
-    g.band->reputation = {40, 0, 0, 0, 0};
-    g.band.write();
+    amend(g.band, third, [&] { g.band->reputation = {40, 0, 0, 0, 0}; });
     addReleased(third, 0, monday);
     g.disc.read(disc);
     g.disc->releaseDate.fill(kNoDate);  // the band's own first try no longer counts
@@ -277,9 +268,7 @@ TEST_F(RivalRelease, ElevenCrowdedWeeksFallBackUpToEightWeeks) {
     for (int w = 0; w < 11; ++w)
         for (int k = 0; k < 3; ++k) {
             const int16_t other = addBand("Crowd", kRival, 1, 40);
-            g.band.read(other);
-            g.band->reputation = {40, 0, 0, 0, 0};
-            g.band.write();
+            amend(g.band, other, [&] { g.band->reputation = {40, 0, 0, 0, 0}; });
             addReleased(other, 0, first + 7.0 * w);
         }
     const int16_t disc = recorded(0);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "schedule/band_calendar.h"
+#include "support/amend.h"
 #include "support/calendar_world.h"
 #include "support/empty_game.h"
 
@@ -37,12 +38,9 @@ TEST(BandCalendar, SupportActsAndFestivalBillsAreBusy) {
     Game& g = eg.g;
     int16_t head = addBand(g, {50}), support = addBand(g, {50}), extra = addBand(g, {50}), billed = addBand(g, {50});
     int32_t tourDay = file(g, 10, kDay, head, addGig(g, head, kDay, {support, extra}));
-    g.tour.read(1);
-    g.tour->supportCount = 1;  // the act in place 2 is not counted
-    g.tour.write();
-    g.festival.rec = FestivalRecord{};
-    g.festival->billSize = 3;
-    g.festival->festivalName = "Summer Sound";
+    // the act in place 2 is not counted
+    amend(g.tour, 1, [&] { g.tour->supportCount = 1; });
+    g.festival.rec = FestivalRecord{.billSize = 3, .festivalName = "Summer Sound"};
     int16_t fest = static_cast<int16_t>(g.festival.append());
     int32_t festivalDay = file(g, 8, kDay + 1, 0, addGig(g, head, kDay + 1, {support, billed, extra}, 0, fest));
 

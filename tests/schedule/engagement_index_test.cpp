@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "schedule/band_calendar.h"
+#include "support/amend.h"
 #include "support/calendar_world.h"
 #include "support/empty_game.h"
 #include "support/played_world.h"
@@ -126,9 +127,8 @@ TEST(EngagementIndex, FollowsABillChangedAfterTheEntryWasFiled) {
     int32_t gig = addGig(g, head, kDay, {support});
     int32_t entry = file(g, 10, kDay, head, gig);
     EXPECT_EQ(busyOn(g, late, kDay), 0);
-    g.gig.read(gig);
-    g.gig->bill[1] = late;  // the support act is replaced
-    g.gig.write();
+    // the support act is replaced
+    amend(g.gig, gig, [&] { g.gig->bill[1] = late; });
     EXPECT_EQ(busyOn(g, late, kDay), entry);
     EXPECT_EQ(busyOn(g, support, kDay), 0);
 }
@@ -139,14 +139,11 @@ TEST(EngagementIndex, FollowsAnEntryGivenToAnotherBand) {
     int16_t first = addBand(g, {50}), second = addBand(g, {50});
     int32_t entry = file(g, 7, kDay, first);
     EXPECT_EQ(busyOn(g, first, kDay), entry);
-    g.schedule.read(entry);
-    g.schedule->band = second;
-    g.schedule.write();
+    amend(g.schedule, entry, [&] { g.schedule->band = second; });
     EXPECT_EQ(busyOn(g, first, kDay), 0);
     EXPECT_EQ(busyOn(g, second, kDay), entry);
-    g.schedule.read(entry);
-    g.schedule->type = 255;  // cancelled
-    g.schedule.write();
+    // cancelled
+    amend(g.schedule, entry, [&] { g.schedule->type = 255; });
     EXPECT_EQ(busyOn(g, second, kDay), 0);
 }
 

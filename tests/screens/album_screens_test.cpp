@@ -17,6 +17,7 @@
 #include "screens/business_screens.h"
 #include "screens/label_details_screen.h"
 #include "screens/side_bar.h"
+#include "support/amend.h"
 #include "talent/contract_progress.h"
 #include "world/strings.h"
 
@@ -27,11 +28,8 @@ namespace {
 
 // A writer's act signed to the player, and an open independent studio.
 int16_t addSignedBand(Game& g) {
-    g.artist.rec = ArtistRecord{};
-    g.artist->forename = std::string("Nia");
-    g.artist->surname = std::string("Hart");
-    g.artist->male = -1;
-    g.artist->energy = 100;
+    g.artist.rec =
+        ArtistRecord{.forename = std::string("Nia"), .surname = std::string("Hart"), .male = -1, .energy = 100};
     const auto artist = static_cast<int16_t>(g.artist.append());
     g.band.rec = BandRecord{};
     g.band->name = std::string("The Hartbeats");
@@ -39,11 +37,7 @@ int16_t addSignedBand(Game& g) {
     g.band->memberCount = 2;
     g.band->members = {artist, artist};
     const auto band = static_cast<int16_t>(g.band.append());
-    g.business.rec = BusinessRecord{};
-    g.business->name = std::string("Harbour Studios");
-    g.business->city = 1;
-    g.business->quality = 40;
-    g.business->open = -1;
+    g.business.rec = BusinessRecord{.name = std::string("Harbour Studios"), .city = 1, .quality = 40, .open = -1};
     g.business.append();
     return band;
 }
@@ -91,9 +85,7 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
         g.song->written = g.gameDate;
         songs.push_back(g.song.append());
     }
-    g.band.read(band);
-    g.band->songsWritten = 3;
-    g.band.write();
+    amend(g.band, band, [&] { g.band->songsWritten = 3; });
     panel = new screens::frmBandOptionsSigned(*window, band, window.get());
     panel->show();
     EXPECT_FALSE(panel->lblAlbum->isEnabled()) << "an album in hand";
@@ -154,10 +146,11 @@ TEST_F(ScreenTest, ARecordedAlbumIsReleasedFromTheBandsPanel) {
     g.disc->trackCount = 10;
     g.disc->tracksRecorded = 10;
     const auto disc = static_cast<int16_t>(g.disc.append());
-    g.band.read(band);
-    g.band->albumStatus = 3;  // recorded; the disc's number is held in songsWritten
-    g.band->songsWritten = disc;
-    g.band.write();
+    // recorded; the disc's number is held in songsWritten
+    amend(g.band, band, [&] {
+        g.band->albumStatus = 3;
+        g.band->songsWritten = disc;
+    });
     auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());
     panel->show();
     EXPECT_EQ(panel->lblAlbumProgress->text().toStdString(), "Release Album");
@@ -211,12 +204,13 @@ TEST_F(ScreenTest, AnEndedOptionIsDecidedOnItsOwnScreen) {
     startNewGameAsPlayer();
     Game& g = *game;
     const int16_t band = addSignedBand(g);
-    g.band.read(band);
-    g.band->offerStage = 1;
-    g.band->additionalAdvanceCount = 2;
-    g.band->optionsRemaining = 2;  // the second term has ended
-    g.band->additionalAdvance = moneyUnits(30000);
-    g.band.write();
+    // the second term has ended
+    amend(g.band, band, [&] {
+        g.band->offerStage = 1;
+        g.band->additionalAdvanceCount = 2;
+        g.band->optionsRemaining = 2;
+        g.band->additionalAdvance = moneyUnits(30000);
+    });
     ScheduleRecord entry{};
     entry.type = 18;
     entry.band = band;

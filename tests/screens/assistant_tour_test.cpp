@@ -10,6 +10,7 @@
 #include "screen_fixture.h"
 #include "screens/album_screens.h"
 #include "screens/tour_screens.h"
+#include "support/amend.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -18,11 +19,8 @@ using test::ScreenTest;
 namespace {
 
 int16_t addSoloAct(Game& g) {
-    g.artist.rec = ArtistRecord{};
-    g.artist->forename = std::string("Nia");
-    g.artist->surname = std::string("Hart");
-    g.artist->male = -1;
-    g.artist->energy = 100;
+    g.artist.rec =
+        ArtistRecord{.forename = std::string("Nia"), .surname = std::string("Hart"), .male = -1, .energy = 100};
     const auto artist = static_cast<int16_t>(g.artist.append());
     g.band.rec = BandRecord{};
     g.band->name = std::string("The Hartbeats");
@@ -31,9 +29,7 @@ int16_t addSoloAct(Game& g) {
     g.band->members = {artist};
     g.band->reputation = {30, 30, 30, 30, 30};
     const auto band = static_cast<int16_t>(g.band.append());
-    g.artist.read(artist);
-    g.artist->band = band;
-    g.artist.write();
+    amend(g.artist, artist, [&] { g.artist->band = band; });
     return band;
 }
 
@@ -102,9 +98,7 @@ TEST_F(ScreenTest, TheAssistantPlansATourOfTheHomeNationsThatTheRecordsKeep) {
         EXPECT_EQ(night.bill[0], band);
         EXPECT_EQ(night.tour, tour.tourNumber);
         EXPECT_GT(night.gigDate, previous) << "the nights run forward";
-        if (i == 0) {
-            EXPECT_GE(night.gigDate, g.gameDate + 42) << "six weeks' notice";
-        }
+        if (i == 0) { EXPECT_GE(night.gigDate, g.gameDate + 42) << "six weeks' notice"; }
         previous = night.gigDate;
         played.insert(night.venue);
         int entries = 0;

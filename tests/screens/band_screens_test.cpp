@@ -19,12 +19,11 @@ namespace {
 int16_t addFreeBand(Game& g, const std::string& name) {
     std::array<int16_t, 10> members{};
     for (int i = 0; i < 2; ++i) {
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = i == 0 ? "Rae" : "Sol";
-        g.artist->surname = "Marsh";
-        g.artist->age = static_cast<uint8_t>(20 + i);
-        g.artist->male = kTrue;
-        g.artist->energy = 100;
+        g.artist.rec = ArtistRecord{.forename = i == 0 ? "Rae" : "Sol",
+                                    .surname = "Marsh",
+                                    .age = static_cast<uint8_t>(20 + i),
+                                    .male = kTrue,
+                                    .energy = 100};
         members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
     }
     g.band.rec = BandRecord{};
@@ -149,23 +148,6 @@ TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
     screenshot("band_06_options_approached");
     click(withdraw);
     EXPECT_EQ(hasOfferFrom(*game, game->player.playerLabel, band), 0);
-}
-
-TEST_F(BandScreens, AnActSignedElsewhereCannotBeApproached) {
-    openFromSearch("Tess Calloway");
-    EXPECT_FALSE(extraEntry("lblApproach")->isEnabled());
-    EXPECT_TRUE(window->sideBar()->extraPanel()->entry("lblScout")->isEnabled());
-}
-
-TEST_F(BandScreens, ThePlayersOwnBandOpensTheSignedPanel) {
-    game->band.read(band);
-    game->band->label = game->player.playerLabel;
-    game->band.write();
-    openFromSearch("The Marsh Lights");
-    QPushButton* album = extraEntry("lblAlbum");
-    ASSERT_NE(album, nullptr);
-    EXPECT_TRUE(album->isEnabled()) << "no album is in hand";
-    EXPECT_EQ(window->sideBar()->extraPanel()->objectName(), "frmBandOptionsSigned");
 }
 
 TEST_F(BandScreens, ADiscOfTheBandOpensDiscDetails) {

@@ -10,6 +10,7 @@
 #include "screens/browse_grid_widget.h"
 #include "screens/ceremony_details_screens.h"
 #include "screens/side_bar.h"
+#include "support/amend.h"
 #include "world/dates.h"
 #include "world/strings.h"
 
@@ -195,9 +196,7 @@ TEST_F(CeremonyDetailsScreens, NominationsForTheNextNightAreNotPassedOffAsTheLas
 TEST_F(CeremonyDetailsScreens, ACeremonyNeverHeldSaysSoInsteadOfAGrid) {
     // As the base world files it: a count of places, all of them empty.
     g().ceremony.read(neverHeld);
-    g().award.read(g().ceremony->awards[0]);
-    g().award->nomineeCount = 5;
-    g().award.write();
+    amend(g().award, g().ceremony->awards[0], [&] { g().award->nomineeCount = 5; });
     auto* list = openList();
     ASSERT_NE(list, nullptr);
     openRow(list, rowNamed(list, "Silver Mic Awards"));

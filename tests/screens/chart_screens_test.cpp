@@ -51,7 +51,7 @@ protected:
     int16_t a = 0, b = 0, c = 0;
 };
 
-TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntries) {
+TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntriesAndAPastWeekAndAnotherChartCanBeChosen) {
     startNewGameAsPlayer();
     threeWeeks();
     screens::frmChartForm form(*window);
@@ -71,12 +71,7 @@ TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntries) {
     screenshotOf(&form, QStringLiteral("30_frmChartForm"));
     form.TabChartTab->setCurrentIndex(3);
     screenshotOf(&form, QStringLiteral("31_frmChartForm_styles"));
-}
 
-TEST_F(ChartScreen, APastWeekAndAnotherChartCanBeChosen) {
-    startNewGameAsPlayer();
-    threeWeeks();
-    screens::frmChartForm form(*window);
     form.cmbWeek->setCurrentIndex(2);  // the oldest week
     ASSERT_EQ(form.model()->lines().size(), 2u);
     EXPECT_EQ(form.model()->lines()[0].e.disc, c);
@@ -104,8 +99,6 @@ TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
     EXPECT_TRUE(rows[1].contains(QStringLiteral("\"Bravo, Live\""))) << rows[1].toStdString();
 }
 
-}  // namespace
-
 TEST_F(ChartScreen, TheChartsPanelOpensTheChosenChart) {
     startNewGameAsPlayer();
     click("btnCharts");
@@ -115,3 +108,5 @@ TEST_F(ChartScreen, TheChartsPanelOpensTheChosenChart) {
     ASSERT_NE(form, nullptr);
     EXPECT_EQ(form->chart(), 6);
 }
+
+}  // namespace

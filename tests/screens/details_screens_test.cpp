@@ -14,6 +14,7 @@
 #include "screens/option_panels.h"
 #include "screens/side_bar.h"
 #include "session/save_load.h"
+#include "support/amend.h"
 #include "support/calendar_world.h"
 #include "world/strings.h"
 
@@ -127,14 +128,13 @@ TEST_F(DetailsScreens, ExtraOpensTheOptionsOfEachDetailsScreenAndClosesOnASecond
 
     const int16_t rival = game->player.playerLabel == 1 ? 2 : 1;
     ASSERT_LT(rival, game->label.recordCount());
-    game->band.read(theirs);
-    game->band->label = rival;
-    game->band.write();
+    amend(game->band, theirs, [&] { game->band->label = rival; });
     window->openBand(theirs);
     panel = pressExtra();
     ASSERT_NE(panel, nullptr);
     EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned") << "signed elsewhere";
     EXPECT_FALSE(panel->entry("lblApproach")->isEnabled());
+    EXPECT_TRUE(panel->entry("lblScout")->isEnabled());
 
     window->openArtist(member(ours, 1));
     panel = pressExtra();
@@ -148,7 +148,9 @@ TEST_F(DetailsScreens, ExtraOpensTheOptionsOfEachDetailsScreenAndClosesOnASecond
     EXPECT_EQ(pressExtra(), nullptr) << "the player's own record has no options";
 
     window->openScreen(Screen::frmNews);
+    QWidget* news = window->currentScreenWidget();
     EXPECT_EQ(pressExtra(), nullptr) << "a screen without options";
+    EXPECT_EQ(window->currentScreenWidget(), news);
 }
 
 TEST_F(DetailsScreens, ContinueClosesTheOptions) {
@@ -212,10 +214,8 @@ TEST_F(DetailsScreens, TheHallOfFameAndTheBirthdayNoteOpenFromTheGameOptions) {
 
 TEST_F(DetailsScreens, AStorysAnswersShowTheirStatementsAndDefendPostsIt) {
     Game& g = *game;
-    g.event.rec = EventRecord{};
-    g.event->eventNumber = static_cast<int16_t>(g.event.recordCount());
-    g.event->participantCount = 1;
-    g.event->replyCount = 2;
+    g.event.rec =
+        EventRecord{.eventNumber = static_cast<int16_t>(g.event.recordCount()), .participantCount = 1, .replyCount = 2};
     g.event->replyText[0] = std::string("We stand by <an1>.");
     g.event->replyText[1] = std::string("<an1> has let us all down.");
     const int16_t event = static_cast<int16_t>(g.event.append());
@@ -288,16 +288,14 @@ TEST_F(DetailsScreens, ASessionThatStartsOnThePlayersBirthdayOpensTheNote) {
 
 TEST_F(DetailsScreens, AVenueCardListsItsGigsLatestFirst) {
     Game& g = *game;
-    g.venue.rec = VenueRecord{};
-    g.venue->name = std::string("The Marsh Hall");
-    g.venue->capacity = 2500;
+    g.venue.rec = VenueRecord{.name = std::string("The Marsh Hall"), .capacity = 2500};
     const int16_t venue = static_cast<int16_t>(g.venue.append());
     for (auto [date, attendance] : {std::pair{test::day(2004, 3, 2), 900}, {test::day(2004, 6, 9), 2100}}) {
         const int32_t gig = test::addGig(g, ours, date);
-        g.gig.read(gig);
-        g.gig->venue = venue;
-        g.gig->attendance = attendance;
-        g.gig.write();
+        amend(g.gig, gig, [&] {
+            g.gig->venue = venue;
+            g.gig->attendance = attendance;
+        });
     }
     window->openVenue(venue);
     auto* card = dialog<screens::frmVenueCard>("frmVenueCard");

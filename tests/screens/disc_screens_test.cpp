@@ -9,6 +9,7 @@
 #include "screen_fixture.h"
 #include "screens/disc_screens.h"
 #include "screens/single_screens.h"
+#include "support/amend.h"
 #include "world/dates.h"
 #include "world/strings.h"
 
@@ -78,9 +79,7 @@ TEST_F(DiscForms, NothingTickedActsAsCancel) {
 }
 
 TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
-    game->disc.read(disc);
-    game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
-    game->disc.write();
+    amend(game->disc, disc, [&] { game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20); });
     screens::frmPressDiscs form(*game, disc);
     form.show();
     EXPECT_FALSE(form.cmbQuantities[1]->isEnabled());
@@ -98,9 +97,7 @@ TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
 }
 
 TEST_F(DiscForms, TheDistributorFormListsTheWeeksTerritoriesAndConfirms) {
-    game->disc.read(disc);
-    game->disc->releaseDate = {game->gameDate + 6, game->gameDate + 30, 0, 0, 0};
-    game->disc.write();
+    amend(game->disc, disc, [&] { game->disc->releaseDate = {game->gameDate + 6, game->gameDate + 30, 0, 0, 0}; });
     screens::frmChooseDistributor form(*game, disc);
     form.show();
     ASSERT_NE(form.cmbFirm[0], nullptr);
@@ -114,11 +111,11 @@ TEST_F(DiscForms, TheDistributorFormListsTheWeeksTerritoriesAndConfirms) {
 }
 
 TEST_F(DiscForms, DiscDetailsShowsEachTerritory) {
-    game->disc.read(disc);
-    game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
-    game->disc->stock[0] = 12000;
-    game->disc->totalSales[0] = 61000;
-    game->disc.write();
+    amend(game->disc, disc, [&] {
+        game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
+        game->disc->stock[0] = 12000;
+        game->disc->totalSales[0] = 61000;
+    });
     screens::frmDiscDetails details(*window, disc);
     details.resize(1280, 800);
     details.show();
@@ -161,11 +158,7 @@ TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
         EXPECT_EQ(noStudio.lblRefusal->text().toStdString(), "Please choose an open studio from the list.");
         EXPECT_EQ(g.disc.recordCount(), discsBefore) << "a refusal makes nothing";
     }
-    g.business.rec = BusinessRecord{};
-    g.business->name = "Tin Roof";
-    g.business->kind = 0;
-    g.business->open = -1;
-    g.business->quality = 40;
+    g.business.rec = BusinessRecord{.name = "Tin Roof", .kind = 0, .quality = 40, .open = -1};
     const auto studio = static_cast<int16_t>(g.business.append());
     screens::frmChooseBSides sides(g, disc, songs[0]);
     sides.show();

@@ -20,11 +20,7 @@ TEST_F(ScreenTest, FindFestivalsListsThisYearAndOpensADaysBill) {
     // A two-day festival eight weeks on, its bill drawn up at once.
     const double first = g.gameDate + 56;
     const int year = yearOf(first);
-    g.festival.rec = FestivalRecord{};
-    g.festival->festivalName = "Long Meadow Weekend";
-    g.festival->prestige = 60;
-    g.festival->billSize = 4;
-    g.festival->days = 2;
+    g.festival.rec = FestivalRecord{.prestige = 60, .billSize = 4, .days = 2, .festivalName = "Long Meadow Weekend"};
     const auto week = static_cast<uint8_t>(static_cast<int>(first - serialFromCivil(year, 1, 1)) / 7 + 1);
     g.festival->weekday = {static_cast<uint8_t>(weekdayOf(first)), static_cast<uint8_t>(weekdayOf(first + 1))};
     g.festival->week = {week, week};

@@ -8,6 +8,7 @@
 #include "screens/media_screens.h"
 #include "screens/save_game_screen.h"
 #include "screens/theme.h"
+#include "support/amend.h"
 #include "world/strings.h"
 
 using namespace trovane;
@@ -19,10 +20,10 @@ protected:
     // A new label has no acts: the first act of the world signs for it.
     int16_t ourBand() {
         Game& g = *game;
-        g.band.read(1);
-        g.band->label = g.player.playerLabel;
-        g.band->retired = kFalse;
-        g.band.write();
+        amend(g.band, 1, [&] {
+            g.band->label = g.player.playerLabel;
+            g.band->retired = kFalse;
+        });
         return 1;
     }
 };

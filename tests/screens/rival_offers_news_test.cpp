@@ -11,12 +11,11 @@ namespace trovane::test {
 namespace {
 
 int16_t addBidder(Game& g, const std::string& name) {
-    g.label.rec = LabelRecord{};
-    g.label->name = name;
-    g.label->maxBands = 10;
-    g.label->cashBalance = moneyUnits(5'000'000);
-    g.label->cashReserve = moneyUnits(100'000);
-    g.label->reputation = {50, 50, 50, 50, 50};
+    g.label.rec = LabelRecord{.name = name,
+                              .maxBands = 10,
+                              .cashBalance = moneyUnits(5'000'000),
+                              .cashReserve = moneyUnits(100'000),
+                              .reputation = {50, 50, 50, 50, 50}};
     return static_cast<int16_t>(g.label.append());
 }
 
@@ -35,10 +34,8 @@ TEST_F(ScreenTest, ARivalOffersItemListsEachBidderOnItsOwnLine) {
     const int16_t act = static_cast<int16_t>(g.band.recordCount());
     BandRecord b{};
     for (std::size_t i = 0; i < 2; ++i) {
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = "Member" + std::to_string(i + 1);
-        g.artist->surname = std::string("Wanted");
-        g.artist->male = -1;
+        g.artist.rec =
+            ArtistRecord{.forename = "Member" + std::to_string(i + 1), .surname = std::string("Wanted"), .male = -1};
         g.artist->band = act;
         g.artist->style = 1;
         b.members[i] = static_cast<int16_t>(g.artist.append());

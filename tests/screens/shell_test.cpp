@@ -60,15 +60,6 @@ TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
     EXPECT_EQ(screen(), Screen::frmNews);
 }
 
-TEST_F(ScreenTest, ExtraDoesNothingOnTheNews) {
-    startNewGameAsPlayer();
-    QWidget* news = window->currentScreenWidget();
-    click(window->sideBar()->cmdExtra);
-    EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
-    EXPECT_EQ(window->currentScreenWidget(), news);
-    EXPECT_EQ(screen(), Screen::frmNews);
-}
-
 TEST_F(ScreenTest, ContinueHasKeysAndShowsTheLoadingScreenBeforeTheDayRuns) {
     startNewGameAsPlayer();
     bool loadingSeenBeforeDay = false;
@@ -167,17 +158,6 @@ TEST_F(ScreenTest, CurrencyChangesTheCashShownAndNeverTheCashHeld) {
     EXPECT_EQ(window->gameStatusBar()->lblCash->text(), "$1,770,000");
     EXPECT_EQ(game->player.playerLabelCash, held);
     EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
-}
-
-TEST_F(ScreenTest, TheDisclaimerSaysItWordForWord) {
-    startNewGameAsPlayer();
-    click(window->sideBar()->btnGameOptions);
-    click("lblDisclaimer");
-    EXPECT_EQ(find<QLabel>("lblDisclaimer")->text(),
-              "This game is an unofficial simulation of the music industry and as such has no connection with the "
-              "featured artists, bands or record labels.");
-    click("btnOk");
-    EXPECT_EQ(screen(), Screen::frmNews);
 }
 
 TEST_F(ScreenTest, TheDayListFollowsTheMonthAndCancelDropsTheWorkingSet) {

@@ -19,11 +19,8 @@ using test::ScreenTest;
 namespace {
 
 int16_t addSignedBand(Game& g) {
-    g.artist.rec = ArtistRecord{};
-    g.artist->forename = std::string("Nia");
-    g.artist->surname = std::string("Hart");
-    g.artist->male = -1;
-    g.artist->energy = 100;
+    g.artist.rec =
+        ArtistRecord{.forename = std::string("Nia"), .surname = std::string("Hart"), .male = -1, .energy = 100};
     const auto artist = static_cast<int16_t>(g.artist.append());
     g.band.rec = BandRecord{};
     g.band->name = std::string("The Hartbeats");

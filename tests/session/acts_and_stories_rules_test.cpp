@@ -8,6 +8,7 @@
 #include "schedule/schedule.h"
 #include "session/invariants.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 
 using namespace trovane;
 using test::AlbumWorld;
@@ -22,9 +23,7 @@ std::optional<InvariantBreak> runRule(Game& g, std::string_view name) {
 }
 
 void retire(Game& g, int16_t band) {
-    g.band.read(band);
-    g.band->retired = kTrue;
-    g.band.write();
+    amend(g.band, band, [&] { g.band->retired = kTrue; });
 }
 
 // A story of type 3 whose root leads to a stage of an event of type 6.
@@ -37,9 +36,8 @@ struct Stories : AlbumWorld {
         a = g.band->members[0];
         b = g.band->members[1];
         for (uint8_t type : {uint8_t{3}, uint8_t{6}}) {
-            g.event.rec = EventRecord{};
-            g.event->eventNumber = static_cast<int16_t>(g.event.recordCount());
-            g.event->participantCount = 2;
+            g.event.rec =
+                EventRecord{.eventNumber = static_cast<int16_t>(g.event.recordCount()), .participantCount = 2};
             g.event->eventType = type;
             g.event.append();
         }
@@ -51,9 +49,7 @@ struct Stories : AlbumWorld {
         return g.schedule.rec;
     }
     void setMark(int16_t artist, std::size_t type, int16_t value) {
-        g.artist.read(artist);
-        g.artist->storyUnderWay[type] = value;
-        g.artist.write();
+        amend(g.artist, artist, [&] { g.artist->storyUnderWay[type] = value; });
     }
 };
 

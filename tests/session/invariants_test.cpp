@@ -24,11 +24,7 @@ struct Fault {
 // Two labels, the second the player's, with a head in Finance and Law and a
 // month already closed into the books.
 void soundGame(Game& g) {
-    g.staff.rec = StaffRecord{};
-    g.staff->ability = 80;
-    g.staff->wage = moneyUnits(700);
-    g.staff->employer = 2;
-    g.staff->department = 1;
+    g.staff.rec = StaffRecord{.ability = 80, .employer = 2, .department = 1, .wage = moneyUnits(700)};
     g.staff.append();
     g.label.rec = LabelRecord{};
     g.label->cashBalance = moneyUnits(100);
@@ -167,9 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
               "song", 1, "disc", "songsAndDiscsPointWithin"},
         Fault{"MoreTracksRecordedThanBooked",
               [](Game& g) {
-                  g.disc.rec = DiscRecord{};
-                  g.disc->trackCount = 2;
-                  g.disc->tracksRecorded = 3;
+                  g.disc.rec = DiscRecord{.trackCount = 2, .tracksRecorded = 3};
                   g.disc.append();
               },
               "disc", 1, "tracksRecorded", "songsAndDiscsPointWithin"},

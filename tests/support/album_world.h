@@ -28,13 +28,9 @@ struct AlbumWorld {
         g.style->name = std::string("Rock");
         g.style->commerciality = 60;
         g.style.append();
-        g.label.rec = LabelRecord{};
-        g.label->name = std::string("Rival Records");
-        g.label->bandCount = 1;
+        g.label.rec = LabelRecord{.name = std::string("Rival Records"), .bandCount = 1};
         g.label.append();
-        g.label.rec = LabelRecord{};
-        g.label->name = std::string("Home Label");
-        g.label->bandCount = 1;
+        g.label.rec = LabelRecord{.name = std::string("Home Label"), .bandCount = 1};
         g.label.append();
         g.player.playerLabel = kPlayer;
     }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "schedule/schedule.h"
+#include "support/amend.h"
 #include "world/dates.h"
 #include "world/game.h"
 
@@ -17,10 +18,7 @@ inline int16_t addBand(Game& g, std::initializer_list<int> energies, int16_t lab
                        const std::string& name = "The Testers") {
     std::vector<int16_t> members;
     for (int e : energies) {
-        g.artist.rec = ArtistRecord{};
-        g.artist->energy = static_cast<int16_t>(e);
-        g.artist->morale = 50;
-        g.artist->male = kTrue;
+        g.artist.rec = ArtistRecord{.male = kTrue, .energy = static_cast<int16_t>(e), .morale = 50};
         members.push_back(static_cast<int16_t>(g.artist.append()));
     }
     g.band.rec = BandRecord{};
@@ -30,9 +28,7 @@ inline int16_t addBand(Game& g, std::initializer_list<int> energies, int16_t lab
     for (std::size_t i = 0; i < members.size(); ++i) g.band->members[i] = members[i];
     int16_t id = static_cast<int16_t>(g.band.append());
     for (int16_t m : members) {
-        g.artist.read(m);
-        g.artist->band = id;
-        g.artist.write();
+        amend(g.artist, m, [&] { g.artist->band = id; });
     }
     return id;
 }
@@ -52,10 +48,10 @@ inline int32_t addGig(Game& g, int16_t headliner, double date, std::initializer_
     g.gig->tour = tour;
     g.gig->gigDate = date;
     int32_t gig = g.gig.append();
-    g.tour.read(tour);
-    g.tour->gigCount = 1;
-    g.tour->gigs[0] = gig;
-    g.tour.write();
+    amend(g.tour, tour, [&] {
+        g.tour->gigCount = 1;
+        g.tour->gigs[0] = gig;
+    });
     return gig;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // A label, a band of two, a style, a distributor, a plant and discs, made by
 // hand for the release, sales and chart tests.
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/dates.h"
 #include "world/record_store.h"
@@ -14,10 +15,7 @@ public:
     int16_t label = 0, rival = 0, band = 0, style = 0, distributor = 0, plant = 0;
 
     DiscWorld() {
-        g.style.rec = StyleRecord{};
-        g.style->abilityWeight = 50;
-        g.style->popularity = {60, 60, 60, 60, 60};
-        g.style->lifeSpan = 20;
+        g.style.rec = StyleRecord{.lifeSpan = 20, .popularity = {60, 60, 60, 60, 60}, .abilityWeight = 50};
         style = static_cast<int16_t>(g.style.append());
         label = addLabel("Our Records");
         rival = addLabel("Their Records");
@@ -58,9 +56,7 @@ public:
             g.artist->imageRating = 80;
             g.artist->royaltyShare = 50;
             g.artist->band = id;
-            g.band.read(id);
-            g.band->members[i] = static_cast<int16_t>(g.artist.append());
-            g.band.write();
+            amend(g.band, id, [&] { g.band->members[i] = static_cast<int16_t>(g.artist.append()); });
         }
         return id;
     }

@@ -6,6 +6,7 @@
 
 #include "live/festivals.h"
 #include "schedule/schedule.h"
+#include "support/amend.h"
 #include "support/gig_world.h"
 #include "world/strings.h"
 
@@ -19,9 +20,7 @@ public:
         farm = addVenue("Halcote Farm", 50000, leeds);
         festival = addFestival("Halcote Summer Gathering", {7, 1}, {28, 28}, 3);
         // The player's act stays off the bills unless a test raises it.
-        g.band.read(band);
-        g.band->reputation = {0, 0, 0, 0, 0};
-        g.band.write();
+        amend(g.band, band, [&] { g.band->reputation = {0, 0, 0, 0, 0}; });
     }
 
     int16_t addFestival(const char* name, std::vector<uint8_t> weekdays, std::vector<uint8_t> weeks, uint8_t billSize) {
@@ -45,9 +44,7 @@ public:
         return id;
     }
     void setReputation(int16_t act, uint8_t rep) {
-        g.band.read(act);
-        g.band->reputation[0] = rep;
-        g.band.write();
+        amend(g.band, act, [&] { g.band->reputation[0] = rep; });
     }
 
     // The festival's tour, made by scheduleFestivals for 2004.

@@ -2,6 +2,7 @@
 // The disc world's label and band of two, with countries, cities and venues
 // to play, for the gig and booking tests.
 #include "live/tours.h"
+#include "support/amend.h"
 #include "support/disc_world.h"
 
 namespace trovane::test {
@@ -20,23 +21,19 @@ public:
         leeds = addCity("Leeds", england);
         paris = addCity("Paris", france);
         rio = addCity("Rio", brazil);
-        g.style.read(style);
-        g.style->singingWeight = 50;
-        g.style->dancingWeight = 30;
-        g.style->contentWeight = 20;
-        g.style.write();
+        amend(g.style, style, [&] {
+            g.style->singingWeight = 50;
+            g.style->dancingWeight = 30;
+            g.style->contentWeight = 20;
+        });
     }
 
     int16_t addCountry(const char* name, const char* region) {
-        g.country.rec = CountryRecord{};
-        g.country->name = name;
-        g.country->region = region;
+        g.country.rec = CountryRecord{.name = name, .region = region};
         return static_cast<int16_t>(g.country.append());
     }
     int16_t addCity(const char* name, int16_t country) {
-        g.city.rec = CityRecord{};
-        g.city->name = name;
-        g.city->country = static_cast<uint8_t>(country);
+        g.city.rec = CityRecord{.name = name, .country = static_cast<uint8_t>(country)};
         return static_cast<int16_t>(g.city.append());
     }
     int16_t addVenue(const char* name, int32_t capacity, int16_t city) {
@@ -73,10 +70,10 @@ public:
     void setMembers(int16_t energy, int32_t wealth = 0) {
         g.band.read(band);
         for (int i = 0; i < 2; ++i) {
-            g.artist.read(g.band->members[static_cast<std::size_t>(i)]);
-            g.artist->energy = energy;
-            g.artist->wealth = wealth;
-            g.artist.write();
+            amend(g.artist, g.band->members[static_cast<std::size_t>(i)], [&] {
+                g.artist->energy = energy;
+                g.artist->wealth = wealth;
+            });
         }
     }
     int32_t wealthOfFirstMember() {

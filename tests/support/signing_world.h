@@ -55,10 +55,8 @@ inline int16_t addAct(Game& g, const ActSpec& s) {
     std::array<int16_t, 10> members{};
     for (int16_t rank : s.ranks) {
         int16_t job = addJob(g, rank);
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = "Member";
-        g.artist->surname = std::to_string(i + 1);
-        g.artist->job = static_cast<uint8_t>(job);
+        g.artist.rec =
+            ArtistRecord{.forename = "Member", .surname = std::to_string(i + 1), .job = static_cast<uint8_t>(job)};
         g.artist->band = id;
         g.artist->male = kTrue;
         g.artist->style = s.style;

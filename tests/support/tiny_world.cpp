@@ -31,53 +31,33 @@ void writeTinyBaseWorld(const std::filesystem::path& dataDir) {
         {"Brazil", "Brazilian", "S", "Rio de Janeiro"},
     };
     for (const auto& c : countries) {
-        g.country.rec = CountryRecord{};
-        g.country->name = c.name;
-        g.country->adjective = c.adjective;
-        g.country->region = c.region;
+        g.country.rec = CountryRecord{.name = c.name, .adjective = c.adjective, .region = c.region};
         int32_t n = g.country.append();
-        g.city.rec = CityRecord{};
-        g.city->name = c.city;
-        g.city->size = 10;
-        g.city->country = static_cast<uint8_t>(n);
+        g.city.rec = CityRecord{.name = c.city, .size = 10, .country = static_cast<uint8_t>(n)};
         g.city.append();
     }
     for (const char* name : {"Indie Rock", "Legend"}) {
-        g.style.rec = StyleRecord{};
-        g.style->name = name;
-        g.style->lifeSpan = 10;
+        g.style.rec = StyleRecord{.name = name, .lifeSpan = 10};
         g.style.append();
     }
-    g.label.rec = LabelRecord{};
-    g.label->name = "Greystone Music";
-    g.label->cashBalance = moneyUnits(4500000);
-    g.label->reputation = {70, 55, 60, 40, 35};
-    g.label->city = 1;
+    g.label.rec = LabelRecord{
+        .name = "Greystone Music", .city = 1, .cashBalance = moneyUnits(4500000), .reputation = {70, 55, 60, 40, 35}};
     int32_t label = g.label.append();
 
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = "Morag";
-    g.staff->surname = "Dunbar";
-    g.staff->ability = 60;
-    g.staff->reputation = {50, 30, 40, 20, 10};
-    g.staff->employer = static_cast<int16_t>(label);
+    g.staff.rec = StaffRecord{.forename = "Morag",
+                              .surname = "Dunbar",
+                              .ability = 60,
+                              .reputation = {50, 30, 40, 20, 10},
+                              .employer = static_cast<int16_t>(label)};
     int32_t boss = g.staff.append();
     g.label.read(label);
     g.label->boss = static_cast<int16_t>(boss);
     g.label.write(label);
 
-    g.artist.rec = ArtistRecord{};
-    g.artist->forename = "Tess";
-    g.artist->surname = "Calloway";
-    g.artist->age = 24;
-    g.artist->stamina = 70;
-    g.artist->style = 1;
+    g.artist.rec = ArtistRecord{.forename = "Tess", .surname = "Calloway", .age = 24, .style = 1, .stamina = 70};
     int32_t artist = g.artist.append();
-    g.band.rec = BandRecord{};
-    g.band->name = "Tess Calloway";
-    g.band->style = 1;
-    g.band->label = static_cast<int16_t>(label);
-    g.band->memberCount = 1;
+    g.band.rec =
+        BandRecord{.name = "Tess Calloway", .style = 1, .label = static_cast<int16_t>(label), .memberCount = 1};
     g.band->members[0] = static_cast<int16_t>(artist);
     g.band->reputation = {45, 10, 20, 5, 5};
     int32_t band = g.band.append();

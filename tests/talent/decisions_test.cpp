@@ -4,6 +4,7 @@
 #include "day/dispatch.h"
 #include "floor/news_post.h"
 #include "label/scouting.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "talent/band_offers.h"
@@ -38,18 +39,16 @@ protected:
     int16_t addBand(std::initializer_list<int16_t> ranks, const std::string& name = "The Testers") {
         int16_t b = addAct(
             g, {.reputation = {0, 100, 0, 0, 0}, .ranks = ranks, .style = static_cast<uint8_t>(style), .name = name});
-        g.band.read(b);
-        g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
-        g.band->additionalAdvanceCount = 3;
-        g.band->optionLength = 18;
-        g.band->royaltyRate = 10;
-        g.band.write();
+        amend(g.band, b, [&] {
+            g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
+            g.band->additionalAdvanceCount = 3;
+            g.band->optionLength = 18;
+            g.band->royaltyRate = 10;
+        });
         return b;
     }
     void setStanding(int16_t label, int standing) {
-        g.label.read(label);
-        g.label->reputation[0] = static_cast<uint8_t>(standing + 20);
-        g.label.write();
+        amend(g.label, label, [&] { g.label->reputation[0] = static_cast<uint8_t>(standing + 20); });
     }
     // A rival's offer of the asked terms, with its own decision entry when asked.
     int32_t rivalOffer(int16_t label, double date, bool ownEntry) {
@@ -233,9 +232,8 @@ TEST_F(Deals, ThePlayersRejectedOfferIsWeighedWithTheWinnersLabel) {
     int16_t rival = addLabel(g, {25, 60, 0, 0, 0}, "Rival Records");  // standing 5: the asked terms score 90
     double date = g.gameDate + 3;
     rivalOffer(rival, date, true);
-    g.label.read(home);
-    g.label->reputation = {0, 0, 0, 0, 0};  // standing -200
-    g.label.write();
+    // standing -200
+    amend(g.label, home, [&] { g.label->reputation = {0, 0, 0, 0, 0}; });
     // Royalty 11: royaltyScore 110, mean round(round(310 / 3) x 0.9) = 93; at home round(93 - 18.6) = 74,
     // below the rival's 90. Weighed with the rival's standing of 5: round(93.47) = 93, above 90: no verdict.
     OfferMade m = makeOffer(g, band, {60'000, 60'000, 3, 18, 11});
@@ -269,11 +267,16 @@ TEST_F(Deals, OfEqualBestScoresTheLaterOfferWins) {
     EXPECT_EQ(entriesOn(date)[0].offer, later);
 }
 
-TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithIt) {
+TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithItButNotOnTheDecisionDay) {
     OfferMade m = makeOffer(g, band, asked);
     int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
     int32_t joiner = rivalOffer(rival, m.decisionDate, false);
-    g.gameDate += 1;
+    const double today = g.gameDate;
+    g.gameDate = m.decisionDate;
+    EXPECT_NE(checkWithdraw(g, band), "");
+    g.gameDate = m.decisionDate - 1;
+    EXPECT_EQ(checkWithdraw(g, band), "");
+    g.gameDate = today + 1;
     EXPECT_EQ(checkWithdraw(g, band), "");
     withdrawOffer(g, band);
     EXPECT_EQ(entriesOn(m.decisionDate)[0].type, 255);
@@ -286,24 +289,14 @@ TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithIt) {
     EXPECT_TRUE(entriesOn(m.decisionDate + 1).empty());
 }
 
-TEST_F(Deals, NoWithdrawalOnTheDecisionDay) {
-    OfferMade m = makeOffer(g, band, asked);
-    g.gameDate = m.decisionDate - 1;
-    EXPECT_EQ(checkWithdraw(g, band), "");
-    g.gameDate = m.decisionDate;
-    EXPECT_NE(checkWithdraw(g, band), "");
-}
-
 TEST_F(Deals, ASignedOrRetiredBandTakesNoOffer) {
     EXPECT_EQ(checkOffer(g, band, asked), "");
-    g.band.read(band);
-    g.band->label = addLabel(g, {1, 1, 1, 1, 1}, "Other Records");
-    g.band.write();
+    amend(g.band, band, [&] { g.band->label = addLabel(g, {1, 1, 1, 1, 1}, "Other Records"); });
     EXPECT_EQ(checkOffer(g, band, asked), "The Testers have already signed for Other Records.");
-    g.band.read(band);
-    g.band->label = 0;
-    g.band->retired = kTrue;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->label = 0;
+        g.band->retired = kTrue;
+    });
     EXPECT_NE(checkOffer(g, band, asked), "");
     EXPECT_EQ(hasOfferFrom(g, home, band), 0) << "a refused offer files nothing";
 }
@@ -315,9 +308,7 @@ TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
     g.band.read(solo);
     g.label.read(rival);
     shortlistAdd(g);
-    g.newsong.rec = NewSongRecord{};
-    g.newsong->title = "Harbour Lights";
-    g.newsong->style = static_cast<uint8_t>(style);
+    g.newsong.rec = NewSongRecord{.title = "Harbour Lights", .style = static_cast<uint8_t>(style)};
     g.newsong.append();
     g.song.rec = SongRecord{};
     g.song->title = "Untitled";

@@ -5,6 +5,7 @@
 #include "live/venue_details.h"
 #include "schedule/schedule.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "support/calendar_world.h"
 #include "talent/artist_details.h"
 #include "talent/band_details.h"
@@ -33,9 +34,7 @@ TEST(DetailsText, BestShareHasTwoPlacesAndItsYear) {
 TEST(DetailsText, AJobIsNamedForTheArtistsSex) {
     AlbumWorld w;
     for (auto [title, female] : {std::pair{"Drummer", ""}, {"Frontman", "Frontwoman"}}) {
-        w.g.job.rec = JobRecord{};
-        w.g.job->title = std::string(title);
-        w.g.job->titleFemale = std::string(female);
+        w.g.job.rec = JobRecord{.title = std::string(title), .titleFemale = std::string(female)};
         w.g.job.append();
     }
     EXPECT_EQ(jobTitleFor(w.g, 1, false), "Drummer") << "no woman's title: the one title";
@@ -59,9 +58,7 @@ TEST(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
     test::addGig(g, them, d, {others, us});   // tour 3, we support in the third slot
     test::addGig(g, them, d, {us}, them, 1);  // tour 4, a festival
     for (int32_t t = 1; t <= 4; ++t) {
-        g.tour.read(t);
-        g.tour->areaCode = std::string(t == 3 ? "N" : "E");
-        g.tour.write();
+        amend(g.tour, t, [&] { g.tour->areaCode = std::string(t == 3 ? "N" : "E"); });
     }
     const std::vector<TourLine> tours = toursOf(g, us);
     ASSERT_EQ(tours.size(), 3u);
@@ -110,10 +107,10 @@ TEST(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
     const int16_t us = w.addBand("Us", AlbumWorld::kPlayer);
     g.band.read(us);
     const int16_t a = g.band->members[0];
-    g.artist.read(a);
-    g.artist->retired = kTrue;
-    g.artist->retirementDate = test::day(2005, 3, 4);
-    g.artist.write();
+    amend(g.artist, a, [&] {
+        g.artist->retired = kTrue;
+        g.artist->retirementDate = test::day(2005, 3, 4);
+    });
     const ArtistDetails d = artistDetails(g, a);
     EXPECT_EQ(std::tuple(d.retired, d.retirementDate, d.players), std::tuple(true, test::day(2005, 3, 4), false));
 }
@@ -121,10 +118,7 @@ TEST(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
 TEST(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
     AlbumWorld w;
     Game& g = w.g;
-    g.venue.rec = VenueRecord{};
-    g.venue->name = std::string("The Hall");
-    g.venue->capacity = 1200;
-    g.venue->city = 1;
+    g.venue.rec = VenueRecord{.name = std::string("The Hall"), .capacity = 1200, .city = 1};
     g.venue.append();
     const int16_t a = w.addBand("Alpha", AlbumWorld::kRival);
     const int16_t b = w.addBand("Beta", AlbumWorld::kRival);
@@ -134,13 +128,9 @@ TEST(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
     const int32_t sameDay = test::addGig(g, a, d);
     const int32_t elsewhere = test::addGig(g, b, d + 5);
     for (int32_t n : {early, late, sameDay}) {
-        g.gig.read(n);
-        g.gig->venue = 1;
-        g.gig.write();
+        amend(g.gig, n, [&] { g.gig->venue = 1; });
     }
-    g.gig.read(elsewhere);
-    g.gig->venue = 0;
-    g.gig.write();
+    amend(g.gig, elsewhere, [&] { g.gig->venue = 0; });
     const VenueDetails v = venueDetails(g, 1);
     EXPECT_EQ(std::tuple(v.name, v.city, v.country, v.capacity),
               std::tuple(std::string("The Hall"), std::string("London"), std::string("England"), 1200));

@@ -7,6 +7,7 @@
 
 #include "schedule/schedule_types.h"
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "talent/band_creation.h"
 #include "talent/lifecycle.h"
 #include "talent/retirement.h"
@@ -23,14 +24,13 @@ struct Lives : AlbumWorld {
     // record no act is drawn from.
     void readyForNewActs() {
         for (const char* name : {"Pop", "Last"}) {
-            g.style.rec = StyleRecord{};
-            g.style->name = std::string(name);
-            g.style->popularity = {100, 100, 100, 100, 100};
-            g.style->commerciality = 100;
-            g.style->membersUsual = 3;
-            g.style->membersHigh = 3;
-            g.style->membersLow = 3;
-            g.style->lifeSpan = 20;
+            g.style.rec = StyleRecord{.name = std::string(name),
+                                      .lifeSpan = 20,
+                                      .popularity = {100, 100, 100, 100, 100},
+                                      .commerciality = 100,
+                                      .membersHigh = 3,
+                                      .membersUsual = 3,
+                                      .membersLow = 3};
             g.style.append();
         }
     }
@@ -50,11 +50,8 @@ struct Lives : AlbumWorld {
     }
     // A free artist of job 1 and style 1 with every market at rep.
     int32_t freeArtist(uint8_t rep, uint8_t ability, int16_t band = 0, uint8_t stamina = 100) {
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = std::string("Cand");
-        g.artist->surname = std::to_string(g.artist.recordCount());
-        g.artist->style = 1;
-        g.artist->job = 1;
+        g.artist.rec = ArtistRecord{
+            .forename = std::string("Cand"), .surname = std::to_string(g.artist.recordCount()), .job = 1, .style = 1};
         g.artist->reputation = {rep, rep, rep, rep, rep};
         g.artist->ability = ability;
         g.artist->stamina = stamina;
@@ -294,9 +291,7 @@ TEST(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
 TEST(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
     Lives w;
     Game& g = w.g;
-    g.style.read(1);
-    g.style->lifeSpan = 100;
-    g.style.write();
+    amend(g.style, 1, [&] { g.style->lifeSpan = 100; });
     int16_t x = w.group("X");
     for (auto [age, filed] : {std::pair{50, false}, {51, true}}) {
         w.setBandRec(x, [&](BandRecord& b) { b.age = narrow<uint8_t>(age); });

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "support/played_world.h"
 #include "talent/artist_names.h"
 #include "talent/band_creation.h"
@@ -99,9 +100,7 @@ TEST(NameDraws, ARowWrittenInPlayIsDrawnAsItNowReads) {
     }
     EXPECT_EQ(drawForename(g, 1, true), 1);
     for (int16_t n : {1, 2}) {
-        g.forename.read(n);
-        g.forename->isMale = g.forename->isMale == kFalse ? kTrue : kFalse;
-        g.forename.write();
+        amend(g.forename, n, [&] { g.forename->isMale = g.forename->isMale == kFalse ? kTrue : kFalse; });
     }
     EXPECT_EQ(drawForename(g, 1, true), 2);
     EXPECT_EQ(g.forename->name.value, "Bea");
@@ -120,9 +119,7 @@ TEST(Birthplaces, ACityWrittenInPlayIsDrawnAsItNowReads) {
     EXPECT_EQ(pickBirthCity(g, 201), first);
     EXPECT_EQ(g.city->id, first + 1) << "the buffer as a walk of every city leaves it";
     for (int32_t n : {first, first + 1}) {
-        g.city.read(n);
-        g.city->country = g.city->country == 201 ? 202 : 201;
-        g.city.write();
+        amend(g.city, n, [&] { g.city->country = g.city->country == 201 ? 202 : 201; });
     }
     EXPECT_EQ(pickBirthCity(g, 201), first + 1);
 }

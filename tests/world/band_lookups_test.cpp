@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/played_world.h"
 #include "world/band_lookups.h"
@@ -88,9 +89,7 @@ struct TwoDiscs : ::testing::Test {
         }
     }
     void date(int32_t disc, int territory, double when) {
-        g.disc.read(disc);
-        g.disc->releaseDate[static_cast<std::size_t>(territory)] = when;
-        g.disc.write();
+        amend(g.disc, disc, [&] { g.disc->releaseDate[static_cast<std::size_t>(territory)] = when; });
     }
 };
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/disc_title_lookups.h"
 
@@ -16,9 +17,7 @@ struct DiscTitles : ::testing::Test {
         return g.disc.append();
     }
     void retitle(int32_t n, const std::string& title) {
-        g.disc.read(n);
-        g.disc->title = title;
-        g.disc.write();
+        amend(g.disc, n, [&] { g.disc->title = title; });
     }
 };
 

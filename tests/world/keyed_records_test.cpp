@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/matching_records.h"
 #include "world/record_bytes.h"
@@ -43,20 +44,16 @@ struct KeyedSchedule : ::testing::Test {
 TEST_F(KeyedSchedule, ARecordIsFiledUnderEachOfItsKeysAndMovesWithItsRewrites) {
     cast.keep(g.schedule, castOf);
     const int32_t a = add(7, 4, 9);
-    add(3, 4, 9);  // not of the kind kept
+    add(3, 4, 9);                    // not of the kind kept
     const int32_t c = add(7, 9, 9);  // the same key twice is filed once
     EXPECT_EQ(of(4), (std::vector<int32_t>{a}));
     EXPECT_EQ(of(9), (std::vector<int32_t>{a, c}));
     // A rewrite of a record already covered moves it between keys.
-    g.schedule.read(a);
-    g.schedule->artist2 = 5;
-    g.schedule.write();
+    amend(g.schedule, a, [&] { g.schedule->artist2 = 5; });
     EXPECT_EQ(of(9), (std::vector<int32_t>{c}));
     EXPECT_EQ(of(5), (std::vector<int32_t>{a}));
     // Changing its kind takes it out altogether.
-    g.schedule.read(c);
-    g.schedule->type = 3;
-    g.schedule.write();
+    amend(g.schedule, c, [&] { g.schedule->type = 3; });
     EXPECT_TRUE(of(9).empty());
     // Emptied, the table is indexed again from its first record.
     g.schedule.clearAll();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "day/daily_cycle.h"
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "world/news_lookups.h"
 
@@ -18,9 +19,7 @@ struct News : ::testing::Test {
         return g.news.append();
     }
     void setReplied(int32_t n, int16_t replied) {
-        g.news.read(n);
-        g.news->replied = replied;
-        g.news.write();
+        amend(g.news, n, [&] { g.news->replied = replied; });
     }
 };
 
