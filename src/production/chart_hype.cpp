@@ -39,11 +39,13 @@ int16_t keyOf(const Row& row, int mode) { return mode == 0 ? row.label : mode ==
 
 // What a rise over the open chart, number `chart`, needs of its rows: from
 // the copy kept of them when it still stands, or read anew into it.
-const ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
+ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
     ChartRowKeys& keys = g.chartRowKeys;
     if (!keys.watching) {
         g.disc.watchWrites(&keys,
-                           [&keys](int32_t, std::span<const uint8_t>, std::span<const uint8_t>) { ++keys.keysVersion; },
+                           [&keys](int32_t, std::span<const uint8_t> before, std::span<const uint8_t>) {
+                               if (!before.empty()) ++keys.keysVersion;  // an added disc is caught by the count
+                           },
                            {{kDiscId, sizeof(DiscRecord::id)},
                             {kDiscLabel, sizeof(DiscRecord::label)},
                             {kDiscBand, sizeof(DiscRecord::band)}});
@@ -51,24 +53,30 @@ const ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
     }
     ChartRowKeys::Chart& c = keys.charts[static_cast<std::size_t>(chart)];
     const int32_t rows = std::max(g.chart.recordCount() - 1, 0);
+    const int32_t discs = g.disc.recordCount();
     bool stands = c.discGeneration == g.disc.generation() && c.keysVersion == keys.keysVersion &&
-                  c.named.size() == static_cast<std::size_t>(rows);
+                  c.named.size() == static_cast<std::size_t>(rows) && discs >= c.discCount &&
+                  (!c.namesPastTheEnd || discs == c.discCount);
     for (int32_t n = 1; stands && n <= rows; ++n)
         stands =
             c.named[static_cast<std::size_t>(n - 1)] == fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
     if (stands) return c;
     c.named.resize(static_cast<std::size_t>(rows));
+    c.discCount = discs;
+    c.namesPastTheEnd = false;
     c.lastDisc = 0;
+    c.rows.clear();
     for (auto& by : c.discsBy) by.clear();
+    c.risesBy.fill(0);
     for (int32_t n = 1; n <= rows; ++n) {
-        c.named[static_cast<std::size_t>(n - 1)] = fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
+        const auto named = fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
+        c.named[static_cast<std::size_t>(n - 1)] = named;
+        if (named >= discs) c.namesPastTheEnd = true;
         const Row row = rowFromBytes(g, n);
         if (row.disc == 0) continue;
         c.lastDisc = row.disc;
-        for (int mode = 0; mode < 3; ++mode)
-            c.discsBy[static_cast<std::size_t>(mode)].emplace_back(keyOf(row, mode), row.disc);
+        c.rows.push_back(row);
     }
-    for (auto& by : c.discsBy) std::stable_sort(by.begin(), by.end(), [](auto a, auto b) { return a.first < b.first; });
     c.discGeneration = g.disc.generation();
     c.keysVersion = keys.keysVersion;
     return c;
@@ -96,9 +104,23 @@ void discsOfChart(Game& g, int chart, int mode, int32_t who, std::vector<int16_t
         }
         return;
     }
-    const ChartRowKeys::Chart& c = rowsOfChart(g, chart);
+    ChartRowKeys::Chart& c = rowsOfChart(g, chart);
     lastDisc = c.lastDisc;
-    const auto& by = c.discsBy[static_cast<std::size_t>(mode)];
+    const auto m = static_cast<std::size_t>(mode);
+    // A copy that serves one rise by a key is walked; one that serves more is sorted by it.
+    if (c.risesBy[m] < 2) ++c.risesBy[m];
+    auto& by = c.discsBy[m];
+    if (c.risesBy[m] < 2) {
+        for (const Row& row : c.rows)
+            if (keyOf(row, mode) == who) out.push_back(row.disc);
+        return;
+    }
+    if (by.empty() && !c.rows.empty()) {
+        by.reserve(c.rows.size());
+        for (const Row& row : c.rows) by.emplace_back(keyOf(row, mode), row.disc);
+        // The order of a key's discs does not matter: each rise is its own.
+        std::sort(by.begin(), by.end());
+    }
     auto it = std::lower_bound(by.begin(), by.end(), who, [](auto e, int32_t k) { return e.first < k; });
     for (; it != by.end() && it->first == who; ++it) out.push_back(it->second);
 }

@@ -97,7 +97,8 @@ struct EngagementIndex {
 // The discs each chart's rows name, with the fields of each disc that a rise
 // of hype over the chart tests (see production/chart_hype.cpp). A chart's
 // copy stands while its rows name the same discs, the disc table is the one
-// it was made from, and no disc's id, label or band has been written since.
+// it was made from, no disc's id, label or band has been changed since, and
+// no disc a row named past the table's end has been added.
 struct ChartRowKeys {
     struct Row {
         int16_t disc = 0;  // 0: the row names no disc of the table
@@ -108,13 +109,18 @@ struct ChartRowKeys {
     struct Chart {
         uint64_t discGeneration = UINT64_MAX;
         uint64_t keysVersion = UINT64_MAX;
-        std::vector<int16_t> named;  // the disc field of each row, from row 1
-        int16_t lastDisc = 0;        // the disc of the last row that names one
-        // The discs of the rows by label, by band and by id, each sorted by key.
+        std::vector<int16_t> named;    // the disc field of each row, from row 1
+        int32_t discCount = 0;         // the disc table's record count when made
+        bool namesPastTheEnd = false;  // a row named a disc the table did not yet hold
+        int16_t lastDisc = 0;          // the disc of the last row that names one
+        std::vector<Row> rows;         // the rows that name a disc, in order
+        // The discs of those rows by label, by band and by id, sorted by key:
+        // each made at the second rise by that key since the copy was made.
         std::array<std::vector<std::pair<int16_t, int16_t>>, 3> discsBy;
+        std::array<uint8_t, 3> risesBy{};
     };
     bool watching = false;
-    uint64_t keysVersion = 0;  // moves with each write to a disc's id, label or band
+    uint64_t keysVersion = 0;  // moves with each change to a disc's id, label or band
     std::array<Chart, 10> charts;
 };
 
