@@ -82,12 +82,10 @@ ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
     return c;
 }
 
-// The number of the chart open in the chart table, from its file's name
-// ("chart3.vel"), or -1.
+// The number of the chart open in the chart table, or -1 when it was not
+// opened by openChart.
 int openChartNumber(const Game& g) {
-    const std::string stem = g.chart.path().stem().string();
-    if (stem.size() != 6 || stem.compare(0, 5, "chart") != 0 || stem[5] < '0' || stem[5] > '9') return -1;
-    return stem[5] - '0';
+    return g.chart.isOpen() && g.chart.generation() == g.openedChartGeneration ? g.openedChart : -1;
 }
 
 // The discs of the open chart's rows that belong to `who`, in row order, and

@@ -28,7 +28,7 @@ int32_t dayNumberInYear(double date) {
     return static_cast<int32_t>(date - serialFromCivil(year, 1, 1)) + 1;
 }
 
-bool hasDayFile(const Game& g, int year) { return dataFileExists(g, dataFile(g, std::to_string(year), "vel")); }
+bool hasDayFile(const Game& g, int year) { return dataFileExists(g, dayFilePath(g, year)); }
 
 void addScheduleYear(Game& g, int year) {
     // No year may be skipped: a date two years ahead makes both, in order.

@@ -2,10 +2,12 @@
 // The one context object of a running game: every table with its record
 // buffer, the session state, the preferences, the random source and the clock.
 // Every operation of the game takes it first.
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -192,6 +194,14 @@ public:
     KeyedRecords<uint32_t> shortlistPairs;
     // The discs by title (see disc_title_lookups.h).
     KeyedRecords<std::string> discTitles;
+    // The paths of the years' day files and of the charts, each made once
+    // (see dayFilePath and openChart).
+    mutable std::map<int, std::filesystem::path> dayFilePaths;
+    mutable std::array<std::filesystem::path, 10> chartPaths;
+    // The chart openChart last opened, and the chart table's generation then:
+    // while that stands, the chart is still the one open.
+    int openedChart = -1;
+    uint64_t openedChartGeneration = 0;
     // The bytes of working-set tables closed since the last commit; declared
     // before the tables, which park here when they close.
     ParkedFiles parked;

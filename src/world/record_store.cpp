@@ -175,7 +175,7 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
 }
 
 bool dataFileExists(const Game& g, const fs::path& file) {
-    if (g.parked.contains(file)) return true;
+    if (g.parked.contains(file.native())) return true;
     std::error_code ec;
     return fs::exists(file, ec);
 }
@@ -191,7 +191,7 @@ void copyTableSet(Game& g, std::string_view fromExt, std::string_view toExt) {
     }
     if (!g.parked.empty())
         throw FatalError(fmt::format("Cannot copy the {} tables to {}: {} is not written yet", fromExt, toExt,
-                                     g.parked.begin()->first.string()));
+                                     g.parked.begin()->first));
     if (fromExt == "gam") checkBaseSet(g.dataDir);
     forgetCleanImages(g);
     for (auto stem : tableSetStems()) copyFile(dataFile(g, stem, fromExt), dataFile(g, stem, toExt));
@@ -230,9 +230,15 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name) {
     }
 }
 
-void openDayFile(Game& g, int year) { openPerUse(g.dayIndex, dataFile(g, std::to_string(year), "vel")); }
+const fs::path& dayFilePath(const Game& g, int year) {
+    auto [at, made] = g.dayFilePaths.try_emplace(year);
+    if (made) at->second = dataFile(g, std::to_string(year), "vel");
+    return at->second;
+}
+
+void openDayFile(Game& g, int year) { openPerUse(g.dayIndex, dayFilePath(g, year)); }
 void openNewDayFile(Game& g, int year) {
-    fs::path file = dataFile(g, std::to_string(year), "vel");
+    const fs::path& file = dayFilePath(g, year);
     if (g.dayIndex.isOpen())
         throw FatalError(fmt::format("Cannot open {}: file number {} still holds {}", file.string(),
                                      static_cast<int>(g.dayIndex.number()), g.dayIndex.path().string()));
@@ -241,7 +247,15 @@ void openNewDayFile(Game& g, int year) {
 void closeDayFile(Game& g) { g.dayIndex.close(); }
 
 void openChart(Game& g, int chartNumber) {
-    openPerUse(g.chart, dataFile(g, fmt::format("chart{}", chartNumber), "vel"));
+    if (chartNumber < 0 || static_cast<std::size_t>(chartNumber) >= g.chartPaths.size()) {
+        openPerUse(g.chart, dataFile(g, fmt::format("chart{}", chartNumber), "vel"));
+        return;
+    }
+    fs::path& file = g.chartPaths[static_cast<std::size_t>(chartNumber)];
+    if (file.empty()) file = dataFile(g, fmt::format("chart{}", chartNumber), "vel");
+    openPerUse(g.chart, file);
+    g.openedChart = chartNumber;
+    g.openedChartGeneration = g.chart.generation();
 }
 void closeChart(Game& g) { g.chart.close(); }
 

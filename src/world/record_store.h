@@ -60,6 +60,8 @@ int32_t findRecordByName(Game& g, FileNo n, std::string_view name);
 // Each number holds one file at a time, so the caller closes it right after
 // use, before any other operation gets control; opening it again while it is
 // open is refused. A missing file is an error that names it.
+// The path of a year's day file, made once for the game.
+const std::filesystem::path& dayFilePath(const Game& g, int year);
 void openDayFile(Game& g, int year);
 // Opens the day index of a year as a new empty file, whatever was there.
 void openNewDayFile(Game& g, int year);

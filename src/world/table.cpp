@@ -67,7 +67,7 @@ std::string TableBase::displayName() const {
 }
 
 void TableBase::adopt(const fs::path& path, TableImage image, std::optional<std::size_t> diskLength) {
-    path_ = path;
+    if (path_.native() != path.native()) path_ = path;  // a per-use file is mostly opened again by the same path
     image_ = std::move(image);
     diskLength_ = diskLength;
     dirty_.clear();
@@ -78,7 +78,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
     close();
     ++generation_;
     if (parked_) {
-        auto it = parked_->find(path);
+        auto it = parked_->find(path.native());
         if (it != parked_->end()) {
             ParkedImage p = std::move(it->second);
             parked_->erase(it);
@@ -134,7 +134,7 @@ void TableBase::open(const fs::path& path, IfMissing ifMissing) {
 
 void TableBase::openNew(const fs::path& path) {
     close();
-    if (parked_) parked_->erase(path);
+    if (parked_) parked_->erase(path.native());
     if (clean_) clean_->forget(path);
     std::error_code ec;
     auto size = fs::file_size(path, ec);
@@ -165,7 +165,7 @@ void TableBase::close() {
     if (!open_) return;
     if (parked_) {
         if (dirty_.any() || diskLength_ != image_.size())
-            (*parked_)[path_] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_), clean_};
+            (*parked_)[path_.native()] = ParkedImage{std::move(image_), diskLength_, std::move(dirty_), clean_};
         else if (clean_)
             clean_->keep(path_, std::move(image_));
         dirty_.clear();
@@ -213,7 +213,7 @@ void TableBase::tableFull(int32_t n) const {
 }
 
 std::optional<TableImage> CleanImages::take(const fs::path& file) {
-    auto it = std::find_if(files_.begin(), files_.end(), [&](const auto& f) { return f.first == file; });
+    auto it = std::find_if(files_.begin(), files_.end(), [&](const auto& f) { return f.first.native() == file.native(); });
     if (it == files_.end()) return std::nullopt;
     TableImage image = std::move(it->second);
     files_.erase(it);
@@ -227,7 +227,7 @@ void CleanImages::keep(const fs::path& file, TableImage image) {
 }
 
 void CleanImages::forget(const fs::path& file) {
-    std::erase_if(files_, [&](const auto& f) { return f.first == file; });
+    std::erase_if(files_, [&](const auto& f) { return f.first.native() == file.native(); });
 }
 
 void DirtyChunks::mark(std::size_t from, std::size_t to) {

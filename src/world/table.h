@@ -72,7 +72,8 @@ struct ParkedImage {
     DirtyChunks dirty;
     CleanImages* keepIn = nullptr;  // where its table keeps clean images
 };
-using ParkedFiles = std::map<fs::path, ParkedImage>;
+// Keyed by the file's path as a string: compared as bytes, not component by component.
+using ParkedFiles = std::map<std::string, ParkedImage, std::less<>>;
 
 // The bytes of a few files closed unchanged since they were read, so that
 // opening one again need not read it again. Whoever changes files other than
