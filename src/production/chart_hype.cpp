@@ -49,6 +49,9 @@ ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
                            {{kDiscId, sizeof(DiscRecord::id)},
                             {kDiscLabel, sizeof(DiscRecord::label)},
                             {kDiscBand, sizeof(DiscRecord::band)}});
+        g.chart.watchWrites(
+            &keys, [&keys](int32_t, std::span<const uint8_t>, std::span<const uint8_t>) { ++keys.chartWrites; },
+            {{kRowDisc, sizeof(ChartRow::disc)}});
         keys.watching = true;
     }
     ChartRowKeys::Chart& c = keys.charts[static_cast<std::size_t>(chart)];
@@ -57,9 +60,13 @@ ChartRowKeys::Chart& rowsOfChart(Game& g, int chart) {
     bool stands = c.discGeneration == g.disc.generation() && c.keysVersion == keys.keysVersion &&
                   c.named.size() == static_cast<std::size_t>(rows) && discs >= c.discCount &&
                   (!c.namesPastTheEnd || discs == c.discCount);
-    for (int32_t n = 1; stands && n <= rows; ++n)
+    // Within one opening of the chart with no row changed since, the rows were compared already.
+    const bool compared = c.checkedOpen == g.chart.generation() && c.checkedWrites == keys.chartWrites;
+    for (int32_t n = 1; stands && !compared && n <= rows; ++n)
         stands =
             c.named[static_cast<std::size_t>(n - 1)] == fieldAt<decltype(ChartRow::disc)>(g.chart.bytesOf(n), kRowDisc);
+    c.checkedOpen = g.chart.generation();
+    c.checkedWrites = keys.chartWrites;
     if (stands) return c;
     c.named.resize(static_cast<std::size_t>(rows));
     c.discCount = discs;

@@ -42,6 +42,8 @@ std::size_t at(int t) { return static_cast<std::size_t>(t); }
 
 // The money of the week's sales; the disc and band are written only when writeBack.
 void payIncome(Game& g, int chart, bool writeBack);
+// limitAndCertify, the disc written only when writeDisc or by a certification.
+void limitAndCertify(Game& g, int32_t sales, int chart, bool writeDisc);
 
 // The week's spread: up to a tenth of the figure either way.
 double spread(Game& g, double v) {
@@ -93,8 +95,9 @@ void sellRow(Game& g, int chart, int32_t position) {
         g.disc->hype[ti] = static_cast<uint8_t>(hypeNow);
         g.chart->lastHype = static_cast<uint8_t>(hypeLast);
     }
-    limitAndCertify(g, sales, chart);
-    // The disc and band are written once, below, with the week's totals.
+    // The disc and band are written once, below, with the week's totals (a
+    // certification writes the disc as it stands when it comes).
+    limitAndCertify(g, sales, chart, false);
     payIncome(g, chart, false);
 
     int32_t week = g.disc->weekSales[ti];
@@ -174,7 +177,9 @@ int32_t nextWeekSales(Game& g, int32_t lastSales, int& hypeNow, int& hypeLastWee
     return narrow<int32_t>(roundHalfEven(spread(g, v)));
 }
 
-void limitAndCertify(Game& g, int32_t sales, int chart) {
+namespace {
+
+void limitAndCertify(Game& g, int32_t sales, int chart, bool writeDisc) {
     int t = chart - 5 * g.disc->isSingle;
     auto ti = at(t);
     const int32_t stock = g.disc->stock[ti];
@@ -184,7 +189,7 @@ void limitAndCertify(Game& g, int32_t sales, int chart) {
     sales = std::max(sales, 0);
     g.disc->weekSales[ti] = sales;
     g.disc->stock[ti] = stock - sales;
-    g.disc.write();
+    if (writeDisc) g.disc.write();
 
     int64_t newTotal = oldTotal + sales;
     Thresholds th = kThresholds[ti];
@@ -200,6 +205,10 @@ void limitAndCertify(Game& g, int32_t sales, int chart) {
                     500);
     }
 }
+
+}  // namespace
+
+void limitAndCertify(Game& g, int32_t sales, int chart) { limitAndCertify(g, sales, chart, true); }
 
 void payDiscIncome(Game& g, int chart) { payIncome(g, chart, true); }
 

@@ -118,9 +118,14 @@ struct ChartRowKeys {
         // each made at the second rise by that key since the copy was made.
         std::array<std::vector<std::pair<int16_t, int16_t>>, 3> discsBy;
         std::array<uint8_t, 3> risesBy{};
+        // The chart table's generation and chartWrites when the rows were last
+        // compared with the copy: while both stand, the copy needs no compare.
+        uint64_t checkedOpen = UINT64_MAX;
+        uint64_t checkedWrites = 0;
     };
     bool watching = false;
     uint64_t keysVersion = 0;  // moves with each change to a disc's id, label or band
+    uint64_t chartWrites = 0;  // moves with each row added to a chart or given another disc
     std::array<Chart, 10> charts;
 };
 
