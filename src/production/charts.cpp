@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "label/finances.h"
 #include "production/disc_release.h"
 #include "production/weekly_sales.h"
 #include "talent/band_functions.h"
@@ -60,6 +61,32 @@ int32_t countWeek(Game& g, int chart, int t) {
         g.label.read(label);
     }
     return weeks;
+}
+
+// A row's points, as addDiscPoints gives them, for a disc buffer that holds
+// its record as read but for the week countWeek counted on it: the points and
+// that week move in the record's bytes and the buffer alike, as writing the
+// disc would move them, and the band's points likewise once the band is read.
+// The band buffer ends on the disc's band.
+void addRowPoints(Game& g, int t, int32_t points) {
+    static const std::size_t kDiscPoints = offsetIn<DiscRecord>("chartPoints");
+    static const std::size_t kDiscWeeks = offsetIn<DiscRecord>("weeksOnChart");
+    static const std::size_t kBandPoints = offsetIn<BandRecord>("bandPoints");
+    DiscRecord& d = g.disc.rec;
+    if (d.id != g.chart->disc) {  // a disc whose number is not its own is written whole
+        addDiscPoints(g, t, points);
+        if (g.band->id != g.disc->band) g.band.read(g.disc->band);
+        return;
+    }
+    const auto ti = at(t);
+    d.chartPoints[ti] = static_cast<int16_t>(std::min<int32_t>(d.chartPoints[ti] + points, INT16_MAX));
+    putFieldIn(g.disc, d.id, kDiscWeeks + ti * sizeof(int16_t), d.weeksOnChart[ti]);
+    putFieldIn(g.disc, d.id, kDiscPoints + ti * sizeof(int16_t), d.chartPoints[ti]);
+    g.band.read(d.band);
+    BandRecord& b = g.band.rec;
+    b.bandPoints[ti] = narrow<int32_t>(static_cast<int64_t>(b.bandPoints[ti]) + points);
+    putFieldIn(g.band, b.id, kBandPoints + ti * sizeof(int32_t), b.bandPoints[ti]);
+    if (b.label > 0) addLabelPoints(g, b.label, t, points);
 }
 
 void countHits(Game& g, int chart) {
@@ -175,10 +202,7 @@ void awardChartPoints(Game& g, int chart) {
         double d = roundHalfEven(p - std::pow(0.8, w - 1) * p);
         double x = roundHalfEven(d * p / 100);
         auto f = roundTo<int16_t>((p - x) / 2);
-        addDiscPoints(g, t, 101 - i);
-        // The buffer still holds the disc's band, as written, unless it held
-        // another band before.
-        if (g.band->id != g.disc->band) g.band.read(g.disc->band);
+        addRowPoints(g, t, 101 - i);
         // The rise is spread over this open chart, whose buffer moves with it.
         changeHype(g, f, t, chart);
     }
