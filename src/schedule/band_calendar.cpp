@@ -1,6 +1,7 @@
 #include "schedule/band_calendar.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <optional>
 
@@ -24,18 +25,6 @@ const std::size_t kEntryBand = offsetIn<ScheduleRecord>("band");
 const std::size_t kEntryGig = offsetIn<ScheduleRecord>("gig");
 const std::size_t kGigTour = offsetIn<GigRecord>("tour");
 const std::size_t kTourFestival = offsetIn<TourRecord>("festival");
-
-// The fields of an entry the calendar tests, read from its bytes.
-ScheduleRecord peekEntry(Game& g, int32_t id) {
-    ScheduleRecord e{};
-    e.type = 255;
-    if (id < 1 || id >= g.schedule.recordCount()) return e;
-    const auto bytes = g.schedule.bytesOf(id);
-    e.type = fieldAt<decltype(e.type)>(bytes, kEntryType);
-    e.band = fieldAt<decltype(e.band)>(bytes, kEntryBand);
-    e.gig = fieldAt<decltype(e.gig)>(bytes, kEntryGig);
-    return e;
-}
 
 // True when the band stands on the bill of the entry's gig as a support act
 // (a tour) or anywhere on a festival's bill.
@@ -92,6 +81,29 @@ int16_t festivalOfGig(Game& g, int32_t gig) {
 // one. Days are looked at from the last back, only their entries' bytes
 // read, until all are found.
 void leaveBuffersAsTheWalk(Game& g, DayFileReader& reader, int16_t band, double from, double last) {
+    // The schedule's bytes stand still while the walk reads them; the types'
+    // two tests are looked up in a table made once.
+    static const std::array<uint8_t, 256> kTests = [] {
+        std::array<uint8_t, 256> t{};
+        for (int type = 0; type < 256; ++type)
+            t[static_cast<std::size_t>(type)] = static_cast<uint8_t>((scheduleTypeInfo(type).occupiesBand ? 1 : 0) |
+                                                                     (scheduleTypeInfo(type).occupiesTheBill ? 2 : 0));
+        return t;
+    }();
+    const int32_t entries = g.schedule.recordCount();
+    const std::size_t length = g.schedule.recordLength();
+    const uint8_t* base = entries > 1 ? g.schedule.bytesOf(1).data() : nullptr;
+    struct Peek {
+        uint8_t tests = 0;
+        int16_t band = 0;
+        int32_t gig = 0;
+    };
+    auto peek = [&](int32_t id) -> Peek {
+        if (id < 1 || id >= entries) return {kTests[255], 0, 0};
+        const uint8_t* e = base + static_cast<std::size_t>(id - 1) * length;
+        return {kTests[fieldAt<uint8_t>(e, kEntryType)], fieldAt<int16_t>(e, kEntryBand),
+                fieldAt<int32_t>(e, kEntryGig)};
+    };
     bool scheduleLeft = false;
     bool gigLeft = false;
     bool festivalLeft = false;
@@ -100,8 +112,8 @@ void leaveBuffersAsTheWalk(Game& g, DayFileReader& reader, int16_t band, double 
         if (ids.empty()) continue;
         std::size_t stop = ids.size() - 1;
         for (std::size_t i = 0; i < ids.size(); ++i) {
-            const ScheduleRecord e = peekEntry(g, ids[i]);
-            if (e.band == band && scheduleTypeInfo(e.type).occupiesBand) {
+            const Peek e = peek(ids[i]);
+            if (e.band == band && (e.tests & 1) != 0) {
                 stop = i;
                 break;
             }
@@ -111,11 +123,13 @@ void leaveBuffersAsTheWalk(Game& g, DayFileReader& reader, int16_t band, double 
             scheduleLeft = true;
         }
         for (std::size_t i = stop + 1; i-- > 0 && !(gigLeft && festivalLeft);) {
-            const ScheduleRecord e = peekEntry(g, ids[i]);
-            if (e.band == band || !scheduleTypeInfo(e.type).occupiesTheBill || e.gig < 1) continue;
+            const Peek e = peek(ids[i]);
+            if (e.band == band || (e.tests & 2) == 0 || e.gig < 1) continue;
             const int16_t festival = festivalOfGig(g, e.gig);
             if (!gigLeft) {
-                static_cast<void>(onTheBill(g, e, band));
+                ScheduleRecord bill{};
+                bill.gig = e.gig;
+                static_cast<void>(onTheBill(g, bill, band));
                 gigLeft = true;
                 festivalLeft = festival != 0;
             } else if (festival != 0) {

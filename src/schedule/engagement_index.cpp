@@ -182,10 +182,19 @@ bool isCurrent(Game& g) {
 // The day serial a write to the open day file is about, or 0 for a file that
 // is not one of this game's years.
 int32_t januaryFirstOfDayFile(Game& g) {
-    const std::string stem = g.dayIndex.path().stem().string();
-    if (stem.empty() || !std::all_of(stem.begin(), stem.end(), [](char c) { return c >= '0' && c <= '9'; })) return 0;
-    if (g.dayIndex.path() != dataFile(g, stem, "vel")) return 0;
-    return static_cast<int32_t>(serialFromCivil(std::stoi(stem), 1, 1));
+    // The name is read from the path's text: "<folder>/<year>.vel".
+    const std::string& path = g.dayIndex.path().native();
+    const std::size_t slash = path.find_last_of('/');
+    const std::size_t from = slash == std::string::npos ? 0 : slash + 1;
+    constexpr std::string_view kExt = ".vel";
+    if (path.size() <= from + kExt.size() || path.compare(path.size() - kExt.size(), kExt.size(), kExt) != 0) return 0;
+    const std::string_view stem(path.data() + from, path.size() - kExt.size() - from);
+    if (stem.size() > 6 || !std::all_of(stem.begin(), stem.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        return 0;
+    int year = 0;
+    for (char c : stem) year = year * 10 + (c - '0');
+    if (path != dayFilePath(g, year).native()) return 0;
+    return static_cast<int32_t>(serialFromCivil(year, 1, 1));
 }
 
 int32_t daySerialOfWrite(Game& g, int32_t n) {
