@@ -40,19 +40,6 @@ char byteFor(char32_t cp) {
 
 }  // namespace
 
-bool isAscii(std::string_view s) {
-    // Eight bytes at a time: text is short, so one pass without a branch per byte.
-    uint64_t high = 0;
-    std::size_t i = 0;
-    for (; i + 8 <= s.size(); i += 8) {
-        uint64_t word;
-        std::memcpy(&word, s.data() + i, 8);
-        high |= word;
-    }
-    for (; i < s.size(); ++i) high |= static_cast<uint8_t>(s[i]);
-    return (high & 0x8080808080808080ULL) == 0;
-}
-
 std::string cp1252ToUtf8(std::string_view bytes) {
     std::string out;
     appendCp1252AsUtf8(out, bytes);

@@ -154,8 +154,13 @@ void getText(const uint8_t* in, Text<N>& t) {
         n -= 8;
     }
     while (n > 0 && in[n - 1] == ' ') --n;
+    const std::string_view bytes(reinterpret_cast<const char*>(in), n);
+    if (isAscii(bytes)) {
+        t.value.assign(bytes);
+        return;
+    }
     t.value.clear();
-    appendCp1252AsUtf8(t.value, std::string_view(reinterpret_cast<const char*>(in), n));
+    appendCp1252AsUtf8(t.value, bytes);
 }
 
 template <class T>
