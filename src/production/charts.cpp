@@ -67,7 +67,7 @@ int32_t countWeek(Game& g, int chart, int t) {
 // its record as read but for the week countWeek counted on it: the points and
 // that week move in the record's bytes and the buffer alike, as writing the
 // disc would move them, and the band's points likewise once the band is read.
-// The band buffer ends on the disc's band.
+// The band buffer ends on the disc's band, as it stands in the table.
 void addRowPoints(Game& g, int t, int32_t points) {
     static const std::size_t kDiscPoints = offsetIn<DiscRecord>("chartPoints");
     static const std::size_t kDiscWeeks = offsetIn<DiscRecord>("weeksOnChart");
@@ -204,7 +204,7 @@ void awardChartPoints(Game& g, int chart) {
         auto f = roundTo<int16_t>((p - x) / 2);
         addRowPoints(g, t, 101 - i);
         // The rise is spread over this open chart, whose buffer moves with it.
-        changeHype(g, f, t, chart);
+        changeHypeOfReadBand(g, f, t, chart);
     }
     if (chart < 4) countHits(g, chart);
     updateChartRecords(g, chart);

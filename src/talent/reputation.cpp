@@ -39,20 +39,37 @@ HypeStep hypeStep(int reputation, int hype, int amount) {
     return {h, change};
 }
 
-void changeHype(Game& g, int16_t amount, int market, int reason) {
-    static_cast<void>(reason);
+namespace {
+
+void moveHype(Game& g, int16_t amount, int market, bool bufferAsRead) {
+    static const std::size_t kBandHype = offsetIn<BandRecord>("hype");
     const auto m = static_cast<std::size_t>(market);
     const auto [h, change] = hypeStep(g.band->reputation[m], g.band->hype[m], amount);
     // The spread reads and writes only the charts and the discs.
     if (market != 4 && change != 0 && g.band->label > 0) spreadHypeRise(g, 0, market, g.band->label, change);
     g.band->hype[m] = narrow<int16_t>(h);
     if (change == 0) {
-        g.band.write();
+        if (bufferAsRead)
+            putFieldIn(g.band, g.band->id, kBandHype + m * sizeof(int16_t), g.band->hype[m]);
+        else
+            g.band.write();
         return;
     }
     std::array<int16_t, 5> deltas{};
     deltas[m] = narrow<int16_t>(change);
     applyReputationChange(g, deltas);  // writes the band
+}
+
+}  // namespace
+
+void changeHype(Game& g, int16_t amount, int market, int reason) {
+    static_cast<void>(reason);
+    moveHype(g, amount, market, false);
+}
+
+void changeHypeOfReadBand(Game& g, int16_t amount, int market, int reason) {
+    static_cast<void>(reason);
+    moveHype(g, amount, market, true);
 }
 
 void applyReputationChange(Game& g, const std::array<int16_t, 5>& deltas) {

@@ -24,6 +24,9 @@ HypeStep hypeStep(int reputation, int hype, int amount);
 // The band is written. `reason` tells where the boost came from; it changes
 // nothing here.
 void changeHype(Game& g, int16_t amount, int market, int reason);
+// changeHype for a band buffer that holds the band as it stands in its table:
+// a meter that changes no reputation moves in the band's bytes.
+void changeHypeOfReadBand(Game& g, int16_t amount, int market, int reason);
 
 // On the current band: each market moves by its delta, held 2 to 100; each
 // member by the delta (a solo act) or round(delta x 3 / job rank), held 0 to
