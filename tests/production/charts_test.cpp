@@ -177,6 +177,14 @@ TEST_F(Charts, ARiseByDiscReachesThatDiscAndLeavesTheBuffersAtTheLastRow) {
     spreadHypeRise(g, 2, 0, second, 5);
     EXPECT_EQ(g.chart->row, 3);
     EXPECT_EQ(g.disc->hype[0], 55);  // read back after its rise
+    // A row given another disc while the chart stays open is seen by the next rise.
+    g.chart.read(1);
+    g.chart->disc = second;
+    g.chart.write(1);
+    spreadHypeRise(g, 2, 0, first, 5);
+    EXPECT_EQ(disc(first).hype[0], 55);
+    spreadHypeRise(g, 2, 0, second, 5);
+    EXPECT_EQ(disc(second).hype[0], 65);  // named by two rows, raised by each
     closeChart(g);
 }
 
