@@ -213,7 +213,8 @@ void TableBase::tableFull(int32_t n) const {
 }
 
 std::optional<TableImage> CleanImages::take(const fs::path& file) {
-    auto it = std::find_if(files_.begin(), files_.end(), [&](const auto& f) { return f.first.native() == file.native(); });
+    auto it =
+        std::find_if(files_.begin(), files_.end(), [&](const auto& f) { return f.first.native() == file.native(); });
     if (it == files_.end()) return std::nullopt;
     TableImage image = std::move(it->second);
     files_.erase(it);
