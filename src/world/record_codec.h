@@ -145,17 +145,18 @@ void putText(uint8_t* out, const Text<N>& t) {
 
 template <std::size_t N>
 void getText(const uint8_t* in, Text<N>& t) {
-    std::size_t n = N;
-    constexpr uint64_t kEightBlanks = 0x2020202020202020ULL;  // the padding is dropped eight bytes at a time
-    while (n >= 8) {
-        uint64_t word;
-        std::memcpy(&word, in + n - 8, 8);
-        if (word != kEightBlanks) break;
-        n -= 8;
-    }
-    while (n > 0 && in[n - 1] == ' ') --n;
-    const std::string_view bytes(reinterpret_cast<const char*>(in), n);
-    if (isAscii(bytes)) {
+    const std::string_view bytes(reinterpret_cast<const char*>(in), unpaddedLength(in, N));
+    // The padding is plain blanks, so the whole field is plain ASCII when its text is.
+    bool ascii = false;
+#if defined(__SSE2__)
+    if constexpr (N >= 16)
+        ascii = isAsciiWide(in, N);
+    else
+        ascii = isAscii(bytes);
+#else
+    ascii = isAscii(bytes);
+#endif
+    if (ascii) {
         t.value.assign(bytes);
         return;
     }

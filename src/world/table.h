@@ -21,6 +21,7 @@
 // the commit parks its bytes with the game until then, so opening it again
 // finds them.
 #include <cstdint>
+#include <cstring>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -51,7 +52,17 @@ public:
     static constexpr std::size_t kJoinedGap = 4;
 
     // Bytes from up to (not including) to changed.
-    void mark(std::size_t from, std::size_t to);
+    void mark(std::size_t from, std::size_t to) {
+        if (from >= to) return;
+        const std::size_t chunk = from / kChunk;
+        // Most writes change a few bytes within one chunk already covered.
+        if (chunk == (to - 1) / kChunk && chunk / 64 < words_.size()) {
+            words_[chunk / 64] |= uint64_t{1} << (chunk % 64);
+            any_ = true;
+            return;
+        }
+        markAcross(from, to);
+    }
     bool any() const { return any_; }
     void clear();
     // A write to file for each run of changed chunks of image, cut at its end,
@@ -60,6 +71,7 @@ public:
     void appendWrites(std::vector<FileWrite>& out, const fs::path& file, std::span<const uint8_t> image) const;
 
 private:
+    void markAcross(std::size_t from, std::size_t to);
     std::vector<uint64_t> words_;  // a bit for each chunk
     bool any_ = false;
 };
@@ -213,11 +225,22 @@ private:
             return false;
         }
     };
+    // Works out watchedBytes_ from the watchers' stretches.
+    void markWatchedBytes();
     // Tells the watchers of a write to record n that changes its bytes from
     // `first` up to `end` (before is empty when the write adds the record).
     void tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after, std::size_t first,
                       std::size_t end) const;
+    // Whether some watcher wants a change of bytes first up to end of an existing record.
+    bool watched(std::size_t first, std::size_t end) const {
+        if (watchedBytes_.empty()) return false;
+        if (end - first > 16) return std::memchr(watchedBytes_.data() + first, 1, end - first) != nullptr;
+        for (std::size_t i = first; i < end; ++i)
+            if (watchedBytes_[i] != 0) return true;
+        return false;
+    }
     std::vector<Watcher> watchers_;
+    std::vector<uint8_t> watchedBytes_;  // for each byte of a record, 1 when some watcher wants it; empty: none
     TableImage image_;
     bool pagesOnDemand_ = false;
     std::optional<std::size_t> diskLength_;
