@@ -260,18 +260,22 @@ void increaseArtistEnergy(Game& g) {
     for (int32_t n : unrestedArtists(g)) {
         const auto bytes = g.artist.bytesOf(n);
         const auto energy = fieldAt<int16_t>(bytes, kArtistEnergy);
+        // The sets of artists at rest take note of each once, after its fields move.
         if (energy < 0) {
-            patchField<int16_t>(g.artist, n, kArtistEnergy,
-                                [&](int16_t) { return energy == -1 ? int16_t{100} : narrow<int16_t>(energy + 1); });
+            patchField<int16_t>(
+                g.artist, n, kArtistEnergy,
+                [&](int16_t) { return energy == -1 ? int16_t{100} : narrow<int16_t>(energy + 1); }, &g.artistSets);
         } else {
             double recovered = energy + fieldAt<uint8_t>(bytes, kStamina) / 32.0 + 1;
-            patchField<int16_t>(g.artist, n, kArtistEnergy,
-                                [&](int16_t) { return std::clamp<int16_t>(toInteger(recovered), 0, 100); });
+            patchField<int16_t>(
+                g.artist, n, kArtistEnergy, [&](int16_t) { return std::clamp<int16_t>(toInteger(recovered), 0, 100); },
+                &g.artistSets);
             if (fieldAt<uint8_t>(bytes, kSongQuality) > 0)
-                patchField<uint8_t>(g.artist, n, kWritingFocus,
-                                    [](uint8_t focus) { return static_cast<uint8_t>(std::min(focus + 3, 100)); });
+                patchField<uint8_t>(
+                    g.artist, n, kWritingFocus,
+                    [](uint8_t focus) { return static_cast<uint8_t>(std::min(focus + 3, 100)); }, &g.artistSets);
         }
-        noteArtist(g, n);  // a write that changes nothing is not told to the sets
+        noteArtist(g, n);
     }
     const int32_t last = g.artist.recordCount() - 1;
     if (last >= 1) g.artist.read(last);  // the buffer as a walk of them all leaves it

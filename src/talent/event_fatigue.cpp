@@ -6,6 +6,7 @@
 #include "floor/grammar.h"
 #include "floor/news_post.h"
 #include "schedule/schedule_types.h"
+#include "world/artist_sets.h"
 #include "world/game.h"
 #include "world/record_bytes.h"
 #include "world/strings.h"
@@ -76,17 +77,20 @@ void applyEventFatigue(Game& g, const ScheduleRecord& entry) {
         const auto bytes = g.artist.bytesOf(who);
         // A member away resting is not at work: the rest runs its course.
         if (fieldAt<int16_t>(bytes, kEnergy) >= 0) {
-            patchField<int16_t>(g.artist, who, kEnergy,
-                                [&](int16_t e) { return static_cast<int16_t>(heldPercent(e - wear.energy)); });
+            // The sets of artists at rest take note of the member once, after both fields move.
+            patchField<int16_t>(
+                g.artist, who, kEnergy, [&](int16_t e) { return static_cast<int16_t>(heldPercent(e - wear.energy)); },
+                &g.artistSets);
             if (fieldAt<uint8_t>(bytes, kSongQuality) > 0)
-                patchField<uint8_t>(g.artist, who, kWritingFocus,
-                                    [&](uint8_t f) { return static_cast<uint8_t>(heldPercent(f - wear.energy)); });
+                patchField<uint8_t>(
+                    g.artist, who, kWritingFocus,
+                    [&](uint8_t f) { return static_cast<uint8_t>(heldPercent(f - wear.energy)); }, &g.artistSets);
+            noteArtist(g, who);
             patchField<uint8_t>(g.artist, who, kMorale,
                                 [&](uint8_t m) { return static_cast<uint8_t>(heldPercent(m + wear.morale)); });
             if (onTheRoad)
-                patchField<uint8_t>(g.artist, who, kDrugHabit, [](uint8_t d) {
-                    return d > 0 ? static_cast<uint8_t>(std::min(100, d + 1)) : d;
-                });
+                patchField<uint8_t>(g.artist, who, kDrugHabit,
+                                    [](uint8_t d) { return d > 0 ? static_cast<uint8_t>(std::min(100, d + 1)) : d; });
         }
         energySum += fieldAt<int16_t>(bytes, kEnergy);
     }

@@ -62,24 +62,25 @@ std::size_t offsetIn(std::string_view name) {
     throw FatalError("a record is read for a field it lacks: " + std::string(name));
 }
 
-// Sets the value of type T at byte offset at of record n to change(old).
-// Writes only when the bytes change, as a write of the whole record would.
 // Writes v at byte offset at of record n, as writing the whole record with
-// the field set to v would.
+// the field set to v would. The watcher of owner `untold`, if one is named,
+// is not told: its owner takes note of the record itself.
 template <class T, PackedRecord R>
-void putFieldIn(Table<R>& table, int32_t n, std::size_t at, T v) {
+void putFieldIn(Table<R>& table, int32_t n, std::size_t at, T v, const void* untold = nullptr) {
     std::array<uint8_t, sizeof(T)> bytes;
     std::memcpy(bytes.data(), &v, sizeof v);
-    table.putStretch(n, at, bytes);
+    table.putStretch(n, at, bytes, untold);
 }
 
+// Sets the value of type T at byte offset at of record n to change(old).
+// Writes only when the bytes change, as a write of the whole record would.
 template <class T, PackedRecord R, class F>
-void patchField(Table<R>& table, int32_t n, std::size_t at, F&& change) {
+void patchField(Table<R>& table, int32_t n, std::size_t at, F&& change, const void* untold = nullptr) {
     T v;
     std::memcpy(&v, table.bytesOf(n).data() + at, sizeof v);
     const T next = change(v);
     if (next == v) return;
-    putFieldIn(table, n, at, next);
+    putFieldIn(table, n, at, next, untold);
 }
 
 }  // namespace trovane

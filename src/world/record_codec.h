@@ -157,7 +157,9 @@ void getText(const uint8_t* in, Text<N>& t) {
     ascii = isAscii(bytes);
 #endif
     if (ascii) {
-        t.value.assign(bytes);
+        // A record read again, or a field many records share, often holds the text already.
+        if (t.value.size() != bytes.size() || std::memcmp(t.value.data(), bytes.data(), bytes.size()) != 0)
+            t.value.assign(bytes);
         return;
     }
     t.value.clear();

@@ -28,9 +28,9 @@ std::size_t sameBytesFromStart(const uint8_t* a, const uint8_t* b, std::size_t n
     std::size_t i = 0;
 #if defined(__SSE2__)
     for (; i + 16 <= n; i += 16) {
-        const auto equal = static_cast<unsigned>(_mm_movemask_epi8(
-            _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + i)),
-                           _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + i)))));
+        const auto equal = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + i)),
+                                             _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + i)))));
         if (equal != 0xFFFFU) return i + static_cast<std::size_t>(std::countr_one(equal));
     }
 #endif
@@ -50,9 +50,9 @@ std::size_t differingLength(const uint8_t* a, const uint8_t* b, std::size_t n) {
     std::size_t end = n;
 #if defined(__SSE2__)
     for (; end >= 16; end -= 16) {
-        const auto equal = static_cast<unsigned>(_mm_movemask_epi8(
-            _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + end - 16)),
-                           _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + end - 16)))));
+        const auto equal = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a + end - 16)),
+                                             _mm_loadu_si128(reinterpret_cast<const __m128i*>(b + end - 16)))));
         if (equal != 0xFFFFU) return end - static_cast<std::size_t>(std::countl_one(equal << 16));
     }
 #endif
@@ -91,6 +91,7 @@ std::string TableBase::displayName() const {
 void TableBase::adopt(const fs::path& path, TableImage image, std::optional<std::size_t> diskLength) {
     if (path_.native() != path.native()) path_ = path;  // a per-use file is mostly opened again by the same path
     image_ = std::move(image);
+    records_ = length_ == 0 ? 0 : static_cast<int32_t>(image_.size() / length_);
     diskLength_ = diskLength;
     dirty_.clear();
     open_ = true;
@@ -198,6 +199,7 @@ void TableBase::close() {
     }
     open_ = false;
     image_.clear();
+    records_ = 0;
 }
 
 void TableBase::letPagesGo() {
@@ -228,9 +230,14 @@ void TableBase::markWatchedBytes() {
 }
 
 void TableBase::tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after,
-                             std::size_t first, std::size_t end) const {
+                             std::size_t first, std::size_t end, const void* untold) const {
     for (const auto& w : watchers_)
-        if (before.empty() || w.wants(first, end)) w.tell(n, before, after);
+        if (w.owner != untold && (before.empty() || w.wants(first, end))) w.tell(n, before, after);
+}
+
+bool TableBase::wantedByOthers(std::size_t first, std::size_t end, const void* untold) const {
+    return std::any_of(watchers_.begin(), watchers_.end(),
+                       [&](const Watcher& w) { return w.owner != untold && w.wants(first, end); });
 }
 
 void TableBase::notOpen(const char* what) const {
@@ -324,12 +331,15 @@ void TableBase::putBytes(int32_t n, std::span<const uint8_t> bytes) {
         if (!adds) before = {image_.data() + at, length_};
         tellWatchers(n, before, bytes.first(length_), first, end);
     }
-    if (adds) image_.resize(at + length_);
+    if (adds) {
+        image_.resize(at + length_);
+        records_ = n;
+    }
     std::memcpy(image_.data() + at, bytes.data(), length_);
     dirty_.mark(at + first, at + end);
 }
 
-void TableBase::putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes) {
+void TableBase::putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes, const void* untold) {
     requireOpen("write");
     if (n < 1 || n > records()) missingRecord(n, "write");
     if (at + bytes.size() > length_) throw FatalError("a write runs past the end of a record of " + displayName());
@@ -349,25 +359,33 @@ void TableBase::putStretch(int32_t n, std::size_t at, std::span<const uint8_t> b
     const std::size_t first = at + same;
     const std::size_t end = at + differing;
     // Only when a watcher is told of the write is the record as it will be put together.
-    if (watched(first, end)) {
-        // The record as it will be is put together in a buffer kept between
-        // writes (taken out while in use, so a write from a watcher makes its own).
-        static thread_local std::vector<uint8_t> kept;
-        std::vector<uint8_t> after = std::move(kept);
-        after.assign(record, record + length_);
-        std::memcpy(after.data() + at, bytes.data(), bytes.size());
-        tellWatchers(n, {record, length_}, after, first, end);
-        kept = std::move(after);
+    if (watchedByOthers(first, end, untold)) {
+        tellWatchersOfStretch(n, at, bytes, first, end, untold);
+        record = image_.data() + static_cast<std::size_t>(n - 1) * length_;  // a watcher may have added records
     }
     for (std::size_t i = same; i < differing; ++i) record[at + i] = bytes[i];
     const std::size_t base = static_cast<std::size_t>(n - 1) * length_;
     dirty_.mark(base + first, base + end);
 }
 
+void TableBase::tellWatchersOfStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes, std::size_t first,
+                                      std::size_t end, const void* untold) {
+    const uint8_t* record = image_.data() + static_cast<std::size_t>(n - 1) * length_;
+    // The record as it will be is put together in a buffer kept between
+    // writes (taken out while in use, so a write from a watcher makes its own).
+    static thread_local std::vector<uint8_t> kept;
+    std::vector<uint8_t> after = std::move(kept);
+    after.assign(record, record + length_);
+    std::memcpy(after.data() + at, bytes.data(), bytes.size());
+    tellWatchers(n, {record, length_}, after, first, end, untold);
+    kept = std::move(after);
+}
+
 void TableBase::clearAll() {
     requireOpen("clear");
     ++generation_;
     image_.clear();
+    records_ = 0;
     dirty_.clear();
 }
 

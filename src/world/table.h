@@ -158,9 +158,9 @@ public:
     // The number of records plus one: the next free record number, and where a walk stops.
     int32_t recordCount() const {
         requireOpen("count");
-        return static_cast<int32_t>(image_.size() / length_ + 1);
+        return records_ + 1;
     }
-    int32_t records() const { return static_cast<int32_t>(image_.size() / length_); }
+    int32_t records() const { return records_; }
     // Goes up each time the file is opened or emptied, so a side index built
     // over the records can tell that what it covered is gone.
     uint64_t generation() const { return generation_; }
@@ -177,7 +177,9 @@ public:
     void putBytes(int32_t n, std::span<const uint8_t> bytes);
     // Writes bytes over record n's from byte `at` of the record on, as
     // writing the whole record with them in place would; n must exist.
-    void putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes);
+    // A write the watcher of owner `untold` is not told of: its owner takes
+    // note of the record itself after.
+    void putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes, const void* untold = nullptr);
     // Forgets every record (the file becomes empty on the next flush).
     void clearAll();
 
@@ -229,8 +231,17 @@ private:
     void markWatchedBytes();
     // Tells the watchers of a write to record n that changes its bytes from
     // `first` up to `end` (before is empty when the write adds the record).
+    // Tells the watchers of a write of bytes over record n from byte `at` of it
+    // on, putting the record as it will be together for them.
+    void tellWatchersOfStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes, std::size_t first,
+                               std::size_t end, const void* untold);
     void tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after, std::size_t first,
-                      std::size_t end) const;
+                      std::size_t end, const void* untold = nullptr) const;
+    // Whether a watcher but the one of owner `untold` wants a change of bytes first up to end.
+    bool watchedByOthers(std::size_t first, std::size_t end, const void* untold) const {
+        return watched(first, end) && (untold == nullptr || wantedByOthers(first, end, untold));
+    }
+    bool wantedByOthers(std::size_t first, std::size_t end, const void* untold) const;
     // Whether some watcher wants a change of bytes first up to end of an existing record.
     bool watched(std::size_t first, std::size_t end) const {
         if (watchedBytes_.empty()) return false;
@@ -242,6 +253,7 @@ private:
     std::vector<Watcher> watchers_;
     std::vector<uint8_t> watchedBytes_;  // for each byte of a record, 1 when some watcher wants it; empty: none
     TableImage image_;
+    int32_t records_ = 0;  // image_'s whole records, counted when its length changes
     bool pagesOnDemand_ = false;
     std::optional<std::size_t> diskLength_;
     DirtyChunks dirty_;
