@@ -15,6 +15,7 @@
 #include "world/dates.h"
 #include "world/game.h"
 #include "world/numbers.h"
+#include "world/record_bytes.h"
 #include "world/strings.h"
 
 namespace trovane {
@@ -151,20 +152,32 @@ void fillFestivalBill(Game& g) {
     const std::set<int16_t> busy = busyActs(g, dates);
     const auto territory = static_cast<std::size_t>(std::min<int>(festival.territory, 4));
 
+    // The acts are read from their bytes; the band buffer is left at the last,
+    // as a walk reading each whole leaves it.
+    static const std::size_t kId = offsetIn<BandRecord>("id");
+    static const std::size_t kRetired = offsetIn<BandRecord>("retired");
+    static const std::size_t kStyle = offsetIn<BandRecord>("style");
+    static const std::size_t kLabel = offsetIn<BandRecord>("label");
+    static const std::size_t kReputation = offsetIn<BandRecord>("reputation");
+    const int16_t player = g.player.playerLabel;
     std::unordered_map<int, bool> styleFits;
     std::vector<Candidate> candidates;
-    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
-        g.band.read(n);
-        const BandRecord b = g.band.rec;
-        if (b.retired != kFalse || busy.contains(b.id)) continue;
+    const int32_t bands = g.band.recordCount() - 1;
+    for (int32_t n = 1; n <= bands; ++n) {
+        const auto b = g.band.bytesOf(n);
+        const auto id = fieldAt<int16_t>(b, kId);
+        if (fieldAt<int16_t>(b, kRetired) != kFalse || busy.contains(id)) continue;
         if (festival.festivalStyle != 0) {
-            auto known = styleFits.find(b.style);
+            const auto style = fieldAt<uint8_t>(b, kStyle);
+            auto known = styleFits.find(style);
             if (known == styleFits.end())
-                known = styleFits.emplace(b.style, stylesAssociated(g, festival.festivalStyle, b.style)).first;
+                known = styleFits.emplace(style, stylesAssociated(g, festival.festivalStyle, style)).first;
             if (!known->second) continue;
         }
-        candidates.push_back({b.id, b.reputation[territory], playersAct(g, b)});
+        const auto label = fieldAt<int16_t>(b, kLabel);
+        candidates.push_back({id, fieldAt<uint8_t>(b, kReputation + territory), player > 0 && label == player});
     }
+    if (bands >= 1) g.band.read(bands);
 
     // No minimum standing is asked for: the bills are sized to fill from the top.
     const int size = std::min<int>(festival.billSize, kBillRoom);
