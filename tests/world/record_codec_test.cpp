@@ -102,6 +102,9 @@ TEST(TextField, IsStoredAsBlankPaddedWindows1252) {
         {"Café", "Caf\xE9", "Café"},
         {"€uro", "\x80uro", "€uro"},
         {"Crossroads Café Bar", "Crossroads Caf\xE9 Bar", "Crossroads Café Bar"},  // past the first eight bytes
+        {"Crossroads Bar Ché", "Crossroads Bar Ch\xE9", "Crossroads Bar Ché"},     // past the first sixteen
+        {"Sixteen letters!", "Sixteen letters!", "Sixteen letters!"},
+        {"Seventeen letters", "Seventeen letters", "Seventeen letters"},
         {"  leading", "  leading", "  leading"},
         {"trailing   ", "trailing", "trailing"},
         {"日本", "??", "??"},                                                // no byte in Windows-1252

@@ -112,6 +112,41 @@ TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
     EXPECT_EQ(g.band->name, "Una");
     EXPECT_EQ(everyWrite, 4);
     EXPECT_THROW(g.band.putStretch(1, BandRecord::kLength - 1, uno), FatalError);
+
+    // A writer that takes note of the record itself leaves its own watcher untold.
+    patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{13}; }, &heard);
+    EXPECT_EQ(heard.size(), 2U);
+    EXPECT_EQ(everyWrite, 5);
+    // A long stretch that differs in its first and last bytes writes both.
+    std::array<uint8_t, 50> name{};
+    std::memcpy(name.data(), g.band.bytesOf(1).data() + kName, name.size());
+    name[0] = 'E';
+    name[49] = 'x';
+    g.band.putStretch(1, kName, name);
+    g.band.putStretch(1, kName, name);  // the same again: no write
+    g.band.read(1);
+    EXPECT_EQ(g.band->name.value.front(), 'E');
+    EXPECT_EQ(g.band->name.value.back(), 'x');
+    EXPECT_EQ(everyWrite, 6);
+}
+
+// The commit writes the chunks of a record that a whole-record write changed,
+// not the whole record, and a record written back unchanged writes nothing.
+TEST_F(RecordStore, AWholeRecordWriteLeavesOnlyItsChangedBytesToTheCommit) {
+    const std::size_t kHype = offsetIn<BandRecord>("hype");
+    for (auto name : {"One", "Two", "Three"}) addBand(g, name);
+    flushAllTables(g);
+    g.band.read(2);
+    g.band.write();
+    EXPECT_TRUE(g.band.takeWrites().empty());
+    g.band->hype[4] = 7;
+    g.band.write();
+    const std::vector<FileWrite> writes = g.band.takeWrites();
+    ASSERT_EQ(writes.size(), 1U);
+    const std::size_t changed = BandRecord::kLength + kHype + 4 * sizeof(int16_t);
+    EXPECT_LE(writes[0].offset, changed);
+    EXPECT_GE(writes[0].offset + writes[0].data().size(), changed + sizeof(int16_t));
+    EXPECT_LE(writes[0].data().size(), 2 * DirtyChunks::kChunk);
 }
 
 TEST_F(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
