@@ -148,14 +148,15 @@ bool DayFileReader::hasFile(double date) {
 
 const DayRecord* DayFileReader::day(double date) {
     if (!hasFile(date)) return nullptr;
-    g_.dayIndex.read(dayNumberInYear(date));
+    g_.dayIndex.read(static_cast<int32_t>(date - yearStart_) + 1);
     return &g_.dayIndex.rec;
 }
 
 std::span<const int32_t> DayFileReader::entries(double date) {
     if (!hasFile(date)) return {};
     lastAsked_ = date;
-    const auto bytes = g_.dayIndex.bytesOf(dayNumberInYear(date));
+    // The day's number in the open year, from its 1 January as dayNumberInYear counts it.
+    const auto bytes = g_.dayIndex.bytesOf(static_cast<int32_t>(date - yearStart_) + 1);
     const int32_t count = std::clamp(fieldAt<int32_t>(bytes, kDayCount), 0, kMaxEntriesPerDay);
     ids_.resize(static_cast<std::size_t>(count));
     if (count > 0) std::memcpy(ids_.data(), bytes.data() + kDayEntries, ids_.size() * sizeof(int32_t));
