@@ -176,9 +176,9 @@ public:
     // Writes the bytes of record n; n may be one past the last record, which adds it.
     void putBytes(int32_t n, std::span<const uint8_t> bytes);
     // Writes bytes over record n's from byte `at` of the record on, as
-    // writing the whole record with them in place would; n must exist.
-    // A write the watcher of owner `untold` is not told of: its owner takes
-    // note of the record itself after.
+    // writing the whole record with them in place would; n must exist. The
+    // watcher of owner `untold`, when one is named, is not told of the write:
+    // its owner takes note of the record itself after.
     void putStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes, const void* untold = nullptr);
     // Forgets every record (the file becomes empty on the next flush).
     void clearAll();
@@ -229,12 +229,13 @@ private:
     };
     // Works out watchedBytes_ from the watchers' stretches.
     void markWatchedBytes();
-    // Tells the watchers of a write to record n that changes its bytes from
-    // `first` up to `end` (before is empty when the write adds the record).
     // Tells the watchers of a write of bytes over record n from byte `at` of it
     // on, putting the record as it will be together for them.
     void tellWatchersOfStretch(int32_t n, std::size_t at, std::span<const uint8_t> bytes, std::size_t first,
                                std::size_t end, const void* untold);
+    // Tells the watchers of a write to record n that changes its bytes from
+    // `first` up to `end` (before is empty when the write adds the record),
+    // all but the one of owner `untold`.
     void tellWatchers(int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after, std::size_t first,
                       std::size_t end, const void* untold = nullptr) const;
     // Whether a watcher but the one of owner `untold` wants a change of bytes first up to end.
