@@ -6,7 +6,8 @@
 //
 // How they keep in step: the sets are told of every write to the artist table
 // (TableBase::watchWrites) and move the artist written in or out by its new
-// bytes. They are built from the records at the first lookup after the table
+// bytes; a daily walk that moves many artists' energies leaves them untold
+// and files each artist itself once its fields have moved (noteArtist). They are built from the records at the first lookup after the table
 // is opened or emptied; then every artist counts as unrested, so the first
 // day's recovery visits each once, as it always did.
 #include <cstdint>
@@ -24,8 +25,8 @@ std::vector<int32_t> activeArtists(Game& g);
 std::vector<int32_t> unrestedArtists(Game& g);
 // Whether a day's recovery leaves an artist of these bytes as it is.
 bool artistAtRest(std::span<const uint8_t> bytes);
-// Files artist n by its record as it is now, after a walk that may have
-// left it unchanged.
+// Files artist n by its record as it is now, after a walk that changed it
+// without telling the sets, or may have left it unchanged.
 void noteArtist(Game& g, int32_t n);
 
 // Starts telling the sets of the artist table's writes; the game does it
