@@ -44,8 +44,9 @@ void writeSessionFile(Game& g, const std::filesystem::path& file, std::string_vi
 
 void commitWorkingGame(Game& g) {
     fillSessionRecord(g, "");
-    FileWrite session{workingSessionFile(g), SvarRecord::kLength, 0, std::vector<uint8_t>(SvarRecord::kLength)};
-    encodeRecord(g.svar.rec, session.bytes.data());
+    FileWrite session{
+        workingSessionFile(g), SvarRecord::kLength, {Patch{0, std::vector<uint8_t>(SvarRecord::kLength)}}};
+    encodeRecord(g.svar.rec, session.patches[0].bytes.data());
     flushAllTables(g, {std::move(session)});
 }
 

@@ -146,16 +146,15 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
             t.flush();
             return;
         }
-        for (FileWrite& w : t.takeWrites()) writes.push_back(std::move(w));
+        if (auto w = t.takeWrites()) writes.push_back(std::move(*w));
     };
 #define TROVANE_TAKE(member, Record, fileNo) take(g.member);
     TROVANE_WORKING_TABLES(TROVANE_TAKE)
     TROVANE_PER_USE_TABLES(TROVANE_TAKE)
 #undef TROVANE_TAKE
     for (auto& [file, p] : g.parked) {
-        const std::size_t before = writes.size();
-        p.dirty.appendWrites(writes, file, p.image.bytes());
-        if (writes.size() == before) writes.push_back({file, p.image.size(), 0, {}});
+        writes.push_back({file, p.image.size(), {}});
+        p.dirty.appendPatches(writes.back().patches, p.image.bytes());
     }
     for (auto& w : extra) writes.push_back(std::move(w));
     commitWrites(g.dataDir, writes);

@@ -169,19 +169,19 @@ void TableBase::openNew(const fs::path& path) {
     adopt(path, {}, ec ? std::nullopt : std::optional<std::size_t>(size));
 }
 
-std::vector<FileWrite> TableBase::takeWrites() {
-    std::vector<FileWrite> writes;
-    if (!open_) return writes;
-    dirty_.appendWrites(writes, path_, image_.bytes());
-    if (writes.empty() && diskLength_ != image_.size()) writes.push_back({path_, image_.size(), 0, {}});
-    diskLength_ = image_.size();
+std::optional<FileWrite> TableBase::takeWrites() {
+    if (!open_) return std::nullopt;
+    std::vector<Patch> patches;
+    dirty_.appendPatches(patches, image_.bytes());
     dirty_.clear();
-    return writes;
+    if (patches.empty() && diskLength_ == image_.size()) return std::nullopt;
+    diskLength_ = image_.size();
+    return FileWrite{path_, image_.size(), std::move(patches)};
 }
 
 void TableBase::flush() {
     if (!open_ || parked_) return;
-    for (const FileWrite& w : takeWrites()) applyWrite(fd_, w);
+    if (auto w = takeWrites()) applyWrite(fd_, *w);
 }
 
 void TableBase::close() {
@@ -284,8 +284,7 @@ void DirtyChunks::clear() {
     any_ = false;
 }
 
-void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file,
-                               std::span<const uint8_t> image) const {
+void DirtyChunks::appendPatches(std::vector<Patch>& out, std::span<const uint8_t> image) const {
     if (!any_) return;
     const std::size_t chunks = words_.size() * 64;
     auto dirty = [&](std::size_t c) { return (words_[c / 64] >> (c % 64) & 1U) != 0; };
@@ -306,7 +305,7 @@ void DirtyChunks::appendWrites(std::vector<FileWrite>& out, const fs::path& file
             if (dirty(next)) end = next + 1;
         const std::size_t from = std::min(c * kChunk, image.size());
         const std::size_t to = std::min(end * kChunk, image.size());
-        if (from < to) out.push_back({file, image.size(), from, {}, image.subspan(from, to - from)});
+        if (from < to) out.push_back({from, {}, image.subspan(from, to - from)});
         c = end;
     }
 }

@@ -65,10 +65,10 @@ public:
     }
     bool any() const { return any_; }
     void clear();
-    // A write to file for each run of changed chunks of image, cut at its end,
-    // in file order; each carries the file's length after the write and
-    // stands on image's bytes, which must not change until it is made.
-    void appendWrites(std::vector<FileWrite>& out, const fs::path& file, std::span<const uint8_t> image) const;
+    // A patch for each run of changed chunks of image, cut at its end, in
+    // file order; each stands on image's bytes, which must not change until
+    // it is written.
+    void appendPatches(std::vector<Patch>& out, std::span<const uint8_t> image) const;
 
 private:
     void markAcross(std::size_t from, std::size_t to);
@@ -150,10 +150,10 @@ public:
     // Writes back what changed, keeping the file open. A deferring table
     // leaves it to the commit.
     void flush();
-    // What changed since the last write, as writes in file order (none when
-    // nothing changed), and the table counts as written. The writes stand on
-    // the table's bytes: they are made before the table changes again.
-    std::vector<FileWrite> takeWrites();
+    // What changed since the last write (none when nothing changed), and the
+    // table counts as written. The write stands on the table's bytes: it is
+    // made before the table changes again.
+    std::optional<FileWrite> takeWrites();
 
     // The number of records plus one: the next free record number, and where a walk stops.
     int32_t recordCount() const {

@@ -43,8 +43,8 @@ protected:
     }
     // a grows to 6 bytes with "xyzw" from byte 2; b is cut to "qq"; c is made.
     std::vector<FileWrite> writes() {
-        return {FileWrite{a, 6, 2, {'x', 'y', 'z', 'w'}}, FileWrite{b, 2, 0, {'q', 'q'}},
-                FileWrite{folder.path() / "c.vel", 1, 0, {'c'}}};
+        return {FileWrite{a, 6, {Patch{2, {'x', 'y', 'z', 'w'}}}}, FileWrite{b, 2, {Patch{0, {'q', 'q'}}}},
+                FileWrite{folder.path() / "c.vel", 1, {Patch{0, {'c'}}}}};
     }
     void leaveJournal() {
         StopAt stop(CommitPoint::journalWritten, 1);
@@ -54,19 +54,39 @@ protected:
         EXPECT_EQ(fileBytes(a), "AAAA");
         EXPECT_EQ(fileBytes(b), "BBBB");
         EXPECT_FALSE(fs::exists(folder.path() / "c.vel"));
-        EXPECT_FALSE(fs::exists(journal));
+        EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::none);
     }
     void expectCommitted() {
         EXPECT_EQ(fileBytes(a), "AAxyzw");
         EXPECT_EQ(fileBytes(b), "qq");
         EXPECT_EQ(fileBytes(folder.path() / "c.vel"), "c");
-        EXPECT_FALSE(fs::exists(journal));
+        EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::none);
     }
 };
 
-TEST_F(Journal, ACommitWritesEveryFileAndDropsTheJournal) {
+TEST_F(Journal, ACommitWritesEveryFileAndMarksTheJournalDone) {
     commitWrites(folder.path(), writes());
     expectCommitted();
+    // The next commit writes over the journal; a shorter one leaves nothing
+    // of the longer one behind it.
+    commitWrites(folder.path(), {FileWrite{b, 2, {Patch{1, {'r'}}}}});
+    const auto shortLength = journalLength(folder.path());
+    leaveJournal();
+    ASSERT_GT(journalLength(folder.path()), shortLength);
+    {
+        StopAt stop(CommitPoint::journalWritten, 1);
+        EXPECT_THROW(commitWrites(folder.path(), {FileWrite{b, 2, {Patch{0, {'s'}}}}}), Stop);
+    }
+    EXPECT_EQ(journalLength(folder.path()), shortLength);
+    EXPECT_GT(fs::file_size(journal), shortLength);
+    EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::replayed);
+    EXPECT_EQ(fileBytes(b), "sr");
+}
+
+TEST_F(Journal, PatchesOfAFileLeaveTheBytesBetweenThemAsTheyWere) {
+    std::ofstream(a, std::ios::binary | std::ios::trunc) << "AAAAAAAAAA";
+    commitWrites(folder.path(), {FileWrite{a, 10, {Patch{1, {'x'}}, Patch{5, {'y', 'z'}}, Patch{9, {'w'}}}}});
+    EXPECT_EQ(fileBytes(a), "AxAAAyzAAw");
 }
 
 TEST_F(Journal, ACompleteJournalIsReplayed) {
@@ -97,7 +117,11 @@ TEST_F(Journal, AnIncompleteJournalIsDropped) {
 
 TEST_F(Journal, AJournalWithoutItsCommitMarkIsDropped) {
     leaveJournal();
-    fs::resize_file(journal, fs::file_size(journal) - 16);  // "COMMIT!!", the count and the checksum
+    std::string bytes = fileBytes(journal);
+    std::size_t at = bytes.rfind("COMMIT!!");
+    ASSERT_EQ(at, bytes.size() - 20);  // the mark, the count and the checksum end the journal
+    bytes[at + 7] = '?';
+    std::ofstream(journal, std::ios::binary | std::ios::trunc) << bytes;
     EXPECT_EQ(recoverJournal(folder.path()), JournalOutcome::dropped);
     expectUntouched();
 }
@@ -132,7 +156,7 @@ TEST_F(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
     flushAllTables(g);
     EXPECT_EQ(fs::file_size(bands), bandsBefore + BandRecord::kLength);
     EXPECT_EQ(fs::file_size(year), 365U * DayRecord::kLength);  // 2006 is no leap year
-    EXPECT_FALSE(fs::exists(journalFile(g.dataDir)));
+    EXPECT_EQ(recoverJournal(g.dataDir), JournalOutcome::none);
 }
 
 TEST_F(DayCommit, ARecordWrittenBackUnchangedIsNoChange) {
@@ -167,7 +191,7 @@ TEST_F(DayCommit, RecordsChangedFarApartAreWrittenWithoutWhatLiesBetween) {
     }
     std::uintmax_t journalSize = 0;
     setCommitHook([&](CommitPoint p) {
-        if (p == CommitPoint::journalWritten) journalSize = fs::file_size(journalFile(g.dataDir));
+        if (p == CommitPoint::journalWritten) journalSize = journalLength(g.dataDir);
     });
     flushAllTables(g);
     setCommitHook(nullptr);
@@ -188,13 +212,10 @@ TEST(DirtyChunks, ChangesAFewChunksApartAreWrittenTogetherAndFartherOnesApart) {
     auto runs = [&](const std::vector<std::pair<std::size_t, std::size_t>>& marks) {
         DirtyChunks d;
         for (auto [from, to] : marks) d.mark(from, to);
-        std::vector<FileWrite> out;
-        d.appendWrites(out, "f", image);
+        std::vector<Patch> out;
+        d.appendPatches(out, image);
         std::vector<std::pair<std::size_t, std::size_t>> got;
-        for (const auto& w : out) {
-            EXPECT_EQ(w.length, image.size());
-            got.emplace_back(w.offset, w.data().size());
-        }
+        for (const auto& p : out) got.emplace_back(p.offset, p.data().size());
         return got;
     };
     using Runs = std::vector<std::pair<std::size_t, std::size_t>>;

@@ -138,15 +138,17 @@ TEST_F(RecordStore, AWholeRecordWriteLeavesOnlyItsChangedBytesToTheCommit) {
     flushAllTables(g);
     g.band.read(2);
     g.band.write();
-    EXPECT_TRUE(g.band.takeWrites().empty());
+    EXPECT_FALSE(g.band.takeWrites());
     g.band->hype[4] = 7;
     g.band.write();
-    const std::vector<FileWrite> writes = g.band.takeWrites();
-    ASSERT_EQ(writes.size(), 1U);
+    const auto write = g.band.takeWrites();
+    ASSERT_TRUE(write);
+    ASSERT_EQ(write->patches.size(), 1U);
+    const Patch& patch = write->patches[0];
     const std::size_t changed = BandRecord::kLength + kHype + 4 * sizeof(int16_t);
-    EXPECT_LE(writes[0].offset, changed);
-    EXPECT_GE(writes[0].offset + writes[0].data().size(), changed + sizeof(int16_t));
-    EXPECT_LE(writes[0].data().size(), 2 * DirtyChunks::kChunk);
+    EXPECT_LE(patch.offset, changed);
+    EXPECT_GE(patch.offset + patch.data().size(), changed + sizeof(int16_t));
+    EXPECT_LE(patch.data().size(), 2 * DirtyChunks::kChunk);
 }
 
 TEST_F(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
