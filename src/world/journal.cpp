@@ -109,8 +109,9 @@ fs::path fileOf(const fs::path& dataDir, const std::string& name) {
     return p.is_absolute() ? p : dataDir / p;
 }
 
-// The journal of the writes, in `out` (sized to it).
-void encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::vector<uint8_t>& out) {
+// The journal of the writes, in the first bytes of `out`, which grows to hold
+// it but is not cut back; returns the journal's length.
+std::size_t encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::vector<uint8_t>& out) {
     std::vector<std::string> names;
     names.reserve(writes.size());
     std::size_t size = kHeaderLength + kMarkLength;
@@ -119,7 +120,9 @@ void encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::
         size += 2 + names.back().size() + 8 + 4;
         for (const Patch& p : w.patches) size += 16 + p.data().size();
     }
-    out.resize(size);
+    // Growing the buffer only when it is too short spares zeroing the bytes
+    // of a longer journal than the last each day.
+    if (out.size() < size) out.resize(size);
     Filler fill(out.data());
     fill.bytes(kHeader, kTagLength);
     fill.number<uint64_t>(size);
@@ -140,6 +143,7 @@ void encode(const fs::path& dataDir, const std::vector<FileWrite>& writes, std::
     fill.bytes(kMark, kTagLength);
     fill.number<uint32_t>(static_cast<uint32_t>(writes.size()));
     fill.number<uint64_t>(sum);
+    return size;
 }
 
 // The writes of a complete journal, or nothing for an incomplete one.
@@ -205,7 +209,7 @@ public:
     // made and dropped again each day. The header, which gives the journal's
     // length, goes first with the rest, so a write cut short leaves a journal
     // that does not check out.
-    void write(const std::vector<uint8_t>& bytes) {
+    void write(std::span<const uint8_t> bytes) {
         put(0, bytes.data(), bytes.size());
         struct stat st {};
         if (::fstat(fd_, &st) == 0 && static_cast<uint64_t>(st.st_size) > bytes.size() + kKeptJournal &&
@@ -345,8 +349,8 @@ void commitWrites(const fs::path& dataDir, const std::vector<FileWrite>& writes)
     // so a day's commit does not fault in fresh pages for it; a commit of
     // unusual size does not keep its memory.
     static thread_local std::vector<uint8_t> bytes;
-    encode(dataDir, writes, bytes);
-    journal.write(bytes);
+    const std::size_t length = encode(dataDir, writes, bytes);
+    journal.write(std::span<const uint8_t>(bytes.data(), length));
     if (bytes.capacity() > kKeptJournal) bytes = std::vector<uint8_t>();
     tell(CommitPoint::journalWritten);
     applyAll(writes);

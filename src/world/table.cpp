@@ -286,23 +286,20 @@ void DirtyChunks::clear() {
 
 void DirtyChunks::appendPatches(std::vector<Patch>& out, std::span<const uint8_t> image) const {
     if (!any_) return;
-    const std::size_t chunks = words_.size() * 64;
-    auto dirty = [&](std::size_t c) { return (words_[c / 64] >> (c % 64) & 1U) != 0; };
-    std::size_t c = 0;
-    while (c < chunks) {
-        if (words_[c / 64] == 0) {
-            c = (c / 64 + 1) * 64;
-            continue;
+    const std::size_t words = words_.size();
+    // The first chunk at or after c whose bit is `set`, or one past the last.
+    auto next = [&](std::size_t c, bool set) {
+        std::size_t w = c / 64;
+        if (w >= words) return words * 64;
+        uint64_t bits = (set ? words_[w] : ~words_[w]) & (~uint64_t{0} << (c % 64));
+        while (bits == 0) {
+            if (++w == words) return words * 64;
+            bits = set ? words_[w] : ~words_[w];
         }
-        if (!dirty(c)) {
-            ++c;
-            continue;
-        }
-        // A run takes in clean gaps of up to kJoinedGap chunks: one write
-        // costs less than two with a few bytes between them.
-        std::size_t end = c;
-        for (std::size_t next = c; next < chunks && next <= end + kJoinedGap; ++next)
-            if (dirty(next)) end = next + 1;
+        return w * 64 + static_cast<std::size_t>(std::countr_zero(bits));
+    };
+    for (std::size_t c = next(0, true); c < words * 64; c = next(c, true)) {
+        const std::size_t end = next(c, false);
         const std::size_t from = std::min(c * kChunk, image.size());
         const std::size_t to = std::min(end * kChunk, image.size());
         if (from < to) out.push_back({from, {}, image.subspan(from, to - from)});

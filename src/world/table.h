@@ -45,11 +45,10 @@ enum class IfMissing { createEmpty, fail };
 
 // Which stretches of a file's bytes changed since they were last written, kept
 // in chunks of kChunk bytes, so a day that changes a few fields scattered
-// over a large file writes those few chunks and not everything between them.
+// over a large file journals those few chunks and not everything between them.
 class DirtyChunks {
 public:
     static constexpr std::size_t kChunk = 64;
-    static constexpr std::size_t kJoinedGap = 4;
 
     // Bytes from up to (not including) to changed.
     void mark(std::size_t from, std::size_t to) {
@@ -65,9 +64,9 @@ public:
     }
     bool any() const { return any_; }
     void clear();
-    // A patch for each run of changed chunks of image, cut at its end, in
-    // file order; each stands on image's bytes, which must not change until
-    // it is written.
+    // A patch for each run of changed chunks of image, one after another,
+    // cut at its end, in file order; each stands on image's bytes, which must
+    // not change until it is written.
     void appendPatches(std::vector<Patch>& out, std::span<const uint8_t> image) const;
 
 private:

@@ -206,9 +206,9 @@ TEST_F(DayCommit, RecordsChangedFarApartAreWrittenWithoutWhatLiesBetween) {
     EXPECT_EQ(file.substr(19 * BandRecord::kLength + 2, 7), "Band 20");
 }
 
-TEST(DirtyChunks, ChangesAFewChunksApartAreWrittenTogetherAndFartherOnesApart) {
+TEST(DirtyChunks, EachRunOfChangedChunksIsAPatch) {
     constexpr std::size_t k = DirtyChunks::kChunk;
-    const std::vector<uint8_t> image(40 * k + 10, 7);
+    const std::vector<uint8_t> image(70 * k + 10, 7);
     auto runs = [&](const std::vector<std::pair<std::size_t, std::size_t>>& marks) {
         DirtyChunks d;
         for (auto [from, to] : marks) d.mark(from, to);
@@ -222,12 +222,14 @@ TEST(DirtyChunks, ChangesAFewChunksApartAreWrittenTogetherAndFartherOnesApart) {
     EXPECT_EQ(runs({}), Runs{});
     EXPECT_EQ(runs({{k + 3, k + 4}}), (Runs{{k, k}}));
     EXPECT_EQ(runs({{k - 1, k + 1}}), (Runs{{0, 2 * k}}));  // a change across a chunk's edge
-    // Four clean chunks between two changes are written through; five are not.
-    EXPECT_EQ(runs({{0, 1}, {5 * k, 5 * k + 1}}), (Runs{{0, 6 * k}}));
-    EXPECT_EQ(runs({{0, 1}, {6 * k, 6 * k + 1}}), (Runs{{0, k}, {6 * k, k}}));
-    // The last chunk is cut at the file's end; chunks past a whole word of bits are found.
-    EXPECT_EQ(runs({{40 * k + 2, 40 * k + 3}}), (Runs{{40 * k, 10}}));
+    // Chunks side by side make one patch; one clean chunk between makes two.
+    EXPECT_EQ(runs({{0, 1}, {k, k + 1}, {2 * k + 5, 2 * k + 6}}), (Runs{{0, 3 * k}}));
+    EXPECT_EQ(runs({{0, 1}, {2 * k, 2 * k + 1}}), (Runs{{0, k}, {2 * k, k}}));
+    // The last chunk is cut at the file's end; chunks past a whole word of bits
+    // are found, and a run goes on across the edge of two words.
+    EXPECT_EQ(runs({{70 * k + 2, 70 * k + 3}}), (Runs{{70 * k, 10}}));
     EXPECT_EQ(runs({{3, 4}, {39 * k, 39 * k + 1}}), (Runs{{0, k}, {39 * k, k}}));
+    EXPECT_EQ(runs({{62 * k, 66 * k}}), (Runs{{62 * k, 4 * k}}));
 }
 
 }  // namespace
