@@ -12,6 +12,7 @@
 #include "talent/contract_terms.h"
 #include "world/game.h"
 #include "world/record_bytes.h"
+#include "world/shortlist_lookups.h"
 
 namespace trovane {
 
@@ -32,9 +33,8 @@ void computerCheckBands(Game& g) {
     auto next = free.begin();
     for (int32_t n = 1; n < g.band.recordCount(); ++n)
         if (isFree(n)) decodeRecord(g.band.bytesOf(n).data(), *next++);
-    // Each pair is tested on the copies; the buffers are set only where the
-    // test's listing reads them, and at the end as the last pair left them.
-    // The styles do not change, so a label's walk from each style is made once.
+    // Each pair is tested on the copies. The styles do not change, so a
+    // label's walk from each style is made once.
     struct KnownWalk {
         bool known = false;
         StyleWalk walk;
@@ -51,30 +51,37 @@ void computerCheckBands(Game& g) {
         if (!k.known) k = {true, walkStyles(g, labelStyle, bandStyle)};
         return k.walk;
     };
-    int styleToRead = 0;  // the style the last test read, not yet in the buffer
-    bool buffersSet = true;
+    // Listing a pair reads buffers (band, label, style, shortlist) and
+    // appends the pair when it is not listed yet. Each buffer is set once, at
+    // the end, as the last test or listing to set it leaves it: after the
+    // last test the band and label buffers hold the last band and label
+    // tested, whether that pair was listed or not.
+    int lastStyleRead = 0;
+    int32_t listedLast = 0;  // the record of the last pair found listed, when no pair was added after it
+    bool tested = false;
     LabelRecord label{};
     for (int32_t l = 1; l < g.label.recordCount(); ++l) {
         if (l == player) continue;
         decodeRecord(g.label.bytesOf(l).data(), label);
         for (const BandRecord& band : free) {
             const ShortlistVerdict v = shortlistVerdict(g, label, band, 0, walk);
-            if (v.styleRead > 0) styleToRead = v.styleRead;
-            buffersSet = false;
+            if (v.styleRead > 0) lastStyleRead = v.styleRead;
+            tested = true;
             if (!v.qualifies || g.rng.between(0, 99) <= 50) continue;
-            g.band.rec = band;
-            g.label.rec = label;
-            buffersSet = true;
-            if (styleToRead > 0) g.style.read(styleToRead);
-            styleToRead = 0;
-            shortlistAdd(g);
+            listedLast = shortlistRecordOf(g, band.id, label.id);
+            if (listedLast != 0) continue;
+            g.shortlist.rec = ShortlistRecord{};
+            g.shortlist->band = band.id;
+            g.shortlist->label = label.id;
+            g.shortlist.append();
         }
     }
-    if (!buffersSet) {
+    if (tested) {
         g.band.rec = free.back();
         g.label.rec = label;
     }
-    if (styleToRead > 0) g.style.read(styleToRead);
+    if (lastStyleRead > 0) g.style.read(lastStyleRead);
+    if (listedLast != 0) g.shortlist.read(listedLast);
 }
 
 void rivalFollowUpSingle(Game& g) {

@@ -334,6 +334,31 @@ TEST_F(RivalSigning, RivalsJudgeEveryActButThePlayerDoesNot) {
     EXPECT_EQ(listers, (std::vector<int16_t>{kRival, second}));
 }
 
+TEST_F(RivalSigning, JudgingLeavesTheBuffersAtTheLastPairTestedAndAPairFoundListedAsRead) {
+    for (int16_t l : {kRival, second}) {
+        amend(g.label, l, [&] {
+            g.label->reputationTarget = {40, 0, 0, 0, 0};
+            g.label->maxControversy = 100;
+        });
+    }
+    amend(g.band, act, [&] { g.band->reputation = {30, 0, 0, 0, 0}; });
+    list(second, act);   // record 1
+    list(kPlayer, act);  // record 2, which no rival's judging reads
+    const int16_t signedElsewhere = addBand("Taken", kRival);
+    bool foundListed = false;
+    for (int week = 0; week < 20 && !foundListed; ++week) {
+        g.shortlist.read(2);
+        g.band.read(signedElsewhere);
+        g.label.read(kPlayer);
+        computerCheckBands(g);
+        EXPECT_EQ(g.band->id, act);
+        EXPECT_EQ(g.label->id, second);
+        foundListed = g.shortlist->label == second;
+    }
+    EXPECT_TRUE(foundListed);
+    EXPECT_EQ(g.shortlist.recordCount(), 4);  // the first rival's pair added once, the second's never again
+}
+
 TEST_F(RivalSigning, AContestedActDecidesOnceOnThePlayersDateAndTheBestOfferWins) {
     list(kPlayer, act);
     list(kRival, act);
