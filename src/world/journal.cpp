@@ -193,6 +193,15 @@ std::optional<std::vector<FileWrite>> decode(const fs::path& dataDir, const std:
     throw FatalError(fmt::format("Cannot write {}: {}", file.string(), std::strerror(err)));
 }
 
+void putBytes(int fd, const fs::path& file, uint64_t offset, std::span<const uint8_t> bytes) {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        ssize_t put = ::pwrite(fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
+        if (put <= 0) cannotWrite(file, errno);
+        done += static_cast<std::size_t>(put);
+    }
+}
+
 // The journal file, open for one commit.
 class JournalFile {
 public:
@@ -221,13 +230,7 @@ public:
 
 private:
     void put(std::size_t offset, const void* data, std::size_t size) {
-        const auto* from = static_cast<const uint8_t*>(data);
-        std::size_t done = 0;
-        while (done < size) {
-            ssize_t put = ::pwrite(fd_, from + done, size - done, static_cast<off_t>(offset + done));
-            if (put <= 0) cannotWrite(file_, errno);
-            done += static_cast<std::size_t>(put);
-        }
+        putBytes(fd_, file_, offset, std::span<const uint8_t>(static_cast<const uint8_t*>(data), size));
     }
     fs::path file_;
     int fd_;
@@ -266,15 +269,6 @@ std::optional<std::vector<uint8_t>> headerOf(const fs::path& file) {
 bool isClosed(const fs::path& file) {
     auto header = headerOf(file);
     return header && std::memcmp(header->data(), kClosedHeader, kTagLength) == 0;
-}
-
-void putBytes(int fd, const fs::path& file, uint64_t offset, std::span<const uint8_t> bytes) {
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        ssize_t put = ::pwrite(fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
-        if (put <= 0) cannotWrite(file, errno);
-        done += static_cast<std::size_t>(put);
-    }
 }
 
 // How far apart two patches of a file may be and still be written as one.
