@@ -1,7 +1,9 @@
 // The record holders of each chart: biggest sellers, longest runs, most
 // points, the youngest and oldest solo acts at number one, the largest shares.
 #include <algorithm>
+#include <array>
 #include <map>
+#include <vector>
 
 #include "production/charts.h"
 #include "world/record_bytes.h"
@@ -46,6 +48,10 @@ void offer(ChartRecords& r, Holder h, int64_t value, int32_t who, const std::str
 
 std::size_t at(int v) { return static_cast<std::size_t>(v); }
 
+std::array<int32_t, 3> heldByBands(const ChartRecords& r) {
+    return {r.holder[bandSales].value, r.holder[bandWeeks].value, r.holder[bandPoints].value};
+}
+
 const std::size_t kRowDisc = offsetIn<ChartRow>("disc");
 const std::size_t kDiscId = offsetIn<DiscRecord>("id");
 const std::size_t kDiscBand = offsetIn<DiscRecord>("band");
@@ -77,6 +83,58 @@ T element(std::span<const uint8_t> bytes, std::size_t base, int i) {
 }
 
 std::string bandName(std::span<const uint8_t> b) { return textAt<decltype(BandRecord::name)>(b, kBandName); }
+
+constexpr uint16_t kEveryChart = (1U << 10) - 1;
+
+// Marks each band whose sales totals, chart counts or points a write changes
+// (or that a write adds) for every chart to look at again.
+void watchBandFigures(Game& g) {
+    ChangedBands& changed = g.changedBands;
+    if (changed.watching) return;
+    g.band.watchWrites(&changed,
+                       [&g, &changed](int32_t n, std::span<const uint8_t>, std::span<const uint8_t>) {
+                           if (changed.generation != g.band.generation()) return;
+                           const auto k = static_cast<std::size_t>(n);
+                           if (changed.marks.size() <= k) changed.marks.resize(k + 1, 0);
+                           if (changed.marks[k] == 0) changed.listed.push_back(n);
+                           changed.marks[k] = kEveryChart;
+                       },
+                       {{kBandSales, sizeof(BandRecord::salesTotals)},
+                        {kBandCounts, sizeof(BandRecord::chartCounts)},
+                        {kBandPoints, sizeof(BandRecord::bandPoints)}});
+    changed.watching = true;
+}
+
+// The bands chart `chart` must test against its band holders, in record
+// order: every band when it has not looked at all of them since the band
+// table was opened, or when its holders are not those it left; otherwise
+// those changed since it last looked. The chart's marks are taken off.
+std::vector<int32_t> bandsToTest(Game& g, int chart, const std::array<int32_t, 3>& held) {
+    watchBandFigures(g);
+    ChangedBands& changed = g.changedBands;
+    if (changed.generation != g.band.generation()) {
+        changed.generation = g.band.generation();
+        changed.marks.clear();
+        changed.listed.clear();
+        for (auto& c : changed.charts) c.looked = false;
+    }
+    auto& c = changed.charts[at(chart)];
+    const bool every = !c.looked || c.held != held;
+    const auto bit = static_cast<uint16_t>(1U << chart);
+    std::vector<int32_t> out;
+    if (every) {
+        out.resize(static_cast<std::size_t>(std::max(g.band.recordCount() - 1, 0)));
+        for (std::size_t i = 0; i < out.size(); ++i) out[i] = static_cast<int32_t>(i + 1);
+    } else {
+        for (int32_t n : changed.listed)
+            if ((changed.marks[at(n)] & bit) != 0) out.push_back(n);
+        std::sort(out.begin(), out.end());
+    }
+    for (int32_t n : changed.listed) changed.marks[at(n)] &= static_cast<uint16_t>(~bit);
+    std::erase_if(changed.listed, [&](int32_t n) { return changed.marks[at(n)] == 0; });
+    c.looked = true;
+    return out;
+}
 
 }  // namespace
 
@@ -183,7 +241,7 @@ void updateChartRecords(Game& g, int chart) {
     if (lastDisc != 0) g.disc.read(lastDisc);
 
     const int32_t bands = g.band.recordCount() - 1;
-    for (int32_t n = 1; n <= bands; ++n) {
+    for (int32_t n : bandsToTest(g, chart, heldByBands(rec))) {
         const auto b = g.band.bytesOf(n);
         const int16_t id = fieldAt<int16_t>(b, kBandId);
         std::string name;
@@ -246,6 +304,7 @@ void updateChartRecords(Game& g, int chart) {
         if (bestDisc > 0) offer(rec, discShare, share(bestDiscWeek), bestDisc, bestDiscText);
         if (bestLabel > 0) offer(rec, labelShare, share(bestLabelWeek), bestLabel, bestLabelName);
     }
+    g.changedBands.charts[at(chart)].held = heldByBands(rec);
     g.chartrecs.rec = rec;
     g.chartrecs.write(chart + 1);
 }

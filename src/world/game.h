@@ -185,6 +185,8 @@ public:
     EngagementIndex engagements;
     // The discs of the charts' rows, for a rise of hype (see chart_hype.h).
     ChartRowKeys chartRowKeys;
+    // The bands each chart's record holders have yet to be tested against (see chart_records.cpp).
+    ChangedBands changedBands;
     // The news items waiting for a reply (see news_lookups.h).
     MatchingRecords heldNews;
     // The schedule's entries that are stages of a story, by each artist of

@@ -129,4 +129,20 @@ struct ChartRowKeys {
     std::array<Chart, 10> charts;
 };
 
+// The bands whose sales totals, chart counts or points may have changed since
+// each chart last looked for its record holders (see
+// production/chart_records.cpp). Holders only ever rise, so a band left as it
+// was when a chart last looked cannot take a record from them.
+struct ChangedBands {
+    bool watching = false;
+    uint64_t generation = UINT64_MAX;  // the band table's generation the marks are for
+    std::vector<uint16_t> marks;       // by band number: a bit for each chart yet to look
+    std::vector<int32_t> listed;       // the bands with any mark, in the order marked
+    struct Chart {
+        bool looked = false;            // the chart looked at every band since the marks began
+        std::array<int32_t, 3> held{};  // its band holders' values when it last looked
+    };
+    std::array<Chart, 10> charts;
+};
+
 }  // namespace trovane

@@ -80,4 +80,58 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
     }
 }
 
+// A week later only the bands whose figures changed are tested again; ties
+// still go to the lower record number, and holders not left as the chart left
+// them (a loaded game, a cleared record) have every band tested again.
+TEST(ChartRecords, BandsWhoseFiguresChangedSinceTheLastLookAreTestedInRecordOrder) {
+    test::PlayedWorld w;
+    Game& g = w.g;
+    w.play(70);
+    const int chart = 1;
+    const auto pair = static_cast<std::size_t>(chart * 2 + 1);
+    auto bandHolder = [&] {
+        g.chartrecs.read(chart + 1);
+        return g.chartrecs->holder[0];
+    };
+    auto update = [&](int c) {
+        openChart(g, c);
+        updateChartRecords(g, c);
+        closeChart(g);
+    };
+    // Every chart looks once, so no band is left marked from the weeks played.
+    for (int c = 0; c < 10; ++c) update(c);
+    const ChartHolder first = bandHolder();
+    ASSERT_GT(first.value, 0);
+    // Two bands other than the holder.
+    const int32_t low = first.who == 3 ? 4 : 3;
+    const int32_t high = g.band.recordCount() - (first.who == g.band.recordCount() - 2 ? 3 : 2);
+    ASSERT_GT(high, low);
+    auto raise = [&](int32_t band, int32_t to) {
+        g.band.read(band);
+        g.band->salesTotals[pair] = to;
+        g.band.write();
+    };
+    // The higher record is written first; the tie goes to the lower all the same.
+    raise(high, first.value + 5);
+    raise(low, first.value + 5);
+    update(chart);
+    EXPECT_EQ(bandHolder().value, first.value + 5);
+    EXPECT_EQ(bandHolder().who, low);
+
+    // A band lowered and another raised past it: only the raised one counts.
+    raise(low, 1);
+    raise(high, first.value + 9);
+    update(chart);
+    EXPECT_EQ(bandHolder().value, first.value + 9);
+    EXPECT_EQ(bandHolder().who, high);
+
+    // Holders emptied behind the chart's back: every band is tested again.
+    g.chartrecs.rec = ChartRecords{};
+    g.chartrecs.write(chart + 1);
+    raise(high, 2);
+    update(chart);
+    EXPECT_EQ(bandHolder().value, first.value) << "the band that held it before holds it again";
+    EXPECT_EQ(bandHolder().who, first.who);
+}
+
 }  // namespace
