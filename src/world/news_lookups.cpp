@@ -22,10 +22,7 @@ bool isHeld(std::span<const uint8_t> bytes) {
 
 }  // namespace
 
-int32_t firstHeldNewsItem(Game& g) {
-    const auto& held = g.heldNews.records();
-    return held.empty() ? 0 : *held.begin();
-}
+int32_t firstHeldNewsItem(Game& g) { return g.heldNews.first(); }
 
 void watchHeldNews(Game& g) { g.heldNews.keep(g.news, isHeld); }
 

@@ -62,3 +62,31 @@ TEST_F(KeyedSchedule, ARecordIsFiledUnderEachOfItsKeysAndMovesWithItsRewrites) {
     EXPECT_EQ(cast.firstOf(4), 1);
     EXPECT_EQ(cast.firstOf(0), 1);
 }
+
+// Keys that differ only in their high bits, like (band, label) pairs, many
+// enough that the index grows several times; then a key that gains a second
+// record earlier than its first, and loses that first.
+TEST_F(KeyedSchedule, ManyKeysDifferingInTheirHighBitsAreEachFoundAfterTheIndexGrows) {
+    const std::size_t kDate = offsetIn<ScheduleRecord>("date");
+    KeyedRecords<uint32_t> byDay;
+    byDay.keep(g.schedule, [&](std::span<const uint8_t> bytes) {
+        KeyedRecords<uint32_t>::Keys keys;
+        keys.add(static_cast<uint32_t>(fieldAt<double>(bytes, kDate)) << 16);
+        return keys;
+    });
+    for (int day = 1; day <= 300; ++day) {
+        g.schedule.rec = ScheduleRecord{};
+        g.schedule->date = day;
+        g.schedule.append();
+    }
+    for (uint32_t day = 1; day <= 300; ++day) ASSERT_EQ(byDay.firstOf(day << 16), static_cast<int32_t>(day));
+    EXPECT_EQ(byDay.firstOf(301U << 16), 0);
+    EXPECT_EQ(byDay.firstOf(7), 0) << "the low bits alone name no key";
+    // Record 9 moves to day 12's key, before its own record 12.
+    amend(g.schedule, 9, [&] { g.schedule->date = 12; });
+    EXPECT_EQ(byDay.of(12U << 16), (std::vector<int32_t>{9, 12}));
+    EXPECT_EQ(byDay.firstOf(9U << 16), 0);
+    amend(g.schedule, 9, [&] { g.schedule->date = 9; });
+    EXPECT_EQ(byDay.of(12U << 16), (std::vector<int32_t>{12}));
+    EXPECT_EQ(byDay.firstOf(9U << 16), 9);
+}
