@@ -24,7 +24,7 @@ protected:
 
 TEST_F(FestivalBill, TakesTheMostReputedActsWithTiesInRecordOrder) {
     int16_t second = addAct("Second", 70);
-    int16_t third = addAct("Third", 60);
+    addAct("Third", 60);
     int16_t first = addAct("First", 70);
     int16_t top = addAct("Top", 100);
     tour = scheduled();
@@ -32,7 +32,6 @@ TEST_F(FestivalBill, TakesTheMostReputedActsWithTiesInRecordOrder) {
     // Top 100, then the two 70s in record order; the bill holds three.
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{top, second, first}));
     EXPECT_EQ(billOfDay(1), billOfDay(0));
-    static_cast<void>(third);
 }
 
 TEST_F(FestivalBill, ReputationIsTakenInTheFestivalsTerritory) {
@@ -50,8 +49,7 @@ TEST_F(FestivalBill, ReputationIsTakenInTheFestivalsTerritory) {
 TEST_F(FestivalBill, TakesOnlyTheFestivalsStyleAndItsDescendants) {
     g.style.rec = StyleRecord{};
     int16_t rock = static_cast<int16_t>(g.style.append());
-    g.style.rec = StyleRecord{};
-    g.style->parentStyle = static_cast<uint8_t>(rock);
+    g.style.rec = StyleRecord{.parentStyle = static_cast<uint8_t>(rock)};
     int16_t punk = static_cast<int16_t>(g.style.append());
     int16_t rocker = addAct("Rocker", 60);
     int16_t punks = addAct("Punks", 50);

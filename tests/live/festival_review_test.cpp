@@ -10,14 +10,8 @@ using namespace trovane;
 namespace {
 
 TEST(FestivalVerdict, BandsMeetAt61And81And91) {
-    EXPECT_EQ(festivalVerdict(0), 0);
-    EXPECT_EQ(festivalVerdict(60), 0);
-    EXPECT_EQ(festivalVerdict(61), 1);
-    EXPECT_EQ(festivalVerdict(80), 1);
-    EXPECT_EQ(festivalVerdict(81), 2);
-    EXPECT_EQ(festivalVerdict(90), 2);
-    EXPECT_EQ(festivalVerdict(91), 3);
-    EXPECT_EQ(festivalVerdict(100), 3);
+    const std::pair<int, int> cases[] = {{0, 0}, {60, 0}, {61, 1}, {80, 1}, {81, 2}, {90, 2}, {91, 3}, {100, 3}};
+    for (auto [mean, verdict] : cases) EXPECT_EQ(festivalVerdict(mean), verdict) << mean;
 }
 
 class FestivalReview : public test::FestivalWorld, public ::testing::Test {

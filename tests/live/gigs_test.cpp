@@ -207,23 +207,19 @@ TEST_F(Gigs, ATiredBandLosesUpToAThird) {
 
 TEST_F(Gigs, TheBiggestGigIsTheLargestCrowd) {
     setMembers(100);
-    int32_t first = oneGig(addVenue("Hall", 1000, leeds));
-    g.gig->attendance = 800;
-    g.gig.write();
-    rateGigPerformance(g, 1);
-    int32_t smaller = oneGig(addVenue("Club", 1000, leeds));
-    g.gig->attendance = 800;  // equal is not bigger
-    g.gig.write();
-    rateGigPerformance(g, 1);
-    g.band.read(band);
+    auto played = [&](const char* venue, int32_t crowd) {
+        int32_t gig = oneGig(addVenue(venue, 1000, leeds));
+        g.gig->attendance = crowd;
+        g.gig.write();
+        rateGigPerformance(g, 1);
+        g.band.read(band);
+        return gig;
+    };
+    int32_t first = played("Hall", 800);
+    played("Club", 800);  // equal is not bigger
     EXPECT_EQ(g.band->biggestGig, first);
-    int32_t bigger = oneGig(addVenue("Arena", 1000, leeds));
-    g.gig->attendance = 801;
-    g.gig.write();
-    rateGigPerformance(g, 1);
-    g.band.read(band);
+    int32_t bigger = played("Arena", 801);
     EXPECT_EQ(g.band->biggestGig, bigger);
-    static_cast<void>(smaller);
 }
 
 TEST_F(Gigs, ReviewBandsTurnAtTheirEdges) {
@@ -236,8 +232,7 @@ TEST_F(Gigs, ReviewBandsTurnAtTheirEdges) {
 TEST_F(Gigs, ThePlayersNightIsPlayedSettledAndReviewed) {
     setMembers(100);
     int32_t gig = oneGig(addVenue("The Dome", 500, leeds));
-    g.schedule.rec = ScheduleRecord{};
-    g.schedule->gig = gig;
+    g.schedule.rec = ScheduleRecord{.gig = gig};
     int16_t news = static_cast<int16_t>(g.news.recordCount());
     performGig(g);
     g.gig.read(gig);

@@ -8,6 +8,7 @@
 #include "schedule/schedule.h"
 #include "session/invariants.h"
 #include "support/amend.h"
+#include "support/calendar_world.h"
 #include "support/gig_world.h"
 #include "talent/event_fatigue.h"
 
@@ -45,13 +46,12 @@ protected:
     }
     int16_t addProduct(const char* name, uint8_t minimum, const char* area, std::array<uint8_t, 5> countries = {},
                        uint8_t minC = 0, uint8_t maxC = 100) {
-        g.product.rec = ProductRecord{};
-        g.product->name = name;
-        g.product->minimumReputation = minimum;
-        g.product->area = area;
-        g.product->regionWeights = countries;
-        g.product->minControversy = minC;
-        g.product->maxControversy = maxC;
+        g.product.rec = ProductRecord{.name = name,
+                                      .minimumReputation = minimum,
+                                      .regionWeights = countries,
+                                      .area = area,
+                                      .minControversy = minC,
+                                      .maxControversy = maxC};
         return static_cast<int16_t>(g.product.append());
     }
     std::vector<int16_t> sponsorsOf(int16_t t) {
@@ -94,11 +94,8 @@ TEST_F(HandTour, AFarGigIsReachedByTravelThenRest) {
     addTourGig(g, t, hall, first);
     // Paris is 3 days away: 2 travel days, then rest up to the day before.
     int32_t second = addTourGig(g, t, stadium, first + 5);
-    EXPECT_EQ(typesOn(first + 1), std::vector<uint8_t>{10});
-    EXPECT_EQ(typesOn(first + 2), std::vector<uint8_t>{10});
-    EXPECT_EQ(typesOn(first + 3), std::vector<uint8_t>{11});
-    EXPECT_EQ(typesOn(first + 4), std::vector<uint8_t>{11});
-    EXPECT_EQ(typesOn(first + 5), std::vector<uint8_t>{8});
+    const uint8_t days[] = {10, 10, 11, 11, 8};
+    for (int d = 1; d <= 5; ++d) EXPECT_EQ(typesOn(first + d), std::vector<uint8_t>{days[d - 1]}) << d;
     g.tour.read(t);
     EXPECT_EQ(g.tour->gigCount, 2);
     EXPECT_EQ(g.tour->gigs[1], second);
@@ -107,11 +104,7 @@ TEST_F(HandTour, AFarGigIsReachedByTravelThenRest) {
 TEST_F(HandTour, ABusyDayOnTheRoadStopsTheGig) {
     int16_t t = tour();
     addTourGig(g, t, hall, first);
-    ScheduleRecord studio{};
-    studio.type = 7;
-    studio.date = first + 1;
-    studio.band = band;
-    addSchedule(g, studio);
+    test::file(g, 7, first + 1, band);  // a studio day
     EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 5), "The Testers are already busy on that day or on the way.");
     EXPECT_EQ(tourGigRefusal(g, t, club, first + 2), "The Testers are already busy on that day or on the way.");
     EXPECT_EQ(confirmGigDateText(g, band, hall, first),
@@ -199,12 +192,10 @@ TEST_F(HandTour, TheRatingOfTheTourMustReachTheMinimum) {
     addProduct("Past", 29, "X");
     EXPECT_EQ(sponsorsOf(world), std::vector<int16_t>{at});
     // England is the UK market (50); France and a Europe-wide tour are Europe (40).
-    EXPECT_EQ(tourRating(g, tour("E", static_cast<uint8_t>(england))), 50);
-    EXPECT_EQ(tourRating(g, tour("E", static_cast<uint8_t>(france))), 40);
-    EXPECT_EQ(tourRating(g, tour("E", 0)), 40);
-    EXPECT_EQ(tourRating(g, tour("N", 0)), 20);
-    EXPECT_EQ(tourRating(g, tour("O", 0)), 10);
-    EXPECT_EQ(tourRating(g, tour("S", 0)), 0);
+    const std::tuple<const char*, int16_t, int> areas[] = {{"E", england, 50}, {"E", france, 40}, {"E", 0, 40},
+                                                           {"N", 0, 20},       {"O", 0, 10},      {"S", 0, 0}};
+    for (auto [area, nation, rating] : areas)
+        EXPECT_EQ(tourRating(g, tour(area, static_cast<uint8_t>(nation))), rating) << area << nation;
 }
 
 TEST_F(HandTour, ProvisionsWaitForASponsorOnlyWhileOneFits) {
@@ -251,11 +242,7 @@ TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
     int16_t theirs = addBand("Theirs", rival);
     EXPECT_EQ(supportRefusal(g, t, theirs), "Theirs isn't signed to your label.");
     // A rest day of the tour's last leg is as busy as a gig.
-    ScheduleRecord e{};
-    e.type = 7;
-    e.date = first + 4;
-    e.band = c;
-    addSchedule(g, e);
+    test::file(g, 7, first + 4, c);
     EXPECT_EQ(supportRefusal(g, t, c), "Gamma isn't free for the whole tour.");
     EXPECT_EQ(supportCandidates(g, t), (std::vector<int16_t>{a, b}));
     int16_t d = addBand("Delta", label);
@@ -265,11 +252,7 @@ TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
 }
 
 TEST_F(Supports, CancellingCallsOffTheTourButNotOthersDays) {
-    ScheduleRecord other{};
-    other.type = 7;
-    other.date = first + 2;
-    other.band = a;
-    addSchedule(g, other);
+    test::file(g, 7, first + 2, a);
     cancelTour(g, t);
     for (double d = first; d <= first + 4; ++d)
         for (int32_t id : entriesOfDay(g, d)) {

@@ -78,13 +78,12 @@ protected:
     }
     // A daily paper in England taking small articles of the value.
     int16_t paper(const char* name, uint8_t value, uint8_t minimum = 1) {
-        g.media.rec = MediaRecord{};
-        g.media->mediaName = name;
-        g.media->reach = 1;
-        g.media->country = static_cast<uint8_t>(england);
-        g.media->smallMinimum = minimum;
-        g.media->smallValue = value;
-        g.media->maxControversy = 100;
+        g.media.rec = MediaRecord{.mediaName = name,
+                                  .reach = 1,
+                                  .smallMinimum = minimum,
+                                  .smallValue = value,
+                                  .maxControversy = 100,
+                                  .country = static_cast<uint8_t>(england)};
         return static_cast<int16_t>(g.media.append());
     }
     std::vector<int16_t> offered(int territory) {

@@ -26,17 +26,9 @@ using test::ScreenTest;
 
 namespace {
 
-// A writer's act signed to the player, and an open independent studio.
+// An act of two signed to the player, and an open independent studio.
 int16_t addSignedBand(Game& g) {
-    g.artist.rec =
-        ArtistRecord{.forename = std::string("Nia"), .surname = std::string("Hart"), .male = -1, .energy = 100};
-    const auto artist = static_cast<int16_t>(g.artist.append());
-    g.band.rec = BandRecord{};
-    g.band->name = std::string("The Hartbeats");
-    g.band->label = g.player.playerLabel;
-    g.band->memberCount = 2;
-    g.band->members = {artist, artist};
-    const auto band = static_cast<int16_t>(g.band.append());
+    const int16_t band = test::addHartbeats(g, 2, 0);
     g.business.rec = BusinessRecord{.name = std::string("Harbour Studios"), .city = 1, .quality = 40, .open = -1};
     g.business.append();
     return band;
@@ -76,13 +68,8 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
 
     std::vector<int32_t> songs;
     for (const char* title : {"Low Tide", "Night Bus", "Glass Roof"}) {
-        g.song.rec = SongRecord{};
-        g.song->title = std::string(title);
-        g.song->band = band;
-        g.song->quality = 60;
-        g.song->commerciality = 40;
-        g.song->disc = 65535;
-        g.song->written = g.gameDate;
+        g.song.rec = SongRecord{
+            .title = title, .band = band, .quality = 60, .commerciality = 40, .disc = 65535, .written = g.gameDate};
         songs.push_back(g.song.append());
     }
     amend(g.band, band, [&] { g.band->songsWritten = 3; });
@@ -139,12 +126,8 @@ TEST_F(ScreenTest, ARecordedAlbumIsReleasedFromTheBandsPanel) {
     startNewGameAsPlayer();
     Game& g = *game;
     const int16_t band = addSignedBand(g);
-    g.disc.rec = DiscRecord{};
-    g.disc->title = std::string("Harbour Lights");
-    g.disc->band = band;
-    g.disc->label = g.player.playerLabel;
-    g.disc->trackCount = 10;
-    g.disc->tracksRecorded = 10;
+    g.disc.rec = DiscRecord{
+        .title = "Harbour Lights", .band = band, .label = g.player.playerLabel, .trackCount = 10, .tracksRecorded = 10};
     const auto disc = static_cast<int16_t>(g.disc.append());
     // recorded; the disc's number is held in songsWritten
     amend(g.band, band, [&] {
@@ -211,11 +194,7 @@ TEST_F(ScreenTest, AnEndedOptionIsDecidedOnItsOwnScreen) {
         g.band->optionsRemaining = 2;
         g.band->additionalAdvance = moneyUnits(30000);
     });
-    ScheduleRecord entry{};
-    entry.type = 18;
-    entry.band = band;
-    entry.date = g.gameDate;
-    g.schedule.rec = entry;
+    g.schedule.rec = ScheduleRecord{.type = 18, .date = g.gameDate, .band = band};
     g.schedule.append();
     contractPoint(g);  // the band asks for a decision: an item that holds the calendar
     click(window->sideBar()->btnContinueGame);

@@ -10,55 +10,27 @@
 #include "screen_fixture.h"
 #include "screens/album_screens.h"
 #include "screens/tour_screens.h"
-#include "support/amend.h"
 #include "world/strings.h"
 
 using namespace trovane;
 using test::ScreenTest;
 
-namespace {
-
-int16_t addSoloAct(Game& g) {
-    g.artist.rec =
-        ArtistRecord{.forename = std::string("Nia"), .surname = std::string("Hart"), .male = -1, .energy = 100};
-    const auto artist = static_cast<int16_t>(g.artist.append());
-    g.band.rec = BandRecord{};
-    g.band->name = std::string("The Hartbeats");
-    g.band->label = g.player.playerLabel;
-    g.band->memberCount = 1;
-    g.band->members = {artist};
-    g.band->reputation = {30, 30, 30, 30, 30};
-    const auto band = static_cast<int16_t>(g.band.append());
-    amend(g.artist, artist, [&] { g.artist->band = band; });
-    return band;
-}
-
-int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacity) {
-    g.venue.rec = VenueRecord{};
-    g.venue->name = name;
-    g.venue->capacity = capacity;
-    g.venue->city = city;
-    return static_cast<int16_t>(g.venue.append());
-}
-
-}  // namespace
-
 TEST_F(ScreenTest, TheAssistantPlansATourOfTheHomeNationsThatTheRecordsKeep) {
     startNewGameAsPlayer();
     Game& g = *game;
-    const int16_t band = addSoloAct(g);
+    const int16_t band = test::addHartbeats(g);
     // The assistant sizes venues by the act's draw in England, reputation 30:
     // standing = toInteger(33 x 30 / 7 = 141.4) = 141; / 5 = 28.2 -> 28;
     // a = 784, b = round(784 / 73 = 10.7) = 11; d = 21, e = (42 - 28) x 21 = 294;
     // crowd = round(4 x (294 + 11)) + 250 = 1,470; x 0.66 = 970.2 -> 970.
     // A venue of 970 to 1,939 seats fits; 969 and 1,940 do not.
     std::set<int16_t> fitting;
-    for (int i = 0; i < 4; ++i) fitting.insert(addVenue(g, "London Hall " + std::to_string(i), 1, 970 + 300 * i));
-    fitting.insert(addVenue(g, "Glasgow Barrowland", 2, 1939));
-    fitting.insert(addVenue(g, "Glasgow Corn Exchange", 2, 1200));
-    addVenue(g, "London Cellar", 1, 969);
-    addVenue(g, "London Arena", 1, 1940);
-    addVenue(g, "Paris Olympia", 3, 1200);  // France is not a home nation
+    for (int i = 0; i < 4; ++i) fitting.insert(test::addVenue(g, "London Hall " + std::to_string(i), 1, 970 + 300 * i));
+    fitting.insert(test::addVenue(g, "Glasgow Barrowland", 2, 1939));
+    fitting.insert(test::addVenue(g, "Glasgow Corn Exchange", 2, 1200));
+    test::addVenue(g, "London Cellar", 1, 969);
+    test::addVenue(g, "London Arena", 1, 1940);
+    test::addVenue(g, "Paris Olympia", 3, 1200);  // France is not a home nation
 
     auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());
     panel->show();

@@ -26,16 +26,16 @@ int16_t addFreeBand(Game& g, const std::string& name) {
                                     .energy = 100};
         members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
     }
-    g.band.rec = BandRecord{};
-    g.band->name = name;
-    g.band->style = 1;
-    g.band->memberCount = 2;
-    g.band->members = members;
-    g.band->reputation = {12, 3, 4, 2, 2};
-    g.band->initialAdvance = g.band->additionalAdvance = moneyUnits(60'000);
-    g.band->additionalAdvanceCount = 3;
-    g.band->optionLength = 18;
-    g.band->royaltyRate = 10;
+    g.band.rec = BandRecord{.name = name,
+                            .style = 1,
+                            .memberCount = 2,
+                            .members = members,
+                            .reputation = {12, 3, 4, 2, 2},
+                            .initialAdvance = moneyUnits(60'000),
+                            .additionalAdvance = moneyUnits(60'000),
+                            .optionLength = 18,
+                            .additionalAdvanceCount = 3,
+                            .royaltyRate = 10};
     return static_cast<int16_t>(g.band.append());
 }
 
@@ -151,10 +151,7 @@ TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
 }
 
 TEST_F(BandScreens, ADiscOfTheBandOpensDiscDetails) {
-    game->disc.rec = DiscRecord{};
-    game->disc->title = "Marsh Songs";
-    game->disc->band = band;
-    game->disc->releaseDate = {game->gameDate - 30, 0, 0, 0, 0};
+    game->disc.rec = DiscRecord{.title = "Marsh Songs", .releaseDate = {game->gameDate - 30, 0, 0, 0, 0}, .band = band};
     const auto disc = static_cast<int16_t>(game->disc.append());
     openFromSearch("The Marsh Lights");
     auto* discs = find<QTableWidget>("flxDiscs");

@@ -23,13 +23,8 @@ namespace trovane::test {
 namespace {
 
 int16_t addPerson(Game& g, const char* forename, int16_t employer, Money wage) {
-    g.staff.rec = StaffRecord{};
-    g.staff->forename = forename;
-    g.staff->surname = "Quill";
-    g.staff->male = kTrue;
-    g.staff->ability = 60;
-    g.staff->employer = employer;
-    g.staff->wage = wage;
+    g.staff.rec = StaffRecord{
+        .forename = forename, .surname = "Quill", .male = kTrue, .ability = 60, .employer = employer, .wage = wage};
     return static_cast<int16_t>(g.staff.append());
 }
 

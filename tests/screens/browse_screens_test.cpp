@@ -23,14 +23,6 @@ int16_t addBand(Game& g, const char* name, int64_t advance) {
     return static_cast<int16_t>(g.band.append());
 }
 
-int16_t addVenue(Game& g, const char* name, int32_t capacity, int16_t city = 1) {
-    g.venue.rec = VenueRecord{};
-    g.venue->name = name;
-    g.venue->capacity = capacity;
-    g.venue->city = city;
-    return static_cast<int16_t>(g.venue.append());
-}
-
 }  // namespace
 
 class BrowseScreens : public ScreenTest {
@@ -183,9 +175,9 @@ TEST_F(BrowseScreens, TheBookingListHandsTheChosenBandToItsCaller) {
 }
 
 TEST_F(BrowseScreens, AVenueListSortsChoosesAndResets) {
-    addVenue(*game, "Olympia", 12'500);
-    addVenue(*game, "Roxy", 900, 4);  // in Toronto
-    addVenue(*game, "Arena", 12'500);
+    addVenue(*game, "Olympia", 1, 12'500);  // in London
+    addVenue(*game, "Roxy", 4, 900);        // in Toronto
+    addVenue(*game, "Arena", 1, 12'500);
     findEntry("lblVenues");
     auto* grid = qobject_cast<screens::BrowseGridWidget*>(findShown("flxGrid"));
     grid->horizontalHeader()->sectionClicked(4);

@@ -24,30 +24,23 @@ protected:
     int16_t heldOne = 0, neverHeld = 0;
 
     int16_t addAward(const char* name, uint8_t kind) {
-        g().award.rec = AwardRecord{};
-        g().award->name = std::string(name);
-        g().award->kind = kind;
-        g().award->weight = 100;  // the band's ability alone
-        g().award->controversyRange = {0, 255};
+        // Weight 100: the band's ability alone.
+        g().award.rec = AwardRecord{.name = name, .kind = kind, .weight = 100, .controversyRange = {0, 255}};
         return static_cast<int16_t>(g().award.append());
     }
     int16_t addCeremony(const char* name, std::initializer_list<int16_t> awards) {
-        g().ceremony.rec = CeremonyRecord{};
-        g().ceremony->name = std::string(name);
-        g().ceremony->country = 1;  // England
-        g().ceremony->calendar = {10, 7, 2, 0, 0, 0};
-        g().ceremony->date = g().gameDate;
+        g().ceremony.rec = CeremonyRecord{.name = name,
+                                          .awardCount = static_cast<int16_t>(awards.size()),
+                                          .calendar = {10, 7, 2, 0, 0, 0},
+                                          .country = 1,  // England
+                                          .date = g().gameDate};
         std::size_t i = 0;
         for (int16_t a : awards) g().ceremony->awards[i++] = a;
-        g().ceremony->awardCount = static_cast<int16_t>(awards.size());
         return static_cast<int16_t>(g().ceremony.append());
     }
     // The nominations, then the night, as the day's entries would run them.
     void holdTonight(int16_t ceremony) {
-        ScheduleRecord e{};
-        e.ceremony = ceremony;
-        e.date = g().gameDate;
-        e.type = 14;
+        ScheduleRecord e{.type = 14, .date = g().gameDate, .ceremony = ceremony};
         g().schedule.rec = e;
         judgeCeremony(g());
         e.type = 13;
@@ -56,9 +49,7 @@ protected:
     }
     // An act of no members whose ability alone scores it.
     void addAct(const char* name, uint8_t ability) {
-        g().band.rec = BandRecord{};
-        g().band->name = std::string(name);
-        g().band->ability = ability;
+        g().band.rec = BandRecord{.name = name, .ability = ability};
         g().band.append();
     }
     void SetUp() override {
@@ -177,10 +168,7 @@ TEST_F(CeremonyDetailsScreens, BackKeepsTheListsFilter) {
 }
 
 TEST_F(CeremonyDetailsScreens, NominationsForTheNextNightAreNotPassedOffAsTheLastOnes) {
-    ScheduleRecord e{};
-    e.type = 14;
-    e.ceremony = heldOne;
-    g().schedule.rec = e;
+    g().schedule.rec = ScheduleRecord{.type = 14, .ceremony = heldOne};
     judgeCeremony(g());  // next year's list replaces the one of the night held
     auto* list = openList();
     ASSERT_NE(list, nullptr);

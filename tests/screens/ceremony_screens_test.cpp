@@ -15,25 +15,14 @@ protected:
     // An attended ceremony of one award with two nominees, held tomorrow night.
     void attendTonight() {
         Game& g = *game;
-        g.award.rec = AwardRecord{};
-        g.award->name = "Best Act";
-        g.award->kind = 3;  // a label wins: no speech, so the steps are known
-        g.award->nomineeCount = 2;
-        g.award->nominees = {1, 2};
-        g.award->nomineeNames[0] = "Nightjar Records";
-        g.award->nomineeNames[1] = "Another Label";
+        // A label wins: no speech, so the steps are known.
+        g.award.rec = AwardRecord{.name = "Best Act", .kind = 3, .nomineeCount = 2, .nominees = {1, 2}};
+        g.award->nomineeNames = {"Nightjar Records", "Another Label"};
         int16_t award = static_cast<int16_t>(g.award.append());
-        g.ceremony.rec = CeremonyRecord{};
-        g.ceremony->name = "Brit Night";
-        g.ceremony->awards[0] = award;
-        g.ceremony->date = g.gameDate;
-        g.ceremony->playerInvited = kTrue;
+        g.ceremony.rec =
+            CeremonyRecord{.name = "Brit Night", .awards = {award}, .date = g.gameDate, .playerInvited = kTrue};
         int16_t ceremony = static_cast<int16_t>(g.ceremony.append());
-        ScheduleRecord e{};
-        e.type = 13;
-        e.date = g.gameDate;
-        e.ceremony = ceremony;
-        addSchedules(g, {e});
+        addSchedules(g, {ScheduleRecord{.type = 13, .date = g.gameDate, .ceremony = ceremony}});
     }
     screens::frmAwardCeremony* form() {
         return qobject_cast<screens::frmAwardCeremony*>(window->currentScreenWidget());

@@ -17,22 +17,17 @@ namespace {
 class ChartScreen : public test::ScreenTest {
 protected:
     int16_t addDisc(const char* title, int32_t weekSales) {
-        Game& g = *game;
-        g.disc.rec = DiscRecord{};
-        g.disc->title = title;
-        g.disc->weekSales[0] = weekSales;
-        g.disc->totalSales[0] = weekSales * 3;
-        return static_cast<int16_t>(g.disc.append());
+        game->disc.rec = DiscRecord{.title = title, .totalSales = {weekSales * 3}, .weekSales = {weekSales}};
+        return static_cast<int16_t>(game->disc.append());
     }
     void publish(double week, int16_t disc, int position) {
         Game& g = *game;
         g.disc.read(disc);
-        g.chartrun.rec = ChartRunRecord{};
-        g.chartrun->week = week;
-        g.chartrun->chart = 0;
-        g.chartrun->position = static_cast<int16_t>(position);
-        g.chartrun->disc = disc;
-        g.chartrun->sales = g.disc->weekSales[0];
+        g.chartrun.rec = ChartRunRecord{.week = week,
+                                        .chart = 0,
+                                        .position = static_cast<int16_t>(position),
+                                        .disc = disc,
+                                        .sales = g.disc->weekSales[0]};
         g.chartrun.append();
     }
     // Three weeks: A climbs to the top, B enters, C drops out and comes back.

@@ -26,23 +26,17 @@ namespace {
 int16_t addAct(Game& g, const std::string& name, int16_t label) {
     std::array<int16_t, 10> members{};
     for (int i = 0; i < 2; ++i) {
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = i == 0 ? "Rae" : "Sol";
-        g.artist->nickname = i == 0 ? "Sparky" : "";
-        g.artist->surname = "Marsh";
-        g.artist->age = static_cast<uint8_t>(24 + i);
-        g.artist->male = i == 0 ? kFalse : kTrue;
-        g.artist->energy = 100;
-        g.artist->band = static_cast<int16_t>(g.band.recordCount());
+        g.artist.rec = ArtistRecord{.forename = i == 0 ? "Rae" : "Sol",
+                                    .surname = "Marsh",
+                                    .nickname = i == 0 ? "Sparky" : "",
+                                    .age = static_cast<uint8_t>(24 + i),
+                                    .male = i == 0 ? kFalse : kTrue,
+                                    .band = static_cast<int16_t>(g.band.recordCount()),
+                                    .energy = 100};
         members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
     }
-    g.band.rec = BandRecord{};
-    g.band->name = name;
-    g.band->style = 1;
-    g.band->label = label;
-    g.band->memberCount = 2;
-    g.band->members = members;
-    g.band->reputation = {12, 3, 4, 2, 2};
+    g.band.rec = BandRecord{
+        .name = name, .style = 1, .label = label, .memberCount = 2, .members = members, .reputation = {12, 3, 4, 2, 2}};
     return static_cast<int16_t>(g.band.append());
 }
 
@@ -58,9 +52,7 @@ protected:
         Game& g = *game;
         ours = addAct(g, "The Marsh Lights", g.player.playerLabel);
         theirs = addAct(g, "The Far Lights", 0);
-        g.tour.rec = TourRecord{};
-        g.tour->band = ours;
-        g.tour->areaCode = std::string("E");
+        g.tour.rec = TourRecord{.areaCode = "E", .band = ours};
         g.tour.append();
     }
     int16_t member(int16_t band, int i) {
@@ -219,12 +211,8 @@ TEST_F(DetailsScreens, AStorysAnswersShowTheirStatementsAndDefendPostsIt) {
     g.event->replyText[0] = std::string("We stand by <an1>.");
     g.event->replyText[1] = std::string("<an1> has let us all down.");
     const int16_t event = static_cast<int16_t>(g.event.append());
-    ScheduleRecord stage{};
-    stage.type = 12;
-    stage.date = g.gameDate;
-    stage.eventRecord = event;
-    stage.artist = member(ours, 1);
-    const int32_t entry = addSchedule(g, stage);
+    const int32_t entry =
+        addSchedule(g, ScheduleRecord{.type = 12, .date = g.gameDate, .artist = member(ours, 1), .eventRecord = event});
     postNews(g, {.date = g.gameDate,
                  .title = "Sol Marsh in a row",
                  .text = "A row.",
@@ -244,12 +232,8 @@ TEST_F(DetailsScreens, AStorysAnswersShowTheirStatementsAndDefendPostsIt) {
 
 TEST_F(DetailsScreens, LabelAndStaffDetailsListTheirAchievementsNewestFirst) {
     Game& g = *game;
-    auto addMark = [&](int kind, int16_t who, double date, const char* text) {
-        g.achieve.rec = AchievementRecord{};
-        g.achieve->kind = static_cast<uint8_t>(kind);
-        g.achieve->who = who;
-        g.achieve->date = date;
-        g.achieve->text = std::string(text);
+    auto addMark = [&](uint8_t kind, int16_t who, double date, const char* text) {
+        g.achieve.rec = AchievementRecord{.kind = kind, .text = text, .date = date, .who = who};
         g.achieve.append();
     };
     const double day = test::day(2004, 8, 1);

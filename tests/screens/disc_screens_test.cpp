@@ -24,27 +24,20 @@ protected:
         ScreenTest::SetUp();
         startNewGameAsPlayer();
         Game& g = *game;
-        g.band.rec = BandRecord{};
-        g.band->name = "The Testers";
-        g.band->label = g.player.playerLabel;
-        g.band->style = 1;
-        g.band->reputation = {50, 50, 50, 50, 50};
+        const int16_t label = g.player.playerLabel;
+        g.band.rec = BandRecord{.name = "The Testers", .style = 1, .label = label, .reputation = {50, 50, 50, 50, 50}};
         auto band = static_cast<int16_t>(g.band.append());
-        g.disc.rec = DiscRecord{};
-        g.disc->title = "Forms";
-        g.disc->band = band;
-        g.disc->label = g.player.playerLabel;
-        g.disc->trackCount = 10;
-        g.disc->tracksRecorded = 10;
-        g.disc->quality = 70;
-        g.disc->commerciality = 70;
+        g.disc.rec = DiscRecord{.title = "Forms",
+                                .quality = 70,
+                                .commerciality = 70,
+                                .band = band,
+                                .label = label,
+                                .trackCount = 10,
+                                .tracksRecorded = 10};
         disc = static_cast<int16_t>(g.disc.append());
         for (uint8_t kind : {uint8_t{1}, uint8_t{2}}) {
-            g.business.rec = BusinessRecord{};
-            g.business->name = kind == 1 ? "Disc Press" : "Van Lines";
-            g.business->kind = kind;
-            g.business->quality = 40;
-            g.business->open = -1;
+            g.business.rec =
+                BusinessRecord{.name = kind == 1 ? "Disc Press" : "Van Lines", .kind = kind, .quality = 40, .open = -1};
             (kind == 1 ? plant : firm) = static_cast<int16_t>(g.business.append());
         }
     }
@@ -134,11 +127,10 @@ TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
     // Means of quality and commerciality: 80, 30, 50, 40.
     const std::array<std::pair<uint8_t, uint8_t>, 4> marks = {{{80, 80}, {20, 40}, {50, 50}, {40, 40}}};
     for (std::size_t i = 0; i < 4; ++i) {
-        g.song.rec = SongRecord{};
-        g.song->title = "Song " + std::to_string(i + 1);
-        g.song->band = band;
-        g.song->quality = marks[i].first;
-        g.song->commerciality = marks[i].second;
+        g.song.rec = SongRecord{.title = "Song " + std::to_string(i + 1),
+                                .band = band,
+                                .quality = marks[i].first,
+                                .commerciality = marks[i].second};
         if (i == 3) g.song->singleDisc[2] = 99;  // already a single in Europe
         songs[i] = g.song.append();
     }

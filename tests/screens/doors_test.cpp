@@ -12,23 +12,11 @@
 
 namespace trovane::test {
 
-namespace {
-
-// The one abandon question, or null when none is open.
-QDialog* abandonQuestion() {
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->isVisible() && w->objectName() == QLatin1String("frmSure")) return qobject_cast<QDialog*>(w);
-    return nullptr;
-}
-
-QString questionText(QDialog* d) { return d->findChild<QLabel*>("lblQuestion")->text(); }
-
-}  // namespace
-
 class AbandonGuardTest : public ScreenTest {
 protected:
     void pressQuit() {
-        click(window->sideBar()->btnQuit);
+        screens::frmSideBar* bar = window->sideBar();
+        if (bar->openPanel() != bar->quitOptions()) click(bar->btnQuit);
         click("lblQuit");
     }
     void saveInSlot(int slot) {
@@ -37,63 +25,62 @@ protected:
         click("cmdSave");
         click("btnOk");
     }
+    // The one abandon question, or null when none is open.
+    QDialog* question() { return dialog<QDialog>("frmSure"); }
+    QString questionText() { return question()->findChild<QLabel*>("lblQuestion")->text(); }
 };
 
-TEST_F(AbandonGuardTest, QuitAfterAPlayedDayAsksAndEscapeKeepsTheGame) {
+TEST_F(AbandonGuardTest, QuitAfterAPlayedDayAsksEscapeKeepsTheGameAndConfirmDropsIt) {
     startNewGameAsPlayer();
     continueOneDay();
     pressQuit();
-    QDialog* ask = abandonQuestion();
-    ASSERT_NE(ask, nullptr);
+    ASSERT_NE(question(), nullptr);
     // The game began on 5/8/2004 and nothing was saved since.
-    EXPECT_EQ(questionText(ask), "Abandon this game? What you played since 5/8/2004 will be lost.");
-    QTest::keyClick(static_cast<QWidget*>(ask), Qt::Key_Escape);
+    EXPECT_EQ(questionText(), "Abandon this game? What you played since 5/8/2004 will be lost.");
+    QTest::keyClick(static_cast<QWidget*>(question()), Qt::Key_Escape);
     QApplication::processEvents();
-    EXPECT_EQ(abandonQuestion(), nullptr);
+    EXPECT_EQ(question(), nullptr);
     EXPECT_TRUE(window->gameRunning());
     EXPECT_EQ(window->gameStatusBar()->lblDate->text(), "Friday 6/8/2004");
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "band.vel"));
-}
 
-TEST_F(AbandonGuardTest, QuitConfirmedDropsTheGame) {
-    startNewGameAsPlayer();
-    continueOneDay();
     pressQuit();
-    ASSERT_NE(abandonQuestion(), nullptr);
-    click(abandonQuestion()->findChild<QPushButton*>("lblConfirm"));
+    ASSERT_NE(question(), nullptr);
+    click(question()->findChild<QPushButton*>("lblConfirm"));
     EXPECT_FALSE(window->gameRunning());
     EXPECT_EQ(screen(), Screen::frmStartForm);
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "band.vel"));
 }
 
-TEST_F(AbandonGuardTest, NothingIsAskedWhenNoDayWasPlayed) {
+TEST_F(AbandonGuardTest, NothingIsAskedWhenNoDayWasPlayedOrRightAfterASave) {
     startNewGameAsPlayer();
     pressQuit();
-    EXPECT_EQ(abandonQuestion(), nullptr);
+    EXPECT_EQ(question(), nullptr);
     EXPECT_EQ(screen(), Screen::frmStartForm);
-}
 
-TEST_F(AbandonGuardTest, NothingIsAskedRightAfterASave) {
     startNewGameAsPlayer();
     continueOneDay();
     saveInSlot(1);
     pressQuit();
-    EXPECT_EQ(abandonQuestion(), nullptr);
+    EXPECT_EQ(question(), nullptr);
     EXPECT_EQ(screen(), Screen::frmStartForm);
 }
 
-TEST_F(AbandonGuardTest, TheQuestionNamesTheDateOfTheLastSave) {
+TEST_F(AbandonGuardTest, LoadingInGameNamesTheLastSaveAndBringsItsDayBack) {
     startNewGameAsPlayer();
     continueOneDay();  // 6/8/2004
     saveInSlot(1);
+    const double savedOn = game->gameDate;
     continueOneDay();  // 7/8/2004, played since the save on the 6th
     click(window->sideBar()->btnGameOptions);
     click("lblLoadGame");
     find<QListWidget>("lstSaves")->setCurrentRow(1);
     click("cmdOverwrite");
-    QDialog* ask = abandonQuestion();
-    ASSERT_NE(ask, nullptr);
-    EXPECT_EQ(questionText(ask), "Abandon this game? What you played since 6/8/2004 will be lost.");
+    ASSERT_NE(question(), nullptr);
+    EXPECT_EQ(questionText(), "Abandon this game? What you played since 6/8/2004 will be lost.");
+    click(question()->findChild<QPushButton*>("lblConfirm"));
+    ASSERT_TRUE(waitFor([&] { return game->gameDate == savedOn && screen() == Screen::frmNews; }));
+    EXPECT_EQ(window->gameStatusBar()->lblDate->text(), "Friday 6/8/2004");
 }
 
 TEST_F(ScreenTest, ThePlayerFormRefusesABlankForenameAtTheFieldAndKeepsTheRest) {

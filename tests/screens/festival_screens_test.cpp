@@ -28,9 +28,7 @@ TEST_F(ScreenTest, FindFestivalsListsThisYearAndOpensADaysBill) {
     const auto festival = static_cast<int16_t>(g.festival.append());
     scheduleFestivals(g, year);
     g.tour.read(g.tour.recordCount() - 1);
-    ScheduleRecord fill{};
-    fill.type = 22;
-    fill.gig = g.tour->gigs[0];
+    const ScheduleRecord fill{.type = 22, .gig = g.tour->gigs[0]};
     g.schedule.rec = fill;
     fillFestivalBill(g);
     const auto billed = billOf(g, fill.gig);

@@ -30,13 +30,12 @@ protected:
 TEST_F(ListCards, AFirmRowOpensItsParticulars) {
     startNewGameAsPlayer();
     Game& g = *game;
-    g.business.rec = BusinessRecord{};
-    g.business->name = std::string("Marsh Lane Pressing");
-    g.business->kind = 1;
-    g.business->quality = 10;
-    g.business->owner = g.player.playerLabel;
-    g.business->open = -1;
-    g.business->runningCost = 15'000;
+    g.business.rec = BusinessRecord{.name = "Marsh Lane Pressing",
+                                    .kind = 1,
+                                    .quality = 10,
+                                    .owner = g.player.playerLabel,
+                                    .open = -1,
+                                    .runningCost = 15'000};
     const int16_t firm = static_cast<int16_t>(g.business.append());
 
     openLastRow("lblBusinesses", Screen::frmBusinessBrowse, firm);
@@ -58,14 +57,13 @@ TEST_F(ListCards, AFirmRowOpensItsParticulars) {
 TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
     startNewGameAsPlayer();
     Game& g = *game;
-    g.media.rec = MediaRecord{};
-    g.media->mediaName = std::string("The Marsh Weekly");
-    g.media->mediaType = 0;
-    g.media->reach = 2;
-    g.media->frequency = 1;
-    g.media->airDay[4] = 1;  // Fridays
-    g.media->smallMinimum = 20;
-    g.media->smallValue = 3;
+    g.media.rec = MediaRecord{.mediaName = "The Marsh Weekly",
+                              .mediaType = 0,
+                              .reach = 2,
+                              .frequency = 1,
+                              .airDay = {0, 0, 0, 0, 1, 0, 0},  // Fridays
+                              .smallMinimum = 20,
+                              .smallValue = 3};
     const int16_t outlet = static_cast<int16_t>(g.media.append());
 
     openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);

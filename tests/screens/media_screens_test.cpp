@@ -38,15 +38,14 @@ TEST_F(PromotionScreen, AnOutletIsChosenADayPickedAndTheBookingConfirmed) {
     g.band->reputation = {30, 30, 30, 30, 30};
     g.band->controversy = 100;
     g.band.write();
-    g.media.rec = MediaRecord{};
-    g.media->mediaName = "Worldwide Weekly";
-    g.media->mediaType = 1;
-    g.media->reach = 2;
-    g.media->frequency = 1;
-    g.media->airDay = {-1, 0, 0, 0, 0, 0, 0};  // Mondays
-    g.media->largeMinimum = 20;
-    g.media->largeValue = 90;
-    g.media->maxControversy = 100;
+    g.media.rec = MediaRecord{.mediaName = "Worldwide Weekly",
+                              .mediaType = 1,
+                              .reach = 2,
+                              .frequency = 1,
+                              .airDay = {-1, 0, 0, 0, 0, 0, 0},  // Mondays
+                              .largeMinimum = 20,
+                              .largeValue = 90,
+                              .maxControversy = 100};
     int16_t outlet = static_cast<int16_t>(g.media.append());
 
     auto* form = new screens::frmPromotion(*window, band);

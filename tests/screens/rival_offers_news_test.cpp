@@ -20,9 +20,7 @@ int16_t addBidder(Game& g, const std::string& name) {
 }
 
 void shortlist(Game& g, int16_t label, int16_t band) {
-    g.shortlist.rec = ShortlistRecord{};
-    g.shortlist->label = label;
-    g.shortlist->band = band;
+    g.shortlist.rec = ShortlistRecord{.band = band, .label = label};
     g.shortlist.append();
 }
 
@@ -32,24 +30,21 @@ TEST_F(ScreenTest, ARivalOffersItemListsEachBidderOnItsOwnLine) {
     startNewGameAsPlayer();
     Game& g = *game;
     const int16_t act = static_cast<int16_t>(g.band.recordCount());
-    BandRecord b{};
+    BandRecord b{.name = "The Wanted",
+                 .style = 1,
+                 .memberCount = 2,
+                 .reputation = {30, 10, 10, 10, 10},
+                 .initialAdvance = moneyUnits(100'000),
+                 .additionalAdvance = moneyUnits(50'000),
+                 .optionLength = 18,
+                 .additionalAdvanceCount = 3,
+                 .royaltyRate = 15};
     for (std::size_t i = 0; i < 2; ++i) {
-        g.artist.rec =
-            ArtistRecord{.forename = "Member" + std::to_string(i + 1), .surname = std::string("Wanted"), .male = -1};
-        g.artist->band = act;
-        g.artist->style = 1;
+        g.artist.rec = ArtistRecord{
+            .forename = "Member" + std::to_string(i + 1), .surname = "Wanted", .style = 1, .male = -1, .band = act};
         b.members[i] = static_cast<int16_t>(g.artist.append());
     }
     g.band.rec = b;
-    g.band->name = std::string("The Wanted");
-    g.band->style = 1;
-    g.band->memberCount = 2;
-    g.band->reputation = {30, 10, 10, 10, 10};
-    g.band->initialAdvance = moneyUnits(100'000);
-    g.band->additionalAdvance = moneyUnits(50'000);
-    g.band->additionalAdvanceCount = 3;
-    g.band->optionLength = 18;
-    g.band->royaltyRate = 15;
     ASSERT_EQ(g.band.append(), act);
     const int16_t first = addBidder(g, "Velvet Mole");
     const int16_t second = addBidder(g, "Argent Discs");

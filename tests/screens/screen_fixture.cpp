@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "screens/side_bar.h"
+#include "support/amend.h"
 #include "world/record_store.h"
 
 namespace trovane::test {
@@ -114,6 +115,23 @@ void ScreenTest::screenshotOf(QWidget* w, const QString& name) {
     dir.mkpath(QStringLiteral("."));
     QApplication::processEvents();
     EXPECT_TRUE(w->grab().save(dir.filePath(name + QStringLiteral(".png"))));
+}
+
+int16_t addHartbeats(Game& g, uint8_t members, uint8_t reputation) {
+    g.artist.rec = ArtistRecord{.forename = "Nia", .surname = "Hart", .male = -1, .energy = 100};
+    const auto artist = static_cast<int16_t>(g.artist.append());
+    const uint8_t r = reputation;
+    g.band.rec = BandRecord{
+        .name = "The Hartbeats", .label = g.player.playerLabel, .memberCount = members, .reputation = {r, r, r, r, r}};
+    for (std::size_t i = 0; i < members; ++i) g.band->members[i] = artist;
+    const auto band = static_cast<int16_t>(g.band.append());
+    amend(g.artist, artist, [&] { g.artist->band = band; });
+    return band;
+}
+
+int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacity) {
+    g.venue.rec = VenueRecord{.name = name, .capacity = capacity, .city = city};
+    return static_cast<int16_t>(g.venue.append());
 }
 
 }  // namespace trovane::test

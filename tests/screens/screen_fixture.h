@@ -62,6 +62,15 @@ protected:
 
 }  // namespace trovane::test
 
+namespace trovane::test {
+
+// "The Hartbeats", signed to the player, at the reputation in every market:
+// Nia Hart is each of its `members` members.
+int16_t addHartbeats(Game& g, uint8_t members = 1, uint8_t reputation = 30);
+int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacity);
+
+}  // namespace trovane::test
+
 QT_BEGIN_NAMESPACE
 inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 QT_END_NAMESPACE

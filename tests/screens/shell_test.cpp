@@ -233,11 +233,8 @@ TEST_F(ScreenTest, ABrokenSlotIsRefusedAndAFatalErrorIsShownBeforeTheEnd) {
 TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     startNewGameAsPlayer();
     game->band.read(1);
-    ScheduleRecord rest{};
-    rest.type = 11;  // resting keeps the band busy
-    rest.band = 1;
-    rest.date = serialFromCivil(2004, 9, 14);
-    addSchedule(*game, rest);
+    // Resting keeps the band busy.
+    addSchedule(*game, ScheduleRecord{.type = 11, .date = serialFromCivil(2004, 9, 14), .band = 1});
     game->band.read(1);
     QPointer<screens::frmChooseDate> calendar = new screens::frmChooseDate(*window, 1);
     calendar->open();
@@ -274,24 +271,6 @@ TEST_F(ScreenTest, TheCalendarOffersFreeDaysOnlyAndStepsByMonthAndYear) {
     click(calendar->lblDayOfMonth[1]);
     EXPECT_EQ(chosen, serialFromCivil(2006, 2, 2));
     EXPECT_TRUE(calendar.isNull() || !calendar->isVisible());  // it closes itself
-}
-
-TEST_F(ScreenTest, LoadingInGameAsksFirstAndBringsTheSavedDayBack) {
-    startNewGameAsPlayer();
-    const double savedOn = game->gameDate;
-    window->openSaveScreen(false);
-    find<QListWidget>("lstSaves")->setCurrentRow(1);
-    click("cmdSave");
-    continueOneDay();
-    click(window->sideBar()->btnGameOptions);
-    click("lblLoadGame");
-    find<QListWidget>("lstSaves")->setCurrentRow(1);
-    click("cmdOverwrite");
-    auto* sure = dialog<QDialog>("frmSure");
-    ASSERT_NE(sure, nullptr);
-    click(sure->findChild<QAbstractButton*>("lblConfirm"));
-    ASSERT_TRUE(waitFor([&] { return game->gameDate == savedOn && screen() == Screen::frmNews; }));
-    EXPECT_EQ(window->gameStatusBar()->lblDate->text(), "Thursday 5/8/2004");
 }
 
 }  // namespace trovane::test

@@ -18,27 +18,6 @@ using test::ScreenTest;
 
 namespace {
 
-int16_t addSignedBand(Game& g) {
-    g.artist.rec =
-        ArtistRecord{.forename = std::string("Nia"), .surname = std::string("Hart"), .male = -1, .energy = 100};
-    const auto artist = static_cast<int16_t>(g.artist.append());
-    g.band.rec = BandRecord{};
-    g.band->name = std::string("The Hartbeats");
-    g.band->label = g.player.playerLabel;
-    g.band->memberCount = 1;
-    g.band->members = {artist};
-    g.band->reputation = {30, 30, 30, 30, 30};
-    return static_cast<int16_t>(g.band.append());
-}
-
-int16_t addVenue(Game& g, const char* name, int16_t city) {
-    g.venue.rec = VenueRecord{};
-    g.venue->name = std::string(name);
-    g.venue->capacity = 800;
-    g.venue->city = city;
-    return static_cast<int16_t>(g.venue.append());
-}
-
 int rowOf(QTableWidget* t, const char* name) {
     for (int r = 0; r < t->rowCount(); ++r)
         if (t->item(r, 0)->text() == QLatin1String(name)) return r;
@@ -50,14 +29,11 @@ int rowOf(QTableWidget* t, const char* name) {
 TEST_F(ScreenTest, ATourFromTheBandsPanelToItsDetails) {
     startNewGameAsPlayer();
     Game& g = *game;
-    const int16_t band = addSignedBand(g);
-    const int16_t london = addVenue(g, "The Long Room", 1);  // London, England
-    const int16_t paris = addVenue(g, "Le Grand Salon", 3);  // Paris, France
-    g.product.rec = ProductRecord{};
-    g.product->name = std::string("Fizzco Cola");
-    g.product->area = std::string("E");
-    g.product->minimumReputation = 20;  // 20^4 / 5 = 32,000; / 100 = 320; + 450 = 770 a gig
-    g.product->maxControversy = 100;
+    const int16_t band = test::addHartbeats(g);
+    const int16_t london = test::addVenue(g, "The Long Room", 1, 800);  // London, England
+    const int16_t paris = test::addVenue(g, "Le Grand Salon", 3, 800);  // Paris, France
+    // 20^4 / 5 = 32,000; / 100 = 320; + 450 = 770 a gig
+    g.product.rec = ProductRecord{.name = "Fizzco Cola", .minimumReputation = 20, .area = "E", .maxControversy = 100};
     g.product.append();
 
     auto* panel = new screens::frmBandOptionsSigned(*window, band, window.get());

@@ -18,10 +18,7 @@ protected:
     Game& g = eg.g;
 
     void useStyle(uint8_t lifeSpan) {
-        g.style.rec = StyleRecord{};
-        g.style->lifeSpan = lifeSpan;
-        g.style->baseCharisma = 60;
-        g.style->baseAngst = 95;
+        g.style.rec = StyleRecord{.lifeSpan = lifeSpan, .baseCharisma = 60, .baseAngst = 95};
         g.artist.rec = ArtistRecord{};
         g.artist->style = narrow<uint8_t>(g.style.append());
     }

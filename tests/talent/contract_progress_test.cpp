@@ -13,27 +13,23 @@ using test::AlbumWorld;
 
 namespace {
 
-class ContractProgress : public ::testing::Test {
-protected:
-    AlbumWorld w;
-    Game& g = w.g;
+struct ContractProgress : ::testing::Test, AlbumWorld {
+    void setBand(int16_t band, auto change) {
+        g.band.read(band);
+        change(g.band.rec);
+        g.band.write();
+    }
 };
-
-void setBand(Game& g, int16_t band, auto change) {
-    g.band.read(band);
-    change(g.band.rec);
-    g.band.write();
-}
 
 }  // namespace
 
 TEST_F(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
-    int16_t first = w.addBand("First", AlbumWorld::kPlayer);  // 3 options = 2 further + stage 1
-    int16_t second = w.addBand("Second", AlbumWorld::kPlayer);
-    int16_t released = w.addBand("Released", AlbumWorld::kPlayer);
-    setBand(g, first, [](BandRecord& b) { b.optionMonthsLeft = 7; });
-    setBand(g, second, [](BandRecord& b) { b.optionsRemaining = 2; });
-    setBand(g, released, [](BandRecord& b) { b.optionMonthsLeft = 100; });
+    int16_t first = addBand("First", kPlayer);  // 3 options = 2 further + stage 1
+    int16_t second = addBand("Second", kPlayer);
+    int16_t released = addBand("Released", kPlayer);
+    setBand(first, [](BandRecord& b) { b.optionMonthsLeft = 7; });
+    setBand(second, [](BandRecord& b) { b.optionsRemaining = 2; });
+    setBand(released, [](BandRecord& b) { b.optionMonthsLeft = 100; });
     updateMonthsRemainingOnOption(g);
     g.band.read(first);
     EXPECT_EQ(g.band->optionMonthsLeft, 6);
@@ -41,46 +37,46 @@ TEST_F(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
     EXPECT_EQ(g.band->optionMonthsLeft, 12);
     g.band.read(released);
     EXPECT_EQ(g.band->optionMonthsLeft, 100);
-    ASSERT_EQ(w.newsCount(), 1) << "the warning at exactly 6";
-    EXPECT_EQ(trim(w.lastNews().title.value), "6 months remain on First's option");
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    ASSERT_EQ(newsCount(), 1) << "the warning at exactly 6";
+    EXPECT_EQ(trim(lastNews().title.value), "6 months remain on First's option");
+    EXPECT_EQ(trim(lastNews().text.value),
               "One of your assistants has informed you that there is now only 6 months left on First's initial "
               "option - if you do not release an album within this time then you will be in breach of your contract "
               "agreement.");
     updateMonthsRemainingOnOption(g);
-    EXPECT_EQ(w.newsCount(), 1) << "no warning at 5";
+    EXPECT_EQ(newsCount(), 1) << "no warning at 5";
 }
 
 TEST_F(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
-    int16_t band = w.addBand("Sued", AlbumWorld::kRival, 2);
-    setBand(g, band, [](BandRecord& b) {
+    int16_t band = addBand("Sued", kRival, 2);
+    setBand(band, [](BandRecord& b) {
         b.optionMonthsLeft = 1;
         b.initialAdvance = moneyUnits(130000);
         b.costs = moneyUnits(5);
     });
     updateMonthsRemainingOnOption(g);
     // 130,000 x 0.75 = 97,500, in steps of 5,000: 19.5 to the even 20, so 100,000.
-    EXPECT_EQ(w.ledger(AlbumWorld::kRival, ledgerOtherExpense), -moneyUnits(100000));
+    EXPECT_EQ(ledger(kRival, ledgerOtherExpense), -moneyUnits(100000));
     g.artist.read(1);
     EXPECT_EQ(g.artist->wealth, 50000);
     g.band.read(band);
     EXPECT_EQ(g.band->label, 0);
     EXPECT_EQ(g.band->costs, 0);
     EXPECT_EQ(g.band->advanceToPay, moneyUnits(130000));
-    g.label.read(AlbumWorld::kRival);
+    g.label.read(kRival);
     EXPECT_EQ(g.label->bandCount, 0);
-    EXPECT_EQ(w.newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
+    EXPECT_EQ(newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
 }
 
 TEST_F(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
-    int16_t band = w.addBand("Angry", AlbumWorld::kPlayer, 2);
-    setBand(g, band, [](BandRecord& b) {
+    int16_t band = addBand("Angry", kPlayer, 2);
+    setBand(band, [](BandRecord& b) {
         b.optionMonthsLeft = 1;
         b.initialAdvance = moneyUnits(90000);
     });
     updateMonthsRemainingOnOption(g);
     // 90,000 x 0.75 = 67,500: 13.5 steps of 5,000 to the even 14, 70,000.
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerOtherExpense), -moneyUnits(70000));
+    EXPECT_EQ(ledger(kPlayer, ledgerOtherExpense), -moneyUnits(70000));
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "Angry sued for breach of contract");
     EXPECT_EQ(trim(g.news->text.value),
@@ -90,8 +86,8 @@ TEST_F(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
 }
 
 TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths) {
-    int16_t band = w.addBand("Term", AlbumWorld::kPlayer);
-    setBand(g, band, [](BandRecord& b) {
+    int16_t band = addBand("Term", kPlayer);
+    setBand(band, [](BandRecord& b) {
         b.additionalAdvance = moneyUnits(40000);
         b.advanceToPay = moneyUnits(10);
         b.albumStatus = 3;
@@ -108,7 +104,7 @@ TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths
     EXPECT_EQ(g.schedule.recordCount(), 1) << "nothing filed";
 
     for (uint8_t options : {2, 0}) {
-        setBand(g, band, [&](BandRecord& b) { b.optionsRemaining = options; });
+        setBand(band, [&](BandRecord& b) { b.optionsRemaining = options; });
         g.band.read(band);
         scheduleContractPoint(g, serialFromCivil(2004, 11, 30));
         g.band.read(band);
@@ -120,32 +116,28 @@ TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths
     g.schedule.read(due[0]);
     EXPECT_EQ(g.schedule->type, 18);
     EXPECT_EQ(g.schedule->band, band);
-    EXPECT_EQ(g.schedule->label, AlbumWorld::kPlayer);
+    EXPECT_EQ(g.schedule->label, kPlayer);
 }
 
 TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilently) {
-    int16_t asks = w.addBand("Asks", AlbumWorld::kPlayer);
-    int16_t done = w.addBand("Done", AlbumWorld::kPlayer);
-    int16_t rival = w.addBand("Rivals", AlbumWorld::kRival);
-    setBand(g, asks, [](BandRecord& b) { b.optionsRemaining = 2; });
-    setBand(g, done, [](BandRecord& b) {
+    int16_t asks = addBand("Asks", kPlayer);
+    int16_t done = addBand("Done", kPlayer);
+    int16_t rival = addBand("Rivals", kRival);
+    setBand(asks, [](BandRecord& b) { b.optionsRemaining = 2; });
+    setBand(done, [](BandRecord& b) {
         b.optionsRemaining = 0;
         b.initialAdvance = moneyUnits(25000);
         b.reputation = {90, 90, 90, 90, 90};  // big enough for release news, which stays silent here
     });
-    setBand(g, rival, [](BandRecord& b) { b.optionsRemaining = 1; });
+    setBand(rival, [](BandRecord& b) { b.optionsRemaining = 1; });
     // the rival weighs its deal by the band's career age
     amend(g.style, 1, [&] { g.style->lifeSpan = 10; });
     for (int16_t b : {asks, done, rival}) {
-        ScheduleRecord e{};
-        e.type = 18;
-        e.date = g.gameDate;
-        e.band = b;
-        g.schedule.rec = e;
+        g.schedule.rec = ScheduleRecord{.type = 18, .date = g.gameDate, .band = b};
         g.schedule.append();
         contractPoint(g);
     }
-    ASSERT_EQ(w.newsCount(), 2);
+    ASSERT_EQ(newsCount(), 2);
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "Asks request decision on contract.");
     EXPECT_EQ(g.news->kind, 0);
@@ -157,12 +149,12 @@ TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilen
     g.band.read(done);
     EXPECT_EQ(g.band->label, 0);
     g.band.read(rival);
-    EXPECT_EQ(g.band->label, AlbumWorld::kRival) << "a rival decides for itself";
+    EXPECT_EQ(g.band->label, kRival) << "a rival decides for itself";
 }
 
 TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
-    int16_t band = w.addBand("Choice", AlbumWorld::kPlayer);
-    setBand(g, band, [](BandRecord& b) {
+    int16_t band = addBand("Choice", kPlayer);
+    setBand(band, [](BandRecord& b) {
         b.optionsRemaining = 1;
         b.initialAdvance = moneyUnits(80000);
         b.additionalAdvance = moneyUnits(45000);
@@ -173,7 +165,7 @@ TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
               "You must choose whether to extend Choice's contract or terminate it. If you choose to extend the "
               "contract you will be committed to producing 1 futher album. They will be paid £45,000 for this "
               "album. Do you wish to extend the contract?");
-    setBand(g, band, [](BandRecord& b) { b.optionsRemaining = 2; });
+    setBand(band, [](BandRecord& b) { b.optionsRemaining = 2; });
     g.band.read(band);
     EXPECT_EQ(optionDecisionText(g),
               "You must choose whether to extend Choice's contract or terminate it. If you choose to extend the "
@@ -182,21 +174,21 @@ TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
 }
 
 TEST_F(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
-    int16_t famous = w.addBand("Famous", AlbumWorld::kPlayer);
-    int16_t small = w.addBand("Small", AlbumWorld::kPlayer);
-    setBand(g, famous, [](BandRecord& b) { b.reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51
-    setBand(g, small, [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 50}; });
-    amend(g.label, AlbumWorld::kPlayer, [&] { g.label->bandCount = 2; });
+    int16_t famous = addBand("Famous", kPlayer);
+    int16_t small = addBand("Small", kPlayer);
+    setBand(famous, [](BandRecord& b) { b.reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51
+    setBand(small, [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 50}; });
+    amend(g.label, kPlayer, [&] { g.label->bandCount = 2; });
     g.band.read(small);
     releaseBand(g, 1);
-    EXPECT_EQ(w.newsCount(), 0) << "rating 50, not shortlisted";
+    EXPECT_EQ(newsCount(), 0) << "rating 50, not shortlisted";
     g.band.read(famous);
     releaseBand(g, 1);
-    ASSERT_EQ(w.newsCount(), 1);
-    EXPECT_EQ(trim(w.lastNews().title.value), "Famous released by Home Label");
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    ASSERT_EQ(newsCount(), 1);
+    EXPECT_EQ(trim(lastNews().title.value), "Famous released by Home Label");
+    EXPECT_EQ(trim(lastNews().text.value),
               "Home Label have announced they are releasing Famous from their contract with them. As a result, "
               "Famous will be looking for a new label to represent them.");
-    g.label.read(AlbumWorld::kPlayer);
+    g.label.read(kPlayer);
     EXPECT_EQ(g.label->bandCount, 0);
 }

@@ -77,12 +77,11 @@ protected:
     }
     void labelWithStanding(int standing) { addLabel(g, {static_cast<uint8_t>(standing + 20), 60, 0, 0, 0}); }
     void offer(int32_t initial, int32_t additional, uint8_t options, uint8_t months, uint8_t royalty) {
-        g.offer.rec = OfferRecord{};
-        g.offer->initialAdvance = initial;
-        g.offer->additionalAdvance = additional;
-        g.offer->additionalAdvanceCount = options;
-        g.offer->optionLength = months;
-        g.offer->royalty = royalty;
+        g.offer.rec = OfferRecord{.initialAdvance = initial,
+                                  .additionalAdvance = additional,
+                                  .additionalAdvanceCount = options,
+                                  .optionLength = months,
+                                  .royalty = royalty};
     }
     int score(int standing) {
         setUpBand();

@@ -52,24 +52,16 @@ protected:
     }
     // A rival's offer of the asked terms, with its own decision entry when asked.
     int32_t rivalOffer(int16_t label, double date, bool ownEntry) {
-        g.offer.rec = OfferRecord{};
-        g.offer->decisionDate = date;
-        g.offer->label = label;
-        g.offer->band = band;
-        g.offer->initialAdvance = g.offer->additionalAdvance = 60'000;
-        g.offer->additionalAdvanceCount = 3;
-        g.offer->optionLength = 18;
-        g.offer->royalty = 10;
+        g.offer.rec = OfferRecord{.decisionDate = date,
+                                  .label = label,
+                                  .initialAdvance = 60'000,
+                                  .additionalAdvance = 60'000,
+                                  .additionalAdvanceCount = 3,
+                                  .optionLength = 18,
+                                  .band = band,
+                                  .royalty = 10};
         int32_t n = g.offer.append();
-        if (ownEntry) {
-            ScheduleRecord e{};
-            e.type = 4;
-            e.date = date;
-            e.band = band;
-            e.label = label;
-            e.offer = n;
-            addSchedule(g, e);
-        }
+        if (ownEntry) addSchedule(g, ScheduleRecord{.type = 4, .date = date, .band = band, .label = label, .offer = n});
         return n;
     }
     void playDay(double date) {
@@ -310,9 +302,7 @@ TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
     shortlistAdd(g);
     g.newsong.rec = NewSongRecord{.title = "Harbour Lights", .style = static_cast<uint8_t>(style)};
     g.newsong.append();
-    g.song.rec = SongRecord{};
-    g.song->title = "Untitled";
-    g.song->band = solo;
+    g.song.rec = SongRecord{.title = "Untitled", .band = solo};
     g.song.append();
     OfferMade m = makeOffer(g, solo, asked);
     g.gameDate = m.decisionDate;

@@ -13,6 +13,19 @@
 using namespace trovane;
 using test::AlbumWorld;
 
+namespace {
+
+// The small world with the player's act "Us" and the rival's "Them".
+struct Figures : ::testing::Test, AlbumWorld {
+    const int16_t us = addBand("Us", kPlayer);
+    const int16_t them = addBand("Them", kRival);
+};
+using BandDetailsFigures = Figures;
+using ArtistDetailsFigures = Figures;
+using VenueCard = Figures;
+
+}  // namespace
+
 TEST(DetailsText, ANicknameStandsQuotedBetweenTheNamesOnlyWhenSet) {
     EXPECT_EQ(artistShownName("Ivo  ", "Sparks ", " Marsh"), "Ivo 'Sparks' Marsh");
     EXPECT_EQ(artistShownName("Ivo", "   ", "Marsh"), "Ivo Marsh");
@@ -31,26 +44,20 @@ TEST(DetailsText, BestShareHasTwoPlacesAndItsYear) {
     EXPECT_EQ(bestShareText(0.0f, 2005), "");
 }
 
-TEST(DetailsText, AJobIsNamedForTheArtistsSex) {
-    AlbumWorld w;
+TEST_F(Figures, AJobIsNamedForTheArtistsSex) {
     for (auto [title, female] : {std::pair{"Drummer", ""}, {"Frontman", "Frontwoman"}}) {
-        w.g.job.rec = JobRecord{.title = std::string(title), .titleFemale = std::string(female)};
-        w.g.job.append();
+        g.job.rec = JobRecord{.title = std::string(title), .titleFemale = std::string(female)};
+        g.job.append();
     }
-    EXPECT_EQ(jobTitleFor(w.g, 1, false), "Drummer") << "no woman's title: the one title";
-    EXPECT_EQ(jobTitleFor(w.g, 2, false), "Frontwoman");
-    EXPECT_EQ(jobTitleFor(w.g, 2, true), "Frontman");
-    EXPECT_EQ(jobTitleFor(w.g, 3, true), "") << "past the table";
+    EXPECT_EQ(jobTitleFor(g, 1, false), "Drummer") << "no woman's title: the one title";
+    EXPECT_EQ(jobTitleFor(g, 2, false), "Frontwoman");
+    EXPECT_EQ(jobTitleFor(g, 2, true), "Frontman");
+    EXPECT_EQ(jobTitleFor(g, 3, true), "") << "past the table";
 }
 
-TEST(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
-    AlbumWorld w;
-    Game& g = w.g;
-    const int16_t us = w.addBand("Us", AlbumWorld::kPlayer);
-    const int16_t them = w.addBand("Them", AlbumWorld::kRival);
-    const int16_t others = w.addBand("Others", AlbumWorld::kRival);
-    g.festival.rec = FestivalRecord{};
-    g.festival->festivalName = std::string("Moor Fest");
+TEST_F(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
+    const int16_t others = addBand("Others", AlbumWorld::kRival);
+    g.festival.rec = FestivalRecord{.festivalName = "Moor Fest"};
     g.festival.append();
     const double d = g.gameDate + 5;
     test::addGig(g, us, d);                   // tour 1, ours
@@ -71,21 +78,10 @@ TEST(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
               std::tuple(int16_t{4}, std::string("Moor Fest"), std::string("Support")));
 }
 
-TEST(BandDetailsFigures, AnAnnouncedEndIsTheActsOwnPendingEnd) {
-    AlbumWorld w;
-    Game& g = w.g;
-    const int16_t us = w.addBand("Us", AlbumWorld::kPlayer);
-    const int16_t them = w.addBand("Them", AlbumWorld::kRival);
+TEST_F(BandDetailsFigures, AnAnnouncedEndIsTheActsOwnPendingEnd) {
     EXPECT_EQ(bandDetails(g, us).announcedEnd, 0);
-    auto fileEnd = [&](int16_t band, double date) {
-        ScheduleRecord e{};
-        e.type = 28;
-        e.band = band;
-        e.date = date;
-        addSchedule(g, e);
-    };
-    fileEnd(them, g.gameDate + 3);
-    fileEnd(us, g.gameDate + 9);
+    test::file(g, 28, g.gameDate + 3, them);  // an act's end, filed ahead
+    test::file(g, 28, g.gameDate + 9, us);
     EXPECT_EQ(bandDetails(g, us).announcedEnd, g.gameDate + 9);
     g.gameDate += 9;  // on its day it is still to come
     EXPECT_EQ(bandDetails(g, us).announcedEnd, g.gameDate);
@@ -93,18 +89,12 @@ TEST(BandDetailsFigures, AnAnnouncedEndIsTheActsOwnPendingEnd) {
     EXPECT_EQ(bandDetails(g, us).announcedEnd, 0);
 }
 
-TEST(BandDetailsFigures, OnlyThePlayersActsShowTheirAttributes) {
-    AlbumWorld w;
-    const int16_t us = w.addBand("Us", AlbumWorld::kPlayer);
-    const int16_t them = w.addBand("Them", AlbumWorld::kRival);
-    EXPECT_EQ(bandDetails(w.g, us).attributes.size(), 7u);
-    EXPECT_TRUE(bandDetails(w.g, them).attributes.empty());
+TEST_F(BandDetailsFigures, OnlyThePlayersActsShowTheirAttributes) {
+    EXPECT_EQ(bandDetails(g, us).attributes.size(), 7u);
+    EXPECT_TRUE(bandDetails(g, them).attributes.empty());
 }
 
-TEST(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
-    AlbumWorld w;
-    Game& g = w.g;
-    const int16_t us = w.addBand("Us", AlbumWorld::kPlayer);
+TEST_F(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
     g.band.read(us);
     const int16_t a = g.band->members[0];
     amend(g.artist, a, [&] {
@@ -115,18 +105,14 @@ TEST(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
     EXPECT_EQ(std::tuple(d.retired, d.retirementDate, d.players), std::tuple(true, test::day(2005, 3, 4), false));
 }
 
-TEST(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
     g.venue.rec = VenueRecord{.name = std::string("The Hall"), .capacity = 1200, .city = 1};
     g.venue.append();
-    const int16_t a = w.addBand("Alpha", AlbumWorld::kRival);
-    const int16_t b = w.addBand("Beta", AlbumWorld::kRival);
     const double d = test::day(2004, 6, 1);
-    const int32_t early = test::addGig(g, a, d);
-    const int32_t late = test::addGig(g, b, d + 2);
-    const int32_t sameDay = test::addGig(g, a, d);
-    const int32_t elsewhere = test::addGig(g, b, d + 5);
+    const int32_t early = test::addGig(g, them, d);
+    const int32_t late = test::addGig(g, us, d + 2);
+    const int32_t sameDay = test::addGig(g, them, d);
+    const int32_t elsewhere = test::addGig(g, us, d + 5);
     for (int32_t n : {early, late, sameDay}) {
         amend(g.gig, n, [&] { g.gig->venue = 1; });
     }
@@ -136,5 +122,5 @@ TEST(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
               std::tuple(std::string("The Hall"), std::string("London"), std::string("England"), 1200));
     ASSERT_EQ(v.gigs.size(), 3u);
     EXPECT_EQ(std::tuple(v.gigs[0].gig, v.gigs[1].gig, v.gigs[2].gig), std::tuple(late, sameDay, early));
-    EXPECT_EQ(v.gigs[0].headliner, "Beta");
+    EXPECT_EQ(v.gigs[0].headliner, "Us");
 }

@@ -16,12 +16,7 @@ std::pair<int, int> energyAndMorale(Game& g, int16_t artist) {
     return {g.artist->energy, g.artist->morale};
 }
 
-ScheduleRecord entry(uint8_t type, int16_t band) {
-    ScheduleRecord e{};
-    e.type = type;
-    e.band = band;
-    return e;
-}
+ScheduleRecord entry(uint8_t type, int16_t band) { return ScheduleRecord{.type = type, .band = band}; }
 
 }  // namespace
 

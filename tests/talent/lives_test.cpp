@@ -18,7 +18,7 @@ using test::AlbumWorld;
 
 namespace {
 
-struct Lives : AlbumWorld {
+struct Lives : ::testing::Test, AlbumWorld {
     Lives() { g.gameDate = serialFromCivil(2005, 3, 1); }
     // A popular style for the acts that replace those that end, and the last
     // record no act is drawn from.
@@ -81,20 +81,19 @@ struct Lives : AlbumWorld {
     }
 };
 
+using NewActs = Lives;
+using Replacements = Lives;
+using Retirement = Lives;
+
 }  // namespace
 
-TEST(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
-    Lives w;
-    Game& g = w.g;
+TEST_F(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
     // Style 1 (Rock, popularity 0, commerciality 60: 30) exists; then a hit
     // style (100 everywhere: always kept), Legend, a middling one (25: kept only
     // on a draw of 0, 1 in 75) and a last record that is never drawn.
     for (auto [name, level] : {std::pair{"Hit", 100}, {"Legend", 100}, {"Middling", 25}, {"Last", 100}}) {
-        g.style.rec = StyleRecord{};
-        g.style->name = std::string(name);
         uint8_t v = narrow<uint8_t>(level);
-        g.style->popularity = {v, v, v, v, v};
-        g.style->commerciality = v;
+        g.style.rec = StyleRecord{.name = name, .popularity = {v, v, v, v, v}, .commerciality = v};
         g.style.append();
     }
     std::map<int, int> seen;
@@ -107,9 +106,7 @@ TEST(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
     EXPECT_GT(seen[4], 0);
 }
 
-TEST(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
-    Lives w;
-    Game& g = w.g;
+TEST_F(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
     g.style->membersUsual = 4;
     g.style->membersHigh = 6;
     g.style->membersLow = 3;
@@ -122,9 +119,7 @@ TEST(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
     EXPECT_NEAR(seen[4] / 4000.0, 0.51 + 0.49 / 4, 0.03);
 }
 
-TEST(NewActs, HomeMarketsFollowWhereTheActFormed) {
-    Lives w;
-    Game& g = w.g;
+TEST_F(NewActs, HomeMarketsFollowWhereTheActFormed) {
     using Order = std::array<int, 5>;
     for (auto [name, region, order] : {std::tuple{"Scotland", "E", Order{0, 2, 1, 3, 4}},
                                        {"France", "E", {2, 0, 1, 3, 4}},
@@ -137,104 +132,83 @@ TEST(NewActs, HomeMarketsFollowWhereTheActFormed) {
     }
 }
 
-TEST(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
-    Lives w;
-    Game& g = w.g;
+TEST_F(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
     for (auto [name, style] : {std::pair{"Taken", 1}, {"Free", 1}, {"Other", 2}}) {
-        g.newband.rec = NewBandRecord{};
-        g.newband->name = std::string(name);
-        g.newband->style = narrow<uint8_t>(style);
+        g.newband.rec = NewBandRecord{.name = name, .style = narrow<uint8_t>(style)};
         g.newband.append();
     }
-    const int16_t taken = w.addBand("Taken", 0);
+    const int16_t taken = addBand("Taken", 0);
     std::set<std::string> drawn;
     for (int i = 0; i < 40; ++i) drawn.insert(pickBandName(g, 1));
     EXPECT_EQ(drawn, std::set<std::string>{"Free"});
-    w.setBandRec(taken, [](BandRecord& b) { b.retired = kTrue; });
+    setBandRec(taken, [](BandRecord& b) { b.retired = kTrue; });
     drawn.clear();
     for (int i = 0; i < 40; ++i) drawn.insert(pickBandName(g, 1));  // all 40 miss "Taken" at odds of 1 in 2^40
     EXPECT_EQ(drawn, (std::set<std::string>{"Free", "Taken"}));
 }
 
-TEST(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
-    Lives w;
-    Game& g = w.g;
-    int16_t x = w.group("X");
-    int32_t leaver = w.member(x, 0);
+TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
+    int16_t x = group("X");
+    int32_t leaver = member(x, 0);
     // Rating 50, leaver at 50 in the US and ability 50: a free candidate at rep r
     // everywhere and ability a scores (2r + 2r + 4a) / 4 = r + a.
-    int32_t low = w.freeArtist(20, 49);  // 69
+    freeArtist(20, 49);  // 69
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
-    int32_t at70 = w.freeArtist(20, 50);  // 70
+    int32_t at70 = freeArtist(20, 50);  // 70
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
-    w.freeArtist(65, 66);                  // 131
-    int32_t at130 = w.freeArtist(65, 65);  // 130
+    freeArtist(65, 66);                  // 131
+    int32_t at130 = freeArtist(65, 65);  // 130
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at130);
-    int32_t second = w.freeArtist(65, 65);  // 130 again: the first stays
+    int32_t second = freeArtist(65, 65);  // 130 again: the first stays
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at130);
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x, {at130, second}), at70) << "chosen in the chain";
-    w.setArtist(at130, [](ArtistRecord& a) { a.job = 2; });
-    w.setArtist(second, [](ArtistRecord& a) { a.retirementDate = a.birthDate + 9000; });
-    w.setArtist(at70, [](ArtistRecord& a) { a.style = 2; });
+    setArtist(at130, [](ArtistRecord& a) { a.job = 2; });
+    setArtist(second, [](ArtistRecord& a) { a.retirementDate = a.birthDate + 9000; });
+    setArtist(at70, [](ArtistRecord& a) { a.style = 2; });
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0) << "another job, style, or retiring";
-    static_cast<void>(low);
 }
 
-TEST(Replacements, AnArtistRetiredInPlayIsPassedOverUntilBack) {
-    Lives w;
-    Game& g = w.g;
-    int16_t x = w.group("X");
-    int32_t leaver = w.member(x, 0);
-    int32_t at70 = w.freeArtist(20, 50);  // 20 + 50, as above
+TEST_F(Replacements, AnArtistRetiredInPlayIsPassedOverUntilBack) {
+    int16_t x = group("X");
+    int32_t leaver = member(x, 0);
+    int32_t at70 = freeArtist(20, 50);  // 20 + 50, as above
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
-    w.setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
+    setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
-    w.setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
+    setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
     EXPECT_EQ(g.artist->id, g.artist.recordCount() - 1) << "the buffer as a walk of every artist leaves it";
 }
 
-TEST(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
-    Lives w;
-    Game& g = w.g;
-    int16_t x = w.group("X");
-    int16_t y = w.group("Y", 25);  // rating 25 of 50: 100 - stamina must reach 50
-    for (int i = 0; i < 2; ++i) w.setArtist(w.member(y, i), [](ArtistRecord& a) { a.job = 2; });
-    int32_t leaver = w.member(x, 0);
-    int32_t tired = w.freeArtist(50, 50, y, 51);
+TEST_F(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
+    int16_t x = group("X");
+    int16_t y = group("Y", 25);  // rating 25 of 50: 100 - stamina must reach 50
+    for (int i = 0; i < 2; ++i) setArtist(member(y, i), [](ArtistRecord& a) { a.job = 2; });
+    int32_t leaver = member(x, 0);
+    freeArtist(50, 50, y, 51);  // too tired
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
-    int32_t able = w.freeArtist(50, 50, y, 50);
+    int32_t able = freeArtist(50, 50, y, 50);
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), able);
-    static_cast<void>(tired);
 }
 
-TEST(Replacements, ALeaverWithNoFollowingCountsAsOne) {
-    Lives w;
-    Game& g = w.g;
-    int16_t x = w.group("X");
-    int32_t leaver = w.member(x, 0);
-    w.setArtist(leaver, [](ArtistRecord& a) { a.reputation = {}; });
+TEST_F(Replacements, ALeaverWithNoFollowingCountsAsOne) {
+    int16_t x = group("X");
+    int32_t leaver = member(x, 0);
+    setArtist(leaver, [](ArtistRecord& a) { a.reputation = {}; });
     // (100 * 1 / 1 + 100 * 1 / 50 + 200 * 45 / 50) = 282, / 4 = 70.5.
-    int32_t c = w.freeArtist(1, 45);
+    int32_t c = freeArtist(1, 45);
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), c);
 }
 
-TEST(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
-    Lives w;
-    Game& g = w.g;
-    w.readyForNewActs();
-    int16_t x = w.group("X"), y = w.group("Y", 50), z = w.group("Z", 50);
-    int32_t a = w.member(x, 0), b = w.member(y, 0), c = w.member(z, 0);
+TEST_F(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
+    readyForNewActs();
+    int16_t x = group("X"), y = group("Y", 50), z = group("Z", 50);
+    int32_t a = member(x, 0), b = member(y, 0), c = member(z, 0);
     // Each post's replacement comes from the next band; nobody can replace c.
-    w.setArtist(a, [](ArtistRecord& r) { r.job = 3; });
-    for (int32_t n : {w.member(x, 1), w.member(y, 1), w.member(z, 1)})
-        w.setArtist(n, [](ArtistRecord& r) { r.job = 9; });
-    w.setArtist(a, [](ArtistRecord& r) { r.job = 1; });
-    g.schedule.rec = ScheduleRecord{};
-    g.schedule->type = 29;
-    g.schedule->artist = narrow<int16_t>(a);
+    for (int32_t n : {member(x, 1), member(y, 1), member(z, 1)}) setArtist(n, [](ArtistRecord& r) { r.job = 9; });
+    g.schedule.rec = ScheduleRecord{.type = 29, .artist = narrow<int16_t>(a)};
     announceArtistRetirement(g);
-    auto filed = w.entries();
+    auto filed = entries();
     const double tomorrow = g.gameDate + 1;
     ASSERT_EQ(filed.size(), 3u);
     EXPECT_EQ(std::tuple(filed[0].type, filed[0].date, filed[0].band, filed[0].artist, filed[0].artist2),
@@ -251,8 +225,8 @@ TEST(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
     memberLeaves(g);
     g.schedule.rec = filed[2];
     memberLeaves(g);
-    EXPECT_EQ(w.member(x, 0), b);
-    EXPECT_EQ(w.member(y, 0), c);
+    EXPECT_EQ(member(x, 0), b);
+    EXPECT_EQ(member(y, 0), c);
     g.band.read(z);
     EXPECT_EQ(g.band->retired, kTrue) << "no one for c's post";
     g.artist.read(a);
@@ -261,40 +235,35 @@ TEST(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
     EXPECT_EQ(g.artist->band, x);
     g.artist.read(c);
     EXPECT_EQ(g.artist->band, y);
-    g.artist.read(w.member(z, 1));
+    g.artist.read(member(z, 1));
     EXPECT_EQ(g.artist->band, 0);
     EXPECT_EQ(g.band.recordCount(), bands + 1) << "Z's end makes a new act";
     EXPECT_GT(g.artist.recordCount(), artists) << "a's retirement makes an artist";
 
     // A second end of Z does nothing.
     const int32_t after = g.band.recordCount();
-    g.schedule.rec = ScheduleRecord{};
-    g.schedule->band = z;
+    g.schedule.rec = ScheduleRecord{.band = z};
     retireBand(g, false);
     EXPECT_EQ(g.band.recordCount(), after);
 }
 
-TEST(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
-    Lives w;
-    Game& g = w.g;
-    w.readyForNewActs();
-    int16_t x = w.group("X", 90);  // rated 90: of interest
-    w.setBandRec(x, [](BandRecord& b) { b.monthsUnsigned = 9; });
-    const int32_t news = w.newsCount(), bands = g.band.recordCount();
+TEST_F(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
+    readyForNewActs();
+    int16_t x = group("X", 90);  // rated 90: of interest
+    setBandRec(x, [](BandRecord& b) { b.monthsUnsigned = 9; });
+    const int32_t news = newsCount(), bands = g.band.recordCount();
     updateBandTimeWithoutADeal(g);
     g.band.read(x);
     EXPECT_EQ(g.band->retired, kTrue);
-    EXPECT_EQ(w.newsCount(), news);
+    EXPECT_EQ(newsCount(), news);
     EXPECT_EQ(g.band.recordCount(), bands + 1);
 }
 
-TEST(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
-    Lives w;
-    Game& g = w.g;
+TEST_F(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
     amend(g.style, 1, [&] { g.style->lifeSpan = 100; });
-    int16_t x = w.group("X");
+    int16_t x = group("X");
     for (auto [age, filed] : {std::pair{50, false}, {51, true}}) {
-        w.setBandRec(x, [&](BandRecord& b) { b.age = narrow<uint8_t>(age); });
+        setBandRec(x, [&](BandRecord& b) { b.age = narrow<uint8_t>(age); });
         int count = 0;
         // At 51 the chance is 2 in 100: 2,000 tries see it, at 50 none.
         for (int i = 0; i < 2000; ++i) {

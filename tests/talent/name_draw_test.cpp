@@ -111,9 +111,7 @@ TEST(Birthplaces, ACityWrittenInPlayIsDrawnAsItNowReads) {
     Game& g = w.g;
     const int32_t first = g.city.recordCount();
     for (uint8_t country : {201, 202}) {
-        g.city.rec = CityRecord{};
-        g.city->size = 100;  // always kept once drawn
-        g.city->country = country;
+        g.city.rec = CityRecord{.size = 100, .country = country};  // size 100: always kept once drawn
         g.city.append();
     }
     EXPECT_EQ(pickBirthCity(g, 201), first);

@@ -97,9 +97,7 @@ TEST_F(Hype, ALossReachesMembersThroughTheSameRule) {
 
 TEST_F(Hype, AChangeReachesTheLabelsChartingDiscsOutsideTheRestOfTheWorld) {
     int16_t label = addLabel(g, {50, 50, 50, 50, 50});
-    g.disc.rec = DiscRecord{};
-    g.disc->label = label;
-    g.disc->hype = {50, 50, 50, 50, 50};
+    g.disc.rec = DiscRecord{.hype = {50, 50, 50, 50, 50}, .label = label};
     int16_t disc = static_cast<int16_t>(g.disc.append());
     for (int chart : {0, 4}) {
         openChart(g, chart);
