@@ -13,7 +13,7 @@ namespace trovane {
 
 namespace {
 
-constexpr int kCommitsBetweenLettingPagesGo = 7;
+constexpr int kCommitsBetweenLettingPagesGo = 28;
 
 bool createdEmptyWhenMissing(FileNo n) {
     using enum FileNo;
@@ -162,9 +162,11 @@ void flushAllTables(Game& g, std::vector<FileWrite> extra) {
     for (auto& [file, p] : g.parked)
         if (p.keepIn != nullptr) p.keepIn->keep(file, std::move(p.image));
     g.parked.clear();
-    // A week of days reads few of the old records of the tables that pile
-    // them up; their pages go back to the system once a week and come back
-    // from the files as they are read again.
+    // Four weeks of days read few of the old records of the tables that pile
+    // them up; their pages go back to the system every four weeks and come
+    // back from the files as they are read again. (Let go each week, the
+    // pages the weekly walks read came back each week, at a cost that grew
+    // with the game; held four weeks, they add about a megabyte to the peak.)
     if (++g.commitsSincePagesWentBack >= kCommitsBetweenLettingPagesGo) {
         g.commitsSincePagesWentBack = 0;
 #define TROVANE_LET_GO(member, Record, fileNo) g.member.letPagesGo();
