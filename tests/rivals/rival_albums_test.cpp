@@ -157,8 +157,9 @@ protected:
 };
 
 TEST_F(RivalRelease, ATerritoryNeedsFourFifthsOfTheBestGlobalIncluded) {
-    // best 50: 40 x 1.25 = 50 is flagged, 39 x 1.25 = 48.75 -> 49 is not.
+    // Global comes with all four markets. best 50: 40 x 1.25 = 50 is flagged, 39 x 1.25 = 48.75 -> 49 is not.
     for (auto [reputation, out] : {std::pair{std::array<uint8_t, 5>{30, 30, 30, 30, 0}, std::array{1, 1, 1, 1, 1}},
+                                   {{30, 30, 30, 0, 0}, {1, 1, 1, 0, 0}},
                                    {{50, 40, 39, 0, 0}, {1, 1, 0, 0, 0}}}) {
         setReputation(reputation);
         const int16_t disc = recorded(0);
