@@ -104,10 +104,14 @@ TEST_F(Scouting, ASignedBandOrOneOutsideTheControversyBoundsIsNotTaken) {
 
 TEST_F(Scouting, TheMonthlyFindingsSampleAQuarterOfTheRating) {
     g.player.playerLabel = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 98);
+    int16_t full = addLabel(g, {1, 1, 1, 1, 1}, "Full", 100);
+    int16_t none = addLabel(g, {1, 1, 1, 1, 1}, "None", 0);
     addStars(30);
     deliverScoutingReports(g);
     EXPECT_EQ(listedBy(g.player.playerLabel), 24) << "round(98 / 4) = round(24.5) = 24";
-    ASSERT_EQ(g.news.recordCount(), 2);
+    EXPECT_EQ(listedBy(full), 25);
+    EXPECT_EQ(listedBy(none), 0);
+    ASSERT_EQ(g.news.recordCount(), 2) << "the player's report alone";
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "A&R Department present their monthly findings");
     std::string text = g.news->text.value;
@@ -116,16 +120,6 @@ TEST_F(Scouting, TheMonthlyFindingsSampleAQuarterOfTheRating) {
                         "worth investigating further with a view to offering a contract :-\r\n\r\n- Star "),
               0u);
     EXPECT_NE(text.find(" (Rock)\r\n"), std::string::npos);
-}
-
-TEST_F(Scouting, AFullDepartmentTakesTwentyFiveAndNoneNothing) {
-    int16_t full = addLabel(g, {1, 1, 1, 1, 1}, "Full", 100);
-    int16_t none = addLabel(g, {1, 1, 1, 1, 1}, "None", 0);
-    addStars(30);
-    deliverScoutingReports(g);
-    EXPECT_EQ(listedBy(full), 25);
-    EXPECT_EQ(listedBy(none), 0);
-    EXPECT_EQ(g.news.recordCount(), 1) << "no player, no report";
 }
 
 TEST_F(Scouting, OnlyAnEstimateAboveSeventyFiveIsListed) {
@@ -150,14 +144,10 @@ TEST_F(Scouting, NoMoreSamplesThanUnsignedBands) {
     EXPECT_EQ(listedBy(g.player.playerLabel), 3);
 }
 
-TEST_F(Scouting, TheReportReadsThePresentAndTheFuture) {
+TEST_F(Scouting, TheReportReadsThePresentAndTheFutureAndMarketingsViewWhenTheStyleLeansOnImage) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
     addStars(1);
-    ScheduleRecord e{};
-    e.type = 6;
-    e.band = 1;
-    e.label = label;
-    g.schedule.rec = e;
+    g.schedule.rec = ScheduleRecord{.type = 6, .band = 1, .label = label};
     bandReport(g);
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "A&R Department present Star 1 scouting report");
@@ -166,17 +156,11 @@ TEST_F(Scouting, TheReportReadsThePresentAndTheFuture) {
               "Your Artist and Repertoire Department have been monitoring Star 1 for the last week and have compiled "
               "a comprehensive report on him. They feel that he is currently amongst the most talented artists in the "
               "world.  They add in their report that they see no reason for this to change in the near future.");
-}
 
-TEST_F(Scouting, AStyleThatLeansOnImageAddsMarketingsView) {
-    int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Home Records", 100);
-    addStars(1);
     amend(g.style, rock, [&] { g.style->abilityWeight = 69; });
-    g.schedule.rec = ScheduleRecord{};
-    g.schedule->band = 1;
-    g.schedule->label = label;
+    g.schedule.rec = ScheduleRecord{.type = 6, .band = 1, .label = label};
     bandReport(g);
-    g.news.read(1);
+    g.news.read(2);
     const std::string text = g.news->text.value;
     EXPECT_NE(text.find("near future.\r\n\r\nGiven the style of music he produces the department felt it was also "
                         "important to ensure he has the correct image."),

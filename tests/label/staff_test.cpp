@@ -39,12 +39,8 @@ struct StaffGame : ::testing::Test {
     }
 
     int16_t person(const std::string& forename, Money wage, bool male = true, uint8_t style = 0, uint8_t ability = 60) {
-        g.staff.rec = StaffRecord{};
-        g.staff->forename = forename;
-        g.staff->surname = "Smith";
-        g.staff->male = male ? kTrue : kFalse;
-        g.staff->wage = wage;
-        g.staff->ability = ability;
+        g.staff.rec = StaffRecord{
+            .forename = forename, .surname = "Smith", .male = male ? kTrue : kFalse, .ability = ability, .wage = wage};
         g.staff->aptitude[9] = style;
         return static_cast<int16_t>(g.staff.append());
     }
@@ -175,25 +171,21 @@ TEST_F(StaffGame, AWithdrawalCancelsTheAnswerAndClearsTheOffer) {
     EXPECT_EQ(g.news.recordCount(), 1) << "no answer comes";
 }
 
-TEST_F(StaffGame, AWithdrawalIsRefusedOnTheDecisionDayAndWhileTheHireIsPending) {
+TEST_F(StaffGame, AWithdrawalIsRefusedFromTheDecisionDayTillANoToAgreedTerms) {
     int16_t ann = person("Ann", units(1000));
+    int16_t bob = person("Bob", units(1000));
     approachStaff(g, ann, security, 1000, 2);
+    approachStaff(g, bob, hospitality, 1000, 2);
     playDay(6);
     EXPECT_EQ(checkWithdrawStaffOffer(g, ann), "") << "the day before";
     playDay();
     EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "the decision day";
     playDay();
-    g.news.read(g.news.recordCount() - 1);
-    pressNewsCmd1(g);
-    EXPECT_NE(checkWithdrawStaffOffer(g, ann), "") << "the hire is filed";
-}
-
-TEST_F(StaffGame, ANoToAgreedTermsLeavesTheOfferUntilWithdrawn) {
-    int16_t ann = person("Ann", units(1000));
-    approachStaff(g, ann, security, 1000, 2);
-    playDay(8);
-    g.news.read(g.news.recordCount() - 1);
+    g.news.read(g.news.recordCount() - 2);  // Ann agrees terms: the player says no
     pressNewsCmd2(g);
+    g.news.read(g.news.recordCount() - 1);  // Bob agrees terms: yes
+    pressNewsCmd1(g);
+    EXPECT_NE(checkWithdrawStaffOffer(g, bob), "") << "the hire is filed";
     playDay();
     g.staff.read(ann);
     EXPECT_EQ(g.staff->offerLabel, label);

@@ -68,20 +68,10 @@ TEST(Businesses, RunningCostsAreChargedOnlyForOpenOwnedFirms) {
     EXPECT_EQ(w.cash(AlbumWorld::kPlayer), -moneyUnits(1020));
 }
 
-TEST(Businesses, OnlyOpenFirmsOfTheKindCanBeChosen) {
-    AlbumWorld w;
-    w.addFirm("Open Studio", kStudio, 50, 0);
-    w.addFirm("Plant", kPlant, 50, 0);
-    w.addFirm("Closed Studio", kStudio, 50, 0, false);
-    w.addFirm("Second Studio", kStudio, 20, 1);
-    EXPECT_EQ(chooseBusiness(w.g, kStudio), (std::vector<int16_t>{1, 4}));
-    EXPECT_EQ(chooseBusiness(w.g, kPlant), (std::vector<int16_t>{2}));
-    EXPECT_TRUE(chooseBusiness(w.g, kDistributor).empty());
-}
-
 TEST(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
     AlbumWorld w;
     Game& g = w.g;
+    w.addFirm("Press", kPlant, 50, 0);  // only studios are offered for studio work
     FacilityOrder order{.kind = kStudio, .name = "Home Rooms", .quality = 45, .city = 1};
     ASSERT_EQ(checkBuildFacility(g, order), "");
     int16_t firm = buildFacility(g, order);
@@ -115,23 +105,22 @@ TEST(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
 
 TEST(Businesses, ABuildOrderIsRefusedInTheGamesWordsAndChangesNothing) {
     AlbumWorld w;
-    Game& g = w.g;
-    FacilityOrder order{.kind = kPlant, .name = "Press", .quality = 100, .city = 1};
-    EXPECT_EQ(checkBuildFacility(g, order), "");
-    order.name = "  ";
-    EXPECT_EQ(checkBuildFacility(g, order), "Please enter a name for your new manufacturing plant.");
-    order.name = std::string(50, 'x');
-    EXPECT_EQ(checkBuildFacility(g, order), "");
-    order.name = std::string(51, 'x');
-    EXPECT_NE(checkBuildFacility(g, order), "");
-    order.name = "Press";
-    order.quality = 101;
-    EXPECT_NE(checkBuildFacility(g, order), "");
-    order.quality = 0;
-    EXPECT_NE(checkBuildFacility(g, order), "");
-    order.quality = 1;
-    order.city = 2;
-    EXPECT_EQ(checkBuildFacility(g, order), "Please choose a location.");
-    EXPECT_EQ(g.business.recordCount(), 1);
+    struct Row {
+        std::string name;
+        int quality, city;
+        const char* refusal;  // nullptr: any refusal
+    };
+    for (const Row& r :
+         {Row{"Press", 100, 1, ""}, Row{"  ", 1, 1, "Please enter a name for your new manufacturing plant."},
+          Row{std::string(50, 'x'), 1, 1, ""}, Row{std::string(51, 'x'), 1, 1, nullptr}, Row{"Press", 101, 1, nullptr},
+          Row{"Press", 0, 1, nullptr}, Row{"Press", 1, 2, "Please choose a location."}}) {
+        SCOPED_TRACE(r.name + " " + std::to_string(r.quality));
+        FacilityOrder order{.kind = kPlant, .name = r.name, .quality = r.quality, .city = static_cast<int16_t>(r.city)};
+        if (r.refusal)
+            EXPECT_EQ(checkBuildFacility(w.g, order), r.refusal);
+        else
+            EXPECT_NE(checkBuildFacility(w.g, order), "");
+    }
+    EXPECT_EQ(w.g.business.recordCount(), 1);
     EXPECT_EQ(w.cash(AlbumWorld::kPlayer), 0);
 }

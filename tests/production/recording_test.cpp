@@ -56,14 +56,12 @@ struct Studio : AlbumWorld {
 TEST(Recording, FinalisingMakesTheDiscFromTheMarkedSongsAndHoldsTheRest) {
     Studio w(2);
     Game& g = w.g;
-    amend(g.song, w.songs[0], [&] {
-        g.song->quality = 40;
-        g.song->commerciality = 61;
-    });
-    amend(g.song, w.songs[1], [&] {
-        g.song->quality = 41;
-        g.song->commerciality = 62;
-    });
+    for (uint8_t i : {0, 1}) {
+        amend(g.song, w.songs[i], [&] {
+            g.song->quality = static_cast<uint8_t>(40 + i);
+            g.song->commerciality = static_cast<uint8_t>(61 + i);
+        });
+    }
     ASSERT_EQ(checkFinaliseAlbum(g, w.band, w.tracks()), "");
     int16_t disc = finaliseAlbum(g, w.band, w.tracks());
     g.disc.read(disc);
@@ -72,12 +70,7 @@ TEST(Recording, FinalisingMakesTheDiscFromTheMarkedSongsAndHoldsTheRest) {
     EXPECT_EQ(g.disc->commerciality, 62) << "(61 + 62) / 2 = 61.5 to the even 62";
     EXPECT_EQ(g.disc->label, AlbumWorld::kPlayer);
     EXPECT_EQ(trim(g.disc->coverImage.value), "none.jpg");
-    for (int i = 0; i < 2; ++i) {
-        g.song.read(w.songs[static_cast<std::size_t>(i)]);
-        EXPECT_EQ(g.song->disc, disc);
-    }
-    g.song.read(w.songs[2]);
-    EXPECT_EQ(g.song->disc, 65534);
+    for (std::size_t i : {0u, 1u, 2u}) EXPECT_EQ((g.song.read(w.songs[i]), g.song->disc), i < 2 ? disc : 65534) << i;
     EXPECT_TRUE(songsInHand(g, w.band).empty());
     EXPECT_EQ(discAwaitingStudio(g, w.band), disc);
     EXPECT_NE(checkFinaliseAlbum(g, w.band, {w.songs[2]}), "") << "finalised once";
@@ -176,13 +169,11 @@ TEST(Recording, WithNoStaminaEveryEndOfBookingCostsOneMoreSession) {
     int16_t studio = w.addFirm("Rooms", kStudio, 10, 0);  // 150 a day
     int16_t disc = finaliseAlbum(g, w.band, w.tracks());
     bookStudio(g, disc, studio);  // 2 sessions, +14 and +15; due +15
-    w.playStudioDay(today + 14);
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(300)) << "before the end: no extra";
-    w.playStudioDay(today + 15);
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(450));
+    for (double day : {today + 14, today + 15}) w.playStudioDay(day);
     g.disc.read(disc);
     EXPECT_EQ(g.disc->recordingDue, today + 16);
     w.playStudioDay(today + 16);
+    // 300 booked, and 150 at each of the two ends: none before the end.
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(600));
     EXPECT_EQ(w.studioDays(today, today + 30), (std::vector<double>{today + 14, today + 15, today + 16, today + 17}));
     g.disc.read(disc);
@@ -199,10 +190,8 @@ TEST(Recording, ALastDayLostToRestIsBookedAgain) {
     bookStudio(g, disc, studio);
     // away: the guard skips the studio day
     amend(g.artist, 1, [&] { g.artist->energy = -1; });
-    w.playStudioDay(today + 14);
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(300)) << "a day lost before the end";
-    w.playStudioDay(today + 15);
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(450));
+    for (double day : {today + 14, today + 15}) w.playStudioDay(day);
+    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(450)) << "a day lost before the end is not";
     amend(g.artist, 1, [&] { g.artist->energy = 50; });
     w.playStudioDay(today + 16);
     g.disc.read(disc);
@@ -253,12 +242,7 @@ TEST(Recording, AFinishedSingleLeavesTheAlbumAndTheAdvanceAlone) {
     g.disc->studio = studio;
     g.disc->recordingDue = g.gameDate + 5;
     int16_t disc = static_cast<int16_t>(g.disc.append());
-    ScheduleRecord e{};
-    e.type = 7;
-    e.disc = disc;
-    e.band = w.band;
-    e.date = g.gameDate;
-    g.schedule.rec = e;
+    g.schedule.rec = ScheduleRecord{.type = 7, .date = g.gameDate, .band = w.band, .disc = disc};
     recordingDay(g);
     g.disc.read(disc);
     EXPECT_EQ(g.disc->tracksRecorded, 3);
@@ -266,21 +250,4 @@ TEST(Recording, AFinishedSingleLeavesTheAlbumAndTheAdvanceAlone) {
     EXPECT_EQ(g.band->albumStatus, 1);
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), 0);
     EXPECT_EQ(trim(w.lastNews().title.value), "Tapes complete the recording of their new single.");
-}
-
-TEST(Recording, SessionsRunOnOverTheYearsEnd) {
-    Studio w(2);
-    Game& g = w.g;
-    g.gameDate = serialFromCivil(2004, 12, 16);
-    const double eve = serialFromCivil(2004, 12, 31);
-    ScheduleRecord rest{};
-    rest.type = 11;
-    rest.date = eve;
-    rest.band = w.band;
-    addSchedule(g, rest);
-    int16_t studio = w.addFirm("Rooms", kStudio, 10, 0);
-    int16_t disc = finaliseAlbum(g, w.band, w.tracks());
-    bookStudio(g, disc, studio);
-    // 4 sessions from 30 December (16 + 14), New Year's Eve taken.
-    EXPECT_EQ(w.studioDays(eve - 5, eve + 10), (std::vector<double>{eve - 1, eve + 1, eve + 2, eve + 3}));
 }

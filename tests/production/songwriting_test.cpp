@@ -2,6 +2,7 @@
 // to, bought-in material and its price, titles, and the news along the way.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 #include <tuple>
 
@@ -35,6 +36,20 @@ int songsOf(Game& g, int16_t band) {
     return n;
 }
 
+// Writes n songs for artist 1 of the band; the lowest and highest quality and commerciality.
+std::array<int, 4> spreadOf(Game& g, int16_t band, int n, bool own) {
+    std::array<int, 4> lowHigh{100, 0, 100, 0};
+    for (int i = 0; i < n; ++i) {
+        g.band.read(band);
+        g.artist.read(1);
+        writeSong(g, own, true);
+        g.song.read(g.song.recordCount() - 1);
+        lowHigh = {std::min<int>(lowHigh[0], g.song->quality), std::max<int>(lowHigh[1], g.song->quality),
+                   std::min<int>(lowHigh[2], g.song->commerciality), std::max<int>(lowHigh[3], g.song->commerciality)};
+    }
+    return lowHigh;
+}
+
 }  // namespace
 
 TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
@@ -55,21 +70,7 @@ TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
     EXPECT_EQ(weeksWritten(g, band, 1, 2000), 0) << "c = 0 is never above a draw";
 }
 
-TEST(Songwriting, ANonWriterOrARetiredArtistNeverWritesNorBuysIn) {
-    AlbumWorld w;
-    Game& g = w.g;
-    // The leader can't write; writing album time, every chance at its highest.
-    int16_t band = w.addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);
-    int16_t retired = w.addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);
-    for (int16_t b : {band, retired}) {
-        amend(g.band, b, [&] { g.band->albumStatus = 1; });
-    }
-    amend(g.artist, 3, [&] { g.artist->retired = -1; });
-    for (int week = 0; week < 30; ++week) updateSongs(g);
-    EXPECT_EQ(g.song.recordCount(), 1);
-}
-
-TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromTheLeaderAtStatusOne) {
+TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWritingLeaderAtStatusOne) {
     AlbumWorld w;
     Game& g = w.g;
     int16_t recording = w.addBand("Recording", AlbumWorld::kRival, 2, 60, 100);  // artists 1, 2
@@ -77,7 +78,10 @@ TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromTheLeaderA
     int16_t writing = w.addBand("Writing", AlbumWorld::kRival, 2, 60, 100);      // 5, 6
     int16_t idle = w.addBand("Idle", AlbumWorld::kRival, 2, 60, 100);            // 7, 8
     int16_t follower = w.addBand("Follower", AlbumWorld::kRival, 2, 60, 100);    // 9, 10
-    for (int16_t b : {recording, ending, writing, idle, follower}) {
+    int16_t noPens = w.addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);       // 11, 12: the leader can't write
+    int16_t retired = w.addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);        // 13
+    amend(g.artist, 13, [&] { g.artist->retired = -1; });
+    for (int16_t b : {recording, ending, writing, idle, follower, noPens, retired}) {
         g.band.read(b);
         g.band->albumStatus = b == recording ? 2 : b == idle ? 0 : 1;
         if (b == ending) g.band->contractEnd = g.gameDate + 100;
@@ -99,6 +103,8 @@ TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromTheLeaderA
     }
     EXPECT_EQ(ownAndBought.count(recording), 0u) << "recording: nothing of their own";
     EXPECT_EQ(ownAndBought.count(ending), 0u) << "an announced end: nothing at all";
+    EXPECT_EQ(ownAndBought.count(noPens), 0u) << "a leader who can't write neither writes nor buys in";
+    EXPECT_EQ(ownAndBought.count(retired), 0u) << "a retired artist neither writes nor buys in";
     EXPECT_GT(ownAndBought[writing].first, 0);
     EXPECT_GT(ownAndBought[writing].second, 0) << "the leader buys in on weeks without a song";
     EXPECT_GT(ownAndBought[idle].first, 0);
@@ -112,23 +118,9 @@ TEST(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred
     Game& g = w.g;
     int16_t band = w.addBand("Spread", AlbumWorld::kRival, 1, 50, 40);
     amend(g.artist, 1, [&] { g.artist->songCommerciality = 100; });
-    int lowQ = 100, highQ = 0, lowC = 100, highC = 0;
-    for (int i = 0; i < 400; ++i) {
-        g.band.read(band);
-        g.artist.read(1);
-        writeSong(g, true, true);
-        g.song.read(g.song.recordCount() - 1);
-        lowQ = std::min<int>(lowQ, g.song->quality);
-        highQ = std::max<int>(highQ, g.song->quality);
-        lowC = std::min<int>(lowC, g.song->commerciality);
-        highC = std::max<int>(highC, g.song->commerciality);
-    }
-    // quality 50 + Int(5 r1) - Int(5 r2): 46 to 54.
-    EXPECT_EQ(lowQ, 46);
-    EXPECT_EQ(highQ, 54);
-    // commerciality 100 + Int(10 r1) - Int(10 r2): 91 to 109, held at 100.
-    EXPECT_EQ(lowC, 91);
-    EXPECT_EQ(highC, 100);
+    // quality 50 + Int(5 r1) - Int(5 r2): 46 to 54; commerciality 100 + Int(10 r1) - Int(10 r2):
+    // 91 to 109, held at 100.
+    EXPECT_EQ(spreadOf(g, band, 400, true), (std::array{46, 54, 91, 100}));
     g.song.read(1);
     EXPECT_EQ(trim(g.song->writerForename.value), "Member1");
     EXPECT_EQ(g.song->writer, 1);
@@ -152,22 +144,9 @@ TEST_P(BoughtMaterial, EachBudgetHasItsQualityCommercialityAndPrice) {
     Game& g = w.g;
     int16_t band = w.addBand("Buyers", AlbumWorld::kRival, 1, 50, 40);
     amend(g.band, band, [&] { g.band->materialBudget = static_cast<uint8_t>(level); });
-    int lowQ = 100, highQ = 0, lowC = 100, highC = 0;
     const int songs = 600;
-    for (int i = 0; i < songs; ++i) {
-        g.band.read(band);
-        g.artist.read(1);
-        writeSong(g, false, true);
-        g.song.read(g.song.recordCount() - 1);
-        lowQ = std::min<int>(lowQ, g.song->quality);
-        highQ = std::max<int>(highQ, g.song->quality);
-        lowC = std::min<int>(lowC, g.song->commerciality);
-        highC = std::max<int>(highC, g.song->commerciality);
-    }
-    EXPECT_EQ(lowQ, want.quality - 9);
-    EXPECT_EQ(highQ, want.quality + 9);
-    EXPECT_EQ(lowC, want.lowestCommerciality);
-    EXPECT_EQ(highC, 69);
+    EXPECT_EQ(spreadOf(g, band, songs, false),
+              (std::array{want.quality - 9, want.quality + 9, want.lowestCommerciality, 69}));
     g.song.read(1);
     EXPECT_EQ(trim(g.song->writerForename.value), "Unknown");
     EXPECT_EQ(g.song->writer, 0);

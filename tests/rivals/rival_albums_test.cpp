@@ -35,24 +35,13 @@ protected:
     }
 };
 
-TEST_F(RivalAlbums, SongsNeededAreAQuarterOfStrengthHeldTenToTwenty) {
-    EXPECT_EQ(songsNeededFor(40), 10);  // 40 / 4 = 10
-    EXPECT_EQ(songsNeededFor(80), 20);  // 80 / 4 = 20
-    EXPECT_EQ(songsNeededFor(90), 20);  // 22.5 -> 22, held at 20
-    EXPECT_EQ(songsNeededFor(10), 10);  // 2.5 -> 2, held at 10
-    EXPECT_EQ(songsNeededFor(46), 12);  // 11.5 -> 12 (half to even)
-}
-
-TEST_F(RivalAlbums, WritingPaceFollowsStrengthBands) {
-    EXPECT_EQ(writingPaceFor(29), 4);
-    EXPECT_EQ(writingPaceFor(30), 3);
-    EXPECT_EQ(writingPaceFor(49), 3);
-    EXPECT_EQ(writingPaceFor(50), 2);
-    EXPECT_EQ(writingPaceFor(60), 1);
-    EXPECT_EQ(writingPaceFor(79), 1);
-    EXPECT_EQ(writingPaceFor(80), 0);
-    EXPECT_EQ(writingPaceFor(100), 0);
-    EXPECT_EQ(writingPaceFor(101), -1);  // left unchanged
+TEST_F(RivalAlbums, SongsNeededAndWritingPaceFollowStrength) {
+    // A quarter of strength, half to even, held 10 to 20.
+    for (auto [m, need] : {std::pair{40, 10}, {80, 20}, {90, 20}, {10, 10}, {46, 12}})
+        EXPECT_EQ(songsNeededFor(m), need) << m;
+    // 101 leaves the pace unchanged.
+    for (auto [m, pace] : {std::pair{29, 4}, {30, 3}, {49, 3}, {50, 2}, {60, 1}, {79, 1}, {80, 0}, {100, 0}, {101, -1}})
+        EXPECT_EQ(writingPaceFor(m), pace) << m;
 }
 
 TEST_F(RivalAlbums, TheTrackCountKeepsEverySongWithinAFifthOfTheBest) {
@@ -70,63 +59,49 @@ TEST_F(RivalAlbums, TheTrackCountKeepsEverySongWithinAFifthOfTheBest) {
     EXPECT_EQ(trackTargetFor(q.data(), 7), 7);    // never more than were gathered
 }
 
-TEST_F(RivalAlbums, SevenUnusedSongsMakeASevenTrackAlbumInWritingOrder) {
-    const int16_t band = addBand("The Rivals", kRival, 1, 40);
+TEST_F(RivalAlbums, TheBestSongsGoOnInWritingOrderAndABandBelowItsNeedWaits) {
+    auto writing = [&](const char* name, uint8_t m, int32_t written) {
+        const int16_t band = addBand(name, kRival, 1, m);
+        amend(g.band, band, [&] {
+            g.band->songsWritten = written;
+            g.band->albumStatus = 1;
+        });
+        return band;
+    };
+    // m = 40 (mean song quality): needs 10, 10 written, seven unused.
+    const int16_t seven = writing("Seven", 40, 10);
     std::vector<int32_t> songs;
-    for (uint8_t q : {30, 90, 50, 70, 20, 60, 40}) songs.push_back(addSong(band, q, q));
-    const int32_t used = addSong(band, 99, 99, 3);  // already on a disc: not gathered
-    amend(g.band, band, [&] {
-        g.band->songsWritten = 10;
-        g.band->albumStatus = 1;
-    });
-    computerCheckAlbumProgress(g);  // m = 40 (mean song quality), needed 10, 10 written
-    g.band.read(band);
+    for (uint8_t q : {30, 90, 50, 70, 20, 60, 40}) songs.push_back(addSong(seven, q, q));
+    const int32_t used = addSong(seven, 99, 99, 3);  // already on a disc: not gathered
+    // Twelve songs: the best 100 (cutoff 80), two more above it, nine weak.
+    const int16_t twelve = writing("Twelve", 40, 13);
+    std::vector<int32_t> dozen{addSong(twelve, 10, 10), addSong(twelve, 100, 100)};
+    for (int i = 0; i < 9; ++i) dozen.push_back(addSong(twelve, 30, 30));
+    dozen.push_back(addSong(twelve, 90, 90));
+    dozen.push_back(addSong(twelve, 85, 85));
+    const int16_t short19 = writing("Short", 80, 19);  // m 80: needs 20
+    for (int i = 0; i < 19; ++i) addSong(short19, 50, 50);
+
+    computerCheckAlbumProgress(g);
+    g.band.read(seven);
     EXPECT_EQ(g.band->albumStatus, 2);
     const int16_t disc = static_cast<int16_t>(g.band->songsWritten);
     EXPECT_EQ(tracksOf(disc), songs);
     g.disc.read(disc);
     EXPECT_EQ(trim(g.disc->coverImage.value), "none.jpg");
     EXPECT_EQ(g.disc->studio, studio);
-    g.song.read(used);
-    EXPECT_EQ(g.song->disc, 3);
-}
+    EXPECT_EQ((g.song.read(used), g.song->disc), 3);
 
-TEST_F(RivalAlbums, TheBestSongsGoOnAndTheRestAreHeld) {
-    const int16_t band = addBand("The Rivals", kRival, 1, 40);
-    std::vector<int32_t> songs;
-    // Twelve songs: the best 100 (cutoff 80), two more above it, nine weak.
-    songs.push_back(addSong(band, 10, 10));
-    songs.push_back(addSong(band, 100, 100));
-    for (int i = 0; i < 9; ++i) songs.push_back(addSong(band, 30, 30));
-    songs.push_back(addSong(band, 90, 90));
-    songs.push_back(addSong(band, 85, 85));
-    amend(g.band, band, [&] {
-        g.band->songsWritten = 13;
-        g.band->albumStatus = 1;
-    });
-    computerCheckAlbumProgress(g);
-    g.band.read(band);
+    g.band.read(twelve);
     const auto tracks = tracksOf(static_cast<int16_t>(g.band->songsWritten));
     // Ten tracks: 100, 90, 85 and seven of the 30s in table order; the 10 is left.
     ASSERT_EQ(tracks.size(), 10u);
-    EXPECT_EQ(tracks.front(), songs[1]);
-    EXPECT_EQ(tracks.back(), songs[12]);
-    g.song.read(songs[0]);
-    EXPECT_EQ(g.song->disc, 65534);  // held back
-    g.song.read(songs[10]);
-    EXPECT_EQ(g.song->disc, 65534);  // the ninth 30 did not make the cut
-}
+    EXPECT_EQ(tracks.front(), dozen[1]);
+    EXPECT_EQ(tracks.back(), dozen[12]);
+    EXPECT_EQ((g.song.read(dozen[0]), g.song->disc), 65534);   // held back
+    EXPECT_EQ((g.song.read(dozen[10]), g.song->disc), 65534);  // the ninth 30 did not make the cut
 
-TEST_F(RivalAlbums, ABandBelowItsNeedWaits) {
-    const int16_t band = addBand("The Rivals", kRival, 1, 80);  // m 80: needs 20
-    for (int i = 0; i < 19; ++i) addSong(band, 50, 50);
-    amend(g.band, band, [&] {
-        g.band->songsWritten = 19;
-        g.band->albumStatus = 1;
-    });
-    computerCheckAlbumProgress(g);
-    g.band.read(band);
-    EXPECT_EQ(g.band->albumStatus, 1);
+    EXPECT_EQ((g.band.read(short19), g.band->albumStatus), 1);
 }
 
 TEST_F(RivalAlbums, AnAlbumStartsOnlyMoreThan230DaysAfterTheLast) {
@@ -166,30 +141,34 @@ protected:
     void setReputation(std::array<uint8_t, 5> r) {
         amend(g.band, band, [&] { g.band->reputation = r; });
     }
+    // The date the rival chooses for the disc in the UK.
+    double dateInUk(int16_t disc) {
+        g.disc.read(disc);
+        rivalChooseReleaseDate(g, 1);
+        g.disc.read(disc);
+        return g.disc->releaseDate[0];
+    }
+    // An album of another rival act of UK reputation r, out on date.
+    void releasedBy(uint8_t r, double date) {
+        const int16_t other = addBand("Other", kRival, 1, 40);
+        amend(g.band, other, [&] { g.band->reputation = {r, 0, 0, 0, 0}; });
+        addReleased(other, 0, date);
+    }
 };
 
-TEST_F(RivalRelease, EqualReputationsReleaseEverywhereGlobalIncluded) {
-    setReputation({30, 30, 30, 30, 0});
-    const int16_t disc = recorded(0);
-    g.band.read(band);
-    g.disc.read(disc);
-    rivalRecordingComplete(g);
-    g.disc.read(disc);
-    for (double d : g.disc->releaseDate) EXPECT_GT(d, kNoDate);
-}
-
-TEST_F(RivalRelease, ATerritoryNeedsFourFifthsOfTheBest) {
-    // best 50: 40 x 1.25 = 50 is flagged, 39 x 1.25 = 48.75 -> 49 is not.
-    setReputation({50, 40, 39, 0, 0});
-    const int16_t disc = recorded(0);
-    g.band.read(band);
-    g.disc.read(disc);
-    rivalRecordingComplete(g);
-    g.disc.read(disc);
-    EXPECT_GT(g.disc->releaseDate[0], kNoDate);
-    EXPECT_GT(g.disc->releaseDate[1], kNoDate);
-    EXPECT_EQ(g.disc->releaseDate[2], kNoDate);
-    EXPECT_EQ(g.disc->releaseDate[4], kNoDate);
+TEST_F(RivalRelease, ATerritoryNeedsFourFifthsOfTheBestGlobalIncluded) {
+    // Global comes with all four markets. best 50: 40 x 1.25 = 50 is flagged, 39 x 1.25 = 48.75 -> 49 is not.
+    for (auto [reputation, out] : {std::pair{std::array<uint8_t, 5>{30, 30, 30, 30, 0}, std::array{1, 1, 1, 1, 1}},
+                                   {{30, 30, 30, 0, 0}, {1, 1, 1, 0, 0}},
+                                   {{50, 40, 39, 0, 0}, {1, 1, 0, 0, 0}}}) {
+        setReputation(reputation);
+        const int16_t disc = recorded(0);
+        g.band.read(band);
+        g.disc.read(disc);
+        rivalRecordingComplete(g);
+        g.disc.read(disc);
+        for (std::size_t t = 0; t < 5; ++t) EXPECT_EQ(g.disc->releaseDate[t] > kNoDate, out[t] == 1) << t;
+    }
 }
 
 TEST_F(RivalRelease, ASingleMarksItsLeadSongInTheRecordsOwnOrder) {
@@ -213,70 +192,38 @@ TEST_F(RivalRelease, ASingleMarksItsLeadSongInTheRecordsOwnOrder) {
 
 TEST_F(RivalRelease, AReleaseGoesToTheMondayAfterSevenWeeks) {
     setReputation({30, 0, 0, 0, 0});
-    const int16_t disc = recorded(0);
-    g.disc.read(disc);
-    rivalChooseReleaseDate(g, 1);
-    g.disc.read(disc);
     // 1 March 2005 (Tuesday) + 48 = 18 April 2005, a Monday; 48 free days.
-    EXPECT_EQ(g.disc->releaseDate[0], serialFromCivil(2005, 4, 18));
-    EXPECT_EQ(weekdayOf(g.disc->releaseDate[0]), 2);
+    const double date = dateInUk(recorded(0));
+    EXPECT_EQ(date, serialFromCivil(2005, 4, 18));
+    EXPECT_EQ(weekdayOf(date), 2);
 }
 
 TEST_F(RivalRelease, AnAlbumKeeps180DaysFromTheLastInTheTerritory) {
     setReputation({30, 0, 0, 0, 0});
     addReleased(band, 0, serialFromCivil(2005, 1, 3));
-    const int16_t disc = recorded(0);
-    g.disc.read(disc);
-    rivalChooseReleaseDate(g, 1);
-    g.disc.read(disc);
     // 3 January 2005 + 180 = 2 July 2005 (Saturday); its week's Monday is 27 June.
-    EXPECT_EQ(g.disc->releaseDate[0], serialFromCivil(2005, 6, 27));
+    EXPECT_EQ(dateInUk(recorded(0)), serialFromCivil(2005, 6, 27));
 }
 
 TEST_F(RivalRelease, ThreeEqualsOnADayPushTheDiscAWeekTwoDoNot) {
     setReputation({40, 0, 0, 0, 0});
     const double monday = serialFromCivil(2005, 4, 18);
     // Equals are 30 to 50 (40 -/+ 10).
-    for (uint8_t r : {30, 50}) {
-        const int16_t other = addBand("Equal", kRival, 1, 40);
-        amend(g.band, other, [&] { g.band->reputation = {r, 0, 0, 0, 0}; });
-        addReleased(other, 0, monday);
-    }
-    const int16_t weaker = addBand("Weaker", kRival, 1, 40);
-    amend(g.band, weaker, [&] { g.band->reputation = {29, 0, 0, 0, 0}; });
-    addReleased(weaker, 0, monday);
+    for (uint8_t r : {30, 50, 29}) releasedBy(r, monday);
     const int16_t disc = recorded(0);
-    g.disc.read(disc);
-    rivalChooseReleaseDate(g, 1);
-    g.disc.read(disc);
-    EXPECT_EQ(g.disc->releaseDate[0], monday);
-
-    const int16_t third = addBand("Third", kRival, 1, 40);
-    amend(g.band, third, [&] { g.band->reputation = {40, 0, 0, 0, 0}; });
-    addReleased(third, 0, monday);
-    g.disc.read(disc);
-    g.disc->releaseDate.fill(kNoDate);  // the band's own first try no longer counts
-    g.disc.write();
-    rivalChooseReleaseDate(g, 1);
-    g.disc.read(disc);
-    EXPECT_EQ(g.disc->releaseDate[0], monday + 7);
+    EXPECT_EQ(dateInUk(disc), monday);
+    releasedBy(40, monday);
+    amend(g.disc, disc, [&] { g.disc->releaseDate.fill(kNoDate); });  // the band's own first try no longer counts
+    EXPECT_EQ(dateInUk(disc), monday + 7);
 }
 
 TEST_F(RivalRelease, ElevenCrowdedWeeksFallBackUpToEightWeeks) {
     setReputation({40, 0, 0, 0, 0});
     const double first = serialFromCivil(2005, 4, 18);
     for (int w = 0; w < 11; ++w)
-        for (int k = 0; k < 3; ++k) {
-            const int16_t other = addBand("Crowd", kRival, 1, 40);
-            amend(g.band, other, [&] { g.band->reputation = {40, 0, 0, 0, 0}; });
-            addReleased(other, 0, first + 7.0 * w);
-        }
-    const int16_t disc = recorded(0);
-    g.disc.read(disc);
-    rivalChooseReleaseDate(g, 1);
-    g.disc.read(disc);
+        for (int k = 0; k < 3; ++k) releasedBy(40, first + 7.0 * w);
     // After eleven pushes the candidate is first + 77, less 0 to 8 weeks.
-    const double date = g.disc->releaseDate[0];
+    const double date = dateInUk(recorded(0));
     EXPECT_LE(date, first + 77);
     EXPECT_GE(date, first + 77 - 56);
     EXPECT_EQ(static_cast<int64_t>(first + 77 - date) % 7, 0);
@@ -285,19 +232,12 @@ TEST_F(RivalRelease, ElevenCrowdedWeeksFallBackUpToEightWeeks) {
 TEST_F(RivalRelease, FreeDaysAreCountedFromTodayForEachWeekTried) {
     setReputation({30, 0, 0, 0, 0});
     for (int d = 1; d <= 20; ++d) {
-        ScheduleRecord rest{};
-        rest.type = static_cast<uint8_t>(ScheduleType::restDay);
-        rest.date = g.gameDate + d;
-        rest.band = band;
-        addSchedule(g, rest);
+        addSchedule(g, ScheduleRecord{
+                           .type = static_cast<uint8_t>(ScheduleType::restDay), .date = g.gameDate + d, .band = band});
     }
-    const int16_t disc = recorded(0);
-    g.disc.read(disc);
-    rivalChooseReleaseDate(g, 1);
-    g.disc.read(disc);
     // Twenty days of rest from 2 March 2005: 18 April has 48 - 20 = 28 free
     // days before it, 25 April 35, 2 May 42, the first with enough.
-    EXPECT_EQ(g.disc->releaseDate[0], serialFromCivil(2005, 5, 2));
+    EXPECT_EQ(dateInUk(recorded(0)), serialFromCivil(2005, 5, 2));
 }
 
 }  // namespace

@@ -49,14 +49,11 @@ protected:
         });
     }
     int16_t addRival(const std::string& name) {
-        g.label.rec = LabelRecord{};
-        g.label->name = name;
+        g.label.rec = LabelRecord{.name = name};
         return static_cast<int16_t>(g.label.append());
     }
     void list(int16_t label, int16_t band) {
-        g.shortlist.rec = ShortlistRecord{};
-        g.shortlist->band = band;
-        g.shortlist->label = label;
+        g.shortlist.rec = ShortlistRecord{.band = band, .label = label};
         g.shortlist.append();
     }
     std::vector<OfferRecord> offers() {
@@ -107,15 +104,14 @@ TEST_F(RivalSigning, TwoRivalsShareTheFirstDateAndOneDecisionUnreportedOffThePla
 }
 
 TEST_F(RivalSigning, ARivalJoinsThePlayersDateWithoutANewDecision) {
-    g.offer.rec = OfferRecord{};
-    g.offer->band = act;
-    g.offer->label = kPlayer;
-    g.offer->decisionDate = g.gameDate + 3;
-    g.offer->initialAdvance = 100'000;
-    g.offer->additionalAdvance = 50'000;
-    g.offer->additionalAdvanceCount = 3;
-    g.offer->optionLength = 18;
-    g.offer->royalty = 15;
+    g.offer.rec = OfferRecord{.decisionDate = g.gameDate + 3,
+                              .label = kPlayer,
+                              .initialAdvance = 100'000,
+                              .additionalAdvance = 50'000,
+                              .additionalAdvanceCount = 3,
+                              .optionLength = 18,
+                              .band = act,
+                              .royalty = 15};
     g.offer.append();
     list(kRival, act);
     computerApproachBands(g);
@@ -126,10 +122,7 @@ TEST_F(RivalSigning, ARivalJoinsThePlayersDateWithoutANewDecision) {
 }
 
 TEST_F(RivalSigning, AStaleOfferDoesNotSetTheDate) {
-    g.offer.rec = OfferRecord{};
-    g.offer->band = act;
-    g.offer->label = second;
-    g.offer->decisionDate = g.gameDate - 1;
+    g.offer.rec = OfferRecord{.decisionDate = g.gameDate - 1, .label = second, .band = act};
     g.offer.append();
     list(kRival, act);
     computerApproachBands(g);
@@ -152,166 +145,76 @@ TEST_F(RivalSigning, AFullRosterOrThinCashNeverBids) {
     EXPECT_EQ(offers().size(), 1u);
 }
 
-TEST_F(RivalSigning, ThePlayerHearsOfEveryBidderInShortlistOrder) {
-    list(kPlayer, act);
-    list(second, act);
-    list(kRival, act);
-    computerApproachBands(g);
-    const NewsRecord& n = lastNews();
-    EXPECT_EQ(trim(n.title.value), "Rival offers for The Wanted");
-    EXPECT_EQ(trim(n.text.value),
-              "As you are registered as interested in The Wanted their manager has chosen to inform you that the "
-              "following labels have offered them a contract :-\r\n\r\n- Second Records\r\n- Rival Records\r\n");
-}
-
-TEST_F(RivalSigning, TheOfferLandsInsideTheTargetWindow) {
-    list(kRival, act);
-    computerApproachBands(g);
-    const auto o = offers();
-    ASSERT_EQ(o.size(), 1u);
-    g.offer.read(offersOnBand(g, act)[0]);
-    g.label.read(kRival);
-    g.band.read(act);
-    const int rating = rateContract(g, 1).score;
-    // Targets run 90 to 149: low 81 at the least, high 179 at the most.
-    EXPECT_GE(rating, 81);
-    EXPECT_LE(rating, 179);
-}
-
-class RivalOptions : public RivalSigning {
-protected:
-    int16_t signedAct = addBand("Kept", kRival, 2);
-    int16_t album = 0;
-
-    RivalOptions() {
-        // a cheap deal: the rating stays low
-        amend(g.band, signedAct, [&] {
-            g.band->initialAdvance = moneyUnits(1);
-            g.band->additionalAdvance = moneyUnits(1);
-            g.band->royaltyRate = 1;
+// Each act signed to the rival on a cheap deal (the rating stays low), its
+// album out 100 days ago, unless a case says otherwise.
+TEST_F(RivalSigning, AnOptionIsTakenUpOrDroppedOnTheActsOwnBooks) {
+    struct Case {
+        const char* name;
+        int16_t label;
+        bool released, overpaid;
+        int64_t costs, albumIncome;
+        int16_t wantLabel;
+        int wantOptions;  // -1: not looked at
+    };
+    amend(g.label, kRival, [&] { g.label->bandCount = 2; });
+    for (Case c :
+         {Case{"Broke Even", kRival, true, false, 0, 0, kRival, 1}, Case{"Lost", kRival, true, false, 0, -1, 0, -1},
+          Case{"Unreleased", kRival, false, false, 100'001, -5, kRival, 1},
+          Case{"Overpaid", kRival, true, true, 0, 100, 0, -1}, Case{"Ours", kPlayer, true, false, 0, -1, kPlayer, 2}}) {
+        SCOPED_TRACE(c.name);
+        const int16_t act = addBand(c.name, c.label, 2);
+        amend(g.band, act, [&] {
+            g.band->initialAdvance = moneyUnits(c.overpaid ? 50'000'000 : 1);
+            g.band->additionalAdvance = moneyUnits(c.overpaid ? 50'000'000 : 1);
+            g.band->royaltyRate = c.overpaid ? 100 : 1;
             g.band->optionLength = 18;
             g.band->optionsRemaining = 2;
             g.band->additionalAdvanceCount = 2;
+            g.band->costs = moneyUnits(c.costs);
         });
-        g.disc.rec = DiscRecord{};
-        g.disc->band = signedAct;
-        g.disc->label = kRival;
+        g.disc.rec = DiscRecord{.band = act, .label = kRival, .income = moneyUnits(c.albumIncome)};
         g.disc->releaseDate.fill(kNoDate);
-        g.disc->releaseDate[0] = g.gameDate - 100;
-        album = static_cast<int16_t>(g.disc.append());
-    }
-    void setBooks(int64_t income, int64_t costs, int64_t discIncome) {
-        amend(g.band, signedAct, [&] {
-            g.band->grossIncome = moneyUnits(income);
-            g.band->costs = moneyUnits(costs);
-        });
-        amend(g.disc, album, [&] { g.disc->income = moneyUnits(discIncome); });
-    }
-    bool kept() {
-        g.band.read(signedAct);
+        if (c.released) g.disc->releaseDate[0] = g.gameDate - 100;
+        g.disc.append();
+        g.band.read(act);
         rivalOptionDecision(g);
-        g.band.read(signedAct);
-        return g.band->label == kRival;
+        g.band.read(act);
+        EXPECT_EQ(g.band->label, c.wantLabel);
+        if (c.wantOptions >= 0) { EXPECT_EQ(g.band->optionsRemaining, c.wantOptions); }
     }
-};
-
-TEST_F(RivalOptions, AnAlbumThatBrokeEvenKeepsTheBand) {
-    setBooks(0, 0, 0);
-    EXPECT_TRUE(kept());
-    EXPECT_EQ(g.band->optionsRemaining, 1);
-}
-
-TEST_F(RivalOptions, AnAlbumThatLostMoneyDropsTheBand) {
-    setBooks(0, 0, -1);
-    EXPECT_FALSE(kept());
     g.label.read(kRival);
-    EXPECT_EQ(g.label->bandCount, 0);
+    EXPECT_EQ(g.label->bandCount, 0) << "two acts dropped";
 }
 
-// The option weighed on its facts alone: a band that made 10 on its album,
-// its label holding 1,000,000, unless a case says otherwise.
-struct Weighed {
-    OptionFacts f{.rating = 100, .hasAlbum = true, .net = 0, .albumIncome = 10, .labelBalance = 1'000'000};
-    int draw = 0;
-    int draws = 0;
-    bool keeps() {
-        return rivalKeepsBand(f, [this] {
-            ++draws;
-            return draw;
-        });
+TEST(RivalKeepsBand, RatingLossesAndTheAlbumsIncomeDecide) {
+    struct Row {
+        int rating;
+        bool hasAlbum;
+        double net, albumIncome, labelBalance;
+        int draw;
+        bool keeps;
+        int draws;
+    };
+    const Row rows[] = {
+        {110, true, 0, 10, 1e6, 0, true, 0},
+        {111, true, 0, 10, 1e6, 0, false, 0},
+        {111, false, 0, 10, 1e6, 0, false, 0},  // the rating drops before the album is looked at
+        {100, true, -1, 10, 1e6, 75, true, 1},  // a loss is kept on a draw of 75
+        {100, true, -1, 10, 1e6, 76, false, 1},
+        {100, true, -100'000, 10, 1e6, 0, true, 1},  // 0.1 in single precision is not above 0.1
+        {100, true, -100'001, 10, 1e6, 0, false, 1},
+        {100, true, -1, 10, 0, 0, false, 1},  // 1 / 0 is infinity: dropped, not a failure
+        {100, true, 0, 0, 1e6, 99, true, 0},  // an album that made exactly nothing: no draw
+        {100, true, 0, -1, 1e6, 0, false, 0},
+        {100, false, 0, -1, 1e6, 0, true, 0},  // no album out: kept
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(&r - rows);
+        int draws = 0;
+        const OptionFacts f{r.rating, r.hasAlbum, r.net, r.albumIncome, r.labelBalance};
+        EXPECT_EQ(rivalKeepsBand(f, [&] { return ++draws, r.draw; }), r.keeps);
+        EXPECT_EQ(draws, r.draws);
     }
-};
-
-TEST(RivalKeepsBand, ARatingOf110KeepsAnd111Drops) {
-    Weighed w;
-    w.f.rating = 110;
-    EXPECT_TRUE(w.keeps());
-    w.f.rating = 111;
-    EXPECT_FALSE(w.keeps());
-    w.f.hasAlbum = false;
-    EXPECT_FALSE(w.keeps()) << "the rating drops a band before its albums are looked at";
-}
-
-TEST(RivalKeepsBand, ALossMakerIsKeptOnADrawOf75AndDroppedOn76) {
-    Weighed w;
-    w.f.net = -1;  // 1 / 1,000,000 is far below a tenth
-    w.draw = 75;
-    EXPECT_TRUE(w.keeps());
-    w.draw = 76;
-    EXPECT_FALSE(w.keeps());
-    EXPECT_EQ(w.draws, 2);
-}
-
-TEST(RivalKeepsBand, ALossOfExactlyATenthOfTheBalanceIsNotOverIt) {
-    Weighed w;
-    w.f.net = -100'000;  // 100,000 / 1,000,000 = 0.1 in single precision, not above 0.1
-    EXPECT_TRUE(w.keeps());
-    w.f.net = -100'001;  // 0.100001 is above it, whatever the draw
-    EXPECT_FALSE(w.keeps());
-    w.f.net = -1;
-    w.f.labelBalance = 0;  // 1 / 0 is infinity: dropped, not a failure
-    EXPECT_FALSE(w.keeps());
-}
-
-TEST(RivalKeepsBand, AnAlbumThatMadeExactlyNothingKeepsTheBandWithoutADraw) {
-    Weighed w;
-    w.f.albumIncome = 0;
-    w.draw = 99;
-    EXPECT_TRUE(w.keeps());
-    w.f.albumIncome = -1;
-    EXPECT_FALSE(w.keeps());
-    EXPECT_EQ(w.draws, 0) << "a band that did not lose money is not drawn for";
-    w.f.hasAlbum = false;
-    EXPECT_TRUE(w.keeps()) << "no album out: kept";
-}
-
-TEST_F(RivalOptions, ABandWithNoReleasedAlbumIsKept) {
-    g.disc.read(album);
-    g.disc->releaseDate.fill(kNoDate);
-    g.disc.write();
-    setBooks(0, 100'001, -5);
-    EXPECT_TRUE(kept());
-}
-
-TEST_F(RivalOptions, AnOverpaidBandIsReleased) {
-    // far dearer than the band is worth
-    amend(g.band, signedAct, [&] {
-        g.band->royaltyRate = 100;
-        g.band->additionalAdvance = moneyUnits(50'000'000);
-        g.band->initialAdvance = moneyUnits(50'000'000);
-    });
-    setBooks(0, 0, 100);
-    EXPECT_FALSE(kept());
-}
-
-TEST_F(RivalOptions, ThePlayersBandIsNeverDecidedByARival) {
-    amend(g.band, signedAct, [&] { g.band->label = kPlayer; });
-    setBooks(0, 0, -1);
-    g.band.read(signedAct);
-    rivalOptionDecision(g);
-    g.band.read(signedAct);
-    EXPECT_EQ(g.band->label, kPlayer);
-    EXPECT_EQ(g.band->optionsRemaining, 2);
 }
 
 TEST_F(RivalSigning, RivalsJudgeEveryActButThePlayerDoesNot) {
@@ -361,30 +264,28 @@ TEST_F(RivalSigning, JudgingLeavesTheBuffersAtTheLastPairTestedAndAPairFoundList
 
 TEST_F(RivalSigning, AContestedActDecidesOnceOnThePlayersDateAndTheBestOfferWins) {
     list(kPlayer, act);
-    list(kRival, act);
     list(second, act);
-    g.offer.rec = OfferRecord{};
-    g.offer->band = act;
-    g.offer->label = kPlayer;
-    g.offer->decisionDate = g.gameDate + 5;
-    g.offer->initialAdvance = 1000;  // a poor offer: a tenth of what is asked
-    g.offer->additionalAdvance = 500;
-    g.offer->additionalAdvanceCount = 3;
-    g.offer->optionLength = 18;
-    g.offer->royalty = 15;
+    list(kRival, act);
+    // a poor offer: a tenth of what is asked
+    g.offer.rec = OfferRecord{.decisionDate = g.gameDate + 5,
+                              .label = kPlayer,
+                              .initialAdvance = 1000,
+                              .additionalAdvance = 500,
+                              .additionalAdvanceCount = 3,
+                              .optionLength = 18,
+                              .band = act,
+                              .royalty = 15};
     const int32_t players = g.offer.append();
-    ScheduleRecord e{};
-    e.type = 4;
-    e.date = g.gameDate + 5;
-    e.band = act;
-    e.label = kPlayer;
-    e.offer = players;
-    const int32_t decision = addSchedule(g, e);
+    const int32_t decision = addSchedule(
+        g, ScheduleRecord{.type = 4, .date = g.gameDate + 5, .band = act, .label = kPlayer, .offer = players});
     computerApproachBands(g);
     EXPECT_EQ(typeFourEntries(), 1);
     const NewsRecord& n = lastNews();
     EXPECT_EQ(trim(n.title.value), "Rival offers for The Wanted");
-    EXPECT_NE(trim(n.text.value).find("- Rival Records\r\n- Second Records\r\n"), std::string::npos);
+    // Every bidder, in shortlist order.
+    EXPECT_EQ(trim(n.text.value),
+              "As you are registered as interested in The Wanted their manager has chosen to inform you that the "
+              "following labels have offered them a contract :-\r\n\r\n- Second Records\r\n- Rival Records\r\n");
     g.gameDate += 5;
     g.schedule.read(decision);
     decideOffers(g);

@@ -69,43 +69,39 @@ protected:
     }
 };
 
-TEST_F(RivalTouring, FiveVenuesMakeNoTourSixMakeOnePlayingEachOfThem) {
+TEST_F(RivalTouring, SixVenuesMakeATourFromTheActTheAlbumTourAloneTakingSupports) {
     addEnglishVenues(5, 8000);
     planFor(rivalBand, 1);
-    EXPECT_EQ(liveTours(), 0);
+    EXPECT_EQ(liveTours(), 0) << "five venues make no tour";
     addEnglishVenues(1, 8000);
-    planFor(rivalBand, 1);
-    ASSERT_EQ(liveTours(), 1);
+    setReputation(band, {30, 30, 30, 30, 30});
+    const int16_t a = addAct("A", rival, 40);
+    // 40 to 69: level 2
+    amend(g.band, rivalBand, [&] { g.band->topAttitudeLevel = 45; });
+    planFor(rivalBand, 3);
     TourRecord t = lastTour();
     std::vector<int16_t> venues;
     for (int i = 0; i < t.gigCount; ++i) {
         g.gig.read(t.gigs[static_cast<std::size_t>(i)]);
         if (std::find(venues.begin(), venues.end(), g.gig->venue) == venues.end()) venues.push_back(g.gig->venue);
     }
-    EXPECT_EQ(venues.size(), 6u);
+    EXPECT_EQ(venues.size(), 6u) << "each of the six venues is played";
+    EXPECT_EQ(gigDate(t, 0), g.gameDate + 7);
+    EXPECT_EQ(t.supportCount, 0);
+    EXPECT_EQ(billOf(t.gigs[0]), std::vector<int16_t>{rivalBand});
+
+    g.gameDate += 300;
+    planFor(rivalBand, 1);
+    t = lastTour();
+    EXPECT_EQ(gigDate(t, 0), g.gameDate + 42);
     EXPECT_EQ(t.band, rivalBand);
-}
-
-TEST_F(RivalTouring, TheAlbumTourStartsSixWeeksAheadTheFollowUpOne) {
-    addEnglishVenues(6, 8000);
-    planFor(rivalBand, 1);
-    EXPECT_EQ(gigDate(lastTour(), 0), g.gameDate + 42);
-    g.gameDate += 200;
-    planFor(rivalBand, 3);
-    EXPECT_EQ(gigDate(lastTour(), 0), g.gameDate + 7);
-}
-
-TEST_F(RivalTouring, TheTourTakesItsAreaLevelsAndSponsorFromTheAct) {
-    addEnglishVenues(6, 8000);
-    // 40 to 69: level 2
-    amend(g.band, rivalBand, [&] { g.band->topAttitudeLevel = 45; });
-    planFor(rivalBand, 1);
-    TourRecord t = lastTour();
     EXPECT_EQ(trim(t.areaCode.value), "E");
     EXPECT_EQ(t.hospitalityLevel, 2);
     EXPECT_EQ(t.accommodationLevel, 2);
     EXPECT_EQ(t.contentLevel, 0);  // the style's content weight 20
     EXPECT_EQ(t.sponsorProduct, -1);
+    EXPECT_EQ(t.supportCount, 1);
+    EXPECT_EQ(billOf(t.gigs[0]), (std::vector<int16_t>{rivalBand, a}));
 }
 
 TEST_F(RivalTouring, AMemberRetiringOnTheLastGigVoidsTheTourADayLaterDoesNot) {
@@ -147,22 +143,7 @@ TEST_F(RivalTouring, SupportsAreDoubledForAnotherLabelAndRatedByLabel) {
     EXPECT_EQ(billOf(t.gigs[1]), (std::vector<int16_t>{rivalBand, a, c, b}));
 }
 
-TEST_F(RivalTouring, AnActWithAnEntryDuringTheTourIsNoSupport) {
-    setReputation(band, {30, 30, 30, 30, 30});
-    const int16_t a = addAct("A", rival, 40);
-    const int16_t busy = addAct("Busy", rival, 45);
-    ScheduleRecord e{};
-    e.type = static_cast<uint8_t>(ScheduleType::recordingDay);
-    e.band = busy;
-    e.date = g.gameDate + 52;  // the last gig's day
-    addSchedule(g, e);
-    int16_t tour = handTour({50, 52});
-    EXPECT_EQ(chooseSupportBands(g, tour), 1);
-    g.tour.read(tour);
-    EXPECT_EQ(billOf(g.tour->gigs[0]), (std::vector<int16_t>{rivalBand, a}));
-}
-
-TEST_F(RivalTouring, AnActOfADescendantStyleSupportsOneOfTheParentStyleDoesNot) {
+TEST_F(RivalTouring, NeitherAnActBusyDuringTheTourNorOneOfTheParentStyleSupports) {
     setReputation(band, {30, 30, 30, 30, 30});
     g.style.rec = StyleRecord{};
     const auto parent = static_cast<uint8_t>(g.style.append());
@@ -171,15 +152,21 @@ TEST_F(RivalTouring, AnActOfADescendantStyleSupportsOneOfTheParentStyleDoesNot) 
     g.style.rec = StyleRecord{};
     g.style->parentStyle = static_cast<uint8_t>(style);
     const auto child = static_cast<uint8_t>(g.style.append());
-    const int16_t young = addAct("Young", rival, 40);
+    const int16_t a = addAct("A", rival, 40);
+    const int16_t busy = addAct("Busy", rival, 45);
+    const int16_t young = addAct("Young", rival, 35);
     const int16_t old = addAct("Old", rival, 45);
     for (auto [act, s] : {std::pair{young, child}, std::pair{old, parent}}) {
         amend(g.band, act, [&] { g.band->style = s; });
     }
-    int16_t tour = handTour({50});
-    EXPECT_EQ(chooseSupportBands(g, tour), 1);
+    // the last gig's day
+    addSchedule(g,
+                ScheduleRecord{
+                    .type = static_cast<uint8_t>(ScheduleType::recordingDay), .date = g.gameDate + 52, .band = busy});
+    int16_t tour = handTour({50, 52});
+    EXPECT_EQ(chooseSupportBands(g, tour), 2);
     g.tour.read(tour);
-    EXPECT_EQ(billOf(g.tour->gigs[0]), (std::vector<int16_t>{rivalBand, young}));
+    EXPECT_EQ(billOf(g.tour->gigs[0]), (std::vector<int16_t>{rivalBand, a, young}));
 }
 
 TEST_F(RivalTouring, APlayersActIsAskedOnceAndNotPlaced) {
@@ -229,25 +216,16 @@ TEST_F(RivalTouring, TheTourAreaFollowsTheFlagsWorldFirst) {
     EXPECT_EQ(areaOf({false, false, true, false}), "O");
 }
 
-TEST_F(RivalTouring, OnlyTheAlbumTourTakesSupports) {
-    addEnglishVenues(6, 8000);
-    setReputation(band, {30, 30, 30, 30, 30});
-    const int16_t a = addAct("A", rival, 40);
-    planFor(rivalBand, 3);
-    TourRecord t = lastTour();
-    EXPECT_EQ(t.supportCount, 0);
-    EXPECT_EQ(billOf(t.gigs[0]), std::vector<int16_t>{rivalBand});
-    g.gameDate += 300;
-    planFor(rivalBand, 1);
-    t = lastTour();
-    EXPECT_EQ(t.supportCount, 1);
-    EXPECT_EQ(billOf(t.gigs[0]), (std::vector<int16_t>{rivalBand, a}));
-}
-
-TEST_F(RivalTouring, TheAssistantWillNotTourPastARetirement) {
-    addEnglishVenues(6, 8000);
-    retireOn(band, g.gameDate + 42);  // the first gig's own day
+TEST_F(RivalTouring, TheAssistantSaysSoWhenTooFewVenuesSuitOrARetirementComesFirst) {
+    addEnglishVenues(5, 8000);
     AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
+    EXPECT_EQ(a.tour, 0);
+    EXPECT_EQ(a.refusal,
+              "Your assistant has informed you he feels there are not enough suitable venues for The Testers to "
+              "tour there.");
+    addEnglishVenues(1, 8000);
+    retireOn(band, g.gameDate + 42);  // the first gig's own day
+    a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
     EXPECT_EQ(a.tour, 0);
     EXPECT_EQ(a.refusal,
               "Your assistant has informed you he feels there is insufficient time before The Testers's retirement "
@@ -300,16 +278,6 @@ TEST_F(FollowUpTours, ASplitActASingleOrThePlayersAlbumBringsNoTourNorDoesAGigTo
     handTour({0});
     planFollowUpTours(g);
     EXPECT_EQ(liveTours(), 1) << "only the hand-made one";
-}
-
-TEST_F(RivalTouring, TheAssistantSaysSoWhenTooFewVenuesSuit) {
-    addEnglishVenues(5, 8000);
-    AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
-    EXPECT_EQ(a.tour, 0);
-    EXPECT_EQ(a.refusal,
-              "Your assistant has informed you he feels there are not enough suitable venues for The Testers to "
-              "tour there.");
-    EXPECT_EQ(liveTours(), 0);
 }
 
 TEST_F(RivalTouring, TheAssistantsTourListsEveryGig) {
