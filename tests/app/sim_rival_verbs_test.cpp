@@ -31,15 +31,14 @@ struct RivalSim : AlbumWorld {
         });
         g.gameDate = serialFromCivil(2005, 3, 7);
         for (double date : {g.gameDate + 7, g.gameDate - 1}) {
-            g.offer.rec = OfferRecord{};
-            g.offer->band = act;
-            g.offer->label = kRival;
-            g.offer->decisionDate = date;
-            g.offer->initialAdvance = 1000;
-            g.offer->additionalAdvance = 500;
-            g.offer->additionalAdvanceCount = 2;
-            g.offer->optionLength = 18;
-            g.offer->royalty = 10;
+            g.offer.rec = OfferRecord{.decisionDate = date,
+                                      .label = kRival,
+                                      .initialAdvance = 1000,
+                                      .additionalAdvance = 500,
+                                      .additionalAdvanceCount = 2,
+                                      .optionLength = 18,
+                                      .band = act,
+                                      .royalty = 10};
             g.offer.append();
         }
     }

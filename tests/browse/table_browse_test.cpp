@@ -34,10 +34,7 @@ protected:
         return static_cast<int16_t>(g.city.append());
     }
     int16_t venue(const char* name, int32_t capacity, int16_t in) {
-        g.venue.rec = VenueRecord{};
-        g.venue->name = name;
-        g.venue->capacity = capacity;
-        g.venue->city = in;
+        g.venue.rec = VenueRecord{.name = name, .capacity = capacity, .city = in};
         return static_cast<int16_t>(g.venue.append());
     }
     Names names(BrowseTable t, int column = 0) {
@@ -92,17 +89,9 @@ TEST_F(TableBrowse, AChoiceOfTextAndANameKeepOnlyWholeMatches) {
 
 TEST_F(TableBrowse, AFirmInBuildingAndAnIndependentOneSaySo) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Mine");
-    g.business.rec = BusinessRecord{};
-    g.business->name = "Abbey";
-    g.business->kind = 0;
-    g.business->city = paris;
-    g.business->quality = 40;
-    g.business->open = -1;
+    g.business.rec = BusinessRecord{.name = "Abbey", .kind = 0, .city = paris, .quality = 40, .open = -1};
     g.business.append();
-    g.business->name = "Press";
-    g.business->kind = 1;
-    g.business->owner = label;
-    g.business->open = 0;
+    g.business.rec = BusinessRecord{.name = "Press", .kind = 1, .city = paris, .quality = 40, .owner = label};
     g.business.append();
     EXPECT_EQ(names(BrowseTable::business), (Names{"Abbey", "Press (In Construction)"}));
     EXPECT_EQ(names(BrowseTable::business, 1), (Names{"Studio", "Manufacturing Plant"}));
@@ -131,18 +120,13 @@ TEST_F(TableBrowse, MediaShowScopeAndType) {
 TEST_F(TableBrowse, ABandsDiscsShowTheirFirstReleaseDate) {
     int16_t a = addAct(g, {.name = "Kites"});
     int16_t b = addAct(g, {.name = "Other"});
-    g.disc.rec = DiscRecord{};
-    g.disc->title = "First";
-    g.disc->band = a;
-    g.disc->releaseDate = {serialFromCivil(2004, 3, 1), 0, serialFromCivil(2004, 2, 9), 0, 0};
+    g.disc.rec = DiscRecord{.title = "First",
+                            .releaseDate = {serialFromCivil(2004, 3, 1), 0, serialFromCivil(2004, 2, 9), 0, 0},
+                            .band = a};
     g.disc.append();
-    g.disc->title = "Theirs";
-    g.disc->band = b;
+    g.disc.rec = DiscRecord{.title = "Theirs", .band = b};
     g.disc.append();
-    g.disc->title = "Second";
-    g.disc->band = a;
-    g.disc->isSingle = 1;
-    g.disc->releaseDate = {};
+    g.disc.rec = DiscRecord{.title = "Second", .isSingle = 1, .band = a};
     g.disc.append();
     filter.band = a;
     EXPECT_EQ(names(BrowseTable::disc), (Names{"First", "Second"}));
@@ -153,22 +137,13 @@ TEST_F(TableBrowse, ABandsDiscsShowTheirFirstReleaseDate) {
 TEST_F(TableBrowse, ABandsToursSayWhetherItHeadsOrSupports) {
     int16_t head = addAct(g, {.name = "Head"});
     int16_t other = addAct(g, {.name = "Other"});
-    g.tour.rec = TourRecord{};
-    g.tour->band = head;
-    g.tour->areaCode = "E";
-    const int16_t own = static_cast<int16_t>(g.tour.append());
-    g.tour->band = other;
-    g.tour->areaCode = "N";
-    const int16_t theirs = static_cast<int16_t>(g.tour.append());
-    g.tour->band = other;
-    g.tour->nation = static_cast<uint8_t>(brazil);
-    const int16_t notOn = static_cast<int16_t>(g.tour.append());
-    g.gig.rec = GigRecord{};
-    g.gig->tour = theirs;
-    g.gig->bill = {other, head};
+    auto tour = [&](TourRecord t) { return (g.tour.rec = t, static_cast<int16_t>(g.tour.append())); };
+    const int16_t own = tour({.areaCode = "E", .band = head});
+    const int16_t theirs = tour({.areaCode = "N", .band = other});
+    const int16_t notOn = tour({.areaCode = "N", .nation = static_cast<uint8_t>(brazil), .band = other});
+    g.gig.rec = GigRecord{.bill = {other, head}, .tour = theirs};
     g.gig.append();
-    g.gig->tour = notOn;
-    g.gig->bill = {other};
+    g.gig.rec = GigRecord{.bill = {other}, .tour = notOn};
     g.gig.append();
     filter.band = head;
     EXPECT_EQ(names(BrowseTable::tour), (Names{"Europe Tour", "North America Tour"}));

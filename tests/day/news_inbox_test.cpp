@@ -135,24 +135,10 @@ TEST_F(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
     EXPECT_EQ(g.currentScreen, Screen::frmNews);
 }
 
-TEST_F(NewsInbox, YesActsOnTheLinkedEntry) {
+TEST_F(NewsInbox, YesToARivalsTourTakesTheNextSupportPlace) {
     Game& g = eg.g;
-    g.player.playerLabel = 3;
     g.gameDate = day(2004, 9, 1);
-    ScheduleRecord staff{};  // a staff member said yes: the start is filed for today
-    staff.type = 1;
-    staff.staff = 9;
-    staff.department = 4;
-    open(g, post(g, "Staff", kNewsYesNo, fileLinked(g, staff), true));
-    pressNewsCmd1(g);
-    std::vector<int32_t> today = entriesOfDay(g, g.gameDate);
-    ASSERT_EQ(today.size(), 2u);
-    g.schedule.read(today[1]);
-    EXPECT_EQ(std::vector<int>({g.schedule->type, g.schedule->staff, g.schedule->department, g.schedule->label}),
-              std::vector<int>({2, 9, 4, 3}));
-    EXPECT_TRUE(allRepliesGiven(g));
-
-    ScheduleRecord ask{};  // a rival's tour: the band takes the next support place
+    ScheduleRecord ask{};
     ask.type = 19;
     ask.band = addBand(g, {50});
     ask.gig = addGig(g, addBand(g, {50}), day(2004, 10, 1), {7});

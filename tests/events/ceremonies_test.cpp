@@ -69,11 +69,7 @@ TEST_F(Ceremonies, TheInvitationDatesTheNightAndAsksYesOrNo) {
     int16_t brits = addCeremony("Brit Night", {7, 3, 5, 0, 0, 0});
     // last year's acceptance
     amend(g.ceremony, brits, [&] { g.ceremony->playerInvited = kTrue; });
-    g.schedule.rec = ScheduleRecord{};
-    g.schedule->type = 21;
-    g.schedule->date = g.gameDate;
-    g.schedule->ceremony = brits;
-    g.schedule->id = 77;
+    g.schedule.rec = ScheduleRecord{.type = 21, .date = g.gameDate, .id = 77, .ceremony = brits};
     int16_t item = static_cast<int16_t>(g.news.recordCount());
     inviteToCeremony(g);
     g.ceremony.read(brits);
@@ -84,9 +80,7 @@ TEST_F(Ceremonies, TheInvitationDatesTheNightAndAsksYesOrNo) {
     EXPECT_EQ(trim(g.news->text.value),
               "You have been invited to attend this year's Brit Night ceremony on 15/2/2005. Do you want to accept "
               "the invitation?");
-    EXPECT_EQ(g.news->kind, kNewsYesNo);
-    EXPECT_EQ(g.news->scheduleLink, 77);
-    EXPECT_EQ(g.news->mustReply, kFalse);
+    EXPECT_EQ(std::tuple(g.news->kind, g.news->scheduleLink, g.news->mustReply), std::tuple(kNewsYesNo, 77, kFalse));
 }
 
 }  // namespace

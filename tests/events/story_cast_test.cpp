@@ -109,20 +109,14 @@ namespace {
 void twoStageStory(Cast& w, uint8_t secondType) {
     Game& g = w.g;
     g.gameDate = serialFromCivil(2005, 6, 1);
-    g.event.rec = EventRecord{};
-    g.event->participantCount = 2;
-    g.event->eventType = 2;
-    g.event->title = std::string("<an1> and <an2>");
+    g.event.rec = EventRecord{.participantCount = 2, .eventType = 2, .title = std::string("<an1> and <an2>")};
     g.event->nextEvent[0] = 2;
     g.event->rollLow[0] = 0;
     g.event->rollHigh[0] = 99;
     g.event->conditions[0].money = -500;
     g.event->conditions[0].boundChange = {0, 0, 0, 0, 95, -200};
     g.event.append();
-    g.event.rec = EventRecord{};
-    g.event->participantCount = 2;
-    g.event->eventType = secondType;
-    g.event->title = std::string("Later");
+    g.event.rec = EventRecord{.participantCount = 2, .eventType = secondType, .title = std::string("Later")};
     g.event.append();
 }
 
@@ -254,10 +248,8 @@ TEST(Stories, AStageFiledByAReplyKeepsTheMarkUntilItRuns) {
 TEST(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
     Cast w;
     Game& g = w.g;
-    g.crime.rec = CrimeRecord{};
-    g.crime->acquittalEvent = 7;
-    g.crime->guiltyEvent = 8;
-    g.crime->defensibility = 100;  // line (100 - 100) + 0 = 0, score 0: 0 <= 0
+    // line (100 - 100) + 0 = 0, score 0: 0 <= 0
+    g.crime.rec = CrimeRecord{.acquittalEvent = 7, .guiltyEvent = 8, .defensibility = 100};
     g.crime.append();
     // no band, no label: defence 0
     amend(g.artist, w.d, [&] { g.artist->band = 0; });

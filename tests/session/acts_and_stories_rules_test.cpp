@@ -77,39 +77,36 @@ TEST(ActiveActsRule, HoldsTheCountNotedAtTheStart) {
     EXPECT_EQ(broken->detail, "3 acts are active, the game began with 2");
 }
 
-TEST(StoryMarksRule, AStoryStartedTodayIsPendingForBothOfItsCast) {
+TEST(StoryMarksRule, MarksFollowTheStagesStillToRunUnderTheirRootsType) {
     Stories w;
-    EXPECT_FALSE(runRule(w.g, "storyMarksFollowPendingStages"));
+    const auto rule = [&] { return runRule(w.g, "storyMarksFollowPendingStages"); };
+    EXPECT_FALSE(rule()) << "a story started today is pending for both of its cast";
     w.setMark(w.b, 3, 0);
-    auto broken = runRule(w.g, "storyMarksFollowPendingStages");
+    auto broken = rule();
     ASSERT_TRUE(broken);
     EXPECT_EQ(std::tuple(broken->table, broken->record, broken->field),
               std::tuple(std::string("artist"), int32_t{w.b}, std::string("storyUnderWay[3]")));
-}
+    w.setMark(w.b, 3, 1);
 
-TEST(StoryMarksRule, AStageOfADayGoneByIsNoLongerPending) {
-    Stories w;
-    w.g.gameDate += 1;  // the root's day has been run, nothing follows it
-    auto broken = runRule(w.g, "storyMarksFollowPendingStages");
-    ASSERT_TRUE(broken);
-    EXPECT_EQ(std::tuple(broken->record, broken->field), std::tuple(int32_t{w.a}, std::string("storyUnderWay[3]")));
-    w.setMark(w.a, 3, 0);
-    w.setMark(w.b, 3, 0);
-    EXPECT_FALSE(runRule(w.g, "storyMarksFollowPendingStages"));
-}
-
-TEST(StoryMarksRule, ALaterStageIsMarkedUnderItsRootsType) {
-    Stories w;
     ScheduleRecord next = w.entry(1);
     next.id = 0;
     next.date = w.g.gameDate + 3;
     next.eventRecord = 2;  // an event of type 6, of the type 3 story
     addSchedule(w.g, next);
-    w.g.gameDate += 1;
-    EXPECT_FALSE(runRule(w.g, "storyMarksFollowPendingStages"));
-
+    const double start = w.g.gameDate;
+    w.g.gameDate = start + 3;  // the root's day has been run; the later stage is today's
+    EXPECT_FALSE(rule());
     w.setMark(w.a, 6, 1);  // marked under the stage's own type as well
-    auto broken = runRule(w.g, "storyMarksFollowPendingStages");
+    broken = rule();
     ASSERT_TRUE(broken);
     EXPECT_EQ(std::tuple(broken->record, broken->field), std::tuple(int32_t{w.a}, std::string("storyUnderWay[6]")));
+    w.setMark(w.a, 6, 0);
+
+    w.g.gameDate = start + 4;  // every stage has run: nothing is pending
+    broken = rule();
+    ASSERT_TRUE(broken);
+    EXPECT_EQ(std::tuple(broken->record, broken->field), std::tuple(int32_t{w.a}, std::string("storyUnderWay[3]")));
+    w.setMark(w.a, 3, 0);
+    w.setMark(w.b, 3, 0);
+    EXPECT_FALSE(rule());
 }

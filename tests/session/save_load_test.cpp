@@ -156,14 +156,12 @@ void flipByte(const fs::path& file, std::streamoff at) {
     f.put(static_cast<char>(c ^ 0x01));
 }
 
-// One label of 650 bytes; 2004 has 366 days of 4,004 bytes; the session record is 167 bytes.
+// One label of 650 bytes; 2004 has 366 days of 4,004 bytes. The manifest is checked before anything else.
 INSTANTIATE_TEST_SUITE_P(
     SaveSlots, BrokenSlot,
     ::testing::Values(
         Damage{"CutOnARecordBoundary", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 0); },
                "label.sg6: 650 bytes expected, 0 found"},
-        Damage{"CutInsideARecord", [](const fs::path& d) { fs::resize_file(d / "label.sg6", 649); },
-               "label.sg6: 650 bytes expected, 649 found"},
         Damage{"AByteFlipped", [](const fs::path& d) { flipByte(d / "band.sg6", 10); }, "band.sg6: checksum"},
         Damage{"AFileMissing", [](const fs::path& d) { fs::remove(d / "band.sg6"); }, "band.sg6 is missing"},
         Damage{"AFileTooMany", [](const fs::path& d) { fs::copy_file(d / "2006.sg6", d / "2007.sg6"); },
@@ -173,14 +171,9 @@ INSTANTIATE_TEST_SUITE_P(
                "manifest.sg6 is cut short"},
         Damage{"TheManifestMissing", [](const fs::path& d) { fs::remove(d / "manifest.sg6"); },
                "manifest.sg6 is missing"},
-        Damage{"AYearMissing", [](const fs::path& d) { fs::remove(d / "2005.sg6"); }, "2005.sg6 is missing"},
         // 366 * 4004 = 1,465,464 and 365 * 4004 = 1,461,460
         Damage{"AShortYear", [](const fs::path& d) { fs::resize_file(d / "2004.sg6", 4004 * 365); },
-               "2004.sg6: 1,465,464 bytes expected, 1,461,460 found"},
-        Damage{"ACutSession", [](const fs::path& d) { fs::resize_file(d / "svar.sg6", 100); },
-               "svar.sg6: 167 bytes expected, 100 found"},
-        Damage{"AGarbledSession", [](const fs::path& d) { flipByte(d / "svar.sg6", 40); }, "svar.sg6: checksum"},
-        Damage{"TheSessionMissing", [](const fs::path& d) { fs::remove(d / "svar.sg6"); }, "svar.sg6 is missing"}),
+               "2004.sg6: 1,465,464 bytes expected, 1,461,460 found"}),
     [](const auto& info) { return std::string(info.param.what); });
 
 TEST_F(SaveSlots, ASaveOfAShorterGameLeavesNoYearOfTheOlderOneBehind) {
