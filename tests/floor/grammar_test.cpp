@@ -107,14 +107,3 @@ TEST_F(GrammarFixture, PersonalSoloWordsReadTheFirstMemberIntoTheArtistBuffer) {
     useBand(1, 0);
     EXPECT_THROW(grammarWord(g, 1, false), FatalError) << "an act without a first member";
 }
-
-TEST(PersonWord, HeOrShe) {
-    const char* male[] = {"he", "himself", "him", "his"};
-    const char* female[] = {"she", "herself", "her", "her"};
-    for (int code = 0; code < 4; ++code) {
-        EXPECT_EQ(personWord(code, true), male[code]);
-        EXPECT_EQ(personWord(code, false), female[code]);
-    }
-    EXPECT_EQ(personWord(4, true), "");
-    EXPECT_EQ(personWord(-1, false), "");
-}
