@@ -34,6 +34,7 @@ TEST_F(ShortlistPairs, APairIsFoundAtItsFirstRecordAndFollowsEveryRewrite) {
     set(third, 0, 0);  // taken off
     EXPECT_EQ(shortlistRecordOf(g, 3, 2), fourth);
     set(fourth, 4, 2);
+    EXPECT_EQ(findShortlistPair(g, 2, 3), 2);
     EXPECT_EQ(findShortlistPair(g, 3, 2), 0);
     EXPECT_EQ(g.shortlist->id, fourth) << "a miss leaves the buffer at the last record, as a walk would";
     EXPECT_EQ(shortlistRecordOf(g, 4, 2), fourth);
