@@ -107,3 +107,9 @@ TEST_F(GrammarFixture, PersonalSoloWordsReadTheFirstMemberIntoTheArtistBuffer) {
     useBand(1, 0);
     EXPECT_THROW(grammarWord(g, 1, false), FatalError) << "an act without a first member";
 }
+
+TEST(PersonWord, HeOrSheAndNothingPastTheFourWords) {
+    std::string words;
+    for (int code = -1; code <= 4; ++code) words += personWord(code, true) + "/" + personWord(code, false) + " ";
+    EXPECT_EQ(words, "/ he/she himself/herself him/her his/her / ");
+}
