@@ -90,6 +90,8 @@ const std::vector<BrokenSource> kBroken = {
     {"BlankForename", "forenames.toml",
      "forename = [\n  { name = \"Oliver\", male = true },\n  { name = \"\", male = false },\n]\n", 3,
      "`name` is blank; the game needs one"},
+    {"BlankThankLine", "thanks.toml", "thank = [\n  { text = \"Everyone\" },\n  { text = \"\" },\n]\n", 3,
+     "`text` is blank; the game needs one"},
     {"BlankSideOfANationPair", "associations.toml", "assnation = [\n  { a = \"England\", b = \"\", weight = 5 },\n]\n",
      2, "`b` is blank; the game needs one"},
 };
