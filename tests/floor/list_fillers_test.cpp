@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "floor/list_fillers.h"
 #include "support/empty_game.h"
 
@@ -12,32 +14,24 @@ struct ListFixture : ::testing::Test {
     Game& g = eg.g;
 
     void SetUp() override {
-        addCountry("England", "English", "E");  // 1
-        addCountry("Peru", "Peruvian", "S");    // 2, no city
-        addCountry(" France ", "French", "E");  // 3
-        addCity("London", 1);
-        addCity("  Paris", 3);
-        addCity("Leeds ", 1);
+        for (auto [name, adjective, region] : {std::tuple{"England", "English", "E"},
+                                               {"Peru", "Peruvian", "S"},  // no city
+                                               {" France ", "French", "E"}}) {
+            g.country.rec = CountryRecord{.name = name, .adjective = adjective, .region = region};
+            g.country.append();
+        }
+        for (auto [name, country] : {std::pair{"London", 1}, {"  Paris", 3}, {"Leeds ", 1}}) {
+            g.city.rec = CityRecord{.name = name, .country = static_cast<uint8_t>(country)};
+            g.city.append();
+        }
         for (const char* name : {"Rock", " Pop "}) {
-            g.style.rec = StyleRecord{};
-            g.style->name = name;
+            g.style.rec = StyleRecord{.name = name};
             g.style.append();
         }
         for (const char* name : {"Big Sound", "Lowlife "}) {
-            g.label.rec = LabelRecord{};
-            g.label->name = name;
+            g.label.rec = LabelRecord{.name = name};
             g.label.append();
         }
-    }
-    void addCountry(const char* name, const char* adjective, const char* region) {
-        g.country.rec = CountryRecord{.name = name, .adjective = adjective, .region = region};
-        g.country.append();
-    }
-    void addCity(const char* name, uint8_t country) {
-        g.city.rec = CityRecord{};
-        g.city->name = name;
-        g.city->country = country;
-        g.city.append();
     }
 };
 

@@ -88,29 +88,22 @@ TEST(BandReputation, WeighsTheFiveMarkets) {
     EXPECT_EQ(bandGlobalReputation(eg.g), 8 + 100 + 700 + 0 + 765);
 }
 
-TEST(RegionalShares, NewLabelGetsTheFixedShares) {
-    test::EmptyGame eg;
-    std::array<uint8_t, 5> r{};
-    setRegionalShares(eg.g, 1, r[0], r[1], r[2], r[3], r[4]);
-    EXPECT_EQ(r, (std::array<uint8_t, 5>{40, 20, 15, 10, 5}));
-    r = {};
-    setRegionalShares(eg.g, 3, r[0], r[1], r[2], r[3], r[4]);
-    EXPECT_EQ(r, (std::array<uint8_t, 5>{}));
-}
-
-// Small abilities leave no room for the random part, so the shares are exact;
-// 25 and 30 land the first division on a half that must go to the even byte.
-TEST(RegionalShares, NewBandSharesOfSmallAbilitiesAreExact) {
+// A new label (kind 1) gets fixed shares, kind 3 none. Small abilities of a
+// new band (kind 2) leave no room for the random part, so the shares are
+// exact; 25 and 30 land the first division on a half that must go to the even byte.
+TEST(RegionalShares, FixedSharesAndNewBandSharesOfSmallAbilities) {
     struct Case {
+        int kind;
         uint8_t ability;
         std::array<uint8_t, 5> shares;
     };
-    for (Case c : {Case{0, {2, 2, 2, 2, 2}}, Case{25, {4, 2, 2, 2, 2}}, Case{30, {4, 3, 2, 2, 2}}}) {
+    for (Case c : {Case{1, 50, {40, 20, 15, 10, 5}}, Case{3, 50, {}}, Case{2, 0, {2, 2, 2, 2, 2}},
+                   Case{2, 25, {4, 2, 2, 2, 2}}, Case{2, 30, {4, 3, 2, 2, 2}}}) {
         test::EmptyGame eg;
         eg.g.band->ability = c.ability;
         std::array<uint8_t, 5> r{};
-        setRegionalShares(eg.g, 2, r[0], r[1], r[2], r[3], r[4]);
-        EXPECT_EQ(r, c.shares) << int{c.ability};
+        setRegionalShares(eg.g, c.kind, r[0], r[1], r[2], r[3], r[4]);
+        EXPECT_EQ(r, c.shares) << c.kind << " " << int{c.ability};
     }
 }
 

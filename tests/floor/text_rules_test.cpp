@@ -13,23 +13,22 @@ std::string refusal(const std::string& text, std::size_t width = 32) { return te
 
 }  // namespace
 
-TEST(TextRules, AFieldExactlyFullIsTakenAndOneMoreIsRefusedWithTheWidth) {
+TEST(TextRules, AFieldExactlyFullIsTakenAndOneMoreCharacterIsRefusedWithTheWidth) {
     EXPECT_EQ(refusal(std::string(32, 'a')), "");
     EXPECT_EQ(refusal(std::string(33, 'a')), "The name is 33 characters long; it may be at most 32.");
     // Blanks at both ends are cut as the game stores the name: 32 letters between them still fit.
     EXPECT_EQ(refusal("  " + std::string(32, 'a') + "  "), "");
-}
-
-TEST(TextRules, WidthCountsCharactersNotUtf8Bytes) {
     // 31 letters and "ë" are 32 characters (33 bytes of UTF-8, 32 bytes of Windows-1252).
     EXPECT_EQ(refusal(std::string(31, 'a') + "ë"), "");
     EXPECT_EQ(refusal(std::string(32, 'a') + "ë"), "The name is 33 characters long; it may be at most 32.");
 }
 
-TEST(TextRules, BlankMeansNothingButBlanks) {
+TEST(TextRules, BlankMeansNothingButBlanksAndBytesThatAreNotUtf8AreRefused) {
     EXPECT_EQ(refusal(""), "The name cannot be blank.");
     EXPECT_EQ(refusal("   "), "The name cannot be blank.");
     EXPECT_EQ(refusal(" a "), "");
+    EXPECT_EQ(refusal("a\xe9z"), "The name holds bytes that are not text.");
+    EXPECT_EQ(refusal("\xc0\xaf"), "The name holds bytes that are not text.");  // an overlong "/"
 }
 
 TEST(TextRules, ACharacterWithoutAWindows1252ByteIsRefusedByName) {
@@ -52,11 +51,6 @@ TEST(TextRules, ControlCharactersAreRefusedByName) {
     EXPECT_EQ(refusal("\x1f"),
               "The name holds the control character U+001F; type letters, digits and punctuation only.");
     EXPECT_EQ(refusal(" "), "The name cannot be blank.") << "0x20, one past the controls, is a blank";
-}
-
-TEST(TextRules, BytesThatAreNotUtf8AreRefused) {
-    EXPECT_EQ(refusal("a\xe9z"), "The name holds bytes that are not text.");
-    EXPECT_EQ(refusal("\xc0\xaf"), "The name holds bytes that are not text.");  // an overlong "/"
 }
 
 TEST(TextRules, SaveNamesKeepTheSameRulesOnTheirThirtyTwoCharacters) {

@@ -66,16 +66,14 @@ TEST(BandCalendar, ActivityTexts) {
     Game& g = eg.g;
     g.label.rec.name = "Big Noise";
     g.label.append();
-    g.disc.rec.title = "Loud";
-    g.disc->isSingle = 1;
+    g.disc.rec = DiscRecord{.title = "Loud", .isSingle = 1};
     g.disc.append();
     g.venue.rec.name = "The Hall";
     g.venue.append();
     g.media.rec.mediaName = "Radio One";
     g.media.append();
     int32_t gig = addGig(g, addBand(g, {50}), kDay);
-    g.gig->venue = 1;
-    g.gig.write();
+    amend(g.gig, gig, [&] { g.gig->venue = 1; });
     struct Case {
         uint8_t type;
         const char* text;
@@ -83,12 +81,7 @@ TEST(BandCalendar, ActivityTexts) {
     for (Case c : {Case{5, "Signing for Big Noise"}, Case{7, "Recording Loud (single)"}, Case{8, "Playing The Hall"},
                    Case{10, "Travelling"}, Case{11, "Resting"}, Case{17, "Promotion (Radio One)"}, Case{28, "Retiring"},
                    Case{4, ""}, Case{255, ""}}) {
-        ScheduleRecord e{};
-        e.type = c.type;
-        e.date = kDay;
-        e.label = e.media = 1;
-        e.disc = 1;
-        e.gig = gig;
+        ScheduleRecord e{.type = c.type, .date = kDay, .label = 1, .gig = gig, .media = 1, .disc = 1};
         EXPECT_EQ(scheduleActivityText(g, addSchedule(g, e)), c.text);
     }
     EXPECT_EQ(scheduleActivityText(g, 0), "None");

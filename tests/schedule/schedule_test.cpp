@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "support/calendar_world.h"
 #include "support/empty_game.h"
+#include "support/sim_run.h"
 #include "world/fatal_error.h"
 #include "world/record_store.h"
 
@@ -41,15 +40,10 @@ TEST(Schedule, MissingYearsAreMadeInOrderUpToTheEntrysYear) {
 
 TEST(Schedule, BlankRecordWritesNothing) {
     EmptyGame eg;
-    auto bytes = [&] {
-        std::string b(std::filesystem::file_size(eg.folder.path() / "2004.vel"), '\0');
-        std::ifstream(eg.folder.path() / "2004.vel", std::ios::binary).read(b.data(), static_cast<long>(b.size()));
-        return b;
-    };
-    std::string before = bytes();
+    const std::string before = fileBytes(eg.folder.path() / "2004.vel");
     EXPECT_EQ(addSchedule(eg.g, ScheduleRecord{}), 0);
     EXPECT_EQ(eg.g.schedule.recordCount(), 1);
-    EXPECT_EQ(bytes(), before);
+    EXPECT_EQ(fileBytes(eg.folder.path() / "2004.vel"), before);
 }
 
 TEST(Schedule, OnlyAPromotionKeepsItsNumberWhenFiledAgain) {

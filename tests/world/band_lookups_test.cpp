@@ -77,24 +77,20 @@ TEST(BandLookups, AgreeWithAWalkAfterAYearOfPlay) {
     EXPECT_EQ(g.disc.rec, disc);
 }
 
-struct TwoDiscs : ::testing::Test {
+TEST(DiscLookups, AReleaseDayMovesWithTheDiscAndAnEmptiedTableIsIndexedAfresh) {
     test::EmptyGame eg;
     Game& g = eg.g;
-    void SetUp() override {
-        for (int16_t band : {4, 7}) {
-            g.disc.rec = DiscRecord{};
-            g.disc->band = band;
-            g.disc->releaseDate.fill(kNoDate);
-            g.disc.append();
-        }
+    for (int16_t band : {4, 7}) {
+        g.disc.rec = DiscRecord{};
+        g.disc->band = band;
+        g.disc->releaseDate.fill(kNoDate);
+        g.disc.append();
     }
-    void date(int32_t disc, int territory, double when) {
-        amend(g.disc, disc, [&] { g.disc->releaseDate[static_cast<std::size_t>(territory)] = when; });
-    }
-};
-
-TEST_F(TwoDiscs, AReleaseDayMovesWithTheDisc) {
+    auto date = [&](int32_t disc, std::size_t territory, double when) {
+        amend(g.disc, disc, [&] { g.disc->releaseDate[territory] = when; });
+    };
     EXPECT_TRUE(discsOutOn(g, 46000).empty());  // indexed before any date is set
+    EXPECT_EQ(discsOfBand(g, 7), std::vector<int32_t>{2});
     date(2, 1, 46000);
     date(1, 3, 46000);
     EXPECT_EQ(discsOutOn(g, 46000), (std::vector<int32_t>{1, 2}));
@@ -104,12 +100,7 @@ TEST_F(TwoDiscs, AReleaseDayMovesWithTheDisc) {
     date(2, 4, 46007);  // a second territory on the same day lists the disc once
     EXPECT_EQ(discsOutOn(g, 46007), std::vector<int32_t>{2});
     EXPECT_TRUE(discsOutOn(g, kNoDate).empty());
-}
 
-TEST_F(TwoDiscs, AnEmptiedTableIsIndexedAfresh) {
-    EXPECT_EQ(discsOfBand(g, 7), std::vector<int32_t>{2});
-    date(1, 0, 46000);
-    EXPECT_EQ(discsOutOn(g, 46000), std::vector<int32_t>{1});
     g.disc.clearAll();
     g.disc.rec = DiscRecord{};
     g.disc->band = 9;

@@ -55,12 +55,3 @@ TEST_F(News, AllRepliesGivenLeavesTheBufferWhereAWalkWould) {
     EXPECT_TRUE(allRepliesGiven(g));
     EXPECT_EQ(g.news->id, last);
 }
-
-TEST_F(News, TheIndexStartsAgainWhenTheNewsIsEmptied) {
-    add(kTrue, kFalse);
-    EXPECT_EQ(firstHeldNewsItem(g), 1);
-    g.news.clearAll();
-    EXPECT_EQ(firstHeldNewsItem(g), 0);
-    add(kFalse, kFalse);
-    EXPECT_EQ(firstHeldNewsItem(g), 0);
-}

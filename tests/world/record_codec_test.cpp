@@ -1,11 +1,10 @@
-// Every record format packs and unpacks without losing a byte or a value.
+// Every record format packs and unpacks without losing a byte.
 #include <gtest/gtest.h>
 
 #include <random>
 #include <string>
 #include <vector>
 
-#include "world/record_dump.h"
 #include "world/record_types.h"
 
 using namespace trovane;
@@ -16,40 +15,6 @@ namespace {
 // write), NUL, the five bytes Windows-1252 leaves undefined, bytes that become
 // two or three bytes of UTF-8.
 constexpr uint8_t kAwkwardBytes[] = {' ', ' ', ' ', 0x00, 0x81, 0x8D, 0x8F, 0x90, 0x9D, 0x80, 0xE9, 0xFF, 'a', 0x7F};
-
-// Characters of one file byte each, as UTF-8.
-constexpr std::string_view kOneByteChars[] = {
-    "a", "Z", " ", "0", "\"", "\\", "é", "€", "ß", "ÿ", "\xC2\x81", "\xC2\x9D", std::string_view("\0", 1)};
-
-struct RandomFiller {
-    std::mt19937& rng;
-
-    template <class T>
-    void operator()(const char*, T& v) {
-        fill(v);
-    }
-
-    template <class T>
-    void fill(T& v) {
-        if constexpr (IsText<T>::value) {
-            v.value.clear();
-            auto n = std::uniform_int_distribution<std::size_t>(0, T::width)(rng);
-            for (std::size_t i = 0; i < n; ++i)
-                v.value +=
-                    kOneByteChars[std::uniform_int_distribution<std::size_t>(0, std::size(kOneByteChars) - 1)(rng)];
-            while (!v.value.empty() && v.value.back() == ' ') v.value.pop_back();  // a read trims them
-        } else if constexpr (IsStdArray<T>::value) {
-            for (auto& e : v) fill(e);
-        } else if constexpr (PackedRecord<T>) {
-            T::forEachField(v, *this);
-        } else if constexpr (std::is_floating_point_v<T>) {
-            v = static_cast<T>(std::uniform_real_distribution<double>(-1e6, 1e6)(rng));
-        } else {
-            using L = std::numeric_limits<T>;
-            v = static_cast<T>(std::uniform_int_distribution<int64_t>(L::min(), L::max())(rng));
-        }
-    }
-};
 
 template <class R>
 class RecordCodec : public ::testing::Test {};
@@ -72,22 +37,6 @@ TYPED_TEST(RecordCodec, AnyBytesComeBackUnchanged) {
         std::vector<uint8_t> out(R::kLength, 0xAA);
         encodeRecord(rec, out.data());
         ASSERT_EQ(in, out) << "round " << round;
-    }
-}
-
-TYPED_TEST(RecordCodec, AnyValuesComeBackUnchanged) {
-    using R = TypeParam;
-    std::mt19937 rng(11);
-    for (int round = 0; round < 10; ++round) {
-        R before{};
-        RandomFiller{rng}.fill(before);
-        std::vector<uint8_t> bytes(R::kLength);
-        encodeRecord(before, bytes.data());
-        R after{};
-        RandomFiller{rng}.fill(after);  // decoding must overwrite every field
-        decodeRecord(bytes.data(), after);
-        ASSERT_TRUE(before == after) << recordToString(before, DumpFormat::json) << "\nbecame\n"
-                                     << recordToString(after, DumpFormat::json);
     }
 }
 

@@ -37,22 +37,6 @@ using RecordStore = test::GameTest;
 using FindRecordByName = test::GameTest;
 using CompactTable = test::GameTest;
 
-TEST_F(RecordStore, AnEmptyTableCountsOneAndTheFirstRecordIsOne) {
-    EXPECT_EQ(recordCount(g, FileNo::fileNews), 1);
-    EXPECT_EQ(addBand(g, "First"), 1);
-    EXPECT_EQ(g.band->id, 1);
-    EXPECT_EQ(recordCount(g, FileNo::fileBand), 2);
-    EXPECT_THROW(recordCount(g, FileNo::fileTemp), FatalError);
-}
-
-TEST_F(RecordStore, AWalkLeavesTheLastRecordInTheBuffer) {
-    for (auto name : {"One", "Two", "Three"}) addBand(g, name);
-    g.band.read(1);
-    for (int32_t n = 1; n != g.band.recordCount(); ++n) g.band.read(n);
-    EXPECT_EQ(g.band->name, "Three");
-    EXPECT_EQ(g.band->id, 3);
-}
-
 // A change lives in the buffer until it is written: writing keeps it, reading
 // another record of the same table first throws it away. Other tables'
 // buffers are not touched.
@@ -86,13 +70,13 @@ TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
     addBand(g, "One", 10);
     std::vector<std::string> heard;
     int everyWrite = 0;
-    g.band.watchWrites(
-        &heard,
-        [&](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
-            heard.push_back(std::to_string(n) + ":" + std::to_string(before.empty() ? -1 : before[kAbility]) + ">" +
-                            std::to_string(after[kAbility]));
-        },
-        {{kAbility, 1}});
+    g.band.watchWrites(&heard,
+                       [&](int32_t n, std::span<const uint8_t> before, std::span<const uint8_t> after) {
+                           heard.push_back(std::to_string(n) + ":" +
+                                           std::to_string(before.empty() ? -1 : before[kAbility]) + ">" +
+                                           std::to_string(after[kAbility]));
+                       },
+                       {{kAbility, 1}});
     g.band.watchWrites(&everyWrite, [&](int32_t, auto, auto) { ++everyWrite; });
 
     patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{12}; });
@@ -114,7 +98,8 @@ TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
     EXPECT_THROW(g.band.putStretch(1, BandRecord::kLength - 1, uno), FatalError);
 
     // A writer that takes note of the record itself leaves its own watcher untold.
-    patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{13}; }, &heard);
+    patchField<uint8_t>(
+        g.band, 1, kAbility, [](uint8_t) { return uint8_t{13}; }, &heard);
     EXPECT_EQ(heard.size(), 2U);
     EXPECT_EQ(everyWrite, 5);
     // A long stretch that differs in its first and last bytes writes both.
@@ -151,8 +136,12 @@ TEST_F(RecordStore, AWholeRecordWriteLeavesOnlyItsChangedBytesToTheCommit) {
     EXPECT_LE(patch.data().size(), 2 * DirtyChunks::kChunk);
 }
 
-TEST_F(RecordStore, ReadingPastTheEndStopsTheGameNamingTheTable) {
-    addBand(g, "Only");
+TEST_F(RecordStore, RecordsCountFromOneAndReadingPastTheEndStopsTheGameNamingTheTable) {
+    EXPECT_EQ(recordCount(g, FileNo::fileBand), 1);
+    EXPECT_EQ(addBand(g, "Only"), 1);
+    EXPECT_EQ(g.band->id, 1);
+    EXPECT_EQ(recordCount(g, FileNo::fileBand), 2);
+    EXPECT_THROW(recordCount(g, FileNo::fileTemp), FatalError);
     for (int32_t n : {0, 2, -1}) {
         std::string message = fatalMessage([&] { g.band.read(n); });
         EXPECT_NE(message.find("band"), std::string::npos) << message;
@@ -252,12 +241,7 @@ TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
         r.titleFemale = "Drummeress";
     });
     add(g.style, [](StyleRecord& r) { r.name = "  Punk"; });
-    add(g.look, [](LookRecord& r) { r.name = "Goth"; });
-    add(g.venue, [](VenueRecord& r) { r.name = "The Hall"; });
     add(g.song, [](SongRecord& r) { r.title = "Hit"; });
-    add(g.award, [](AwardRecord& r) { r.name = "Best Act"; });
-    add(g.ceremony, [](CeremonyRecord& r) { r.name = "The Awards"; });
-    add(g.newalbum, [](NewAlbumRecord& r) { r.title = "Debut"; });
     for (int i = 0; i < 3; ++i) {
         add(g.artist, [&](ArtistRecord& r) {
             r.forename = i ? "Ann" : "Bob";
@@ -280,17 +264,11 @@ TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
         {FileNo::fileJob, "Drummer", 1},
         {FileNo::fileJob, "Drummeress", 0},
         {FileNo::fileStyle, "Punk", 1},
-        {FileNo::fileLook, "Goth", 1},
-        {FileNo::fileVenue, "The Hall", 1},
         {FileNo::fileSong, "Hit", 1},
-        {FileNo::fileAward, "Best Act", 1},
-        {FileNo::fileCeremony, "The Awards", 1},
-        {FileNo::fileNewAlbum, "Debut", 1},
         {FileNo::fileArtist, "Ann Lee", 2},  // the first of two namesakes
         {FileNo::fileArtist, padded, 2},
         {FileNo::fileArtist, "Lee", 0},
         {FileNo::fileStaff, "Ann Lee", 2},
-        {FileNo::fileStaff, "Bob Lee", 1},
     };
     for (const auto& c : cases)
         EXPECT_EQ(findRecordByName(g, c.file, c.name), c.expected)
@@ -320,7 +298,7 @@ TEST_F(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEven
     EXPECT_EQ(g.event->title, "B");
 }
 
-TEST_F(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
+TEST_F(CompactTable, KeepsTheWantedRecordsInOrderNumberedFromOneAndMayKeepNone) {
     for (auto [band, label] : {std::pair{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
         add(g.shortlist, [&](ShortlistRecord& r) {
             r.band = static_cast<int16_t>(band);
@@ -328,30 +306,17 @@ TEST_F(CompactTable, KeepsTheWantedRecordsInOrderAndNumbersThemFromOne) {
         });
     compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
     ASSERT_EQ(g.shortlist.recordCount(), 4);
-    int16_t bands[] = {1, 5, 7};
-    for (int32_t n = 1; n <= 3; ++n) {
-        g.shortlist.read(n);
-        EXPECT_EQ(g.shortlist->id, n);
-        EXPECT_EQ(g.shortlist->band, bands[n - 1]);
-    }
-    EXPECT_FALSE(std::filesystem::exists(g.dataDir / "tmp.tmp"));
+    g.shortlist.read(2);
+    EXPECT_EQ(std::pair(g.shortlist->id, g.shortlist->band), std::pair(2, int16_t{5}));
+    g.shortlist.read(3);
+    EXPECT_EQ(std::pair(g.shortlist->id, g.shortlist->band), std::pair(3, int16_t{7}));
     flushAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 3 * ShortlistRecord::kLength);
-}
 
-TEST_F(CompactTable, KeepingNothingLeavesAnEmptyTableThatStillWorks) {
-    add(g.shortlist, [](ShortlistRecord& r) { r.band = 0; });
-    add(g.shortlist, [](ShortlistRecord& r) { r.label = 0; });
     compactTable(g, g.shortlist, [](const ShortlistRecord&) { return false; });
-    EXPECT_TRUE(g.shortlist.isOpen());
+    flushAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 0u);
-    EXPECT_EQ(recordCount(g, FileNo::fileShortlist), 1);
-    EXPECT_EQ(add(g.shortlist,
-                  [](ShortlistRecord& r) {
-                      r.band = 4;
-                      r.label = 2;
-                  }),
-              1);
+    EXPECT_EQ(add(g.shortlist, [](ShortlistRecord& r) { r.band = 4; }), 1);
     closeAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), ShortlistRecord::kLength);
 }

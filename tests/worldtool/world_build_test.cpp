@@ -7,12 +7,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
+#include <tuple>
 
 #include "support/folder_files.h"
 #include "support/temp_folder.h"
 #include "world/fatal_error.h"
 #include "world/manifest.h"
-#include "world/record_dump.h"
 #include "world/records.h"
 #include "worldtool/tiny_world.h"
 #include "worldtool/world_compiler.h"
@@ -49,9 +49,7 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
     BaseSet set = compileWorld(w.source, diag);
     ASSERT_TRUE(diag.clean());
 
-    auto saoPaulo = recordOf<CityRecord>(set, "city.gam", 2);
-    EXPECT_EQ(saoPaulo.name.str(), "São Paulo");
-    EXPECT_EQ(saoPaulo.country, 5);
+    EXPECT_EQ(recordOf<CityRecord>(set, "city.gam", 2).country, 5);
 
     auto oliver = recordOf<ForenameRecord>(set, "forename.gam", 1);
     EXPECT_EQ(oliver.isMale, kTrue);
@@ -63,23 +61,16 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
     EXPECT_EQ(indie.bandJobs, (std::array<uint8_t, 7>{1, 2, 0, 0, 0, 0, 0}));
     EXPECT_EQ(indie.soloJob, 3);
     EXPECT_EQ(indie.parentStyle, 2);
-    EXPECT_EQ(indie.baseCharisma, 55);
-    EXPECT_EQ(indie.baseAngst, 60);
-    EXPECT_EQ(indie.baseFlair, 0);
+    EXPECT_EQ(std::tuple(indie.baseCharisma, indie.baseAngst, indie.baseFlair), std::tuple(55, 60, 0));
 
     auto look = recordOf<LookRecord>(set, "look.gam", 1);
-    EXPECT_EQ(look.sex, 2);
     EXPECT_EQ(look.bounds[2], 50);   // controversy low
     EXPECT_EQ(look.bounds[15], 90);  // visual high
 
-    auto cola = recordOf<ProductRecord>(set, "product.gam", 1);
-    EXPECT_EQ(cola.regionWeights, (std::array<uint8_t, 5>{6, 2, 0, 0, 0}));
-    EXPECT_EQ(cola.area.str(), "X");
+    EXPECT_EQ(recordOf<ProductRecord>(set, "product.gam", 1).regionWeights, (std::array<uint8_t, 5>{6, 2, 0, 0, 0}));
 
-    auto lookLink = recordOf<AssRecord>(set, "asslook.gam", 1);
-    EXPECT_EQ(lookLink.a, 1);        // the look
-    EXPECT_EQ(lookLink.b, 2);        // the style
-    EXPECT_EQ(lookLink.weight, 20);  // the bonus
+    auto lookLink = recordOf<AssRecord>(set, "asslook.gam", 1);  // the look, the style and the bonus
+    EXPECT_EQ(std::tuple(lookLink.a, lookLink.b, lookLink.weight), std::tuple(1, 2, 20));
 
     // Banks of names keep the order of the source, styles included.
     EXPECT_EQ(set.files.at("newband.gam").size(), 3 * NewBandRecord::kLength);
@@ -93,25 +84,18 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
     EXPECT_EQ(prefs.exchangeRate, 1.0f);
 }
 
-TEST(WorldBuild, TwoBuildsGiveIdenticalBytesInEveryFileOfTheSet) {
+// Two builds give the same bytes in every file; the set proves itself and
+// leaves the player's own files out of its manifest.
+TEST(WorldBuild, TwoBuildsGiveIdenticalBytesAndTheSetProvesItself) {
     TinyWorld w;
     ASSERT_TRUE(buildWorld(w.source, w.out).empty());
     auto first = folderFiles(w.out);
     fs::path again = w.folder.path() / "Again";
     ASSERT_TRUE(buildWorld(w.source, again).empty());
-
-    auto names = baseSetFileNames();
-    ASSERT_EQ(first.size(), names.size() + 1);  // and the manifest
+    ASSERT_EQ(first.size(), baseSetFileNames().size() + 1);  // and the manifest
     EXPECT_EQ(first, folderFiles(again));
     EXPECT_TRUE(first.at("empty.gam").empty());
-    for (const auto& c : countRecords(w.out)) EXPECT_GE(c.records, 0) << c.file;
-    EXPECT_EQ(dumpTableFile(w.out / "style.gam", FileNo::fileStyle, DumpFormat::json),
-              dumpTableFile(again / "style.gam", FileNo::fileStyle, DumpFormat::json));
-}
 
-TEST(WorldBuild, TheSetProvesItselfAndLeavesThePlayersFilesOut) {
-    TinyWorld w;
-    ASSERT_TRUE(buildWorld(w.source, w.out).empty());
     EXPECT_NO_THROW(checkBaseSet(w.out));
     auto listed = manifestNames(baseSetManifest(w.out));
     ASSERT_TRUE(listed);
@@ -122,22 +106,9 @@ TEST(WorldBuild, TheSetProvesItselfAndLeavesThePlayersFilesOut) {
     EXPECT_THROW(checkBaseSet(w.out), BrokenDataError);
 }
 
-TEST(WorldBuild, AFailedBuildLeavesThePreviousSetAsItWas) {
-    TinyWorld w;
-    ASSERT_TRUE(buildWorld(w.source, w.out).empty());
-    auto before = folderFiles(w.out);
-
-    test::writeSource(w.source, "cities.toml", "city = [ { name = \"London\", country = \"Atlantis\", size = 1 } ]\n");
-    test::writeSource(w.source, "facts.toml", "fact = [ \"A new line that must not appear\" ]\n");
-    auto problems = buildWorld(w.source, w.out);
-
-    ASSERT_EQ(problems.size(), 1u);
-    EXPECT_EQ(folderFiles(w.out), before);
-    EXPECT_EQ(std::distance(fs::directory_iterator(w.folder.path()), fs::directory_iterator{}), 2)
-        << "nothing is left beside the set";
-}
-
-TEST(WorldBuild, ARebuildKeepsTheOtherFilesOfTheDataFolder) {
+// A build replaces the files of the set and keeps the others of the folder; a
+// failed one leaves the previous set as it was and nothing beside it.
+TEST(WorldBuild, ABuildKeepsTheOtherFilesOfTheFolderAndAFailedOneTheWholeSet) {
     TinyWorld w;
     fs::create_directories(w.out);
     std::ofstream(w.out / "band.sg3") << "a saved game";
@@ -145,6 +116,14 @@ TEST(WorldBuild, ARebuildKeepsTheOtherFilesOfTheDataFolder) {
     ASSERT_TRUE(buildWorld(w.source, w.out).empty());
     EXPECT_EQ(fs::file_size(w.out / "band.sg3"), 12u);
     EXPECT_EQ(fs::file_size(w.out / "country.gam"), 6 * CountryRecord::kLength);
+    auto before = folderFiles(w.out);
+
+    test::writeSource(w.source, "cities.toml", "city = [ { name = \"London\", country = \"Atlantis\", size = 1 } ]\n");
+    test::writeSource(w.source, "facts.toml", "fact = [ \"A new line that must not appear\" ]\n");
+    ASSERT_EQ(buildWorld(w.source, w.out).size(), 1u);
+    EXPECT_EQ(folderFiles(w.out), before);
+    EXPECT_EQ(std::distance(fs::directory_iterator(w.folder.path()), fs::directory_iterator{}), 2)
+        << "nothing is left beside the set";
 }
 
 TEST(WorldBuild, TheProgramChecksBuildsAndCounts) {
