@@ -115,9 +115,11 @@ TEST_F(TourVenues, TheAssistantSizesByTheMarketOfTheNationOrArea) {
     // r 50: d 35, e = 1470; 6 x 1481 + 250 = 9136; x 0.66 = 6029.76 -> 6030.
     setReputation(band, {80, 0, 50, 0, 0});
     int16_t arena = addRatedVenue("Leeds Arena", 30000, leeds, 79);
+    addRatedVenue("Leeds Dome", 24999, leeds, 79);
+    int16_t bowl = addRatedVenue("Leeds Bowl", 25000, leeds, 79);  // below 28172, but 25000 is never too small
     int16_t paris1 = addRatedVenue("Paris Hall", 8000, paris, 49);
     addRatedVenue("Paris Club", 8000, paris, 50);
-    EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), std::vector<int16_t>{arena});
+    EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), (std::vector<int16_t>{arena, bowl}));
     EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(france)), std::vector<int16_t>{paris1});
     // Europe as a whole goes by the European 50 too.
     EXPECT_EQ(venuesFound(2, {}, "E", 0), std::vector<int16_t>{paris1});
