@@ -23,32 +23,25 @@ FestivalRecord festivalOf(std::vector<uint8_t> weekdays, std::vector<uint8_t> we
 
 // 1 January 2004 is a Thursday (weekday 5); week 28 starts 27 x 7 = 189 days
 // later, on Thursday 8 July.
-TEST(FestivalDates, OneDayMovesForwardToItsWeekday) {
-    // Saturday: 7 - 5 = 2 days on.
-    EXPECT_EQ(festivalDates(festivalOf({7}, {28}), 2004), std::vector<double>{day(2004, 7, 10)});
-    // The week's own weekday stays: Thursday 8 July.
-    EXPECT_EQ(festivalDates(festivalOf({5}, {28}), 2004), std::vector<double>{day(2004, 7, 8)});
-    // Wednesday: 4 - 5 = -1, + 7 = 6 days on.
-    EXPECT_EQ(festivalDates(festivalOf({4}, {28}), 2004), std::vector<double>{day(2004, 7, 14)});
-    // Week 1 on the year's own weekday is 1 January itself.
-    EXPECT_EQ(festivalDates(festivalOf({5}, {1}), 2004), std::vector<double>{day(2004, 1, 1)});
-}
-
-TEST(FestivalDates, ADayBeforeTheDayBeforeItMovesOnAWeek) {
-    // Saturday then Sunday of one week number: Sunday is 1 - 5 + 7 = 3 days on.
-    EXPECT_EQ(festivalDates(festivalOf({7, 1}, {28, 28}), 2004),
-              (std::vector<double>{day(2004, 7, 10), day(2004, 7, 11)}));
-    // Saturday then Thursday: 8 July falls before 10 July, so 15 July.
-    EXPECT_EQ(festivalDates(festivalOf({7, 5}, {28, 28}), 2004),
-              (std::vector<double>{day(2004, 7, 10), day(2004, 7, 15)}));
-    // The same day twice is not before it, and stays.
-    EXPECT_EQ(festivalDates(festivalOf({7, 7}, {28, 28}), 2004),
-              (std::vector<double>{day(2004, 7, 10), day(2004, 7, 10)}));
-}
-
-TEST(FestivalDates, TheLastWeekRunsIntoTheNextYear) {
-    // Week 53 starts 364 days on, Thursday 30 December 2004; Sunday is 3 days on.
-    EXPECT_EQ(festivalDates(festivalOf({1}, {53}), 2004), std::vector<double>{day(2005, 1, 2)});
+TEST(FestivalDates, EachDayMovesForwardToItsWeekdayAndOneBeforeTheDayBeforeItMovesOnAWeek) {
+    struct Case {
+        std::vector<uint8_t> weekdays, weeks;
+        std::vector<double> dates;
+    };
+    const Case cases[] = {
+        {{7}, {28}, {day(2004, 7, 10)}},  // Saturday: 7 - 5 = 2 days on
+        {{5}, {28}, {day(2004, 7, 8)}},   // the week's own weekday stays
+        {{4}, {28}, {day(2004, 7, 14)}},  // Wednesday: 4 - 5 = -1, + 7 = 6 days on
+        {{5}, {1}, {day(2004, 1, 1)}},    // week 1 on the year's own weekday is 1 January itself
+        {{7, 1}, {28, 28}, {day(2004, 7, 10), day(2004, 7, 11)}},  // Sunday is 1 - 5 + 7 = 3 days on
+        {{7, 5}, {28, 28}, {day(2004, 7, 10), day(2004, 7, 15)}},  // 8 July falls before 10 July: 15 July
+        {{7, 7}, {28, 28}, {day(2004, 7, 10), day(2004, 7, 10)}},  // the same day twice is not before it
+        {{1}, {53}, {day(2005, 1, 2)}},  // week 53 starts Thursday 30 December 2004; Sunday is 3 days on
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.weekdays) + " in weeks " + testing::PrintToString(c.weeks));
+        EXPECT_EQ(festivalDates(festivalOf(c.weekdays, c.weeks), 2004), c.dates);
+    }
 }
 
 TEST(FestivalFillDate, SixtyDaysAheadButNeverBeforeTomorrow) {
@@ -98,14 +91,12 @@ TEST_F(FestivalScheduling, ABillFilledOnTheFirstDayIsFiledBeforeItsGig) {
     scheduled();
     auto saturday = entriesOn(day(2004, 7, 10));
     ASSERT_EQ(saturday.size(), 2u);
-    EXPECT_EQ(saturday[0].type, 22);
-    EXPECT_EQ(saturday[1].type, 8);
+    EXPECT_EQ(std::pair(saturday[0].type, saturday[1].type), std::pair(uint8_t{22}, uint8_t{8}));
 }
 
 TEST_F(FestivalScheduling, AFestivalUnderWayGetsNoFill) {
     g.gameDate = day(2004, 7, 10);
-    scheduled();
-    // The fill would fall tomorrow, the second day.
+    scheduled();  // the fill would fall tomorrow, the second day
     auto sunday = entriesOn(day(2004, 7, 11));
     ASSERT_EQ(sunday.size(), 1u);
     EXPECT_EQ(sunday[0].type, 8);

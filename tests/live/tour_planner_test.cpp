@@ -72,16 +72,13 @@ TEST_F(TourVenues, TheCrowdEstimateIsTwoThirdsOfThePlainOne) {
     EXPECT_EQ(tourCrowdSize(g, 100), 66246);
 }
 
-TEST_F(TourVenues, AVenueJoinsFromTheCrowdSizeToBelowTwiceIt) {
+TEST_F(TourVenues, AVenueJoinsFromTheCrowdSizeToBelowTwiceItAndAt25000IsNeverTooSmall) {
     // size 6149: 6148 is too small, 6149 joins, 12297 joins, 12298 (2 x 6149) is too big.
     addRatedVenue("Small", 6148, leeds);
     int16_t exact = addRatedVenue("Exact", 6149, leeds);
     int16_t top = addRatedVenue("Top", 12297, leeds);
     addRatedVenue("Huge", 12298, leeds);
     EXPECT_EQ(venuesFound(1, kUk), (std::vector<int16_t>{exact, top}));
-}
-
-TEST_F(TourVenues, AVenueOf25000IsNeverTooSmall) {
     // size 66246 at reputation 100: 24999 is too small, 25000 joins.
     setReputation(band, {100, 100, 100, 100, 100});
     addRatedVenue("Arena", 24999, leeds);
@@ -98,20 +95,15 @@ TEST_F(TourVenues, RivalsPlayAVenueRatedAtTheirReputationTheAssistantDoesNot) {
     EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), std::vector<int16_t>{easy});
 }
 
-TEST_F(TourVenues, RivalsPlayOnlyTheirRegionsUnlessTheyTourTheWorld) {
+TEST_F(TourVenues, RivalsPlayTheirRegionsOrTheWorldAndTheAssistantTheHomeNationsOrOneNation) {
     int16_t uk = addRatedVenue("Leeds Hall", 8000, leeds);
     int16_t fr = addRatedVenue("Paris Hall", 8000, paris);
     int16_t us = addRatedVenue("Boston Hall", 8000, boston);
     int16_t br = addRatedVenue("Rio Hall", 8000, rio);
-    EXPECT_EQ(venuesFound(1, kUk), (std::vector<int16_t>{uk, fr}));
-    EXPECT_EQ(venuesFound(1, {false, true, false, false}), std::vector<int16_t>{us});
-    EXPECT_EQ(venuesFound(1, {false, false, false, true}), (std::vector<int16_t>{uk, fr, us, br}));
-}
-
-TEST_F(TourVenues, TheAssistantsUkTourTakesTheFourHomeNationsAndAnotherNationOnlyItself) {
-    int16_t uk = addRatedVenue("Leeds Hall", 8000, leeds);
-    int16_t fr = addRatedVenue("Paris Hall", 8000, paris);
     int16_t sc = addRatedVenue("Glasgow Hall", 8000, glasgow);
+    EXPECT_EQ(venuesFound(1, kUk), (std::vector<int16_t>{uk, fr, sc}));
+    EXPECT_EQ(venuesFound(1, {false, true, false, false}), std::vector<int16_t>{us});
+    EXPECT_EQ(venuesFound(1, {false, false, false, true}), (std::vector<int16_t>{uk, fr, us, br, sc}));
     EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), (std::vector<int16_t>{uk, sc}));
     EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(france)), std::vector<int16_t>{fr});
     EXPECT_EQ(venuesFound(2, {}, "E", 0), (std::vector<int16_t>{uk, fr, sc}));
@@ -123,9 +115,11 @@ TEST_F(TourVenues, TheAssistantSizesByTheMarketOfTheNationOrArea) {
     // r 50: d 35, e = 1470; 6 x 1481 + 250 = 9136; x 0.66 = 6029.76 -> 6030.
     setReputation(band, {80, 0, 50, 0, 0});
     int16_t arena = addRatedVenue("Leeds Arena", 30000, leeds, 79);
+    addRatedVenue("Leeds Dome", 24999, leeds, 79);
+    int16_t bowl = addRatedVenue("Leeds Bowl", 25000, leeds, 79);  // below 28172, but 25000 is never too small
     int16_t paris1 = addRatedVenue("Paris Hall", 8000, paris, 49);
     addRatedVenue("Paris Club", 8000, paris, 50);
-    EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), std::vector<int16_t>{arena});
+    EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(england)), (std::vector<int16_t>{arena, bowl}));
     EXPECT_EQ(venuesFound(2, {}, "E", static_cast<uint8_t>(france)), std::vector<int16_t>{paris1});
     // Europe as a whole goes by the European 50 too.
     EXPECT_EQ(venuesFound(2, {}, "E", 0), std::vector<int16_t>{paris1});
@@ -154,14 +148,10 @@ TEST(TourGaps, CityCountryAreaAndElsewhere) {
     EXPECT_EQ(plannedGap(leeds, at(2, 4, 3, "N")), 5);
 }
 
-TEST(NextVenue, TheFirstGigTakesTheLargest) {
-    std::vector<TourVenue> v{at(1, 1, 1, "E"), at(2, 2, 1, "E")};
-    EXPECT_EQ(pickNextVenue(v, {}, 0), 0);
-}
-
-TEST(NextVenue, SameCityBeatsSameCountryWhichBeatsAnywhere) {
+TEST(NextVenue, TheFirstGigTakesTheLargestThenSameCityBeatsSameCountryWhichBeatsAnywhere) {
     // The last gig was at venue 0 (city 1, country 1).
     std::vector<TourVenue> v{at(1, 1, 1, "E"), at(2, 9, 2, "E"), at(3, 2, 1, "E"), at(4, 1, 1, "E")};
+    EXPECT_EQ(pickNextVenue(v, {}, 0), 0);
     v[0].used = true;
     std::vector<PlannedGig> gigs{{.venue = 0}};
     EXPECT_EQ(pickNextVenue(v, gigs, 0), 3);

@@ -71,11 +71,11 @@ protected:
     }
 };
 
-TEST_F(BandScreens, TheBandSearchOpensBandDetails) {
+TEST_F(BandScreens, TheBandSearchOpensBandDetailsWhoseShortlistEntrySaysWhetherItAddsOrRemoves) {
     click(window->sideBar()->btnFind);
     click("lblBands");
-    auto* list = find<screens::BrowseGridWidget>("flxBands");
-    EXPECT_EQ(list->model()->headerData(2, Qt::Horizontal).toString(), "Advance");
+    EXPECT_EQ(find<screens::BrowseGridWidget>("flxBands")->model()->headerData(2, Qt::Horizontal).toString(),
+              "Advance");
     screenshot("band_01_band_search");
     openFromSearch("The Marsh Lights");
     EXPECT_EQ(find<QLabel>("lblLabel")->text(), "Unsigned");
@@ -84,10 +84,7 @@ TEST_F(BandScreens, TheBandSearchOpensBandDetails) {
     EXPECT_TRUE(find<QLabel>("lblDemands")->text().startsWith("The Marsh Lights are demanding"));
     EXPECT_EQ(window->findChild<QLabel*>("lblAbility"), nullptr) << "ability is shown for the player's acts only";
     screenshot("band_02_band_details");
-}
 
-TEST_F(BandScreens, TheShortlistEntrySaysWhetherItAddsOrRemoves) {
-    openFromSearch("The Marsh Lights");
     QPushButton* entry = extraEntry("lblShortlist");
     EXPECT_EQ(entry->text(), "Add to Shortlist");
     screenshot("band_03_options_unsigned");

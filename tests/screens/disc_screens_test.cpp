@@ -48,6 +48,14 @@ protected:
 };
 
 TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) {
+    {
+        screens::frmSetReleaseDate none(*game, disc);
+        none.show();
+        for (auto* box : none.chkTerritories) box->setChecked(false);
+        click(none.cmdConfirm);
+        EXPECT_EQ(none.result(), QDialog::Rejected) << "nothing ticked acts as cancel";
+        EXPECT_EQ(record().releaseDate, (std::array<double, 5>{}));
+    }
     screens::frmSetReleaseDate form(*game, disc);
     form.show();
     // 5 August 2004 + 42 is Thursday 16 September: the first Monday is the 20th.
@@ -60,15 +68,6 @@ TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) 
     click(form.cmdConfirm);
     EXPECT_EQ(record().releaseDate[0], serialFromCivil(2004, 10, 4));
     EXPECT_EQ(record().releaseDate[1], 0.0);
-}
-
-TEST_F(DiscForms, NothingTickedActsAsCancel) {
-    screens::frmSetReleaseDate form(*game, disc);
-    form.show();
-    for (auto* box : form.chkTerritories) box->setChecked(false);
-    click(form.cmdConfirm);
-    EXPECT_EQ(form.result(), QDialog::Rejected);
-    EXPECT_EQ(record().releaseDate, (std::array<double, 5>{}));
 }
 
 TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {

@@ -40,7 +40,6 @@ TEST_F(ScreenTest, NewPlayerPlaysSavesQuitsAndLoadsTheSameGame) {
 
     for (int day = 0; day < 3; ++day) continueOneDay();
     EXPECT_EQ(game->gameDate, serialFromCivil(2004, 8, 8));
-    EXPECT_EQ(window->gameStatusBar()->lblDate->text(), "Sunday 8/8/2004");
     ASSERT_EQ(screen(), Screen::frmNews);
 
     news = find<QTableView>("flxNews");
@@ -70,7 +69,6 @@ TEST_F(ScreenTest, NewPlayerPlaysSavesQuitsAndLoadsTheSameGame) {
     click(window->sideBar()->btnQuit);
     click("lblQuit");
     ASSERT_EQ(screen(), Screen::frmStartForm);
-    EXPECT_FALSE(std::filesystem::exists(folder.path() / "news.vel"));
 
     restartProgram();
     click("btnLoad");
@@ -85,7 +83,6 @@ TEST_F(ScreenTest, NewPlayerPlaysSavesQuitsAndLoadsTheSameGame) {
     EXPECT_EQ(window->gameStatusBar()->lblName->text(), "Ann Lee");
     EXPECT_EQ(newsRows(find<QTableView>("flxNews")), rows);
     continueOneDay();
-    EXPECT_EQ(window->gameStatusBar()->lblDate->text(), "Monday 9/8/2004");
 }
 
 }  // namespace trovane::test

@@ -181,9 +181,6 @@ TEST_F(Condition, UnsignedMonthsCountOnlyForFreeActiveBands) {
     EXPECT_EQ(g.band->monthsUnsigned, 8);
     g.band.read(gone);
     EXPECT_EQ(g.band->monthsUnsigned, 8);
-    updateBandTimeWithoutADeal(g);
-    g.band.read(free);
-    EXPECT_EQ(g.band->monthsUnsigned, 10);
 }
 
 TEST_F(Condition, FeelingsNameTheBreakOrContentment) {

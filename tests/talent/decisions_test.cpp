@@ -86,28 +86,23 @@ protected:
     }
 };
 
-TEST_F(Deals, AnOfferIsDecidedInAWeekAndTheBandIsShortlisted) {
+TEST_F(Deals, AnOfferIsDecidedInAWeekAndAChangeKeepsItsNumberDateAndEntry) {
     OfferMade m = makeOffer(g, band, asked);
     EXPECT_EQ(m.decisionDate, g.gameDate + 7);
     EXPECT_FALSE(m.joined);
+    EXPECT_EQ(playerShortlist(g), std::vector<int16_t>{band});
+    g.gameDate += 2;
+    OfferTerms better = asked;
+    better.royalty = 12;
+    OfferMade changed = makeOffer(g, band, better);
+    EXPECT_EQ(changed.offer, m.offer);
+    EXPECT_EQ(changed.decisionDate, m.decisionDate);
     auto entries = entriesOn(m.decisionDate);
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0].type, 4);
     EXPECT_EQ(entries[0].offer, m.offer);
     EXPECT_EQ(entries[0].label, home);
-    EXPECT_EQ(playerShortlist(g), std::vector<int16_t>{band});
-}
-
-TEST_F(Deals, AChangedOfferKeepsItsNumberDateAndEntry) {
-    OfferMade first = makeOffer(g, band, asked);
-    g.gameDate += 2;
-    OfferTerms better = asked;
-    better.royalty = 12;
-    OfferMade second = makeOffer(g, band, better);
-    EXPECT_EQ(second.offer, first.offer);
-    EXPECT_EQ(second.decisionDate, first.decisionDate);
-    EXPECT_EQ(entriesOn(first.decisionDate).size(), 1u);
-    g.offer.read(first.offer);
+    g.offer.read(m.offer);
     EXPECT_EQ(g.offer->royalty, 12);
     EXPECT_EQ(offerFormStart(g, band).royalty, 12) << "the form opens on the pending offer";
 }
@@ -165,24 +160,22 @@ TEST_F(Deals, AtNinetyTheBandRejectsWithoutAVerdict) {
     EXPECT_EQ(hasOfferFrom(g, home, band), 0) << "a rejected player may file again at once";
 }
 
-TEST_F(Deals, APoorOfferGetsTheHarshWords) {
+TEST_F(Deals, APoorOfferGetsTheHarshWordsAndALaughableOneIsToldSo) {
     // No advances at the asked royalty: mean round(round(200 / 3) x 0.9) = 30, standing 6: 30.
     // The worst reason is the standing (below the high of 100; gap 80).
-    OfferMade m = makeOffer(g, band, {0, 0, 3, 18, 10});
-    playDay(m.decisionDate);
-    EXPECT_EQ(trim(lastNews().text.value),
-              "The Testers have rejected your contract offer as way short of what they were hoping for.  They have "
-              "indicated them would require a much better deal to consider representing a label of your size.");
-}
-
-TEST_F(Deals, ALaughableOfferIsToldSo) {
     // Half the royalty as well: royaltyScore 0, score 0. Initial and options tie at 0 and the
     // standing of 6 is above them: the worst stays the initial advance.
-    OfferMade m = makeOffer(g, band, {0, 0, 3, 18, 5});
-    playDay(m.decisionDate);
-    EXPECT_EQ(trim(lastNews().text.value),
-              "The Testers have rejected your contract offer as laughable.  The initial advance offered has been "
-              "singled out by the band as being particularly disappointing.");
+    const std::pair<OfferTerms, const char*> cases[] = {
+        {{0, 0, 3, 18, 10},
+         "The Testers have rejected your contract offer as way short of what they were hoping for.  They have "
+         "indicated them would require a much better deal to consider representing a label of your size."},
+        {{0, 0, 3, 18, 5},
+         "The Testers have rejected your contract offer as laughable.  The initial advance offered has been singled "
+         "out by the band as being particularly disappointing."}};
+    for (const auto& [terms, text] : cases) {
+        playDay(makeOffer(g, band, terms).decisionDate);
+        EXPECT_EQ(trim(lastNews().text.value), text);
+    }
 }
 
 TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDay) {

@@ -149,35 +149,29 @@ TEST_F(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
 
 TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     int16_t x = group("X");
-    int32_t leaver = member(x, 0);
+    const auto leaver = narrow<int16_t>(member(x, 0));
+    auto found = [&](const std::set<int32_t>& chain = {}) { return findReplacement(g, leaver, x, chain); };
     // Rating 50, leaver at 50 in the US and ability 50: a free candidate at rep r
     // everywhere and ability a scores (2r + 2r + 4a) / 4 = r + a.
     freeArtist(20, 49);  // 69
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
+    EXPECT_EQ(found(), 0);
     int32_t at70 = freeArtist(20, 50);  // 70
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
+    EXPECT_EQ(found(), at70);
+    setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
+    EXPECT_EQ(found(), 0) << "retired in play";
+    setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
+    EXPECT_EQ(found(), at70) << "and back";
+    EXPECT_EQ(g.artist->id, g.artist.recordCount() - 1) << "the buffer as a walk of every artist leaves it";
     freeArtist(65, 66);                  // 131
     int32_t at130 = freeArtist(65, 65);  // 130
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at130);
+    EXPECT_EQ(found(), at130);
     int32_t second = freeArtist(65, 65);  // 130 again: the first stays
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at130);
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x, {at130, second}), at70) << "chosen in the chain";
+    EXPECT_EQ(found(), at130);
+    EXPECT_EQ(found({at130, second}), at70) << "chosen in the chain";
     setArtist(at130, [](ArtistRecord& a) { a.job = 2; });
     setArtist(second, [](ArtistRecord& a) { a.retirementDate = a.birthDate + 9000; });
     setArtist(at70, [](ArtistRecord& a) { a.style = 2; });
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0) << "another job, style, or retiring";
-}
-
-TEST_F(Replacements, AnArtistRetiredInPlayIsPassedOverUntilBack) {
-    int16_t x = group("X");
-    int32_t leaver = member(x, 0);
-    int32_t at70 = freeArtist(20, 50);  // 20 + 50, as above
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
-    setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
-    setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
-    EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), at70);
-    EXPECT_EQ(g.artist->id, g.artist.recordCount() - 1) << "the buffer as a walk of every artist leaves it";
+    EXPECT_EQ(found(), 0) << "another job, style, or retiring";
 }
 
 TEST_F(Replacements, AMemberOfAnotherBandNeedsTheStamina) {

@@ -36,20 +36,28 @@ protected:
     }
 };
 
-TEST_F(Hype, TheAmountCountsDouble) { EXPECT_EQ(boost(actAt(50, 0), 0, 5), std::pair(50, 10)); }
-
-TEST_F(Hype, ABoostFirstRecoversTheWholeSlump) {
-    // H -90 snaps to -20, then +2: -18. A fall of the same size does not snap.
-    EXPECT_EQ(boost(actAt(20, -90), 0, 1), std::pair(20, -18));
-    EXPECT_EQ(boost(actAt(20, -90), 0, -1), std::pair(20, -92));
-}
-
-TEST_F(Hype, APassedMeterRaisesTheReputationByAHeldGain) {
-    // R 2, H 0 + 20: gain round(20/2) = 10 held to 5, R 7, H 13; gain round(13/7) = 2, R 9, H 4.
-    EXPECT_EQ(boost(actAt(2, 0), 0, 10), std::pair(9, 4));
-    // R 10, H 9 + 2 = 11: gain round(1.1) = 1, R 11, H 0. H equal to R raises nothing.
-    EXPECT_EQ(boost(actAt(10, 9), 0, 1), std::pair(11, 0));
-    EXPECT_EQ(boost(actAt(10, 8), 0, 1), std::pair(10, 10));
+TEST_F(Hype, TheMeterMovesByTwiceTheAmountAndPassingEitherEndMovesTheReputation) {
+    struct Case {
+        uint8_t rep;
+        int16_t hype, amount;
+        std::pair<int, int> after;  // reputation, meter
+    };
+    const Case cases[] = {
+        {50, 0, 5, {50, 10}},      // the amount counts double
+        {20, -90, 1, {20, -18}},   // a boost first recovers the whole slump: -90 snaps to -20, then +2
+        {20, -90, -1, {20, -92}},  // a fall of the same size does not snap
+        // R 2, H 0 + 20: gain round(20 / 2) = 10 held to 5, R 7, H 13; gain round(13 / 7) = 2, R 9, H 4.
+        {2, 0, 10, {9, 4}},
+        {10, 9, 1, {11, 0}},        // H 11: gain round(1.1) = 1, R 11, H 0
+        {10, 8, 1, {10, 10}},       // H equal to R raises nothing
+        {20, -98, -1, {20, -100}},  // -100 costs nothing
+        {20, -99, -1, {19, -19}},   // -101: R 19, H = -19
+        {90, -99, -1, {89, -80}},   // H is held to -80 after a loss
+        {2, -99, -1, {2, -2}},      // the floor of 2: no loss, H -2
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(boost(actAt(c.rep, c.hype), 0, c.amount), c.after)
+            << "R " << int(c.rep) << ", H " << c.hype << ", amount " << c.amount;
 }
 
 TEST_F(Hype, AtTheTopTheGainStillCountsForMembersAndLabel) {
@@ -63,17 +71,7 @@ TEST_F(Hype, AtTheTopTheGainStillCountsForMembersAndLabel) {
     EXPECT_EQ(g.label->hype[0], 2) << "the label's meter takes the change";
 }
 
-TEST_F(Hype, BelowMinusOneHundredCostsAPoint) {
-    EXPECT_EQ(boost(actAt(20, -98), 0, -1), std::pair(20, -100));
-    // -101: R 19, H = -19.
-    EXPECT_EQ(boost(actAt(20, -99), 0, -1), std::pair(19, -19));
-    // H is held to -80 after a loss.
-    EXPECT_EQ(boost(actAt(90, -99), 0, -1), std::pair(89, -80));
-    // The floor of 2: no loss, H -2.
-    EXPECT_EQ(boost(actAt(2, -99), 0, -1), std::pair(2, -2));
-}
-
-TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChange) {
+TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChangeUpOrDown) {
     int16_t band = actAt(10, 9, {1, 3, 4});
     boost(band, 0, 1);  // +1 to the band
     g.band.read(band);
@@ -85,12 +83,9 @@ TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChange) {
     boost(solo, 0, 1);
     g.band.read(solo);
     EXPECT_EQ(memberRep(g.band->members[0]), 11) << "a solo artist moves with the act, whatever the job";
-}
-
-TEST_F(Hype, ALossReachesMembersThroughTheSameRule) {
-    int16_t band = actAt(20, -99, {1, 2});
-    boost(band, 0, -1);
-    g.band.read(band);
+    int16_t falling = actAt(20, -99, {1, 2});
+    boost(falling, 0, -1);
+    g.band.read(falling);
     EXPECT_EQ(memberRep(g.band->members[0]), 17);  // 20 - 3
     EXPECT_EQ(memberRep(g.band->members[1]), 18);  // 20 + round(-1.5) = 20 - 2
 }
