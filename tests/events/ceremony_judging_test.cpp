@@ -71,9 +71,7 @@ protected:
 };
 
 TEST_F(Judging, ADuoPassesTheTwoMemberRuleAndASoloActDoesNot) {
-    g.band.read(band);
-    g.band->formedIn = england;  // formedIn names a country
-    g.band.write();              // the world's duo, ability 80
+    amend(g.band, band, [&] { g.band->formedIn = england; });  // a country; the world's duo, ability 80
     int16_t solo = formedIn("Solo", leeds, 90);
     amend(g.band, solo, [&] { g.band->memberCount = 1; });
     award(3, 0);
@@ -108,15 +106,12 @@ TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
     g.award.append();  // no nominees
     g.ceremony.rec = CeremonyRecord{.name = "The Night", .awards = {1, 2}, .playerInvited = kTrue};
     g.ceremony.append();
-    g.schedule.rec = ScheduleRecord{};
-    g.schedule->ceremony = 1;
+    g.schedule.rec = ScheduleRecord{.ceremony = 1};
     int32_t rows = g.achieve.recordCount();
     finishCeremony(g);
     g.award.read(1);
-    EXPECT_EQ(g.award->winner, 1);
-    EXPECT_EQ(g.award->held, 2004);
-    g.award.read(2);
-    EXPECT_EQ(g.award->winner, 0);
+    EXPECT_EQ(std::tuple(int{g.award->winner}, int{g.award->held}), std::tuple(1, 2004));
+    EXPECT_EQ((g.award.read(2), g.award->winner), 0);
     // The band's row and one for each of its two members.
     EXPECT_EQ(g.achieve.recordCount(), rows + 3);
 }

@@ -17,29 +17,23 @@ using namespace trovane;
 namespace {
 
 TEST(SpeechKinds, TheRollSplitsSixtyTenTenTenTen) {
-    EXPECT_EQ(speechKindOf(60, true), SpeechKind::normal);
-    EXPECT_EQ(speechKindOf(61, true), SpeechKind::drunk);
-    EXPECT_EQ(speechKindOf(70, true), SpeechKind::drunk);
-    EXPECT_EQ(speechKindOf(71, true), SpeechKind::angry);
-    EXPECT_EQ(speechKindOf(81, true), SpeechKind::boastful);
-    EXPECT_EQ(speechKindOf(90, true), SpeechKind::boastful);
-    EXPECT_EQ(speechKindOf(90, false), SpeechKind::normal);  // nobody to sneer at
-    EXPECT_EQ(speechKindOf(91, false), SpeechKind::arrogant);
+    using enum SpeechKind;
+    // With nobody to sneer at, 90 is a normal speech.
+    const std::tuple<int, bool, SpeechKind> rolls[] = {{60, true, normal},  {61, true, drunk},    {70, true, drunk},
+                                                       {71, true, angry},   {81, true, boastful}, {90, true, boastful},
+                                                       {90, false, normal}, {91, false, arrogant}};
+    for (auto [roll, rival, kind] : rolls) EXPECT_EQ(speechKindOf(roll, rival), kind) << roll << rival;
 }
 
 class Show : public test::GigWorld, public ::testing::Test {
 protected:
     double night = serialFromCivil(2004, 2, 17);
     int32_t addLine(const char* text, std::array<uint8_t, 5> conditions) {
-        g.thank.rec = ThankRecord{};
-        g.thank->text = text;
-        g.thank->conditions = conditions;
+        g.thank.rec = ThankRecord{.text = text, .conditions = conditions};
         return g.thank.append();
     }
     int16_t addAward(const char* name, uint8_t kind, std::vector<std::pair<int16_t, const char*>> nominees) {
-        g.award.rec = AwardRecord{};
-        g.award->name = name;
-        g.award->kind = kind;
+        g.award.rec = AwardRecord{.name = name, .kind = kind};
         g.award->nomineeCount = static_cast<uint8_t>(nominees.size());
         for (std::size_t i = 0; i < nominees.size(); ++i) {
             g.award->nominees[i] = nominees[i].first;
@@ -48,19 +42,12 @@ protected:
         return static_cast<int16_t>(g.award.append());
     }
     int16_t addCeremony(std::vector<int16_t> awards) {
-        g.ceremony.rec = CeremonyRecord{};
-        g.ceremony->name = "Brit Night";
-        g.ceremony->country = static_cast<uint8_t>(england);
-        g.ceremony->date = night;
+        g.ceremony.rec = CeremonyRecord{.name = "Brit Night", .country = static_cast<uint8_t>(england), .date = night};
         std::copy(awards.begin(), awards.end(), g.ceremony->awards.begin());
         return static_cast<int16_t>(g.ceremony.append());
     }
     void busy(int16_t who, uint8_t type) {
-        ScheduleRecord e{};
-        e.type = type;
-        e.date = night;
-        e.band = who;
-        addSchedules(g, {e});
+        addSchedules(g, {ScheduleRecord{.type = type, .date = night, .band = who}});
     }
     // The show of a ceremony of one award won by the band.
     std::vector<std::string> speechOf(int16_t who, const char* name) {

@@ -27,48 +27,46 @@ protected:
         const int16_t styles[] = {style, childStyle, otherStyle};
         const int16_t cities[] = {leeds, paris, rio};
         const int16_t countries[] = {england, france, brazil};
+        const auto u8 = [](int v) { return static_cast<uint8_t>(v); };
         for (int i = 0; i < 36; ++i) {
-            g.band.rec = BandRecord{};
-            g.band->name = "Act " + std::to_string(i);
-            g.band->style = static_cast<uint8_t>(styles[i % 3]);
-            g.band->ability = static_cast<uint8_t>(i * 37 % 101);
-            g.band->live = static_cast<uint8_t>(i * 53 % 101);
-            g.band->controversy = static_cast<uint8_t>(i * 29 % 101);
-            g.band->age = static_cast<uint8_t>(i % 4);
-            g.band->retired = i % 11 == 5 ? kTrue : kFalse;
-            g.band->formedInCity = static_cast<int16_t>(i % 2 == 0 ? -1 : 0);
-            g.band->formedIn = i % 2 == 0 ? cities[i / 2 % 3] : countries[i / 2 % 3];
-            for (std::size_t m = 0; m < 5; ++m) g.band->reputation[m] = static_cast<uint8_t>((i * 17 + m * 23) % 101);
-            g.band->memberCount = static_cast<uint8_t>(1 + i % 3);
+            g.band.rec = BandRecord{.name = "Act " + std::to_string(i),
+                                    .age = u8(i % 4),
+                                    .ability = u8(i * 37 % 101),
+                                    .style = u8(styles[i % 3]),
+                                    .formedInCity = static_cast<int16_t>(i % 2 == 0 ? -1 : 0),
+                                    .formedIn = i % 2 == 0 ? cities[i / 2 % 3] : countries[i / 2 % 3],
+                                    .memberCount = u8(1 + i % 3),
+                                    .retired = i % 11 == 5 ? kTrue : kFalse,
+                                    .live = u8(i * 53 % 101),
+                                    .controversy = u8(i * 29 % 101)};
+            for (std::size_t m = 0; m < 5; ++m) g.band->reputation[m] = u8((i * 17 + m * 23) % 101);
             const auto act = static_cast<int16_t>(g.band.append());
             for (int m = 0; m < 1 + i % 3; ++m) {
-                g.artist.rec = ArtistRecord{};
-                g.artist->forename = "Member" + std::to_string(m);
-                g.artist->surname = "Of" + std::to_string(i);
-                g.artist->band = static_cast<int16_t>(i % 7 == 3 ? 0 : act);
-                g.artist->style = static_cast<uint8_t>(styles[(i + m) % 3]);
-                g.artist->male = (i + m) % 2 == 0 ? kTrue : kFalse;
-                g.artist->age = static_cast<uint8_t>((i + m) % 3);
-                g.artist->retired = (i * 3 + m) % 13 == 1 ? kTrue : kFalse;
-                g.artist->ability = static_cast<uint8_t>((i * 41 + m * 7) % 101);
-                g.artist->charisma = static_cast<uint8_t>((i * 19 + m * 31) % 101);
-                g.artist->imageRating = static_cast<uint8_t>((i * 13 + m * 43) % 101);
-                g.artist->controversy = static_cast<uint8_t>((i * 23 + m * 11) % 101);
-                for (std::size_t k = 0; k < 5; ++k)
-                    g.artist->reputation[k] = static_cast<uint8_t>((i * 7 + m * 5 + k * 3) % 101);
+                g.artist.rec = ArtistRecord{.retired = (i * 3 + m) % 13 == 1 ? kTrue : kFalse,
+                                            .forename = "Member" + std::to_string(m),
+                                            .surname = "Of" + std::to_string(i),
+                                            .age = u8((i + m) % 3),
+                                            .ability = u8((i * 41 + m * 7) % 101),
+                                            .style = u8(styles[(i + m) % 3]),
+                                            .male = (i + m) % 2 == 0 ? kTrue : kFalse,
+                                            .band = static_cast<int16_t>(i % 7 == 3 ? 0 : act),
+                                            .charisma = u8((i * 19 + m * 31) % 101),
+                                            .controversy = u8((i * 23 + m * 11) % 101),
+                                            .imageRating = u8((i * 13 + m * 43) % 101)};
+                for (std::size_t k = 0; k < 5; ++k) g.artist->reputation[k] = u8((i * 7 + m * 5 + k * 3) % 101);
                 const auto who = static_cast<int16_t>(g.artist.append());
                 amend(g.band, act, [&] { g.band->members[static_cast<std::size_t>(m)] = who; });
             }
             for (int d = 0; d < 2; ++d) {
                 const int16_t disc = addDisc(("Disc " + std::to_string(i) + "." + std::to_string(d)).c_str(), 0, act,
                                              static_cast<uint8_t>(d));
-                g.disc.read(disc);
-                g.disc->quality = static_cast<uint8_t>((i * 31 + d * 17) % 101);
-                g.disc->commerciality = static_cast<uint8_t>((i * 43 + d * 5) % 101);
-                g.disc->releaseDate.fill(0);
-                g.disc->releaseDate[static_cast<std::size_t>(i % 5)] = g.gameDate - (i * 23 + d * 97) % 500;
-                g.disc->lifetimeSales = {i * 90'000, d * 250'000, 0, i * 11'000, 5};
-                g.disc.write();
+                amend(g.disc, disc, [&] {
+                    g.disc->quality = u8((i * 31 + d * 17) % 101);
+                    g.disc->commerciality = u8((i * 43 + d * 5) % 101);
+                    g.disc->releaseDate.fill(0);
+                    g.disc->releaseDate[static_cast<std::size_t>(i % 5)] = g.gameDate - (i * 23 + d * 97) % 500;
+                    g.disc->lifetimeSales = {i * 90'000, d * 250'000, 0, i * 11'000, 5};
+                });
             }
         }
     }
@@ -76,17 +74,16 @@ protected:
     // The nominees of an award as "id:score" pairs, the first one's name after a bar.
     std::string judge(uint8_t kind, uint8_t basis, uint8_t weight, uint8_t styleRule, int16_t originRule,
                       uint8_t genderRule, uint8_t ageClass, uint8_t sizeRule) {
-        g.award.rec = AwardRecord{};
-        g.award->kind = kind;
-        g.award->basis = basis;
-        g.award->weight = weight;
-        g.award->styleRule = styleRule;
-        g.award->originRule = originRule;
-        g.award->genderRule = genderRule;
-        g.award->ageClass = ageClass;
-        g.award->sizeRule = sizeRule;
-        g.award->controversyRange = {10, 90};
-        g.award->commercialityRange = {5, 95};
+        g.award.rec = AwardRecord{.genderRule = genderRule,
+                                  .kind = kind,
+                                  .basis = basis,
+                                  .weight = weight,
+                                  .styleRule = styleRule,
+                                  .ageClass = ageClass,
+                                  .originRule = originRule,
+                                  .commercialityRange = {5, 95},
+                                  .controversyRange = {10, 90},
+                                  .sizeRule = sizeRule};
         g.country.read(england);
         const NomineeList list = judgeAward(g);
         std::string out;

@@ -36,8 +36,7 @@ protected:
         return v;
     }
     void playerBornOn(double born) {
-        g.staff.rec = StaffRecord{};
-        g.staff->birthDate = born;
+        g.staff.rec = StaffRecord{.birthDate = born};
         g.player.playerStaff = static_cast<int16_t>(g.staff.append());
         g.player.playerForename = "Ivo";
     }
@@ -64,8 +63,7 @@ TEST_F(Scores, ANewGameFilesOnlyTheBirthdaysLeftInItsYear) {
     EXPECT_EQ(birthdaysFiled()[0].first, on);
     g.schedule.rec = ScheduleRecord{.artist = on};
     artistBirthday(g);  // a year older
-    g.artist.read(on);
-    EXPECT_EQ(g.artist->age, 31);
+    EXPECT_EQ((g.artist.read(on), g.artist->age), 31);
 }
 
 TEST_F(Scores, TheBirthdayNoteListsWhoSharesThePlayersDay) {
@@ -104,10 +102,8 @@ TEST_F(Scores, OneCareerKeepsOneRowAndASecondCareerAddsItsOwn) {
     g.highscore.open(dataFile(g, "highscore", "gam"), IfMissing::fail);
     ASSERT_EQ(g.highscore.recordCount(), 3);  // two rows after the unused record 0
     g.highscore.read(1);
-    EXPECT_EQ(g.highscore->game, 7);
-    EXPECT_EQ(g.highscore->score, 2500);
-    g.highscore.read(2);
-    EXPECT_EQ(g.highscore->game, 8);
+    EXPECT_EQ(std::tuple(g.highscore->game, g.highscore->score), std::tuple(7, 2500));
+    EXPECT_EQ((g.highscore.read(2), g.highscore->game), 8);
     g.highscore.close();
 }
 
@@ -168,8 +164,7 @@ TEST_F(HiddenBands, TheActJoinsTheEndOfTheTablesSignedToThePlayer) {
     EXPECT_EQ(std::tuple(g.band->label, g.band->members[0], g.band->members[1]), std::tuple(player, 3, 4));
     g.artist.read(4);
     EXPECT_EQ(std::tuple(g.artist->id, g.artist->band), std::tuple(4, 2));
-    g.label.read(player);
-    EXPECT_EQ(g.label->bandCount, 1);
+    EXPECT_EQ((g.label.read(player), g.label->bandCount), 1);
 }
 
 TEST_F(HiddenBands, ASoloActHasBeenUnlocked) {

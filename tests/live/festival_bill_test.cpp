@@ -95,8 +95,7 @@ TEST_F(FestivalBill, AnEmptyPlaceEndsTheBill) {
     tour = scheduled();
     fill(tour);
     g.gig.read(gigsOf(tour)[1]);
-    EXPECT_EQ(g.gig->bill[0], only);
-    EXPECT_EQ(g.gig->bill[1], 0);
+    EXPECT_EQ(std::tuple(g.gig->bill[0], g.gig->bill[1]), std::tuple(only, int16_t{0}));
 }
 
 TEST_F(FestivalBill, ThePlayersActIsInvitedAndTheNextActHoldsThePlace) {
@@ -116,11 +115,9 @@ TEST_F(FestivalBill, ThePlayersActIsInvitedAndTheNextActHoldsThePlace) {
               "Farm. Do you want to accept the offer?");
     g.news.read(lastNews());
     g.schedule.read(g.news->scheduleLink);
-    EXPECT_EQ(g.schedule->type, 23);
-    EXPECT_EQ(g.schedule->date, g.gameDate + 1);
-    EXPECT_EQ(g.schedule->band, band);
-    EXPECT_EQ(g.schedule->gig, gigsOf(tour)[0]);
-    EXPECT_EQ(g.schedule->value, 0);
+    const ScheduleRecord& e = g.schedule.rec;
+    EXPECT_EQ(std::tuple(e.type, e.date, e.band, e.gig, e.value),
+              std::tuple(uint8_t{23}, g.gameDate + 1, band, gigsOf(tour)[0], 0));
 }
 
 TEST_F(FestivalBill, AOneDayInvitationReadsOneGigAndItsPlace) {

@@ -76,14 +76,12 @@ TEST_F(HandTour, TheRoadBetweenVenuesTakesOneToFiveDays) {
 TEST_F(HandTour, TheFirstGigIsSixWeeksOutAndLaterOnesAGapAfterTheLast) {
     int16_t t = tour();
     NextGig opening = earliestNextGig(g, hall);
-    EXPECT_EQ(opening.date, g.gameDate + 42);
-    EXPECT_EQ(opening.rest, 0);
+    EXPECT_EQ(std::tuple(opening.date, opening.rest), std::tuple(g.gameDate + 42, 0));
     EXPECT_EQ(tourGigRefusal(g, t, hall, first - 1), "A gig must be booked at least six weeks ahead.");
     addTourGig(g, t, hall, first);
     g.tour.read(t);
     NextGig next = earliestNextGig(g, stadium);
-    EXPECT_EQ(next.date, first + 3);
-    EXPECT_EQ(next.rest, 3);
+    EXPECT_EQ(std::tuple(next.date, next.rest), std::tuple(first + 3, 3));
     EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 2),
               "The tour can't reach Stadium before 19/2/2004.");  // 5 January + 42 days + 3
     EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 3), "");
@@ -118,8 +116,7 @@ TEST_F(HandTour, TheFortiethGigIsTakenAndTheFortyFirstRefusedAddingNothing) {
     g.venue.read(hall);
     EXPECT_EQ(addGigToTour(g, first + 45, 0), 0);
     EXPECT_EQ(g.gig.recordCount(), gigs);
-    g.tour.read(t);
-    EXPECT_EQ(g.tour->gigCount, 40);
+    EXPECT_EQ((g.tour.read(t), g.tour->gigCount), 40);
     EXPECT_TRUE(typesOn(first + 45).empty());
 }
 
@@ -212,8 +209,7 @@ TEST_F(Supports, RemovingASupportClosesTheGapOnEveryGig) {
     removeSupportBand(g, t, b);
     EXPECT_EQ(billOf(one), (std::array<int16_t, 4>{band, a, c, 0}));
     EXPECT_EQ(billOf(two), (std::array<int16_t, 4>{band, a, c, 0}));
-    g.tour.read(t);
-    EXPECT_EQ(g.tour->supportCount, 2);
+    EXPECT_EQ((g.tour.read(t), g.tour->supportCount), 2);
 }
 
 TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
@@ -238,22 +234,18 @@ TEST_F(Supports, CancellingCallsOffTheTourButNotOthersDays) {
             g.schedule.read(id);
             EXPECT_EQ(g.schedule->type, g.schedule->band == a ? 7 : 255) << d - first;
         }
-    g.tour.read(t);
-    EXPECT_EQ(g.tour->gigCount, 0);
+    EXPECT_EQ((g.tour.read(t), g.tour->gigCount), 0);
     g.band.read(band);
     EXPECT_EQ(bandEngagement(g, 1, first), 0);
 }
 
 TEST_F(Supports, FinalisingATourWithoutGigsRemovesItAndAnUnchosenSponsorIsNone) {
-    g.tour.read(t);
-    EXPECT_EQ(g.tour->sponsorProduct, -1);
+    EXPECT_EQ((g.tour.read(t), g.tour->sponsorProduct), -1);
     EXPECT_TRUE(finaliseTour(g, t));
-    g.tour.read(t);
-    EXPECT_EQ(g.tour->sponsorProduct, 0);
+    EXPECT_EQ((g.tour.read(t), g.tour->sponsorProduct), 0);
     int16_t empty = tour();
     EXPECT_FALSE(finaliseTour(g, empty));
-    g.tour.read(empty);
-    EXPECT_EQ(g.tour->gigCount, 0);
+    EXPECT_EQ((g.tour.read(empty), g.tour->gigCount), 0);
 }
 
 TEST_F(Supports, TheSummaryNamesLengthSupportsAndLevels) {
@@ -276,10 +268,8 @@ TEST_F(HandTour, TheRoadFeedsAHabitAlreadyBegunUpToAHundred) {
                 g.artist->energy = 80;
             });
         applyEventFatigue(g, ScheduleRecord{.type = static_cast<uint8_t>(type), .band = band});
-        g.artist.read(m0);
-        EXPECT_EQ(g.artist->drugHabit, after) << type << " from " << before;
-        g.artist.read(m1);
-        EXPECT_EQ(g.artist->drugHabit, 0) << "a habit not begun stays unbegun, " << type;
+        EXPECT_EQ((g.artist.read(m0), g.artist->drugHabit), after) << type << " from " << before;
+        EXPECT_EQ((g.artist.read(m1), g.artist->drugHabit), 0) << "a habit not begun stays unbegun, " << type;
     }
 }
 

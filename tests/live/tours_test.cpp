@@ -43,16 +43,11 @@ TEST_F(Booking, ANightNeedsSixWeeksAnActiveActOfTheLabelAndTimeBeforeARetirement
 
 TEST_F(Booking, ABookedNightIsATourOfOneAndKeepsTheBandBusy) {
     BookedGig booked = bookGig(g, {.band = band, .venue = hall, .date = g.gameDate + 42, .contentLevel = 0});
-    g.tour.read(booked.tour);
-    EXPECT_EQ(g.tour->gigCount, 1);
-    EXPECT_EQ(g.tour->gigs[0], booked.gig);
-    EXPECT_EQ(g.tour->band, band);
-    EXPECT_EQ(g.tour->contentLevel, 0);
-    EXPECT_EQ(g.tour->sponsorProduct, 0);
-    EXPECT_EQ(g.tour->areaCode.value, "E");
+    const TourRecord t = (g.tour.read(booked.tour), g.tour.rec);
+    EXPECT_EQ(std::tuple(t.gigCount, t.gigs[0], t.band, t.contentLevel, t.sponsorProduct, t.areaCode.value),
+              std::tuple(uint8_t{1}, booked.gig, band, uint8_t{0}, int16_t{0}, std::string("E")));
     g.gig.read(booked.gig);
-    EXPECT_EQ(g.gig->bill[0], band);
-    EXPECT_EQ(g.gig->venue, hall);
+    EXPECT_EQ(std::tuple(g.gig->bill[0], g.gig->venue), std::tuple(band, hall));
     EXPECT_EQ(typesOn(g.gameDate + 42), std::vector<uint8_t>{8});
     EXPECT_EQ(gigBookingRefusal(g, booking(42)), "The Testers are already busy on that day.");
 }

@@ -76,9 +76,8 @@ TEST(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
     ASSERT_EQ(checkBuildFacility(g, order), "");
     int16_t firm = buildFacility(g, order);
     g.business.read(firm);
-    EXPECT_EQ(g.business->open, 0);
-    EXPECT_EQ(g.business->owner, AlbumWorld::kPlayer);
-    EXPECT_EQ(g.business->runningCost, 20250);
+    EXPECT_EQ(std::tuple(g.business->open, g.business->owner, g.business->runningCost),
+              std::tuple(int16_t{0}, AlbumWorld::kPlayer, 20250));
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerBusinessUpkeep), -moneyUnits(990000));
     EXPECT_TRUE(chooseBusiness(g, kStudio).empty()) << "not open while being built";
     EXPECT_EQ(trim(w.lastNews().title.value), "Home Rooms plans finalised.");
@@ -89,13 +88,11 @@ TEST(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
     std::vector<int32_t> entries = entriesOfDay(g, serialFromCivil(2005, 2, 5));
     ASSERT_EQ(entries.size(), 1u);
     g.schedule.read(entries[0]);
-    EXPECT_EQ(g.schedule->type, 24);
-    EXPECT_EQ(g.schedule->business, firm);
+    EXPECT_EQ(std::tuple(int{g.schedule->type}, g.schedule->business), std::tuple(24, firm));
     EXPECT_TRUE(entriesOfDay(g, serialFromCivil(2005, 2, 4)).empty());
 
     openBusiness(g);
-    g.business.read(firm);
-    EXPECT_EQ(g.business->open, -1);
+    EXPECT_EQ((g.business.read(firm), g.business->open), -1);
     EXPECT_EQ(chooseBusiness(g, kStudio), (std::vector<int16_t>{firm}));
     EXPECT_EQ(trim(w.lastNews().title.value), "Home Rooms opens for business.");
     EXPECT_EQ(trim(w.lastNews().text.value),

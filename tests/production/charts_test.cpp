@@ -29,9 +29,10 @@ protected:
         closeChart(g);
     }
     void setBest(int16_t d, uint8_t best) {
-        g.disc.read(d);
-        g.disc->bestPosition[0] = best;
-        g.disc.write();
+        amend(g.disc, d, [&] { g.disc->bestPosition[0] = best; });
+    }
+    void sellTo(int16_t d, int16_t to) {
+        amend(g.disc, d, [&] { g.disc->label = to; });
     }
     std::array<uint8_t, 4> ukPeaks() {
         BandRecord b = bandRec(band);
@@ -68,71 +69,57 @@ TEST_F(Charts, EachRowOfTheGlobalChartRaisesItsOwnBandAndKeepsNoWeeksNorHits) {
     award(4);
     // Row 1: f 50, doubled 100 against R 50: gain 2, R 52, H 48. Row 2 (a
     // week out): p 78, d 0, f 39, doubled 78: gain round(78 / 50) = 2, R 52, H 26.
-    EXPECT_EQ(bandRec(band).reputation[4], 52);
-    EXPECT_EQ(bandRec(band).hype[4], 48);
-    EXPECT_EQ(bandRec(other).reputation[4], 52);
-    EXPECT_EQ(bandRec(other).hype[4], 26);
-    EXPECT_EQ(bandRec(other).bandPoints[4], 99);
-    EXPECT_EQ(disc(ours).chartPoints[4], 100);
-    EXPECT_EQ(disc(ours).bestPosition[4], 0);
+    EXPECT_EQ(std::tuple(bandRec(band).reputation[4], bandRec(band).hype[4], bandRec(other).reputation[4],
+                         bandRec(other).hype[4], bandRec(other).bandPoints[4]),
+              std::tuple(uint8_t{52}, int16_t{48}, uint8_t{52}, int16_t{26}, 99));
+    EXPECT_EQ(std::tuple(disc(ours).chartPoints[4], disc(ours).bestPosition[4]), std::tuple(int16_t{100}, uint8_t{0}));
     EXPECT_EQ(bandRec(band).chartCounts, (std::array<int16_t, 8>{}));
 }
 
 TEST_F(Charts, ANumberOneInItsFirstWeekRaisesTheBandAndItsLabelsDiscs) {
     int16_t ours = addDisc("Ours");
     int16_t theirs = addDisc("Theirs", 1000, addBand("Others", rival));
-    g.disc.read(theirs);
-    g.disc->label = rival;
-    g.disc.write();
+    sellTo(theirs, rival);
     addRow(0, ours);
     addRow(0, theirs);
     award(0);
     // Position 1, week 1: p 100, d 0, f 50; doubled to 100 against R 50, H 0:
     // gain round(100 / 50) = 2, R 52, H 48.
+    // The rise reaches the label's charting discs.
     BandRecord b = bandRec(band);
-    EXPECT_EQ(b.reputation[0], 52);
-    EXPECT_EQ(b.hype[0], 48);
-    EXPECT_EQ(disc(ours).hype[0], 52);  // the rise reaches the label's charting discs
-    EXPECT_EQ(disc(ours).chartPoints[0], 100);
-    EXPECT_EQ(disc(theirs).chartPoints[0], 99);
-    EXPECT_EQ(b.bandPoints[0], 100);
+    EXPECT_EQ(std::tuple(b.reputation[0], b.hype[0], disc(ours).hype[0], b.bandPoints[0]),
+              std::tuple(uint8_t{52}, int16_t{48}, uint8_t{52}, 100));
+    EXPECT_EQ(std::tuple(disc(ours).chartPoints[0], disc(theirs).chartPoints[0], disc(ours).weeksOnChart[0]),
+              std::tuple(int16_t{100}, int16_t{99}, int16_t{1}));
     EXPECT_EQ(labelRec(label).points[0], 100);
-    EXPECT_EQ(disc(ours).weeksOnChart[0], 1);
 }
 
 TEST_F(Charts, ARiseSpreadsOverTheDiscsItNames) {
     int16_t other = addBand("Others", label);
     int16_t ours = addDisc("Ours"), theirs = addDisc("Theirs", 1000, other), single = addDisc("S", 0, 0, 1);
     int16_t elsewhere = addDisc("Away", 1000, addBand("Away", rival));
-    g.disc.read(elsewhere);
-    g.disc->label = rival;
-    g.disc.write();
+    sellTo(elsewhere, rival);
     for (int16_t d : {ours, theirs, elsewhere}) addRow(0, d);
     addRow(5, single);
     g.band.read(band);
+    auto hypes = [&](std::vector<int16_t> discs) {
+        std::vector<int> out;
+        for (int16_t d : discs) out.push_back(disc(d).hype[0]);
+        return out;
+    };
     spreadHypeRise(g, 1, 0, band, 7);
-    EXPECT_EQ(disc(ours).hype[0], 57);
-    EXPECT_EQ(disc(single).hype[0], 57);
-    EXPECT_EQ(disc(theirs).hype[0], 50);
+    EXPECT_EQ(hypes({ours, single, theirs}), (std::vector{57, 57, 50}));
     g.band.read(band);
     spreadHypeRise(g, 0, 0, label, 60);
-    EXPECT_EQ(disc(ours).hype[0], 100);
-    EXPECT_EQ(disc(theirs).hype[0], 100);
-    EXPECT_EQ(disc(elsewhere).hype[0], 50);
+    EXPECT_EQ(hypes({ours, theirs, elsewhere}), (std::vector{100, 100, 50}));
     // A disc that changes hands, and then a row added, are seen by the next rise.
-    g.disc.read(theirs);
-    g.disc->label = rival;
-    g.disc.write();
+    sellTo(theirs, rival);
     spreadHypeRise(g, 0, 0, rival, -20);
-    EXPECT_EQ(disc(theirs).hype[0], 80);
-    EXPECT_EQ(disc(elsewhere).hype[0], 30);
-    EXPECT_EQ(disc(ours).hype[0], 100);
+    EXPECT_EQ(hypes({theirs, elsewhere, ours}), (std::vector{80, 30, 100}));
     int16_t late = addDisc("Late");
     addRow(0, late);
     spreadHypeRise(g, 0, 0, label, -10);
-    EXPECT_EQ(disc(late).hype[0], 40);
-    EXPECT_EQ(disc(ours).hype[0], 90);
-    EXPECT_EQ(disc(theirs).hype[0], 80);
+    EXPECT_EQ(hypes({late, ours, theirs}), (std::vector{40, 90, 80}));
 }
 
 TEST_F(Charts, ARiseByDiscReachesThatDiscAndLeavesTheBuffersAtTheLastRow) {
@@ -161,9 +148,7 @@ TEST_F(Charts, ARiseByDiscReachesThatDiscAndLeavesTheBuffersAtTheLastRow) {
 
 TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelow) {
     int16_t sold = addDisc("Sold"), unsold = addDisc("Unsold");
-    g.disc.read(sold);
-    g.disc->totalSales[0] = 1;
-    g.disc.write();
+    amend(g.disc, sold, [&] { g.disc->totalSales[0] = 1; });
     for (int i = 0; i < 199; ++i) addRow(0, sold);
     for (int i = 0; i < 6; ++i) addRow(0, i % 2 ? unsold : sold);
     tidyCharts(g);
@@ -174,27 +159,25 @@ TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelow) {
 }
 
 TEST_F(Charts, SeedingDerivesWeeksHypeAndTheEntryPosition) {
-    g.label.read(label);
-    g.label->department[3].rating = 100;  // a perfect marketing department adds 25
-    g.label.write();
+    amend(g.label, label, [&] { g.label->department[3].rating = 100; });  // a perfect marketing department adds 25
     int16_t d = addDisc("Old");
-    g.disc.read(d);
-    g.disc->releaseDate = {g.gameDate - 21, g.gameDate - 21, 0, g.gameDate + 14, g.gameDate - 21};
-    g.disc->peakPosition = {7, 3, 0, 0};
-    g.disc.write();
+    amend(g.disc, d, [&] {
+        g.disc->releaseDate = {g.gameDate - 21, g.gameDate - 21, 0, g.gameDate + 14, g.gameDate - 21};
+        g.disc->peakPosition = {7, 3, 0, 0};
+    });
     seedCharts(g);
     DiscRecord r = disc(d);
-    EXPECT_EQ(r.weeksOnChart[0], 3);
-    EXPECT_EQ(r.hype[0], 48);  // 75, then x 0.8 twice: 60, 48
-    openChart(g, 0);
-    g.chart.read(1);
-    EXPECT_EQ(g.chart->previousPosition, 7);
-    EXPECT_EQ(g.chart->lastHype, 48);
-    closeChart(g);
-    openChart(g, 4);
-    g.chart.read(1);
-    EXPECT_EQ(g.chart->previousPosition, 0);
-    closeChart(g);
+    // 75, then x 0.8 twice: 60, 48.
+    EXPECT_EQ(std::tuple(r.weeksOnChart[0], r.hype[0]), std::tuple(int16_t{3}, uint8_t{48}));
+    auto firstRow = [&](int chart) {
+        openChart(g, chart);
+        g.chart.read(1);
+        std::pair<int, int> row(g.chart->previousPosition, g.chart->lastHype);
+        closeChart(g);
+        return row;
+    };
+    EXPECT_EQ(firstRow(0), (std::pair{7, 48}));
+    EXPECT_EQ(firstRow(4).first, 0);
     EXPECT_TRUE(chartDiscs(2).empty());
     EXPECT_TRUE(chartDiscs(3).empty());  // Oceania's date is still to come
 }

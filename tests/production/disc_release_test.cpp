@@ -111,8 +111,8 @@ TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
     ASSERT_EQ(pressDiscsRefusal(g, d, owned, copies), "");
     pressDiscs(g, d, owned, copies);
     // 1250 + 75000; 100000 / 16000 a day = 6 days -> round(6 / 7 + 1) = 2 weeks.
-    EXPECT_EQ(ledger(label, ledgerManufacture), -moneyUnits(76250));
-    EXPECT_EQ(ledger(rival, ledgerBusinesses), moneyUnits(76250));
+    EXPECT_EQ(std::tuple(ledger(label, ledgerManufacture), ledger(rival, ledgerBusinesses)),
+              std::tuple(-moneyUnits(76250), moneyUnits(76250)));
     EXPECT_EQ(entriesOfType(25).size(), 2u);
     EXPECT_EQ(disc(d).pressingOrder[0], 100000);
 }
@@ -152,16 +152,13 @@ TEST_F(Release, TheBillCoversTerritoriesOutInSixDays) {
 
 TEST_F(Release, DistributorNeededMovesItsDateAndNamesTheTerritories) {
     int16_t d = recorded();
-    g.disc.read(d);
     double out = g.gameDate + 7;
-    g.disc->releaseDate = {out, 0, out, 0, 0};
-    g.disc.write();
+    amend(g.disc, d, [&] { g.disc->releaseDate = {out, 0, out, 0, 0}; });
     int32_t entry = addSchedule(g, ScheduleRecord{.type = 26, .date = g.gameDate, .disc = d});
     g.schedule.read(entry);
     int32_t before = g.news.recordCount();
     distributorNeeded(g);
-    g.schedule.read(entry);
-    EXPECT_EQ(g.schedule->date, out);
+    EXPECT_EQ((g.schedule.read(entry), g.schedule->date), out);
     g.news.read(before);
     EXPECT_EQ(trim(g.news->title.value), "Distributor required for album New");
     EXPECT_EQ(trim(g.news->text.value),
@@ -185,10 +182,9 @@ TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
     releaseDay(g);
     DiscRecord r = disc(d);
     EXPECT_GT(r.distributor[0], 0);
-    EXPECT_EQ(r.distributor[1], 0);
-    EXPECT_EQ(r.hype[0], 50);       // reputation 50, no marketing
-    EXPECT_EQ(r.promotion[0], 70);  // 20 + 50
-    EXPECT_EQ(r.income, -moneyUnits(30000));
+    // Hype is the reputation of 50, with no marketing; promotion 20 + 50.
+    EXPECT_EQ(std::tuple(r.distributor[1], r.hype[0], r.promotion[0], r.income),
+              std::tuple(int16_t{0}, uint8_t{50}, uint8_t{70}, -moneyUnits(30000)));
     EXPECT_EQ(chartDiscs(0), std::vector<int16_t>{d});
     EXPECT_TRUE(chartDiscs(1).empty());
     EXPECT_EQ(bandRec(band).optionMonthsLeft, 0);

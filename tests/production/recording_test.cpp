@@ -65,10 +65,9 @@ TEST(Recording, FinalisingMakesTheDiscFromTheMarkedSongsAndHoldsTheRest) {
     ASSERT_EQ(checkFinaliseAlbum(g, w.band, w.tracks()), "");
     int16_t disc = finaliseAlbum(g, w.band, w.tracks());
     g.disc.read(disc);
-    EXPECT_EQ(g.disc->trackCount, 2);
-    EXPECT_EQ(g.disc->quality, 40) << "(40 + 41) / 2 = 40.5 to the even 40";
-    EXPECT_EQ(g.disc->commerciality, 62) << "(61 + 62) / 2 = 61.5 to the even 62";
-    EXPECT_EQ(g.disc->label, AlbumWorld::kPlayer);
+    // (40 + 41) / 2 = 40.5 to the even 40; (61 + 62) / 2 = 61.5 to the even 62.
+    EXPECT_EQ(std::tuple(g.disc->trackCount, g.disc->quality, g.disc->commerciality, g.disc->label),
+              std::tuple(uint8_t{2}, uint8_t{40}, uint8_t{62}, AlbumWorld::kPlayer));
     EXPECT_EQ(trim(g.disc->coverImage.value), "none.jpg");
     for (std::size_t i : {0u, 1u, 2u}) EXPECT_EQ((g.song.read(w.songs[i]), g.song->disc), i < 2 ? disc : 65534) << i;
     EXPECT_TRUE(songsInHand(g, w.band).empty());
@@ -113,8 +112,7 @@ TEST(Recording, AskingForAnAlbumNeedsThePlayersBandWithNoneInHand) {
               "So far, although they have written 4 tracks they have not been working full-time on material.");
     workOnAlbum(g, w.band, 3);
     g.band.read(w.band);
-    EXPECT_EQ(g.band->albumStatus, 1);
-    EXPECT_EQ(g.band->materialBudget, 3);
+    EXPECT_EQ(std::tuple(g.band->albumStatus, g.band->materialBudget), std::tuple(uint8_t{1}, uint8_t{3}));
 }
 
 TEST(Recording, SessionsSkipABusyDayAndTheLabelPaysTheStudio) {
@@ -140,8 +138,7 @@ TEST(Recording, SessionsSkipABusyDayAndTheLabelPaysTheStudio) {
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(18228));
     EXPECT_EQ(w.cash(AlbumWorld::kPlayer), -moneyUnits(18228));
     g.band.read(w.band);
-    EXPECT_EQ(g.band->albumStatus, 2);
-    EXPECT_EQ(g.band->songsWritten, disc);
+    EXPECT_EQ(std::tuple(int{g.band->albumStatus}, g.band->songsWritten), std::tuple(2, int{disc}));
     EXPECT_EQ(checkBookStudio(g, disc, studio), "This disc has already been booked into a studio.");
 }
 
@@ -194,10 +191,8 @@ TEST(Recording, ALastDayLostToRestIsBookedAgain) {
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerStudioFees), -moneyUnits(450)) << "a day lost before the end is not";
     amend(g.artist, 1, [&] { g.artist->energy = 50; });
     w.playStudioDay(today + 16);
-    g.disc.read(disc);
-    EXPECT_EQ(g.disc->tracksRecorded, 1);
-    g.band.read(w.band);
-    EXPECT_EQ(g.band->albumStatus, 3);
+    EXPECT_EQ((g.disc.read(disc), g.disc->tracksRecorded), 1);
+    EXPECT_EQ((g.band.read(w.band), g.band->albumStatus), 3);
 }
 
 TEST(Recording, TheLastTrackOfAnAlbumPaysTheSecondThirdAndTellsThePlayer) {
@@ -210,8 +205,7 @@ TEST(Recording, TheLastTrackOfAnAlbumPaysTheSecondThirdAndTellsThePlayer) {
     setDiscTitle(g, disc, "First Light");
     bookStudio(g, disc, studio);
     w.playStudioDay(today + 14);
-    g.band.read(w.band);
-    EXPECT_EQ(g.band->albumStatus, 3);
+    EXPECT_EQ((g.band.read(w.band), g.band->albumStatus), 3);
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(20000)) << "60,000 / 3";
     const NewsRecord& n = w.lastNews();
     EXPECT_EQ(trim(n.title.value), "Tapes complete the recording of their new album.");
@@ -233,21 +227,18 @@ TEST(Recording, AFinishedSingleLeavesTheAlbumAndTheAdvanceAlone) {
     Game& g = w.g;
     w.setStamina(100);
     int16_t studio = w.addFirm("Rooms", kStudio, 10, 0);
-    g.disc.rec = DiscRecord{};
-    g.disc->isSingle = 1;
-    g.disc->band = w.band;
-    g.disc->trackCount = 3;
-    g.disc->tracksRecorded = 2;
-    g.disc->tracks = {w.songs[0], w.songs[1], w.songs[2]};
-    g.disc->studio = studio;
-    g.disc->recordingDue = g.gameDate + 5;
+    g.disc.rec = DiscRecord{.isSingle = 1,
+                            .studio = studio,
+                            .band = w.band,
+                            .tracks = {w.songs[0], w.songs[1], w.songs[2]},
+                            .trackCount = 3,
+                            .tracksRecorded = 2,
+                            .recordingDue = g.gameDate + 5};
     int16_t disc = static_cast<int16_t>(g.disc.append());
     g.schedule.rec = ScheduleRecord{.type = 7, .date = g.gameDate, .band = w.band, .disc = disc};
     recordingDay(g);
-    g.disc.read(disc);
-    EXPECT_EQ(g.disc->tracksRecorded, 3);
-    g.band.read(w.band);
-    EXPECT_EQ(g.band->albumStatus, 1);
+    EXPECT_EQ((g.disc.read(disc), g.disc->tracksRecorded), 3);
+    EXPECT_EQ((g.band.read(w.band), g.band->albumStatus), 1);
     EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), 0);
     EXPECT_EQ(trim(w.lastNews().title.value), "Tapes complete the recording of their new single.");
 }

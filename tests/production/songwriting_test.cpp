@@ -122,9 +122,8 @@ TEST(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred
     // 91 to 109, held at 100.
     EXPECT_EQ(spreadOf(g, band, 400, true), (std::array{46, 54, 91, 100}));
     g.song.read(1);
-    EXPECT_EQ(trim(g.song->writerForename.value), "Member1");
-    EXPECT_EQ(g.song->writer, 1);
-    EXPECT_EQ(g.song->disc, 65535);
+    EXPECT_EQ(std::tuple(trim(g.song->writerForename.value), g.song->writer, g.song->disc),
+              std::tuple(std::string("Member1"), 1, 65535));
     EXPECT_EQ(trim(g.song->title.value), "Untitled") << "a rival's songs take no bank title";
 }
 
@@ -148,8 +147,7 @@ TEST_P(BoughtMaterial, EachBudgetHasItsQualityCommercialityAndPrice) {
     EXPECT_EQ(spreadOf(g, band, songs, false),
               (std::array{want.quality - 9, want.quality + 9, want.lowestCommerciality, 69}));
     g.song.read(1);
-    EXPECT_EQ(trim(g.song->writerForename.value), "Unknown");
-    EXPECT_EQ(g.song->writer, 0);
+    EXPECT_EQ(std::tuple(trim(g.song->writerForename.value), g.song->writer), std::tuple(std::string("Unknown"), 0));
     EXPECT_EQ(w.ledger(AlbumWorld::kRival, ledgerOtherExpense), -moneyUnits(want.price * songs));
 }
 
@@ -159,12 +157,9 @@ TEST(Songwriting, SongTitlesComeFromTheBankForThePlayersBands) {
     AlbumWorld w;
     Game& g = w.g;
     int16_t band = w.addBand("Ours", AlbumWorld::kPlayer);
-    g.newsong->title = std::string("Other Style");
-    g.newsong->style = 2;
+    g.newsong.rec = NewSongRecord{.title = "Other Style", .style = 2};
     g.newsong.append();
-    g.newsong->title = std::string("Worn Out");
-    g.newsong->style = 1;
-    g.newsong->uses = 100;
+    g.newsong.rec = NewSongRecord{.title = "Worn Out", .style = 1, .uses = 100};
     g.newsong.append();
     g.band.read(band);
     // Neither fits (one is another style, the other used 100 times against 0..99):
@@ -179,10 +174,8 @@ TEST(Songwriting, SongTitlesComeFromTheBankForThePlayersBands) {
     g.artist.read(1);
     g.band.read(band);
     writeSong(g, true, true);
-    g.song.read(1);
-    EXPECT_EQ(trim(g.song->title.value), "Worn Out");
-    g.newsong.read(2);
-    EXPECT_EQ(g.newsong->uses, 1);
+    EXPECT_EQ((g.song.read(1), trim(g.song->title.value)), "Worn Out");
+    EXPECT_EQ((g.newsong.read(2), g.newsong->uses), 1);
 }
 
 TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
@@ -200,8 +193,7 @@ TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
     g.artist.read(2);
     EXPECT_EQ(g.artist->wealth, 5000);
     g.band.read(band);
-    EXPECT_EQ(g.band->firstInstallmentDue, 0);
-    EXPECT_EQ(g.band->songsWritten, 1);
+    EXPECT_EQ(std::tuple(g.band->firstInstallmentDue, g.band->songsWritten), std::tuple(0, 1));
     const NewsRecord& n = w.lastNews();
     EXPECT_EQ(trim(n.title.value), "Paid paid the first installment of their advance.");
     EXPECT_EQ(trim(n.text.value),
@@ -260,9 +252,8 @@ TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
     int16_t recent = w.addBand("Recent", AlbumWorld::kRival, 2, 50, 100);
     int16_t older = w.addBand("Older", AlbumWorld::kRival, 2, 0, 100);  // no writers
     for (auto [band, daysAgo] : {std::pair{recent, 180}, std::pair{older, 181}}) {
-        g.disc.rec = DiscRecord{};
-        g.disc->band = band;
-        g.disc->releaseDate = {g.gameDate - daysAgo, g.gameDate - daysAgo + 30, kNoDate, kNoDate, kNoDate};
+        const double out = g.gameDate - daysAgo;
+        g.disc.rec = DiscRecord{.releaseDate = {out, out + 30, kNoDate, kNoDate, kNoDate}, .band = band};
         g.disc.append();
     }
     int most = 0, total = 0;
@@ -310,13 +301,10 @@ TEST(Songwriting, AnAlbumTitleSomeDiscBearsIsNeverChosen) {
     Game& g = w.g;
     int16_t band = w.addBand("Ours", AlbumWorld::kPlayer);
     for (const char* title : {"Taken", "Fresh", "Elsewhere"}) {
-        g.newalbum.rec = NewAlbumRecord{};
-        g.newalbum->title = std::string(title);
-        g.newalbum->style = title[0] == 'E' ? 2 : 1;
+        g.newalbum.rec = NewAlbumRecord{.style = static_cast<uint8_t>(title[0] == 'E' ? 2 : 1), .title = title};
         g.newalbum.append();
     }
-    g.disc.rec = DiscRecord{};
-    g.disc->title = std::string("  Taken");  // the spaces around a title do not free it
+    g.disc.rec = DiscRecord{.title = "  Taken"};  // the spaces around a title do not free it
     g.disc.append();
     for (int i = 0; i < 20; ++i) {
         g.band.read(band);

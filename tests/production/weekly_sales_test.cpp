@@ -55,8 +55,7 @@ TEST_F(WeeklySales, NextWeekFollowsTheHypeAndHoldsBothHypes) {
     now = 0;
     last = 150;
     nextWeekSales(g, 0, now, last);
-    EXPECT_EQ(now, 1);
-    EXPECT_EQ(last, 100);
+    EXPECT_EQ(std::tuple(now, last), std::tuple(1, 100));
 }
 
 TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
@@ -65,15 +64,13 @@ TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
     amend(g.disc, d, [&] { g.disc->distributor[0] = addFirm(2, 5, 0); });
     current(d);
     limitAndCertify(g, 1751, 0);
-    EXPECT_EQ(disc(d).weekSales[0], 1750);
-    EXPECT_EQ(disc(d).stock[0], 3250);
+    EXPECT_EQ(std::tuple(disc(d).weekSales[0], disc(d).stock[0]), std::tuple(1750, 3250));
     current(d);
     limitAndCertify(g, 800, 1);  // US: the big distributor, 5000 in stock
     EXPECT_EQ(disc(d).weekSales[1], 800);
     current(d);
     limitAndCertify(g, 5001, 2);
-    EXPECT_EQ(disc(d).weekSales[2], 5000);
-    EXPECT_EQ(disc(d).stock[2], 0);
+    EXPECT_EQ(std::tuple(disc(d).weekSales[2], disc(d).stock[2]), std::tuple(5000, 0));
 }
 
 TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGiveAndNeverTheUnawardedLevel) {
@@ -172,10 +169,8 @@ TEST_F(WeeklySales, Row200IsANewEntryAndRow199Remembers) {
     for (int i = 0; i < 200; ++i) addRow(0, d);
     calculateWeeklySales(g);
     openChart(g, 0);
-    g.chart.read(199);
-    EXPECT_EQ(g.chart->previousPosition, 199);
-    g.chart.read(200);
-    EXPECT_EQ(g.chart->previousPosition, 0);
+    EXPECT_EQ((g.chart.read(199), g.chart->previousPosition), 199);
+    EXPECT_EQ((g.chart.read(200), g.chart->previousPosition), 0);
     closeChart(g);
 }
 
@@ -188,8 +183,7 @@ TEST_F(WeeklySales, Position41SellsButCountsNoWeek) {
     }
     calculateWeeklySales(g);
     EXPECT_EQ(chartDiscs(0).at(40), discs[40]);
-    EXPECT_EQ(disc(discs[40]).weekSales[0], 1600);
-    EXPECT_EQ(disc(discs[40]).weeksOnChart[0], 0);
+    EXPECT_EQ(std::tuple(disc(discs[40]).weekSales[0], disc(discs[40]).weeksOnChart[0]), std::tuple(1600, int16_t{0}));
     EXPECT_EQ(disc(discs[39]).weeksOnChart[0], 1);
     EXPECT_EQ(bandRec(band).chartCounts[0], 40);
 }
@@ -199,15 +193,12 @@ TEST_F(WeeklySales, AfterTheWeekTotalsAndHypeMoveOn) {
     addRow(0, d, 77);
     calculateWeeklySales(g);
     DiscRecord r = disc(d);
-    EXPECT_EQ(r.weekSales[0], 3000);
-    EXPECT_EQ(r.totalSales[0], 3000);
-    EXPECT_EQ(r.lifetimeSales[0], 3000);
-    EXPECT_EQ(bandRec(band).salesTotals[1], 3000);  // UK album, after UK single
-    EXPECT_EQ(labelRec(label).salesTotals[1], 3000);
-    EXPECT_EQ(r.promotion[0], 16);  // 20 x 0.8
+    // The band's and label's UK album totals come after their UK single's; promotion 20 x 0.8.
+    EXPECT_EQ(std::tuple(r.weekSales[0], r.totalSales[0], r.lifetimeSales[0], bandRec(band).salesTotals[1],
+                         labelRec(label).salesTotals[1], r.promotion[0]),
+              std::tuple(3000, 3000, 3000, 3000, 3000, uint8_t{16}));
     openChart(g, 0);
-    g.chart.read(1);
-    EXPECT_EQ(g.chart->lastHype, 50);  // the hype before this week's fall
+    EXPECT_EQ((g.chart.read(1), g.chart->lastHype), 50);  // the hype before this week's fall
     closeChart(g);
     EXPECT_EQ(bandRec(band).biggestAlbum, d);
 }
@@ -241,11 +232,10 @@ TEST_F(WeeklySales, TheBiggestDiscAndBestWeekGoToTheBandAndLabelByKind) {
     sold(s, 7, 9);      // week 8, total 10
     updateBestSellers(g);
     BandRecord r = bandRec(band);
-    EXPECT_EQ(r.biggestAlbum, b);  // 801 beats A's 501
-    EXPECT_EQ(r.bestWeekAlbum, a);
-    EXPECT_EQ(r.bestWeekAlbumCopies, 101);  // B's 51 does not beat it
-    EXPECT_EQ(r.biggestSingle, s);
-    EXPECT_EQ(r.bestWeekSingleCopies, 8);
+    // B's 801 beats A's 501; B's week of 51 does not beat A's 101.
+    EXPECT_EQ(
+        std::tuple(r.biggestAlbum, r.bestWeekAlbum, r.bestWeekAlbumCopies, r.biggestSingle, r.bestWeekSingleCopies),
+        std::tuple(b, a, 101, s, 8));
     LabelRecord l = labelRec(label);
     EXPECT_EQ((std::array{l.biggestAlbum, l.bestWeekAlbum, l.biggestSingle, l.bestWeekSingle}),
               (std::array{b, a, s, s}));
@@ -253,8 +243,7 @@ TEST_F(WeeklySales, TheBiggestDiscAndBestWeekGoToTheBandAndLabelByKind) {
     EXPECT_EQ(g.band->biggestAlbum, b);  // the buffer holds the band as written
     sold(a, 52, 800);                    // 801, level with B, is not bigger; 53 is not a better week
     updateBestSellers(g);
-    EXPECT_EQ(bandRec(band).biggestAlbum, b);
-    EXPECT_EQ(bandRec(band).bestWeekAlbumCopies, 101);
+    EXPECT_EQ(std::tuple(bandRec(band).biggestAlbum, bandRec(band).bestWeekAlbumCopies), std::tuple(b, 101));
 }
 
 }  // namespace

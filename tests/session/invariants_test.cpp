@@ -81,6 +81,11 @@ void onLabel(Game& g, int32_t n, const std::function<void(LabelRecord&)>& f) {
     f(g.label.rec);
     g.label.write();
 }
+template <class R>
+void put(Table<R>& t, const R& r) {
+    t.rec = r;
+    t.append();
+}
 // An unsigned act with sound figures, the given changes made to it.
 void addBand(Game& g, const std::function<void(BandRecord&)>& f) {
     g.band.rec = BandRecord{};
@@ -142,47 +147,22 @@ INSTANTIATE_TEST_SUITE_P(
                   onLabel(g, 2, [](auto& l) { l.bandCount = 1; });
               },
               "label", 2, "bandCount", "bandCountIsItsBands"},
-        Fault{"AnOfferForNoBand",
-              [](Game& g) {
-                  g.offer.rec = OfferRecord{};
-                  g.offer->band = 1;  // no band yet
-                  g.offer.append();
-              },
-              "offer", 1, "band", "offersAndShortlistPointWithin"},
-        Fault{"ASongOnADiscThatIsNot",
-              [](Game& g) {
-                  g.song.rec = SongRecord{};
-                  g.song->disc = 1;  // no disc yet; 65535 and 65534 would be the marks
-                  g.song.append();
-              },
-              "song", 1, "disc", "songsAndDiscsPointWithin"},
+        // No band yet.
+        Fault{"AnOfferForNoBand", [](Game& g) { put(g.offer, OfferRecord{.band = 1}); }, "offer", 1, "band",
+              "offersAndShortlistPointWithin"},
+        // No disc yet; 65535 and 65534 would be the marks.
+        Fault{"ASongOnADiscThatIsNot", [](Game& g) { put(g.song, SongRecord{.disc = 1}); }, "song", 1, "disc",
+              "songsAndDiscsPointWithin"},
         Fault{"MoreTracksRecordedThanBooked",
-              [](Game& g) {
-                  g.disc.rec = DiscRecord{.trackCount = 2, .tracksRecorded = 3};
-                  g.disc.append();
-              },
-              "disc", 1, "tracksRecorded", "songsAndDiscsPointWithin"},
-        Fault{"AFirmNeitherOpenNorBuilding",
-              [](Game& g) {
-                  g.business.rec = BusinessRecord{};
-                  g.business->open = 1;
-                  g.business.append();
-              },
-              "business", 1, "open", "firmsHoldTheirFields"},
-        Fault{"ALookPastTheTable",
-              [](Game& g) {
-                  g.artist.rec = ArtistRecord{};
-                  g.artist->look = 1;  // the look table is empty
-                  g.artist.append();
-              },
-              "artist", 1, "look", "looksAndAchievementsPointWithin"},
-        Fault{"AnAchievementOfNoOne",
-              [](Game& g) {
-                  g.achieve.rec = AchievementRecord{};
-                  g.achieve->kind = 1;
-                  g.achieve->who = 1;  // no artist yet
-                  g.achieve.append();
-              },
+              [](Game& g) { put(g.disc, DiscRecord{.trackCount = 2, .tracksRecorded = 3}); }, "disc", 1,
+              "tracksRecorded", "songsAndDiscsPointWithin"},
+        Fault{"AFirmNeitherOpenNorBuilding", [](Game& g) { put(g.business, BusinessRecord{.open = 1}); }, "business", 1,
+              "open", "firmsHoldTheirFields"},
+        // The look table is empty.
+        Fault{"ALookPastTheTable", [](Game& g) { put(g.artist, ArtistRecord{.look = 1}); }, "artist", 1, "look",
+              "looksAndAchievementsPointWithin"},
+        // No artist yet.
+        Fault{"AnAchievementOfNoOne", [](Game& g) { put(g.achieve, AchievementRecord{.kind = 1, .who = 1}); },
               "achieve", 1, "who", "looksAndAchievementsPointWithin"},
         Fault{"ARecordingBandNamingAnotherBandsDisc",
               [](Game& g) {
@@ -191,9 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
                       b.albumStatus = 2;
                       b.songsWritten = 1;  // disc 1 is the first band's
                   });
-                  g.disc.rec = DiscRecord{};
-                  g.disc->band = 1;
-                  g.disc.append();
+                  put(g.disc, DiscRecord{.band = 1});
               },
               "band", 2, "songsWritten", "recordingBandsNameTheirDisc"}),
     [](const auto& info) { return std::string(info.param.name); });
@@ -202,14 +180,8 @@ TEST(Invariants, ASoundGameWithAVoidOfferAndSongsAwaitingADiscPasses) {
     test::EmptyGame eg;
     Game& g = eg.g;
     soundGame(g);
-    g.offer.rec = OfferRecord{};
-    g.offer->band = -1;  // void
-    g.offer.append();
-    for (uint16_t mark : {uint16_t{65535}, uint16_t{65534}}) {
-        g.song.rec = SongRecord{};
-        g.song->disc = mark;
-        g.song.append();
-    }
+    put(g.offer, OfferRecord{.band = -1});  // void
+    for (uint16_t mark : {uint16_t{65535}, uint16_t{65534}}) put(g.song, SongRecord{.disc = mark});
     auto broken = checkInvariants(g);
     EXPECT_FALSE(broken) << describeBreak(*broken);
 }

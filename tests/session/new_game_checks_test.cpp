@@ -25,22 +25,10 @@ protected:
     }
     void TearDown() override { closeAllTables(g); }
 
-    static PlayerChoices player() {
-        PlayerChoices p;
-        p.forename = "Ann";
-        p.surname = "Lee";
-        p.nationality = "Scottish";
-        return p;
-    }
-    static LabelChoices label() {
-        LabelChoices l;
-        l.name = "Quarry Records";
-        l.continent = "Europe";
-        l.country = "England";
-        l.city = "London";
-        l.style = "Indie Rock";
-        return l;
-    }
+    static PlayerChoices player() { return {.forename = "Ann", .surname = "Lee", .nationality = "Scottish"}; }
+    static LabelChoices label() { return {.name = "Quarry Records", .city = "London", .style = "Indie Rock"}; }
+    // The refused field and the words the player is shown.
+    static std::pair<NewGameField, std::string> said(const InputRefusal& r) { return {r.field, r.text}; }
 };
 
 }  // namespace
@@ -51,13 +39,12 @@ TEST_F(NewGameChecks, TheFirstNameRuleBrokenIsNamedWithItsField) {
     PlayerChoices p = player();
     p.forename = " ";
     p.surname = "Ω";
-    InputRefusal r = checkPlayerChoices(g, p);
-    EXPECT_EQ(r.field, NewGameField::forename);
-    EXPECT_EQ(r.text, "The forename cannot be blank.");
+    EXPECT_EQ(said(checkPlayerChoices(g, p)),
+              std::pair(NewGameField::forename, std::string("The forename cannot be blank.")));
     p.forename = "Ann";
-    r = checkPlayerChoices(g, p);
-    EXPECT_EQ(r.field, NewGameField::surname);
-    EXPECT_EQ(r.text, "The surname holds \"Ω\", a character the game cannot store.");
+    EXPECT_EQ(
+        said(checkPlayerChoices(g, p)),
+        std::pair(NewGameField::surname, std::string("The surname holds \"Ω\", a character the game cannot store.")));
 }
 
 TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
@@ -76,18 +63,15 @@ TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
         p.birthDay = c.d;
         InputRefusal r = checkPlayerChoices(g, p);
         EXPECT_EQ(!r, c.taken) << c.y << "-" << c.m << "-" << c.d;
-        if (r) {
-            EXPECT_EQ(r.text, "The date of birth must be a real date from 1 January 1880 to 31 December 2003.");
-        }
+        if (r) { EXPECT_EQ(r.text, "The date of birth must be a real date from 1 January 1880 to 31 December 2003."); }
     }
 }
 
 TEST_F(NewGameChecks, ANationalityIsACountrysAdjective) {
     PlayerChoices p = player();
     p.nationality = "British";
-    InputRefusal r = checkPlayerChoices(g, p);
-    EXPECT_EQ(r.field, NewGameField::nationality);
-    EXPECT_EQ(r.text, "There is no nationality \"British\".");
+    EXPECT_EQ(said(checkPlayerChoices(g, p)),
+              std::pair(NewGameField::nationality, std::string("There is no nationality \"British\".")));
     p.nationality = "New Zealander";
     EXPECT_FALSE(checkPlayerChoices(g, p));
 }
@@ -95,9 +79,8 @@ TEST_F(NewGameChecks, ANationalityIsACountrysAdjective) {
 TEST_F(NewGameChecks, AnotherLabelsNameIsRefusedInAnyCapitalsAndWithBlanksAround) {
     LabelChoices l = label();
     l.name = "  gREYSTONE music ";
-    InputRefusal r = checkLabelChoices(g, l);
-    EXPECT_EQ(r.field, NewGameField::labelName);
-    EXPECT_EQ(r.text, "There is already a label called Greystone Music.");
+    EXPECT_EQ(said(checkLabelChoices(g, l)),
+              std::pair(NewGameField::labelName, std::string("There is already a label called Greystone Music.")));
     l.name = "Greystone Musics";
     EXPECT_FALSE(checkLabelChoices(g, l));
 }
@@ -106,8 +89,7 @@ TEST_F(NewGameChecks, AnUnknownContinentListsTheSix) {
     LabelChoices l = label();
     l.continent = "Europa";
     InputRefusal r = checkLabelChoices(g, l);
-    EXPECT_EQ(r.field, NewGameField::continent);
-    EXPECT_EQ(r.text, "There is no continent \"Europa\".");
+    EXPECT_EQ(said(r), std::pair(NewGameField::continent, std::string("There is no continent \"Europa\".")));
     EXPECT_EQ(r.choices,
               (std::vector<std::string>{"Africa", "Asia", "Europe", "North America", "Oceania", "South America"}));
 }
@@ -119,8 +101,8 @@ TEST_F(NewGameChecks, ACountryMustExistAndLieInTheContinent) {
     l.country = "Canada";
     l.city = "Toronto";
     InputRefusal r = checkLabelChoices(g, l);
-    EXPECT_EQ(r.field, NewGameField::country);
-    EXPECT_EQ(r.text, "Canada is not a country of Europe with a city for a label.");
+    EXPECT_EQ(said(r), std::pair(NewGameField::country,
+                                 std::string("Canada is not a country of Europe with a city for a label.")));
     EXPECT_EQ(r.choices, (std::vector<std::string>{"England", "Scotland", "France"}));
     l.continent = "North America";
     EXPECT_FALSE(checkLabelChoices(g, l));
@@ -130,8 +112,7 @@ TEST_F(NewGameChecks, ACityMustExistAndLieInTheCountry) {
     LabelChoices l = label();
     l.city = "Glasgow";
     InputRefusal r = checkLabelChoices(g, l);
-    EXPECT_EQ(r.field, NewGameField::city);
-    EXPECT_EQ(r.text, "Glasgow is not a city of England.");
+    EXPECT_EQ(said(r), std::pair(NewGameField::city, std::string("Glasgow is not a city of England.")));
     EXPECT_EQ(r.choices, std::vector<std::string>{"London"});
     l.city = "Atlantis";
     EXPECT_EQ(checkLabelChoices(g, l).text, "There is no city \"Atlantis\".");
@@ -143,8 +124,7 @@ TEST_F(NewGameChecks, AStyleMustExistOrBeAllStyles) {
     EXPECT_FALSE(checkLabelChoices(g, l));
     l.style = "Polka";
     InputRefusal r = checkLabelChoices(g, l);
-    EXPECT_EQ(r.field, NewGameField::style);
-    EXPECT_EQ(r.text, "There is no style \"Polka\".");
+    EXPECT_EQ(said(r), std::pair(NewGameField::style, std::string("There is no style \"Polka\".")));
     EXPECT_EQ(r.choices, (std::vector<std::string>{"All Styles", "Indie Rock", "Legend"}));
 }
 
@@ -152,7 +132,6 @@ TEST_F(NewGameChecks, TakingOverNamesTheLabelByItsExactName) {
     int16_t label = 0;
     EXPECT_FALSE(checkTakeOver(g, "Greystone Music", label));
     EXPECT_EQ(label, 1);
-    InputRefusal r = checkTakeOver(g, "Greystone", label);
-    EXPECT_EQ(r.field, NewGameField::label);
-    EXPECT_EQ(r.text, "There is no label called \"Greystone\".");
+    EXPECT_EQ(said(checkTakeOver(g, "Greystone", label)),
+              std::pair(NewGameField::label, std::string("There is no label called \"Greystone\".")));
 }

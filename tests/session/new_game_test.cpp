@@ -32,25 +32,17 @@ protected:
     }
     void TearDown() override { closeAllTables(g); }
 
-    PlayerChoices player() {
-        PlayerChoices p;
-        p.forename = "  Ann ";
-        p.surname = "Lee";
-        p.birthYear = 1980;
-        p.birthMonth = 12;
-        p.birthDay = 24;
-        p.male = false;
-        p.nationality = "Scottish";
-        return p;
+    static PlayerChoices player() {
+        return {.forename = "  Ann ",
+                .surname = "Lee",
+                .birthDay = 24,
+                .birthMonth = 12,
+                .birthYear = 1980,
+                .male = false,
+                .nationality = "Scottish"};
     }
-    LabelChoices label(const std::string& country, const std::string& city) {
-        LabelChoices l;
-        l.name = "Quarry Records";
-        l.continent = "Europe";
-        l.country = country;
-        l.city = city;
-        l.style = "Indie Rock";
-        return l;
+    static LabelChoices label(const std::string& country, const std::string& city) {
+        return {.name = "Quarry Records", .country = country, .city = city, .style = "Indie Rock"};
     }
 };
 
@@ -78,12 +70,11 @@ TEST_F(NewGame, DefaultsAreTwentiethJuly1982OnlyWithoutEarlierChoices) {
 
 TEST_F(NewGame, ThePlayerIsAStaffRecordAgedByTheComputersClock) {
     NewPlayer p = confirmPlayer(g, player());
-    EXPECT_EQ(p.staff.id, 2);  // after the rival's boss
-    EXPECT_EQ(p.staff.forename, "Ann");
-    EXPECT_EQ(p.staff.age, 45);  // on 22 November 2026, not on the game's first day
-    EXPECT_EQ(p.staff.male, kFalse);
-    EXPECT_EQ(p.staff.country, 2);
-    EXPECT_EQ(p.staff.contractEnd, serialFromCivil(2027, 11, 22));
+    // Record 2, after the rival's boss; aged 45 on 22 November 2026, not on the game's first day.
+    const StaffRecord& s = p.staff;
+    EXPECT_EQ(
+        std::tuple(s.id, s.forename.value, s.age, s.male, s.country, s.contractEnd),
+        std::tuple(int16_t{2}, std::string("Ann"), uint8_t{45}, kFalse, uint8_t{2}, serialFromCivil(2027, 11, 22)));
     EXPECT_EQ(g.gameDate, serialFromCivil(2004, 8, 5));
 }
 
@@ -112,12 +103,9 @@ INSTANTIATE_TEST_SUITE_P(NewGame, LabelHome,
 TEST_F(NewGame, FoundingALabelGivesAMillionAndTellsTheNews) {
     NewPlayer p = confirmPlayer(g, player());
     foundLabel(g, p, label("Scotland", "Glasgow"));
-    EXPECT_EQ(g.player.playerLabel, 2);
-    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(1000000));
+    EXPECT_EQ(std::tuple(g.player.playerLabel, g.player.playerLabelCash), std::tuple(int16_t{2}, moneyUnits(1000000)));
     g.label.read(2);
-    EXPECT_EQ(g.label->boss, p.staff.id);
-    EXPECT_EQ(g.label->labelStyle, 1);
-    EXPECT_EQ(g.label->city, 2);
+    EXPECT_EQ(std::tuple(g.label->boss, int{g.label->labelStyle}, int{g.label->city}), std::tuple(p.staff.id, 1, 2));
     g.news.read(1);
     EXPECT_EQ(g.news->title, "New indie label founded by Ann Lee");
     EXPECT_EQ(g.news->text,
@@ -126,12 +114,11 @@ TEST_F(NewGame, FoundingALabelGivesAMillionAndTellsTheNews) {
               "current climate but with hard work, perseverence and luck one day maybe Quarry Records can join the "
               "hallowed ranks of the major labels. Only time will tell if Ann is up to the challenge.");
     EXPECT_EQ(g.news->date, g.gameDate);
-    g.staff.read(p.staff.id);
-    EXPECT_EQ(g.staff->employer, 2);
+    EXPECT_EQ((g.staff.read(p.staff.id), g.staff->employer), 2);
     EXPECT_EQ(g.currentScreen, Screen::frmNews);
     LabelChoices remembered = defaultLabelChoices(g);
-    EXPECT_EQ(remembered.name, "Quarry Records");
-    EXPECT_EQ(remembered.city, "Glasgow");
+    EXPECT_EQ(std::tuple(remembered.name, remembered.city),
+              std::tuple(std::string("Quarry Records"), std::string("Glasgow")));
 }
 
 TEST_F(NewGame, TakingOverALabelKeepsItsCashAndBands) {
@@ -144,9 +131,7 @@ TEST_F(NewGame, TakingOverALabelKeepsItsCashAndBands) {
     for (int c = ledgerWages; c <= ledgerOtherIncome; ++c) booked += ledgerEntry(g.label.rec, 0, c);
     EXPECT_EQ(g.player.playerLabelCash, moneyUnits(4500000) + booked);
     EXPECT_EQ(trim(g.player.playerLabelName.value), "Greystone Music");
-    g.label.read(1);
-    EXPECT_EQ(g.label->boss, p.staff.id);
-    EXPECT_EQ(g.label->bandCount, 1);
+    EXPECT_EQ(std::tuple(g.label->boss, int{g.label->bandCount}), std::tuple(p.staff.id, 1));
     g.news.read(1);
     EXPECT_EQ(g.news->title, "Ann Lee appointed as new boss of Greystone Music");
     EXPECT_NE(g.news->text.value.find("the 45 year old has no previous experience"), std::string::npos);

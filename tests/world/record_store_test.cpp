@@ -26,6 +26,12 @@ int32_t add(Table<R>& t, Set set) {
     return t.append();
 }
 
+template <class R>
+int32_t put(Table<R>& t, const R& r) {
+    t.rec = r;
+    return t.append();
+}
+
 int32_t addBand(Game& g, std::string_view name, uint8_t ability = 50) {
     return add(g.band, [&](BandRecord& b) {
         b.name = name;
@@ -227,30 +233,15 @@ struct NameCase {
 TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
     addBand(g, "Other");
     addBand(g, "The Band");
-    add(g.country, [](CountryRecord& r) {
-        r.name = "Spain";
-        r.adjective = "Spanish";
-    });
-    add(g.country, [](CountryRecord& r) {
-        r.name = "France";
-        r.adjective = "French";
-    });
-    add(g.city, [](CityRecord& r) { r.name = "Café Town"; });
-    add(g.job, [](JobRecord& r) {
-        r.title = "Drummer";
-        r.titleFemale = "Drummeress";
-    });
-    add(g.style, [](StyleRecord& r) { r.name = "  Punk"; });
-    add(g.song, [](SongRecord& r) { r.title = "Hit"; });
+    put(g.country, CountryRecord{.name = "Spain", .adjective = "Spanish"});
+    put(g.country, CountryRecord{.name = "France", .adjective = "French"});
+    put(g.city, CityRecord{.name = "Café Town"});
+    put(g.job, JobRecord{.title = "Drummer", .titleFemale = "Drummeress"});
+    put(g.style, StyleRecord{.name = "  Punk"});
+    put(g.song, SongRecord{.title = "Hit"});
     for (int i = 0; i < 3; ++i) {
-        add(g.artist, [&](ArtistRecord& r) {
-            r.forename = i ? "Ann" : "Bob";
-            r.surname = "Lee";
-        });
-        add(g.staff, [&](StaffRecord& r) {
-            r.forename = i ? "Ann" : "Bob";
-            r.surname = "Lee";
-        });
+        put(g.artist, ArtistRecord{.forename = i ? "Ann" : "Bob", .surname = "Lee"});
+        put(g.staff, StaffRecord{.forename = i ? "Ann" : "Bob", .surname = "Lee"});
     }
     const std::string padded = "Ann" + std::string(29, ' ') + " Lee" + std::string(29, ' ');
     const NameCase cases[] = {
@@ -279,8 +270,8 @@ TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
 TEST_F(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent) {
     for (auto name : {"A", "B", "C"}) {
         addBand(g, name);
-        add(g.label, [&](LabelRecord& r) { r.name = name; });
-        add(g.event, [&](EventRecord& r) { r.title = name; });
+        put(g.label, LabelRecord{.name = name});
+        put(g.event, EventRecord{.title = name});
     }
     g.band.read(3);
     EXPECT_EQ(findRecordByName(g, FileNo::fileBand, "B"), 2);
@@ -307,9 +298,9 @@ TEST_F(CompactTable, KeepsTheWantedRecordsInOrderNumberedFromOneAndMayKeepNone) 
     compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
     ASSERT_EQ(g.shortlist.recordCount(), 4);
     g.shortlist.read(2);
-    EXPECT_EQ(std::pair(g.shortlist->id, g.shortlist->band), std::pair(2, int16_t{5}));
+    EXPECT_EQ(std::tuple(g.shortlist->id, g.shortlist->band), std::tuple(2, int16_t{5}));
     g.shortlist.read(3);
-    EXPECT_EQ(std::pair(g.shortlist->id, g.shortlist->band), std::pair(3, int16_t{7}));
+    EXPECT_EQ(std::tuple(g.shortlist->id, g.shortlist->band), std::tuple(3, int16_t{7}));
     flushAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 3 * ShortlistRecord::kLength);
 
