@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "live/tour_planner.h"
+#include "rivals/rival_albums.h"
 #include "rivals/rival_touring.h"
 #include "schedule/schedule.h"
 #include "schedule/schedule_types.h"
@@ -278,6 +279,27 @@ TEST_F(FollowUpTours, ASplitActASingleOrThePlayersAlbumBringsNoTourNorDoesAGigTo
     handTour({0});
     planFollowUpTours(g);
     EXPECT_EQ(liveTours(), 1) << "only the hand-made one";
+}
+
+// A finished album goes on tour unless a gig of the act stands between today
+// and its last release.
+TEST_F(FollowUpTours, AFinishedAlbumTakesATourOnlyWithNoGigBookedBeforeItsLastRelease) {
+    auto finishAlbum = [&] {
+        g.song.rec = SongRecord{.band = rivalBand, .quality = 50, .commerciality = 50};
+        const auto song = g.song.append();
+        g.disc.rec = DiscRecord{.band = rivalBand, .label = rival, .trackCount = 1};
+        g.disc->tracks[0] = song;
+        g.disc->releaseDate.fill(kNoDate);
+        g.disc.append();
+        g.band.read(rivalBand);
+        rivalRecordingComplete(g);
+        return liveTours();
+    };
+    addSchedule(g, ScheduleRecord{
+                       .type = static_cast<uint8_t>(ScheduleType::gig), .date = g.gameDate + 10, .band = rivalBand});
+    EXPECT_EQ(finishAlbum(), 0);
+    g.gameDate += 400;
+    EXPECT_EQ(finishAlbum(), 1);
 }
 
 TEST_F(RivalTouring, TheAssistantsTourListsEveryGig) {
