@@ -295,8 +295,8 @@ TEST_F(FollowUpTours, AFinishedAlbumTakesATourOnlyWithNoGigBookedBeforeItsLastRe
         rivalRecordingComplete(g);
         return liveTours();
     };
-    addSchedule(g, ScheduleRecord{
-                       .type = static_cast<uint8_t>(ScheduleType::gig), .date = g.gameDate + 10, .band = rivalBand});
+    addSchedule(
+        g, ScheduleRecord{.type = static_cast<uint8_t>(ScheduleType::gig), .date = g.gameDate + 10, .band = rivalBand});
     EXPECT_EQ(finishAlbum(), 0);
     g.gameDate += 400;
     EXPECT_EQ(finishAlbum(), 1);
