@@ -90,7 +90,8 @@ TEST(BandReputation, WeighsTheFiveMarkets) {
 
 // A new label (kind 1) gets fixed shares, kind 3 none. Small abilities of a
 // new band (kind 2) leave no room for the random part, so the shares are
-// exact; 25 and 30 land the first division on a half that must go to the even byte.
+// exact; 25 and 30 land the first division on a half that must go to the even byte,
+// and 32 gives the third market a base of 3 that a divisor of 13 would make 2.
 TEST(RegionalShares, FixedSharesAndNewBandSharesOfSmallAbilities) {
     struct Case {
         int kind;
@@ -98,7 +99,7 @@ TEST(RegionalShares, FixedSharesAndNewBandSharesOfSmallAbilities) {
         std::array<uint8_t, 5> shares;
     };
     for (Case c : {Case{1, 50, {40, 20, 15, 10, 5}}, Case{3, 50, {}}, Case{2, 0, {2, 2, 2, 2, 2}},
-                   Case{2, 25, {4, 2, 2, 2, 2}}, Case{2, 30, {4, 3, 2, 2, 2}}}) {
+                   Case{2, 25, {4, 2, 2, 2, 2}}, Case{2, 30, {4, 3, 2, 2, 2}}, Case{2, 32, {4, 3, 3, 2, 2}}}) {
         test::EmptyGame eg;
         eg.g.band->ability = c.ability;
         std::array<uint8_t, 5> r{};
