@@ -35,7 +35,7 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
     for (int chart : {1, 7}) {
         const int t = chart % 5;
         const auto pair = static_cast<std::size_t>(t * 2 + (chart >= 5 ? 0 : 1));
-        Best bandTotal, labelPoints, discWeek, discLifetime;
+        Best bandTotal, labelPoints, discWeek, discLifetime, discPointsPublished;
         DiscRecord d{};
         BandRecord b{};
         LabelRecord l{};
@@ -52,6 +52,8 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
             const std::string text = trim(d.title.value) + " by " + trim(b.name.value);
             discWeek.offer(d.weekSales[static_cast<std::size_t>(t)], d.id, text);
             discLifetime.offer(d.lifetimeSales[static_cast<std::size_t>(t)], d.id, text);
+            if (i <= publishedLength(chart))
+                discPointsPublished.offer(d.chartPoints[static_cast<std::size_t>(t)], d.id, text);
         }
         for (int32_t n = 1; n < g.band.recordCount(); ++n) {
             decodeRecord(g.band.bytesOf(n).data(), b);
@@ -76,6 +78,7 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
         expectHolder(h[0], bandTotal, "band sales");
         expectHolder(h[2], discWeek, "disc week");
         expectHolder(h[4], discLifetime, "disc lifetime");
+        expectHolder(h[10], discPointsPublished, "disc points in the published chart");
         expectHolder(h[12], labelPoints, "label points");
     }
 }
