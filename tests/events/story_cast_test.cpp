@@ -263,3 +263,21 @@ TEST(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
     amend(g.crime, 1, [&] { g.crime->defensibility = 50; });
     for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 7);
 }
+
+// A day makes one roll fewer than the rolls it is given, each an event drawn
+// and its chance; a day of one roll makes none.
+TEST(Stories, ADayRollsOneEventFewerThanItsRolls) {
+    Cast w;
+    Game& g = w.g;
+    for (int i = 0; i < 2; ++i) {
+        g.event.rec = EventRecord{.chance = 0, .isRoot = -1};
+        g.event.append();
+    }
+    for (auto [rolls, draws] : {std::pair{3, 4}, std::pair{1, 0}}) {
+        g.eventRollsPerDay = narrow<uint8_t>(rolls);
+        Random expected = g.rng;
+        expected.discard(static_cast<uint64_t>(draws));
+        runRandomEvents(g);
+        EXPECT_EQ(g.rng.draw(), expected.draw()) << rolls;
+    }
+}
