@@ -104,7 +104,16 @@ TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
     });
     g.award.rec = AwardRecord{.name = "Nobody's Prize"};
     g.award.append();  // no nominees
-    g.ceremony.rec = CeremonyRecord{.name = "The Night", .awards = {1, 2}, .playerInvited = kTrue};
+    // A song award's win goes to the song's band.
+    for (int i = 0; i < 5; ++i) {
+        g.song.rec = SongRecord{.band = band};
+        g.song.append();
+    }
+    g.award.rec = AwardRecord{.name = "Song of the Year", .kind = 6};
+    g.award->nominees[0] = static_cast<int16_t>(g.song.recordCount() - 1);
+    g.award->nomineeCount = 1;
+    g.award.append();
+    g.ceremony.rec = CeremonyRecord{.name = "The Night", .awards = {1, 2, 3}, .playerInvited = kTrue};
     g.ceremony.append();
     g.schedule.rec = ScheduleRecord{.ceremony = 1};
     int32_t rows = g.achieve.recordCount();
@@ -112,8 +121,11 @@ TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
     g.award.read(1);
     EXPECT_EQ(std::tuple(int{g.award->winner}, int{g.award->held}), std::tuple(1, 2004));
     EXPECT_EQ((g.award.read(2), g.award->winner), 0);
-    // The band's row and one for each of its two members.
-    EXPECT_EQ(g.achieve.recordCount(), rows + 3);
+    // For each win the band's row and one for each of its two members.
+    ASSERT_EQ(g.achieve.recordCount(), rows + 6);
+    g.achieve.read(rows + 3);
+    EXPECT_EQ(std::tuple(int{g.achieve->kind}, g.achieve->who), std::tuple(0, band));
+    EXPECT_EQ(trim(g.achieve->text.value), "Winner of Song of the Year award. (The Night)");
 }
 
 }  // namespace
