@@ -272,6 +272,18 @@ TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
     EXPECT_EQ(songsOf(g, older), total);
     g.song.read(1);
     EXPECT_EQ(g.song->writer, 0) << "no member can write: bought in";
+
+    // Any member may be drawn to write: here only the last one can.
+    const int16_t second = w.addBand("Second", AlbumWorld::kRival, 2, 50, 100);
+    g.band.read(second);
+    const int16_t writer = g.band->members[1];
+    amend(g.artist, g.band->members[0], [&] { g.artist->songQuality = 0; });
+    const int32_t before = g.song.recordCount();
+    while (g.song.recordCount() == before) {
+        g.band.read(second);
+        seedAlbumPlan(g);
+    }
+    for (int32_t n = before; n < g.song.recordCount(); ++n) EXPECT_EQ((g.song.read(n), g.song->writer), writer);
 }
 
 TEST(Songwriting, TheNewPlayerIsBriefedOnBandsWithTracksAndNoAlbumInTheStudio) {
