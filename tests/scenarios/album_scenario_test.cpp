@@ -28,24 +28,18 @@ void writeAlbumWorld(const std::filesystem::path& dir) {
     g.band.read(1);
     g.band->stamina = 60;
     g.band.write();
-    g.business.rec = BusinessRecord{};
-    g.business->name = std::string("Harbour Studios");
-    g.business->city = 1;
-    g.business->quality = 40;
-    g.business->open = -1;
+    g.business.rec = BusinessRecord{.name = "Harbour Studios", .city = 1, .quality = 40, .open = -1};
     g.business.append();
     for (const char* t : {"Low Tide", "Night Bus", "Glass Roof"}) {
-        g.newsong.rec = NewSongRecord{};
-        g.newsong->title = std::string(t);
-        g.newsong->style = 1;
+        g.newsong.rec = NewSongRecord{.title = t, .style = 1};
         g.newsong.append();
     }
     closeAllTables(g);
     test::proveBaseWorld(dir);
 }
 
-// What must hold after every day: the label's cash is its starting cash and
-// this year's books; songs and discs point within their tables.
+// What must hold after every day: the invariants, and the label's cash is its
+// starting cash and this year's books.
 void checkAlbumWorld(Game& g) {
     const auto broken = checkInvariants(g);
     ASSERT_FALSE(broken) << describeBreak(*broken);
@@ -53,19 +47,6 @@ void checkAlbumWorld(Game& g) {
     Money booked = 0;
     for (int c = ledgerWages; c <= ledgerOtherIncome; ++c) booked += ledgerEntry(g.label.rec, 2, c);
     ASSERT_EQ(g.label->cashBalance, kStartingCash + booked) << "cash = ledger";
-    ASSERT_EQ(g.player.playerLabelCash, g.label->cashBalance);
-    for (int32_t s = 1; s < g.song.recordCount(); ++s) {
-        g.song.read(s);
-        ASSERT_GT(g.song->band, 0);
-        ASSERT_LT(g.song->band, g.band.recordCount());
-        ASSERT_TRUE(g.song->disc >= kSongHeld || g.song->disc < g.disc.recordCount()) << "song " << s;
-    }
-    for (int32_t d = 1; d < g.disc.recordCount(); ++d) {
-        g.disc.read(d);
-        ASSERT_LE(g.disc->tracksRecorded, g.disc->trackCount);
-        for (int t = 0; t < g.disc->trackCount; ++t)
-            ASSERT_LT(g.disc->tracks[static_cast<std::size_t>(t)], g.song.recordCount());
-    }
 }
 
 }  // namespace

@@ -17,18 +17,11 @@ protected:
     // A ceremony of one award for bands on ability alone, on the weekday of
     // the week of the coming year, nominated two weeks before.
     int16_t addCeremony(const char* name, const char* award, uint8_t week, uint8_t weekday) {
-        g.award.rec = AwardRecord{};
-        g.award->name = award;
-        g.award->kind = 2;
-        g.award->weight = 100;
-        g.award->controversyRange = {0, 100};
-        g.award->commercialityRange = {0, 100};
-        int16_t a = static_cast<int16_t>(g.award.append());
-        g.ceremony.rec = CeremonyRecord{};
-        g.ceremony->name = name;
-        g.ceremony->country = 1;
-        g.ceremony->awards[0] = a;
-        g.ceremony->calendar = {week, weekday, 2, 0, 0, 0};
+        g.award.rec = AwardRecord{
+            .name = award, .kind = 2, .weight = 100, .commercialityRange = {0, 100}, .controversyRange = {0, 100}};
+        const auto a = static_cast<int16_t>(g.award.append());
+        g.ceremony.rec =
+            CeremonyRecord{.name = name, .awards = {a}, .calendar = {week, weekday, 2, 0, 0, 0}, .country = 1};
         return static_cast<int16_t>(g.ceremony.append());
     }
 
@@ -74,13 +67,10 @@ TEST_F(CeremonyNight, TheAcceptedNightIsShownAndTheDeclinedOneIsNot) {
     }
     // The opening, the award and its winner.
     ASSERT_EQ(shown.size(), 3u);
-    EXPECT_EQ(
-        shown[0][0], "Good evening and welcome to the " + std::to_string(year) + " Northern Lights right here in " +
-                         [&] {
-                             g.country.read(1);
-                             return trim(g.country->name.value);
-                         }() +
-                         ". Without further ado, let's get on with the awards...");
+    g.country.read(1);
+    EXPECT_EQ(shown[0][0], "Good evening and welcome to the " + std::to_string(year) +
+                               " Northern Lights right here in " + trim(g.country->name.value) +
+                               ". Without further ado, let's get on with the awards...");
     g.ceremony.read(accepted);
     g.award.read(g.ceremony->awards[0]);
     ASSERT_GT(g.award->nomineeCount, 0);

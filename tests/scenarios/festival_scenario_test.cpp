@@ -27,25 +27,21 @@ protected:
         g.band->reputation[0] = 100;
         g.band.write();
 
-        g.venue.rec = VenueRecord{};
-        g.venue->name = "Long Meadow";
-        g.venue->capacity = 60000;
-        g.venue->city = 1;
+        g.venue.rec = VenueRecord{.name = "Long Meadow", .capacity = 60000, .city = 1};
         const int16_t site = static_cast<int16_t>(g.venue.append());
         // Ten weeks ahead, on the week and weekday that date has.
         firstDay = g.gameDate + 70;
         const int year = yearOf(firstDay);
         const int week = static_cast<int>(firstDay - serialFromCivil(year, 1, 1)) / 7 + 1;
-        g.festival.rec = FestivalRecord{};
-        g.festival->festivalName = "Long Meadow Weekend";
-        g.festival->prestige = 60;
-        g.festival->billSize = 6;
-        g.festival->days = 2;
-        g.festival->weekday = {static_cast<uint8_t>(weekdayOf(firstDay)),
-                               static_cast<uint8_t>(weekdayOf(firstDay + 1))};
-        g.festival->week = {static_cast<uint8_t>(week), static_cast<uint8_t>(week)};
-        g.festival->fixedVenue = {site, site};
-        g.festival->areaCode = "E";
+        g.festival.rec = FestivalRecord{
+            .prestige = 60,
+            .billSize = 6,
+            .days = 2,
+            .weekday = {static_cast<uint8_t>(weekdayOf(firstDay)), static_cast<uint8_t>(weekdayOf(firstDay + 1))},
+            .week = {static_cast<uint8_t>(week), static_cast<uint8_t>(week)},
+            .fixedVenue = {site, site},
+            .areaCode = "E",
+            .festivalName = "Long Meadow Weekend"};
         festival = static_cast<int16_t>(g.festival.append());
         scheduleFestivals(g, year);
     }

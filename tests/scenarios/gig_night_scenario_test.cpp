@@ -16,10 +16,7 @@ protected:
     int16_t venue = 0;
     GigNight() : TakenOverGame(99) {
         takeOver();
-        g.venue.rec = VenueRecord{};
-        g.venue->name = "The Long Room";
-        g.venue->capacity = 400;
-        g.venue->city = 1;
+        g.venue.rec = VenueRecord{.name = "The Long Room", .capacity = 400, .city = 1};
         venue = static_cast<int16_t>(g.venue.append());
     }
 };

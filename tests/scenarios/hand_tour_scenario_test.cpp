@@ -38,18 +38,12 @@ public:
         g.band.write();
         london = addVenue("The Long Room", 1);  // London, England
         paris = addVenue("Le Grand Salon", 3);  // Paris, France
-        g.product.rec = ProductRecord{};
-        g.product->name = "Fizzco Cola";
-        g.product->area = "E";
-        g.product->maxControversy = 60;
+        g.product.rec = ProductRecord{.name = "Fizzco Cola", .area = "E", .maxControversy = 60};
         fizz = static_cast<int16_t>(g.product.append());
     }
 
     int16_t addVenue(const char* name, int16_t city) {
-        g.venue.rec = VenueRecord{};
-        g.venue->name = name;
-        g.venue->capacity = 400;
-        g.venue->city = city;
+        g.venue.rec = VenueRecord{.name = name, .capacity = 400, .city = city};
         return static_cast<int16_t>(g.venue.append());
     }
 

@@ -17,15 +17,14 @@ protected:
     int16_t formerBoss = 0, oldHead = 0, ann = 0, bob = 0;
 
     int16_t addStaff(const char* forename, int16_t employer, uint8_t department, uint8_t ability) {
-        g.staff.rec = StaffRecord{};
-        g.staff->forename = forename;
-        g.staff->surname = "Gray";
-        g.staff->male = kTrue;
-        g.staff->ability = ability;
-        g.staff->reputation = {30, 20, 20, 10, 10};
-        g.staff->employer = employer;
-        g.staff->department = department;
-        g.staff->hiredOn = serialFromCivil(2002, 3, 1);
+        g.staff.rec = StaffRecord{.forename = forename,
+                                  .surname = "Gray",
+                                  .male = kTrue,
+                                  .ability = ability,
+                                  .reputation = {30, 20, 20, 10, 10},
+                                  .employer = employer,
+                                  .department = department,
+                                  .hiredOn = serialFromCivil(2002, 3, 1)};
         return static_cast<int16_t>(g.staff.append());
     }
 
@@ -72,11 +71,12 @@ TEST_F(TakenOverLabel, PlaysToTheNewYearWithItsBooksAndStaffInOrder) {
     EXPECT_EQ(g.label->department[security].rating, 8);  // weighted 12 -> 8
     g.staff.read(formerBoss);
     EXPECT_EQ(g.staff->employer, label) << "the old boss still works there, heading nothing";
-    int rows = 0;
-    for (int32_t n = 1; n != g.ledger.recordCount(); ++n) {
-        g.ledger.read(n);
-        if (g.ledger->label == label) ++rows;
-    }
+    auto ledgerRows = [&] {
+        int rows = 0;
+        for (int32_t n = 1; n != g.ledger.recordCount(); ++n) rows += (g.ledger.read(n), g.ledger->label == label);
+        return rows;
+    };
+    const int rows = ledgerRows();
     EXPECT_EQ(rows, 1 + 6);  // opening; 1 Sep, 1 Oct, 1 Nov, 1 Dec, 31 Dec, 1 Jan
 
     // The books come back with the game.
@@ -86,10 +86,5 @@ TEST_F(TakenOverLabel, PlaysToTheNewYearWithItsBooksAndStaffInOrder) {
     EXPECT_EQ(g.gameDate, serialFromCivil(2005, 1, 2));
     broken = checkInvariants(g);
     EXPECT_FALSE(broken) << describeBreak(*broken);
-    int loadedRows = 0;
-    for (int32_t n = 1; n != g.ledger.recordCount(); ++n) {
-        g.ledger.read(n);
-        if (g.ledger->label == label) ++loadedRows;
-    }
-    EXPECT_EQ(loadedRows, rows);
+    EXPECT_EQ(ledgerRows(), rows);
 }

@@ -24,15 +24,13 @@ TEST_F(MediaDay, ABookedAppearanceIsPlayedAndReviewed) {
     g.band->reputation = {90, 90, 90, 90, 90};
     g.band->controversy = 50;
     g.band.write();
-    g.media.rec = MediaRecord{};
-    g.media->mediaName = "Morning Beat";
-    g.media->mediaType = 0;
-    g.media->reach = 2;
-    g.media->frequency = 1;
-    g.media->airDay = {0, 0, 0, -1, 0, 0, 0};  // Thursdays
-    g.media->smallMinimum = 10;
-    g.media->smallValue = 80;
-    g.media->maxControversy = 100;
+    g.media.rec = MediaRecord{.mediaName = "Morning Beat",
+                              .reach = 2,
+                              .frequency = 1,
+                              .airDay = {0, 0, 0, -1, 0, 0, 0},  // Thursdays
+                              .smallMinimum = 10,
+                              .smallValue = 80,
+                              .maxControversy = 100};
     const int16_t outlet = static_cast<int16_t>(g.media.append());
 
     g.band.read(band);

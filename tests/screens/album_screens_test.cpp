@@ -63,8 +63,7 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
     click(work->optBudget[3]);
     click(work->cmdConfirm);
     g.band.read(band);
-    EXPECT_EQ(g.band->albumStatus, 1);
-    EXPECT_EQ(g.band->materialBudget, 3);
+    EXPECT_EQ(std::tuple(g.band->albumStatus, g.band->materialBudget), std::tuple(1, 3));
 
     std::vector<int32_t> songs;
     for (const char* title : {"Low Tide", "Night Bus", "Glass Roof"}) {
@@ -177,8 +176,7 @@ TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {
     ASSERT_EQ(facilities->flxBusinesses->rowCount(), 1);
     EXPECT_EQ(facilities->flxBusinesses->item(0, 3)->text().toStdString(), "Under Construction");
     g.business.read(g.business.recordCount() - 1);
-    EXPECT_EQ(trim(g.business->name.value), "Nightjar Rooms");
-    EXPECT_EQ(g.business->open, 0);
+    EXPECT_EQ(std::tuple(trim(g.business->name.value), g.business->open), std::tuple(std::string("Nightjar Rooms"), 0));
     screenshotOf(facilities, "38_LabelFacilities");
     delete facilities;
 }
@@ -208,7 +206,6 @@ TEST_F(ScreenTest, AnEndedOptionIsDecidedOnItsOwnScreen) {
     screenshot("39_frmBandOptionDecision");
     click("cmdYes");
     g.band.read(band);
-    EXPECT_EQ(g.band->optionsRemaining, 1);
-    EXPECT_EQ(g.band->advanceToPay, moneyUnits(30000));
+    EXPECT_EQ(std::tuple(g.band->optionsRemaining, g.band->advanceToPay), std::tuple(1, moneyUnits(30000)));
     EXPECT_EQ(screen(), Screen::frmNews);
 }

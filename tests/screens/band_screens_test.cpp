@@ -13,34 +13,6 @@
 
 namespace trovane::test {
 
-namespace {
-
-// An unsigned act of two, asking 60,000 and three 18-month options at 10 percent.
-int16_t addFreeBand(Game& g, const std::string& name) {
-    std::array<int16_t, 10> members{};
-    for (int i = 0; i < 2; ++i) {
-        g.artist.rec = ArtistRecord{.forename = i == 0 ? "Rae" : "Sol",
-                                    .surname = "Marsh",
-                                    .age = static_cast<uint8_t>(20 + i),
-                                    .male = kTrue,
-                                    .energy = 100};
-        members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
-    }
-    g.band.rec = BandRecord{.name = name,
-                            .style = 1,
-                            .memberCount = 2,
-                            .members = members,
-                            .reputation = {12, 3, 4, 2, 2},
-                            .initialAdvance = moneyUnits(60'000),
-                            .additionalAdvance = moneyUnits(60'000),
-                            .optionLength = 18,
-                            .additionalAdvanceCount = 3,
-                            .royaltyRate = 10};
-    return static_cast<int16_t>(g.band.append());
-}
-
-}  // namespace
-
 class BandScreens : public ScreenTest {
 protected:
     int16_t band = 0;
@@ -48,7 +20,7 @@ protected:
     void SetUp() override {
         ScreenTest::SetUp();
         startNewGameAsPlayer();
-        band = addFreeBand(*game, "The Marsh Lights");
+        band = addMarshAct(*game, "The Marsh Lights");
     }
     void openFromSearch(const QString& name) {
         click(window->sideBar()->btnFind);
@@ -133,9 +105,8 @@ TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
     int32_t offer = hasOfferFrom(*game, game->player.playerLabel, band);
     ASSERT_NE(offer, 0);
     game->offer.read(offer);
-    EXPECT_EQ(game->offer->initialAdvance, 65'000);
-    EXPECT_EQ(game->offer->royalty, 11);
-    EXPECT_EQ(game->offer->optionLength, 12);
+    EXPECT_EQ(std::tuple(game->offer->initialAdvance, game->offer->royalty, game->offer->optionLength),
+              std::tuple(65'000, 11, 12));
     ASSERT_EQ(screen(), Screen::frmBandDetails);
 
     click(extraEntry("lblChange"));

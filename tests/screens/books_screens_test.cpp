@@ -66,9 +66,9 @@ TEST_F(ScreenTest, LabelDetailsShowTheBooksAndLockDepartmentChangesIn) {
     EXPECT_EQ(page->lblQualityR->text(), "8%");
     EXPECT_EQ(page->lblWageBillR->text(), "£6,000");
     game->label.read(game->player.playerLabel);
-    EXPECT_EQ(game->label->department[1].staffAtLevel[0], 2);
-    EXPECT_EQ(game->label->department[1].rating, 8);
-    EXPECT_EQ(game->label->wageBill, moneyUnits(6000));
+    EXPECT_EQ(std::tuple(game->label->department[1].staffAtLevel[0], game->label->department[1].rating,
+                         game->label->wageBill),
+              std::tuple(2, 8, moneyUnits(6000)));
     screenshot("63_frmLabelDetails_department_locked");
 
     window->labelOnScreen = 1;  // a rival's shows the same, locked
@@ -128,12 +128,10 @@ TEST_F(ScreenTest, FindStaffOpensAPersonWhoseOptionsFollowTheirState) {
     screenshotOf(form, "66_frmStaffContract");
     click(form->cmdOk);
     game->staff.read(free);
-    EXPECT_EQ(game->staff->offerLabel, player);
-    EXPECT_EQ(game->staff->offerYears, 4);
-    EXPECT_EQ(game->staff->offerWage, moneyUnits(1250));
+    EXPECT_EQ(std::tuple(game->staff->offerLabel, game->staff->offerYears, game->staff->offerWage),
+              std::tuple(player, 4, moneyUnits(1250)));
     game->schedule.read(game->schedule.recordCount() - 1);
-    EXPECT_EQ(game->schedule->type, 1);
-    EXPECT_EQ(game->schedule->department, 5);
+    EXPECT_EQ(std::tuple(game->schedule->type, game->schedule->department), std::tuple(1, 5));
 
     click(bar->cmdExtra);
     ASSERT_EQ(bar->openPanel()->objectName(), "frmStaffOptionsApproached");
@@ -150,9 +148,8 @@ TEST_F(ScreenTest, FindStaffOpensAPersonWhoseOptionsFollowTheirState) {
     ASSERT_NE(sure, nullptr);
     click(sure->lblConfirm);
     game->schedule.read(game->schedule.recordCount() - 1);
-    EXPECT_EQ(game->schedule->type, 3);
-    EXPECT_EQ(game->schedule->staff, ours);
-    EXPECT_EQ(game->schedule->date, game->gameDate);
+    EXPECT_EQ(std::tuple(game->schedule->type, game->schedule->staff, game->schedule->date),
+              std::tuple(3, ours, game->gameDate));
 }
 
 }  // namespace trovane::test

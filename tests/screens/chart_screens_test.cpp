@@ -52,12 +52,9 @@ TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntriesAndAPastWeekAndAnotherC
     screens::frmChartForm form(*window);
     const auto& lines = form.model()->lines();
     ASSERT_EQ(lines.size(), 3u);
-    EXPECT_EQ(lines[0].e.movement, "-");
-    EXPECT_EQ(lines[0].e.weeks, 3);
-    EXPECT_EQ(lines[1].e.entry, "Re-entry");
-    EXPECT_EQ(lines[1].e.peak, 1);
-    EXPECT_EQ(lines[2].e.entry, "New");
-    EXPECT_EQ(lines[2].e.movement, "NE");
+    EXPECT_EQ(std::tuple(lines[0].e.movement, lines[0].e.weeks), std::tuple(std::string("-"), 3));
+    EXPECT_EQ(std::tuple(lines[1].e.entry, lines[1].e.peak), std::tuple(std::string("Re-entry"), 1));
+    EXPECT_EQ(std::tuple(lines[2].e.entry, lines[2].e.movement), std::tuple(std::string("New"), std::string("NE")));
     EXPECT_EQ(form.cmbChart->count(), 10);
     EXPECT_EQ(form.cmbWeek->count(), 3);
     EXPECT_EQ(form.lblChartSizeR->text(), QStringLiteral("Top 40"));

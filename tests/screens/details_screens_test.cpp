@@ -20,28 +20,6 @@
 
 namespace trovane::test {
 
-namespace {
-
-// An act of two on the label: Rae 'Sparky' Marsh, a woman, and Sol Marsh.
-int16_t addAct(Game& g, const std::string& name, int16_t label) {
-    std::array<int16_t, 10> members{};
-    for (int i = 0; i < 2; ++i) {
-        g.artist.rec = ArtistRecord{.forename = i == 0 ? "Rae" : "Sol",
-                                    .surname = "Marsh",
-                                    .nickname = i == 0 ? "Sparky" : "",
-                                    .age = static_cast<uint8_t>(24 + i),
-                                    .male = i == 0 ? kFalse : kTrue,
-                                    .band = static_cast<int16_t>(g.band.recordCount()),
-                                    .energy = 100};
-        members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
-    }
-    g.band.rec = BandRecord{
-        .name = name, .style = 1, .label = label, .memberCount = 2, .members = members, .reputation = {12, 3, 4, 2, 2}};
-    return static_cast<int16_t>(g.band.append());
-}
-
-}  // namespace
-
 class DetailsScreens : public ScreenTest {
 protected:
     int16_t ours = 0, theirs = 0;
@@ -50,8 +28,8 @@ protected:
         ScreenTest::SetUp();
         startNewGameAsPlayer();
         Game& g = *game;
-        ours = addAct(g, "The Marsh Lights", g.player.playerLabel);
-        theirs = addAct(g, "The Far Lights", 0);
+        ours = addMarshAct(g, "The Marsh Lights", g.player.playerLabel);
+        theirs = addMarshAct(g, "The Far Lights");
         g.tour.rec = TourRecord{.areaCode = "E", .band = ours};
         g.tour.append();
     }
@@ -62,6 +40,12 @@ protected:
     screens::OptionPanel* pressExtra() {
         click(window->sideBar()->cmdExtra);
         return window->sideBar()->extraPanel();
+    }
+    // Extra pressed: the options panel of that name is open.
+    screens::OptionPanel* expectPanel(const char* name) {
+        screens::OptionPanel* panel = pressExtra();
+        EXPECT_EQ(panel ? panel->objectName() : QString(), QLatin1String(name));
+        return panel;
     }
     // A figure of the screen on show (the status bar has names of its own).
     QLabel* label(const char* name) {
@@ -106,32 +90,27 @@ TEST_F(DetailsScreens, AnotherLabelsArtistShowsNoImageAndHasNoOptions) {
 
 TEST_F(DetailsScreens, ExtraOpensTheOptionsOfEachDetailsScreenAndClosesOnASecondPress) {
     window->openBand(ours);
-    screens::OptionPanel* panel = pressExtra();
+    screens::OptionPanel* panel = expectPanel("frmBandOptionsSigned");
     ASSERT_NE(panel, nullptr);
-    EXPECT_EQ(panel->objectName(), "frmBandOptionsSigned");
     EXPECT_TRUE(panel->isVisible());
     click(window->sideBar()->cmdExtra);
     EXPECT_FALSE(panel->isVisible());
 
     window->openBand(theirs);
-    panel = pressExtra();
-    ASSERT_NE(panel, nullptr);
-    EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned");
+    expectPanel("frmBandOptionsUnsigned");
 
     const int16_t rival = game->player.playerLabel == 1 ? 2 : 1;
     ASSERT_LT(rival, game->label.recordCount());
     amend(game->band, theirs, [&] { game->band->label = rival; });
     window->openBand(theirs);
-    panel = pressExtra();
+    panel = expectPanel("frmBandOptionsUnsigned");  // signed elsewhere
     ASSERT_NE(panel, nullptr);
-    EXPECT_EQ(panel->objectName(), "frmBandOptionsUnsigned") << "signed elsewhere";
     EXPECT_FALSE(panel->entry("lblApproach")->isEnabled());
     EXPECT_TRUE(panel->entry("lblScout")->isEnabled());
 
     window->openArtist(member(ours, 1));
-    panel = pressExtra();
+    panel = expectPanel("frmArtistOptionsSigned");
     ASSERT_NE(panel, nullptr);
-    EXPECT_EQ(panel->objectName(), "frmArtistOptionsSigned");
     EXPECT_NE(panel->entry("lblChangeImage"), nullptr);
     screenshotOf(window.get(), "42_frmArtistOptionsSigned");
     continueOneDay();

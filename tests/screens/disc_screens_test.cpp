@@ -158,12 +158,10 @@ TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
     click(sides.cmdConfirm);
     ASSERT_GT(sides.single, 0);
     g.disc.read(sides.single);
-    EXPECT_EQ(g.disc->isSingle, 1);
     EXPECT_EQ(g.disc->studio, studio) << "the single is booked into the chosen studio";
-    EXPECT_EQ(trim(g.disc->title.value), "Song 1");
-    EXPECT_EQ(g.disc->quality, 80);
-    EXPECT_EQ(g.disc->tracks[1], songs[1]);
-    EXPECT_EQ(g.disc->totalSales[0], 0);
+    EXPECT_EQ(std::tuple(g.disc->isSingle, trim(g.disc->title.value), g.disc->quality, g.disc->tracks[1],
+                         g.disc->totalSales[0]),
+              std::tuple(1, std::string("Song 1"), 80, songs[1], 0));
 }
 
 }  // namespace

@@ -32,12 +32,11 @@ TEST_F(PromotionScreen, AnOutletIsChosenADayPickedAndTheBookingConfirmed) {
     startNewGameAsPlayer();
     Game& g = *game;
     int16_t band = ourBand();
-    ASSERT_GT(band, 0);
-    g.band.read(band);
     // An outspoken act of modest standing: an article is worth a lot to it.
-    g.band->reputation = {30, 30, 30, 30, 30};
-    g.band->controversy = 100;
-    g.band.write();
+    amend(g.band, band, [&] {
+        g.band->reputation = {30, 30, 30, 30, 30};
+        g.band->controversy = 100;
+    });
     g.media.rec = MediaRecord{.mediaName = "Worldwide Weekly",
                               .mediaType = 1,
                               .reach = 2,
@@ -69,10 +68,8 @@ TEST_F(PromotionScreen, AnOutletIsChosenADayPickedAndTheBookingConfirmed) {
     ASSERT_NE(sure, nullptr);
     click(sure->lblConfirm);
     g.schedule.read(g.schedule.recordCount() - 1);
-    EXPECT_EQ(g.schedule->type, 17);
-    EXPECT_EQ(g.schedule->media, outlet);
-    EXPECT_EQ(g.schedule->mediaOption, 4);
-    EXPECT_EQ(g.schedule->date, day);
+    EXPECT_EQ(std::tuple(g.schedule->type, g.schedule->media, g.schedule->mediaOption, g.schedule->date),
+              std::tuple(17, outlet, 4, day));
 }
 
 }  // namespace

@@ -129,6 +129,32 @@ int16_t addHartbeats(Game& g, uint8_t members, uint8_t reputation) {
     return band;
 }
 
+int16_t addMarshAct(Game& g, const std::string& name, int16_t label) {
+    std::array<int16_t, 10> members{};
+    for (int i = 0; i < 2; ++i) {
+        g.artist.rec = ArtistRecord{.forename = i == 0 ? "Rae" : "Sol",
+                                    .surname = "Marsh",
+                                    .nickname = i == 0 ? "Sparky" : "",
+                                    .age = static_cast<uint8_t>(24 + i),
+                                    .male = i == 0 ? kFalse : kTrue,
+                                    .band = static_cast<int16_t>(g.band.recordCount()),
+                                    .energy = 100};
+        members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
+    }
+    g.band.rec = BandRecord{.name = name,
+                            .style = 1,
+                            .label = label,
+                            .memberCount = 2,
+                            .members = members,
+                            .reputation = {12, 3, 4, 2, 2},
+                            .initialAdvance = moneyUnits(60'000),
+                            .additionalAdvance = moneyUnits(60'000),
+                            .optionLength = 18,
+                            .additionalAdvanceCount = 3,
+                            .royaltyRate = 10};
+    return static_cast<int16_t>(g.band.append());
+}
+
 int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacity) {
     g.venue.rec = VenueRecord{.name = name, .capacity = capacity, .city = city};
     return static_cast<int16_t>(g.venue.append());

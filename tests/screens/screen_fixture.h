@@ -68,6 +68,9 @@ namespace trovane::test {
 // Nia Hart is each of its `members` members.
 int16_t addHartbeats(Game& g, uint8_t members = 1, uint8_t reputation = 30);
 int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacity);
+// An act of two on the label (0: unsigned): Rae 'Sparky' Marsh, a woman, and Sol
+// Marsh; it asks 60,000 and three 18-month options at 10 percent.
+int16_t addMarshAct(Game& g, const std::string& name, int16_t label = 0);
 
 }  // namespace trovane::test
 

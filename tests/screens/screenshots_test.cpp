@@ -117,16 +117,13 @@ TEST_F(ScreenTest, ScreenshotsOfEveryScreenAtBothSizes) {
     dialog("frmHelpForm")->close();
 
     screens::frmSideBar* bar = window->sideBar();
-    struct PanelShot {
-        QPushButton* button;
-        const char* name;
-    };
-    for (PanelShot p :
-         {PanelShot{bar->btnFind, "13_frmFindOptions"}, PanelShot{bar->btnCharts, "14_frmChartOptions"},
-          PanelShot{bar->btnGameOptions, "15_frmGameOptions"}, PanelShot{bar->btnQuit, "16_frmQuitOptions"}}) {
-        click(p.button);
-        screenshot(p.name);
-        click(p.button);
+    for (auto [button, name] : {std::pair<QPushButton*, const char*>{bar->btnFind, "13_frmFindOptions"},
+                                {bar->btnCharts, "14_frmChartOptions"},
+                                {bar->btnGameOptions, "15_frmGameOptions"},
+                                {bar->btnQuit, "16_frmQuitOptions"}}) {
+        click(button);
+        screenshot(name);
+        click(button);
     }
     window->openSaveScreen(false);
     screenshot("17_frmSaveGame_save", {"lstSaves", "txtSaveName", "cmdSave", "btnOk"});

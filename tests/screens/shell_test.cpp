@@ -29,22 +29,15 @@ using screens::OptionPanel;
 TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
     startNewGameAsPlayer();
     screens::frmSideBar* bar = window->sideBar();
-    struct Case {
-        QPushButton* button;
-        OptionPanel* panel;
-    };
-    const Case cases[] = {{bar->btnFind, bar->findOptions()},
-                          {bar->btnCharts, bar->chartOptions()},
-                          {bar->btnGameOptions, bar->gameOptions()},
-                          {bar->btnQuit, bar->quitOptions()}};
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.panel->objectName().toStdString());
-        click(c.button);
-        EXPECT_EQ(bar->openPanel(), c.panel);
-        EXPECT_TRUE(c.button->isChecked());
-        click(c.button);  // a second click closes it
-        EXPECT_EQ(bar->openPanel(), nullptr);
-        EXPECT_FALSE(c.button->isChecked());
+    for (auto [button, panel] : {std::pair<QPushButton*, OptionPanel*>{bar->btnFind, bar->findOptions()},
+                                 {bar->btnCharts, bar->chartOptions()},
+                                 {bar->btnGameOptions, bar->gameOptions()},
+                                 {bar->btnQuit, bar->quitOptions()}}) {
+        SCOPED_TRACE(panel->objectName().toStdString());
+        click(button);
+        EXPECT_EQ(std::tuple(bar->openPanel(), button->isChecked()), std::tuple(panel, true));
+        click(button);  // a second click closes it
+        EXPECT_EQ(std::tuple(bar->openPanel(), button->isChecked()), (std::tuple<OptionPanel*, bool>(nullptr, false)));
     }
     click(bar->btnFind);
     click(bar->btnGameOptions);  // another button swaps the panels

@@ -19,19 +19,16 @@ struct AlbumWorld {
     static constexpr int16_t kPlayer = 2;
 
     AlbumWorld() {
-        g.country->name = std::string("England");
-        g.country->region = std::string("E");
+        g.country.rec = CountryRecord{.name = "England", .region = "E"};
         g.country.append();
-        g.city->name = std::string("London");
-        g.city->country = 1;
+        g.city.rec = CityRecord{.name = "London", .country = 1};
         g.city.append();
-        g.style->name = std::string("Rock");
-        g.style->commerciality = 60;
+        g.style.rec = StyleRecord{.name = "Rock", .commerciality = 60};
         g.style.append();
-        g.label.rec = LabelRecord{.name = std::string("Rival Records"), .bandCount = 1};
-        g.label.append();
-        g.label.rec = LabelRecord{.name = std::string("Home Label"), .bandCount = 1};
-        g.label.append();
+        for (const char* name : {"Rival Records", "Home Label"}) {
+            g.label.rec = LabelRecord{.name = name, .bandCount = 1};
+            g.label.append();
+        }
         g.player.playerLabel = kPlayer;
     }
 
@@ -40,30 +37,27 @@ struct AlbumWorld {
     int16_t addBand(const std::string& name, int16_t label, int members = 2, uint8_t songQuality = 50,
                     uint8_t writingRate = 40) {
         const int16_t band = static_cast<int16_t>(g.band.recordCount());
-        BandRecord b{};
-        b.name = name;
-        b.label = label;
-        b.style = 1;
-        b.memberCount = static_cast<uint8_t>(members);
-        b.contractEnd = kNoDate;
-        b.stamina = 50;
-        b.offerStage = 1;
-        b.additionalAdvanceCount = 2;
-        b.optionsRemaining = 3;
-        b.optionMonthsLeft = 12;
-        b.reputation = {10, 10, 10, 10, 10};
+        BandRecord b{.name = name,
+                     .style = 1,
+                     .label = label,
+                     .memberCount = static_cast<uint8_t>(members),
+                     .contractEnd = kNoDate,
+                     .stamina = 50,
+                     .reputation = {10, 10, 10, 10, 10},
+                     .offerStage = 1,
+                     .optionsRemaining = 3,
+                     .optionMonthsLeft = 12,
+                     .additionalAdvanceCount = 2};
         for (int i = 0; i < members; ++i) {
-            ArtistRecord a{};
-            a.forename = "Member" + std::to_string(i + 1);
-            a.surname = name;
-            a.male = -1;
-            a.band = band;
-            a.style = 1;
-            a.songQuality = songQuality;
-            a.songCommerciality = songQuality;
-            a.writingRate = writingRate;
-            a.energy = 100;
-            g.artist.rec = a;
+            g.artist.rec = ArtistRecord{.forename = "Member" + std::to_string(i + 1),
+                                        .surname = name,
+                                        .style = 1,
+                                        .male = -1,
+                                        .band = band,
+                                        .songQuality = songQuality,
+                                        .writingRate = writingRate,
+                                        .songCommerciality = songQuality,
+                                        .energy = 100};
             b.members[static_cast<std::size_t>(i)] = static_cast<int16_t>(g.artist.append());
         }
         g.band.rec = b;
@@ -71,23 +65,14 @@ struct AlbumWorld {
     }
 
     int16_t addFirm(const std::string& name, uint8_t kind, uint8_t quality, int16_t owner, bool open = true) {
-        g.business.rec = BusinessRecord{};
-        g.business->name = name;
-        g.business->kind = kind;
-        g.business->city = 1;
-        g.business->quality = quality;
-        g.business->owner = owner;
-        g.business->open = open ? int16_t{-1} : int16_t{0};
+        g.business.rec = BusinessRecord{
+            .name = name, .kind = kind, .city = 1, .quality = quality, .owner = owner, .open = int16_t(open ? -1 : 0)};
         return static_cast<int16_t>(g.business.append());
     }
 
     int32_t addSong(int16_t band, uint8_t quality, uint8_t commerciality, uint16_t disc = 65535) {
-        g.song.rec = SongRecord{};
-        g.song->title = std::string("Song");
-        g.song->band = band;
-        g.song->quality = quality;
-        g.song->commerciality = commerciality;
-        g.song->disc = disc;
+        g.song.rec =
+            SongRecord{.title = "Song", .band = band, .quality = quality, .commerciality = commerciality, .disc = disc};
         return g.song.append();
     }
 

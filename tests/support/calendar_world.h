@@ -21,10 +21,7 @@ inline int16_t addBand(Game& g, std::initializer_list<int> energies, int16_t lab
         g.artist.rec = ArtistRecord{.male = kTrue, .energy = static_cast<int16_t>(e), .morale = 50};
         members.push_back(static_cast<int16_t>(g.artist.append()));
     }
-    g.band.rec = BandRecord{};
-    g.band->name = name;
-    g.band->label = label;
-    g.band->memberCount = static_cast<uint8_t>(members.size());
+    g.band.rec = BandRecord{.name = name, .label = label, .memberCount = static_cast<uint8_t>(members.size())};
     for (std::size_t i = 0; i < members.size(); ++i) g.band->members[i] = members[i];
     int16_t id = static_cast<int16_t>(g.band.append());
     for (int16_t m : members) {
@@ -36,17 +33,13 @@ inline int16_t addBand(Game& g, std::initializer_list<int> energies, int16_t lab
 // A one-gig tour headlined by `headliner` (0 leaves the first act slot empty).
 inline int32_t addGig(Game& g, int16_t headliner, double date, std::initializer_list<int16_t> support = {},
                       int16_t tourBand = -2, int16_t festival = 0) {
-    g.tour.rec = TourRecord{};
-    g.tour->band = tourBand == -2 ? headliner : tourBand;
-    g.tour->festival = festival;
-    g.tour->supportCount = static_cast<uint8_t>(support.size());
+    g.tour.rec = TourRecord{.band = tourBand == -2 ? headliner : tourBand,
+                            .festival = festival,
+                            .supportCount = static_cast<uint8_t>(support.size())};
     int16_t tour = static_cast<int16_t>(g.tour.append());
-    g.gig.rec = GigRecord{};
-    g.gig->bill[0] = headliner;
+    g.gig.rec = GigRecord{.bill = {headliner}, .tour = tour, .gigDate = date};
     std::size_t slot = 1;
     for (int16_t s : support) g.gig->bill[slot++] = s;
-    g.gig->tour = tour;
-    g.gig->gigDate = date;
     int32_t gig = g.gig.append();
     amend(g.tour, tour, [&] {
         g.tour->gigCount = 1;
@@ -56,12 +49,7 @@ inline int32_t addGig(Game& g, int16_t headliner, double date, std::initializer_
 }
 
 inline int32_t file(Game& g, uint8_t type, double date, int16_t band = 0, int32_t gig = 0) {
-    ScheduleRecord r{};
-    r.type = type;
-    r.date = date;
-    r.band = band;
-    r.gig = gig;
-    return addSchedule(g, r);
+    return addSchedule(g, ScheduleRecord{.type = type, .date = date, .band = band, .gig = gig});
 }
 
 }  // namespace trovane::test

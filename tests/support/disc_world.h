@@ -26,36 +26,27 @@ public:
     }
 
     int16_t addLabel(const char* name) {
-        g.label.rec = LabelRecord{};
-        g.label->name = name;
+        g.label.rec = LabelRecord{.name = name};
         return static_cast<int16_t>(g.label.append());
     }
 
     int16_t addFirm(uint8_t kind, uint8_t quality, int16_t owner) {
-        g.business.rec = BusinessRecord{};
-        g.business->name = kind == 1 ? "Press Co" : "Ship Co";
-        g.business->kind = kind;
-        g.business->quality = quality;
-        g.business->owner = owner;
-        g.business->open = -1;
+        g.business.rec = BusinessRecord{
+            .name = kind == 1 ? "Press Co" : "Ship Co", .kind = kind, .quality = quality, .owner = owner, .open = -1};
         return static_cast<int16_t>(g.business.append());
     }
 
     // Two members with an image of 80; ability 80, reputation 50 everywhere.
     int16_t addBand(const char* name, int16_t bandLabel) {
-        g.band.rec = BandRecord{};
-        g.band->name = name;
-        g.band->label = bandLabel;
-        g.band->style = static_cast<uint8_t>(style);
-        g.band->ability = 80;
-        g.band->reputation = {50, 50, 50, 50, 50};
-        g.band->memberCount = 2;
+        g.band.rec = BandRecord{.name = name,
+                                .ability = 80,
+                                .style = static_cast<uint8_t>(style),
+                                .label = bandLabel,
+                                .memberCount = 2,
+                                .reputation = {50, 50, 50, 50, 50}};
         int16_t id = static_cast<int16_t>(g.band.append());
         for (std::size_t i = 0; i < 2; ++i) {
-            g.artist.rec = ArtistRecord{};
-            g.artist->imageRating = 80;
-            g.artist->royaltyShare = 50;
-            g.artist->band = id;
+            g.artist.rec = ArtistRecord{.band = id, .imageRating = 80, .royaltyShare = 50};
             amend(g.band, id, [&] { g.band->members[i] = static_cast<int16_t>(g.artist.append()); });
         }
         return id;
@@ -64,22 +55,21 @@ public:
     // An album of quality and commerciality 80, hype 50 and promotion 20,
     // out in every territory with the given stock and the distributor.
     int16_t addDisc(const char* title, int32_t stock = 1000000, int16_t discBand = 0, uint8_t single = 0) {
-        g.disc.rec = DiscRecord{};
-        g.disc->title = title;
-        g.disc->band = discBand ? discBand : band;
-        g.disc->label = label;
-        g.disc->isSingle = single;
-        g.disc->quality = 80;
-        g.disc->commerciality = 80;
-        g.disc->trackCount = single ? 3 : 10;
-        g.disc->tracksRecorded = g.disc->trackCount;
-        for (std::size_t t = 0; t < 5; ++t) {
-            g.disc->hype[t] = 50;
-            g.disc->promotion[t] = 20;
-            g.disc->stock[t] = stock;
-            g.disc->distributor[t] = distributor;
-            g.disc->releaseDate[t] = g.gameDate - 7;
-        }
+        const uint8_t tracks = single ? 3 : 10;
+        const double out = g.gameDate - 7;
+        g.disc.rec = DiscRecord{.title = title,
+                                .hype = {50, 50, 50, 50, 50},
+                                .promotion = {20, 20, 20, 20, 20},
+                                .stock = {stock, stock, stock, stock, stock},
+                                .distributor = {distributor, distributor, distributor, distributor, distributor},
+                                .releaseDate = {out, out, out, out, out},
+                                .isSingle = single,
+                                .quality = 80,
+                                .commerciality = 80,
+                                .band = discBand ? discBand : band,
+                                .label = label,
+                                .trackCount = tracks,
+                                .tracksRecorded = tracks};
         return static_cast<int16_t>(g.disc.append());
     }
 

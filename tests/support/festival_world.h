@@ -24,17 +24,16 @@ public:
     }
 
     int16_t addFestival(const char* name, std::vector<uint8_t> weekdays, std::vector<uint8_t> weeks, uint8_t billSize) {
-        g.festival.rec = FestivalRecord{};
-        g.festival->festivalName = name;
-        g.festival->prestige = 50;
-        g.festival->billSize = billSize;
-        g.festival->days = static_cast<uint8_t>(weekdays.size());
+        g.festival.rec = FestivalRecord{.prestige = 50,
+                                        .billSize = billSize,
+                                        .days = static_cast<uint8_t>(weekdays.size()),
+                                        .areaCode = "E",
+                                        .festivalName = name};
         for (std::size_t i = 0; i < weekdays.size(); ++i) {
             g.festival->weekday[i] = weekdays[i];
             g.festival->week[i] = weeks[i];
             g.festival->fixedVenue[i] = farm;
         }
-        g.festival->areaCode = "E";
         return static_cast<int16_t>(g.festival.append());
     }
 
@@ -62,10 +61,8 @@ public:
     }
     // Runs the festival's type 22 entry, as the day would.
     void fill(int16_t tour) {
-        double first = 0;
         g.gig.read(gigsOf(tour)[0]);
-        first = g.gig->gigDate;
-        for (int32_t id : entriesOfDay(g, festivalFillDate(first, g.gameDate))) {
+        for (int32_t id : entriesOfDay(g, festivalFillDate(g.gig->gigDate, g.gameDate))) {
             g.schedule.read(id);
             if (g.schedule->type == 22 && g.schedule->gig == gigsOf(tour)[0]) {
                 g.schedule.read(id);

@@ -37,10 +37,7 @@ public:
         return static_cast<int16_t>(g.city.append());
     }
     int16_t addVenue(const char* name, int32_t capacity, int16_t city) {
-        g.venue.rec = VenueRecord{};
-        g.venue->name = name;
-        g.venue->capacity = capacity;
-        g.venue->city = city;
+        g.venue.rec = VenueRecord{.name = name, .capacity = capacity, .city = city};
         return static_cast<int16_t>(g.venue.append());
     }
 

@@ -11,28 +11,22 @@ namespace trovane::test {
 
 inline int16_t addStyle(Game& g, uint8_t lifeSpan, uint8_t commerciality = 100, uint8_t parent = 0,
                         const std::string& name = "Rock") {
-    g.style.rec = StyleRecord{};
-    g.style->name = name;
-    g.style->lifeSpan = lifeSpan;
-    g.style->commerciality = commerciality;
-    g.style->abilityWeight = 100;
-    g.style->parentStyle = parent;
+    g.style.rec = StyleRecord{.name = name,
+                              .lifeSpan = lifeSpan,
+                              .commerciality = commerciality,
+                              .abilityWeight = 100,
+                              .parentStyle = parent};
     return static_cast<int16_t>(g.style.append());
 }
 
 inline int16_t addJob(Game& g, int16_t rank) {
-    g.job.rec = JobRecord{};
-    g.job->title = "Singer";
-    g.job->rank = rank;
+    g.job.rec = JobRecord{.title = "Singer", .rank = rank};
     return static_cast<int16_t>(g.job.append());
 }
 
 inline int16_t addLabel(Game& g, std::array<uint8_t, 5> reputation, const std::string& name = "Rival Records",
                         uint8_t aAndR = 100) {
-    g.label.rec = LabelRecord{};
-    g.label->name = name;
-    g.label->reputation = reputation;
-    g.label->maxControversy = 100;
+    g.label.rec = LabelRecord{.name = name, .maxControversy = 100, .reputation = reputation};
     g.label->department[0].rating = aAndR;
     return static_cast<int16_t>(g.label.append());
 }
@@ -55,24 +49,24 @@ inline int16_t addAct(Game& g, const ActSpec& s) {
     std::array<int16_t, 10> members{};
     for (int16_t rank : s.ranks) {
         int16_t job = addJob(g, rank);
-        g.artist.rec =
-            ArtistRecord{.forename = "Member", .surname = std::to_string(i + 1), .job = static_cast<uint8_t>(job)};
-        g.artist->band = id;
-        g.artist->male = kTrue;
-        g.artist->style = s.style;
-        g.artist->reputation = s.reputation;
-        g.artist->energy = 100;
+        g.artist.rec = ArtistRecord{.forename = "Member",
+                                    .surname = std::to_string(i + 1),
+                                    .job = static_cast<uint8_t>(job),
+                                    .style = s.style,
+                                    .male = kTrue,
+                                    .band = id,
+                                    .reputation = s.reputation,
+                                    .energy = 100};
         members[static_cast<std::size_t>(i++)] = static_cast<int16_t>(g.artist.append());
     }
-    g.band.rec = BandRecord{};
-    g.band->name = s.name;
-    g.band->reputation = s.reputation;
+    g.band.rec = BandRecord{.name = s.name,
+                            .age = s.age,
+                            .style = s.style,
+                            .label = s.label,
+                            .memberCount = static_cast<uint8_t>(i),
+                            .members = members,
+                            .reputation = s.reputation};
     for (std::size_t m = 0; m < 5; ++m) g.band->hype[m] = static_cast<int16_t>(-s.reputation[m]);
-    g.band->memberCount = static_cast<uint8_t>(i);
-    g.band->members = members;
-    g.band->label = s.label;
-    g.band->style = s.style;
-    g.band->age = s.age;
     g.band.append();
     return id;
 }

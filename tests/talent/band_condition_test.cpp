@@ -111,12 +111,11 @@ TEST_F(Condition, ARestedPlayerBandSaysThanksOnce) {
     complain(tired, 49, 49);  // 49: not above 49
     complain(rival, 90, 90);
     checkBandEnergy(g);
-    g.band.read(ours);
-    EXPECT_EQ(g.band->complaints[1], 0);
-    g.band.read(tired);
-    EXPECT_EQ(g.band->complaints[1], 1);
-    g.band.read(rival);
-    EXPECT_EQ(g.band->complaints[1], 0) << "a rival's band is rested too, without news";
+    // A rival's band is rested too, without news.
+    for (auto [b, complaint] : {std::pair{ours, 0}, {tired, 1}, {rival, 0}}) {
+        g.band.read(b);
+        EXPECT_EQ(g.band->complaints[1], complaint) << b;
+    }
     ASSERT_EQ(g.news.recordCount(), 2);
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "The Rested say thanks to Home Records");
@@ -174,13 +173,11 @@ TEST_F(Condition, UnsignedMonthsCountOnlyForFreeActiveBands) {
         });
     }
     updateBandTimeWithoutADeal(g);
-    g.band.read(free);
-    EXPECT_EQ(g.band->monthsUnsigned, 9);
-    EXPECT_EQ(g.band->retired, kFalse);
-    g.band.read(signedBand);
-    EXPECT_EQ(g.band->monthsUnsigned, 8);
-    g.band.read(gone);
-    EXPECT_EQ(g.band->monthsUnsigned, 8);
+    for (auto [b, months] : {std::pair{signedBand, 8}, {gone, 8}, {free, 9}}) {
+        g.band.read(b);
+        EXPECT_EQ(g.band->monthsUnsigned, months) << b;
+    }
+    EXPECT_EQ(g.band->retired, kFalse) << "nine months unsigned is not yet the end";
 }
 
 TEST_F(Condition, FeelingsNameTheBreakOrContentment) {

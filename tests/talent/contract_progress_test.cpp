@@ -19,6 +19,10 @@ struct ContractProgress : ::testing::Test, AlbumWorld {
         change(g.band.rec);
         g.band.write();
     }
+    BandRecord band(int16_t n) {
+        g.band.read(n);
+        return g.band.rec;
+    }
 };
 
 }  // namespace
@@ -31,12 +35,8 @@ TEST_F(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
     setBand(second, [](BandRecord& b) { b.optionsRemaining = 2; });
     setBand(released, [](BandRecord& b) { b.optionMonthsLeft = 100; });
     updateMonthsRemainingOnOption(g);
-    g.band.read(first);
-    EXPECT_EQ(g.band->optionMonthsLeft, 6);
-    g.band.read(second);
-    EXPECT_EQ(g.band->optionMonthsLeft, 12);
-    g.band.read(released);
-    EXPECT_EQ(g.band->optionMonthsLeft, 100);
+    EXPECT_EQ(std::tuple(band(first).optionMonthsLeft, band(second).optionMonthsLeft, band(released).optionMonthsLeft),
+              std::tuple(6, 12, 100));
     ASSERT_EQ(newsCount(), 1) << "the warning at exactly 6";
     EXPECT_EQ(trim(lastNews().title.value), "6 months remain on First's option");
     EXPECT_EQ(trim(lastNews().text.value),
@@ -59,10 +59,8 @@ TEST_F(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
     EXPECT_EQ(ledger(kRival, ledgerOtherExpense), -moneyUnits(100000));
     g.artist.read(1);
     EXPECT_EQ(g.artist->wealth, 50000);
-    g.band.read(band);
-    EXPECT_EQ(g.band->label, 0);
-    EXPECT_EQ(g.band->costs, 0);
-    EXPECT_EQ(g.band->advanceToPay, moneyUnits(130000));
+    const BandRecord b = this->band(band);
+    EXPECT_EQ(std::tuple(b.label, b.costs, b.advanceToPay), std::tuple(0, 0, moneyUnits(130000)));
     g.label.read(kRival);
     EXPECT_EQ(g.label->bandCount, 0);
     EXPECT_EQ(newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
@@ -95,28 +93,22 @@ TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths
     });
     g.band.read(band);
     scheduleContractPoint(g, g.gameDate);
-    g.band.read(band);
-    EXPECT_EQ(g.band->optionsRemaining, 2);
-    EXPECT_EQ(g.band->advanceToPay, moneyUnits(40000));
-    EXPECT_EQ(g.band->firstInstallmentDue, 1);
-    EXPECT_EQ(g.band->albumStatus, 0);
-    EXPECT_EQ(g.band->songsWritten, 0);
+    const BandRecord b = this->band(band);
+    EXPECT_EQ(std::tuple(b.optionsRemaining, b.advanceToPay, b.firstInstallmentDue, b.albumStatus, b.songsWritten),
+              std::tuple(2, moneyUnits(40000), 1, 0, 0));
     EXPECT_EQ(g.schedule.recordCount(), 1) << "nothing filed";
 
     for (uint8_t options : {2, 0}) {
         setBand(band, [&](BandRecord& b) { b.optionsRemaining = options; });
         g.band.read(band);
         scheduleContractPoint(g, serialFromCivil(2004, 11, 30));
-        g.band.read(band);
-        EXPECT_EQ(g.band->optionsRemaining, options) << "no take-up";
+        EXPECT_EQ(this->band(band).optionsRemaining, options) << "no take-up";
     }
     // 30 November + three months: the end of February.
     std::vector<int32_t> due = entriesOfDay(g, serialFromCivil(2005, 2, 28));
     ASSERT_EQ(due.size(), 2u);
     g.schedule.read(due[0]);
-    EXPECT_EQ(g.schedule->type, 18);
-    EXPECT_EQ(g.schedule->band, band);
-    EXPECT_EQ(g.schedule->label, kPlayer);
+    EXPECT_EQ(std::tuple(g.schedule->type, g.schedule->band, g.schedule->label), std::tuple(18, band, kPlayer));
 }
 
 TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilently) {
@@ -140,16 +132,12 @@ TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilen
     ASSERT_EQ(newsCount(), 2);
     g.news.read(1);
     EXPECT_EQ(trim(g.news->title.value), "Asks request decision on contract.");
-    EXPECT_EQ(g.news->kind, 0);
-    EXPECT_NE(g.news->mustReply, 0);
-    EXPECT_EQ(g.news->scheduleLink, 1);
+    EXPECT_EQ(std::tuple(g.news->kind, g.news->mustReply != 0, g.news->scheduleLink), std::tuple(0, true, 1));
     g.news.read(2);
     EXPECT_EQ(trim(g.news->title.value), "Done complete contractual obligations with Home Label.");
     EXPECT_NE(g.news->text.value.find("carrying advances in the region of £25,000."), std::string::npos);
-    g.band.read(done);
-    EXPECT_EQ(g.band->label, 0);
-    g.band.read(rival);
-    EXPECT_EQ(g.band->label, kRival) << "a rival decides for itself";
+    EXPECT_EQ(band(done).label, 0);
+    EXPECT_EQ(band(rival).label, kRival) << "a rival decides for itself";
 }
 
 TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {

@@ -26,12 +26,9 @@ protected:
 
 TEST_F(Terms, EveryActAsksAtLeastSixtyThousand) {
     BandRecord b = askedBy({0, 0, 0, 0, 0});
-    EXPECT_EQ(b.initialAdvance, moneyUnits(60'000));
-    EXPECT_EQ(b.additionalAdvance, moneyUnits(60'000));
-    EXPECT_EQ(b.royaltyRate, 9);
-    EXPECT_EQ(b.additionalAdvanceCount, 3);
-    EXPECT_EQ(b.optionLength, 18);
-    EXPECT_EQ(b.offerStage, 1);
+    EXPECT_EQ(std::tuple(b.initialAdvance, b.additionalAdvance, b.royaltyRate, b.additionalAdvanceCount, b.optionLength,
+                         b.offerStage),
+              std::tuple(moneyUnits(60'000), moneyUnits(60'000), 9, 3, 18, 1));
     EXPECT_EQ(b.advanceToPay, moneyUnits(60'000)) << "61,234 on its step of 5,000";
 }
 

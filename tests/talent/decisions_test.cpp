@@ -99,9 +99,7 @@ TEST_F(Deals, AnOfferIsDecidedInAWeekAndAChangeKeepsItsNumberDateAndEntry) {
     EXPECT_EQ(changed.decisionDate, m.decisionDate);
     auto entries = entriesOn(m.decisionDate);
     ASSERT_EQ(entries.size(), 1u);
-    EXPECT_EQ(entries[0].type, 4);
-    EXPECT_EQ(entries[0].offer, m.offer);
-    EXPECT_EQ(entries[0].label, home);
+    EXPECT_EQ(std::tuple(entries[0].type, entries[0].offer, entries[0].label), std::tuple(uint8_t{4}, m.offer, home));
     g.offer.read(m.offer);
     EXPECT_EQ(g.offer->royalty, 12);
     EXPECT_EQ(offerFormStart(g, band).royalty, 12) << "the form opens on the pending offer";
@@ -142,9 +140,7 @@ TEST_F(Deals, AtNinetyOneThePlayerIsAskedToConfirm) {
               "are due to sign a 4 album deal with them tomorrow morning. They added the clincher was the "
               "particularly good advances they stand to receive after their initial album is completed. Confirm the "
               "deal?");
-    EXPECT_EQ(n.kind, kNewsYesNo);
-    EXPECT_EQ(n.mustReply, kTrue);
-    EXPECT_EQ(n.scheduleLink, entries[0].id);
+    EXPECT_EQ(std::tuple(n.kind, n.mustReply, n.scheduleLink), std::tuple(kNewsYesNo, kTrue, entries[0].id));
 }
 
 TEST_F(Deals, AtNinetyTheBandRejectsWithoutAVerdict) {
@@ -186,8 +182,7 @@ TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDay) {
     EXPECT_EQ(g.news.recordCount(), 1) << "nobody is told";
     auto tomorrow = entriesOn(date + 1);
     ASSERT_EQ(tomorrow.size(), 1u);
-    EXPECT_EQ(tomorrow[0].type, 5);
-    EXPECT_EQ(tomorrow[0].offer, offer);
+    EXPECT_EQ(std::tuple(tomorrow[0].type, tomorrow[0].offer), std::tuple(uint8_t{5}, offer));
     playDay(date + 1);
     EXPECT_EQ(labelOf(band), rival);
     g.label.read(rival);
@@ -257,12 +252,10 @@ TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithItButNotOnTheDecisionDay) {
     int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
     int32_t joiner = rivalOffer(rival, m.decisionDate, false);
     const double today = g.gameDate;
-    g.gameDate = m.decisionDate;
-    EXPECT_NE(checkWithdraw(g, band), "");
-    g.gameDate = m.decisionDate - 1;
-    EXPECT_EQ(checkWithdraw(g, band), "");
-    g.gameDate = today + 1;
-    EXPECT_EQ(checkWithdraw(g, band), "");
+    for (auto [date, refused] : {std::pair{m.decisionDate, true}, {m.decisionDate - 1, false}, {today + 1, false}}) {
+        g.gameDate = date;
+        EXPECT_EQ(checkWithdraw(g, band) != "", refused) << date - today;
+    }
     withdrawOffer(g, band);
     EXPECT_EQ(entriesOn(m.decisionDate)[0].type, 255);
     g.offer.read(m.offer);
@@ -304,11 +297,9 @@ TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
     scheduleSigning(g);  // the player's yes
     performDaysEvents(g);
     g.band.read(solo);
-    EXPECT_EQ(g.band->label, home);
-    EXPECT_EQ(g.band->optionsRemaining, 4);
-    EXPECT_EQ(g.band->optionMonthsLeft, 18);
-    EXPECT_EQ(g.band->advanceToPay, moneyUnits(60'000));
-    EXPECT_EQ(g.band->signedOn, m.decisionDate);
+    EXPECT_EQ(std::tuple(g.band->label, g.band->optionsRemaining, g.band->optionMonthsLeft, g.band->advanceToPay,
+                         g.band->signedOn),
+              std::tuple(home, uint8_t{4}, uint8_t{18}, moneyUnits(60'000), m.decisionDate));
     g.artist.read(g.band->members[0]);
     EXPECT_EQ(g.artist->royaltyShare, 70);
     EXPECT_EQ(trim(lastNews().title.value), "Jo Testa signs for Home Records.");
