@@ -221,14 +221,18 @@ TEST_F(Gigs, ReviewBandsTurnAtTheirEdges) {
 
 TEST_F(Gigs, ThePlayersNightFeedsTheToursAverageAndItsReviewNamesTheVenue) {
     setMembers(100);
-    int32_t gig = oneGig(addVenue("The Dome", 500, leeds));
+    // A show of content level 1, for a style whose content weighs 20, is praised for its equipment.
+    int32_t gig = oneGig(addVenue("The Dome", 500, leeds), 1);
     g.schedule.rec = ScheduleRecord{.gig = gig};
     int16_t news = static_cast<int16_t>(g.news.recordCount());
     performGig(g);
     g.gig.read(gig);
     g.tour.read(g.gig->tour);
     EXPECT_FLOAT_EQ(g.tour->averageQuality, static_cast<float>(g.gig->overallQuality));
-    EXPECT_NE((g.news.read(news), g.news->text.value.find("The Dome")), std::string::npos);
+    const std::string review = (g.news.read(news), g.news->text.value);
+    EXPECT_NE(review.find("The Dome"), std::string::npos);
+    EXPECT_NE(review.find("the very professional sound and lighting equipment used in the show."), std::string::npos)
+        << review;
 }
 
 }  // namespace
