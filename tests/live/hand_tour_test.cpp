@@ -224,6 +224,7 @@ TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
     for (int16_t s : {a, b, d}) addSupportBand(g, t, s);
     int16_t e2 = addBand("Epsilon", label);
     EXPECT_EQ(supportRefusal(g, t, e2), "The tour already has three support bands.");
+    EXPECT_EQ(supportRefusal(g, t, static_cast<int16_t>(g.band.recordCount())), "There is no such band.");
 }
 
 TEST_F(Supports, CancellingCallsOffTheTourButNotOthersDays) {
