@@ -117,6 +117,26 @@ TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
     EXPECT_EQ(disc(d).pressingOrder[0], 100000);
 }
 
+// The rest of the world's forecast goes by the band's standing in Oceania:
+// x1 up to 49, x1.1 from 50, x1.25 from 71, x1.4 from 81, x1.5 from 91.
+TEST_F(Release, TheOtherTerritoriesForecastRisesWithOceaniaAtItsEdges) {
+    int16_t d = recorded();
+    amend(g.disc, d, [&] { g.disc->releaseDate[4] = serialFromCivil(2004, 9, 20); });
+    const Random start = g.rng;
+    auto forecastAt = [&](uint8_t oceania) {
+        amend(g.band, band, [&] { g.band->reputation[3] = oceania; });
+        g.rng = start;
+        g.disc.read(d);
+        return pressForecast(g).figure[4];
+    };
+    ASSERT_GT(forecastAt(0), 1000);
+    for (auto [same, rises] : {std::pair{0, 49}, {50, 70}, {71, 80}, {81, 90}, {91, 100}}) {
+        EXPECT_EQ(forecastAt(static_cast<uint8_t>(same)), forecastAt(static_cast<uint8_t>(rises))) << same;
+        if (rises < 100)
+            EXPECT_LT(forecastAt(static_cast<uint8_t>(rises)), forecastAt(static_cast<uint8_t>(rises + 1))) << rises;
+    }
+}
+
 TEST_F(Release, APressWeekSharesItsOutputAndPassesOnWhatASmallOrderLeavesAndTheLastTellsThePlayer) {
     int16_t d = recorded();
     amend(g.disc, d, [&] { g.disc->pressingOrder = {10000, 0, 100000, 200000, 0}; });
