@@ -56,6 +56,10 @@ TEST_F(WeeklySales, NextWeekFollowsTheHypeAndHoldsBothHypes) {
     last = 150;
     nextWeekSales(g, 0, now, last);
     EXPECT_EQ(std::tuple(now, last), std::tuple(1, 100));
+    now = 150;
+    last = 0;
+    nextWeekSales(g, 0, now, last);
+    EXPECT_EQ(std::tuple(now, last), std::tuple(100, 1));
 }
 
 TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
