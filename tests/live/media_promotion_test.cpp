@@ -115,6 +115,19 @@ TEST_F(Media, OffersNeedANonZeroMinimumTheBandReaches) {
     g.media.read(open);
     g.band.read(band);
     EXPECT_EQ(bestMediaOffer(g).value, 50);
+    // A station that takes no interviews offers no interview-and-live slot,
+    // however much it is worth; here its live slot is worth nothing.
+    g.media.rec = MediaRecord{.mediaName = "Live Only",
+                              .mediaType = 2,
+                              .reach = 1,
+                              .liveMinimum = 1,
+                              .liveValue = 60,
+                              .bothValue = 100,
+                              .maxControversy = 100,
+                              .country = static_cast<uint8_t>(england)};
+    g.media.append();
+    g.band.read(band);
+    EXPECT_EQ(bestMediaOffer(g).value, 0);
 }
 
 TEST_F(Media, ControversyBoundsAreInclusiveAndAStyleTakesItsDescendants) {
