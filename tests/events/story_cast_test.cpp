@@ -281,3 +281,17 @@ TEST(Stories, ADayRollsOneEventFewerThanItsRolls) {
         EXPECT_EQ(g.rng.draw(), expected.draw()) << rolls;
     }
 }
+
+// A story drawn to start casts each of its participants, two different artists.
+TEST(Stories, AStoryDrawnToStartCastsEveryParticipant) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    g.event.read(1);
+    tryStartEvent(g);
+    const ScheduleRecord root = entry(g, 1);
+    ASSERT_GT(root.artist, 0);
+    int marked = 0;
+    for (int32_t n = 1; n < g.artist.recordCount(); ++n) marked += (g.artist.read(n), g.artist->storyUnderWay[2]);
+    EXPECT_EQ(marked, 2);
+}
