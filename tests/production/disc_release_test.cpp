@@ -3,6 +3,7 @@
 
 #include "label/finances.h"
 #include "production/disc_release.h"
+#include "production/discs.h"
 #include "schedule/schedule.h"
 #include "support/amend.h"
 #include "support/disc_world.h"
@@ -115,6 +116,24 @@ TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
               std::tuple(-moneyUnits(76250), moneyUnits(76250)));
     EXPECT_EQ(entriesOfType(25).size(), 2u);
     EXPECT_EQ(disc(d).pressingOrder[0], 100000);
+}
+
+// A disc of the world as it starts sells only where it is out: elsewhere
+// (no date, or a date to come) its figures are cleared and no firm is chosen.
+TEST_F(Release, AStartingDiscKeepsItsFiguresOnlyWhereItIsOut) {
+    int16_t d = recorded();
+    amend(g.disc, d, [&] {
+        g.disc->releaseDate = {g.gameDate, kNoDate, g.gameDate + 1, kNoDate, kNoDate};
+        g.disc->totalSales.fill(500);
+        g.disc->stock.fill(100);
+    });
+    g.disc.read(d);
+    g.band.read(band);
+    setUpReleasedDisc(g);
+    EXPECT_EQ(g.disc->totalSales, (std::array<int32_t, 5>{500, 0, 0, 0, 0}));
+    EXPECT_EQ(g.disc->stock, (std::array<int32_t, 5>{100, 0, 0, 0, 0}));
+    EXPECT_GT(g.disc->distributor[0], 0);
+    EXPECT_EQ(g.disc->distributor[1], 0);
 }
 
 // The rest of the world's forecast goes by the band's standing in Oceania:
