@@ -7,6 +7,7 @@
 #include "events/ceremony_judging.h"
 #include "support/amend.h"
 #include "support/gig_world.h"
+#include "world/strings.h"
 
 using namespace trovane;
 
@@ -119,6 +120,24 @@ TEST_F(CrowdedField, AlbumsAndSinglesByQualitySalesAndLive) {
     EXPECT_EQ(judge(4, 4, 80, 0, 0, 2, 0, 0), "20:84 68:27 | Disc 9.1 by Act 9");
     // Duos formed in France put out no single this year.
     EXPECT_EQ(judge(4, 6, 30, 0, static_cast<int16_t>(france), 0, 0, 3), "");
+}
+
+TEST_F(CrowdedField, AnAlbumOutTodayIsOfTheYearOneOut365DaysAgoIsNot) {
+    auto best = [&](const char* title, double out) {
+        int32_t n = 1;
+        while (trim((g.disc.read(n), g.disc->title.value)) != title) ++n;
+        amend(g.disc, n, [&] {
+            g.disc->quality = 100;
+            g.disc->commerciality = 90;
+            g.disc->releaseDate.fill(0);
+            g.disc->releaseDate[0] = out;
+        });
+        return std::to_string(n) + ":";
+    };
+    const std::string today = best("Disc 1.0", g.gameDate), yearAgo = best("Disc 2.0", g.gameDate - 365);
+    const std::string nominees = judge(0, 0, 100, 0, 0, 0, 0, 0);
+    EXPECT_EQ(nominees.substr(0, today.size()), today) << nominees;
+    EXPECT_EQ(nominees.find(" " + yearAgo), std::string::npos) << nominees;
 }
 
 }  // namespace
