@@ -2,6 +2,8 @@
 // and a whole stretch of play with saves and loads in between.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "day/daily_cycle.h"
 #include "floor/preferences.h"
 #include "label/finances.h"
@@ -99,6 +101,16 @@ INSTANTIATE_TEST_SUITE_P(NewGame, LabelHome,
                                            Home{"Canada", "Toronto", {10, 40, 20, 15, 5}},
                                            Home{"New Zealand", "Auckland", {10, 20, 15, 40, 5}},
                                            Home{"Brazil", "Rio de Janeiro", {15, 5, 10, 20, 40}}));
+
+TEST_F(NewGame, EveryStaffContractRunsOneToThreeYears) {
+    foundLabel(g, confirmPlayer(g, player()), label("Scotland", "Glasgow"));
+    const CivilDate today = civilFromSerial(g.gameDate);  // 5 August 2004
+    std::set<double> ends;
+    for (int years : {1, 2, 3}) ends.insert(serialFromCivil(today.year + years, today.month, today.day));
+    ASSERT_GT(g.staff.recordCount(), 1);
+    for (int32_t n = 1; n < g.staff.recordCount(); ++n)
+        EXPECT_TRUE(ends.contains((g.staff.read(n), g.staff->contractEnd))) << n;
+}
 
 TEST_F(NewGame, FoundingALabelGivesAMillionAndTellsTheNews) {
     NewPlayer p = confirmPlayer(g, player());
