@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "label/scouting.h"
+#include "label/scouting_text.h"
 #include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
@@ -190,3 +191,23 @@ TEST_F(Scouting, AnEstimateWeighsPotentialByCareerAndTalentByCommerciality) {
 }
 
 }  // namespace
+
+// The report's verdict turns at each edge of the present and future figures.
+TEST_F(Scouting, TheVerdictTurnsAtEachEdgeOfThePresentAndTheFuture) {
+    addStars(1);
+    auto text = [&](int present, int future) {
+        g.band.read(1);
+        return scoutingReportText(g, present, future);
+    };
+    const std::pair<int, std::vector<int>> tiers[] = {
+        {40, {40, 70, 85}}, {70, {40, 70}}, {90, {40, 70, 90}}, {100, {70}}};
+    for (const auto& [present, edges] : tiers) {
+        for (int edge : edges) {
+            EXPECT_EQ(text(present, edge), text(present, edge - 5)) << present << " " << edge;
+            EXPECT_NE(text(present, edge), text(present, edge + 1)) << present << " " << edge;
+        }
+        if (present == 100) continue;
+        EXPECT_EQ(text(present, 50), text(present - 5, 50)) << present;
+        EXPECT_NE(text(present, 50), text(present + 1, 50)) << present;
+    }
+}
