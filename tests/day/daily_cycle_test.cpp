@@ -98,7 +98,7 @@ TEST_F(TwoYearsOfDays, EveryDayFollowsTheLastAndRunsItsWeekdaysSteps) {
     };
     for (std::size_t i = 0; i < days_->size(); ++i) {
         const TracedDay& d = (*days_)[i];
-        if (i > 0) ASSERT_EQ(sys_days{d.date} - sys_days{(*days_)[i - 1].date}, days{1});
+        if (i > 0) { ASSERT_EQ(sys_days{d.date} - sys_days{(*days_)[i - 1].date}, days{1}); }
         ASSERT_GE(d.steps.size(), 4u);
         EXPECT_EQ(d.steps.front(), "runRandomEvents");
         EXPECT_EQ(std::vector<std::string>(d.steps.end() - 3, d.steps.end()),

@@ -151,8 +151,9 @@ TEST_F(Release, TheOtherTerritoriesForecastRisesWithOceaniaAtItsEdges) {
     ASSERT_GT(forecastAt(0), 1000);
     for (auto [same, rises] : {std::pair{0, 49}, {50, 70}, {71, 80}, {81, 90}, {91, 100}}) {
         EXPECT_EQ(forecastAt(static_cast<uint8_t>(same)), forecastAt(static_cast<uint8_t>(rises))) << same;
-        if (rises < 100)
+        if (rises < 100) {
             EXPECT_LT(forecastAt(static_cast<uint8_t>(rises)), forecastAt(static_cast<uint8_t>(rises + 1))) << rises;
+        }
     }
 }
 
