@@ -295,3 +295,20 @@ TEST(Stories, AStoryDrawnToStartCastsEveryParticipant) {
     for (int32_t n = 1; n < g.artist.recordCount(); ++n) marked += (g.artist.read(n), g.artist->storyUnderWay[2]);
     EXPECT_EQ(marked, 2);
 }
+
+// A type-10 story needs an artist in a band: with every other artist out of
+// one, the solo singer is cast.
+TEST(Stories, ATypeTenStoryCastsOnlyAnArtistInABand) {
+    Cast w;
+    Game& g = w.g;
+    twoStageStory(w, 2);
+    amend(g.event, 1, [&] {
+        g.event->participantCount = 1;
+        g.event->eventType = 10;
+    });
+    for (int32_t n = 1; n < g.artist.recordCount(); ++n)
+        if (n != w.d) amend(g.artist, n, [&] { g.artist->band = 0; });
+    g.event.read(1);
+    tryStartEvent(g);
+    EXPECT_EQ(entry(g, 1).artist, w.d);
+}

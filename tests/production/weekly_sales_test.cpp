@@ -207,6 +207,19 @@ TEST_F(WeeklySales, AfterTheWeekTotalsAndHypeMoveOn) {
     EXPECT_EQ(bandRec(band).biggestAlbum, d);
 }
 
+// A week that crosses silver: the certification's 100 points and row 1's 100
+// reach the disc and stay on the band when the week's totals are written.
+TEST_F(WeeklySales, TheWeeksCertificationPointsStayOnTheBand) {
+    int16_t d = addDisc("Silver", 3000);
+    amend(g.disc, d, [&] {
+        g.disc->totalSales[0] = 59999;
+        g.disc->weekSales[0] = 3000;
+    });
+    addRow(0, d);
+    calculateWeeklySales(g);
+    EXPECT_EQ(std::tuple(disc(d).chartPoints[0], bandRec(band).bandPoints[0]), std::tuple(int16_t{200}, 200));
+}
+
 TEST_F(WeeklySales, ASoldOutDiscNeverSellsAgainButAnUnsoldOneWaits) {
     int16_t soldOut = addDisc("Gone", 0), waiting = addDisc("Waiting", 0);
     amend(g.disc, soldOut, [&] { g.disc->totalSales[0] = 100; });

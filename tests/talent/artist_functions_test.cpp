@@ -3,6 +3,7 @@
 
 #include <map>
 #include <set>
+#include <vector>
 
 #include "support/empty_game.h"
 #include "talent/artist_functions.h"
@@ -33,6 +34,16 @@ TEST_F(NewArtists, AgeStaysWithinSeventeenAndTwentyFive) {
         for (int i = 0; i < 2000; ++i) seen.insert(setNewArtistAge(g));
         EXPECT_EQ(std::pair(*seen.begin(), *seen.rbegin()), std::pair(youngest, oldest)) << "life span " << lifeSpan;
     }
+}
+
+// A member takes the last job the style names at or before their place; a
+// solo act takes the solo job.
+TEST_F(NewArtists, EachPlaceTakesTheLastJobNamedUpToIt) {
+    g.style.rec = StyleRecord{.bandJobs = {0, 3, 0, 5, 0, 0, 7}, .soloJob = 9};
+    std::vector<int> jobs;
+    for (int place = 0; place < 9; ++place) jobs.push_back(jobForPlace(g, place, false));
+    EXPECT_EQ(jobs, (std::vector<int>{0, 3, 3, 5, 5, 5, 7, 7, 7}));
+    EXPECT_EQ(jobForPlace(g, 0, true), 9);
 }
 
 TEST_F(NewArtists, AbilityFollowsTheTalentTheStyleAndTheAge) {

@@ -85,7 +85,9 @@ TEST_F(Condition, DropBandHypeTakesTwoFromEveryMarketAndAPointBelowMinusAHundred
     amend(g.band, slumped, [&] { g.band->hype = {-99, -98, -99, 0, 0}; });
     dropBandHype(g);
     g.band.read(band);
-    EXPECT_EQ(g.band->hype, (std::array<int16_t, 5>{-22, -22, -22, -22, -22}));
+    EXPECT_EQ(std::tuple(g.band->hype, g.band->initialAdvance),
+              std::tuple(std::array<int16_t, 5>{-22, -22, -22, -22, -22}, Money{0}))
+        << "the five meters and nothing past them";
     g.band.read(slumped);
     // -101 costs a point and the meter starts again at minus the reputation;
     // -100 does not; at the floor of 2 the point is not lost.
