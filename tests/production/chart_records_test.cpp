@@ -2,6 +2,10 @@
 // every row, band and label would, and leave the buffers where it would.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 #include "production/charts.h"
 #include "support/played_world.h"
 #include "world/strings.h"
@@ -36,6 +40,7 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
         const int t = chart % 5;
         const auto pair = static_cast<std::size_t>(t * 2 + (chart >= 5 ? 0 : 1));
         Best bandTotal, labelPoints, discWeek, discLifetime, discPointsPublished;
+        std::vector<std::pair<int16_t, int64_t>> labelWeeks;
         DiscRecord d{};
         BandRecord b{};
         LabelRecord l{};
@@ -52,8 +57,18 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
             const std::string text = trim(d.title.value) + " by " + trim(b.name.value);
             discWeek.offer(d.weekSales[static_cast<std::size_t>(t)], d.id, text);
             discLifetime.offer(d.lifetimeSales[static_cast<std::size_t>(t)], d.id, text);
-            if (i <= publishedLength(chart))
-                discPointsPublished.offer(d.chartPoints[static_cast<std::size_t>(t)], d.id, text);
+            if (i > publishedLength(chart)) continue;
+            discPointsPublished.offer(d.chartPoints[static_cast<std::size_t>(t)], d.id, text);
+            // A label's week: its discs' sales in the published chart, labels in order of first row.
+            if (d.label < 1) continue;
+            auto it = std::find_if(labelWeeks.begin(), labelWeeks.end(), [&](auto& p) { return p.first == d.label; });
+            if (it == labelWeeks.end()) it = labelWeeks.insert(it, {d.label, 0});
+            it->second += d.weekSales[static_cast<std::size_t>(t)];
+        }
+        Best labelWeek;
+        for (auto [label, sales] : labelWeeks) {
+            decodeRecord(g.label.bytesOf(label).data(), l);
+            labelWeek.offer(sales, label, trim(l.name.value));
         }
         for (int32_t n = 1; n < g.band.recordCount(); ++n) {
             decodeRecord(g.band.bytesOf(n).data(), b);
@@ -80,6 +95,7 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
         expectHolder(h[4], discLifetime, "disc lifetime");
         expectHolder(h[10], discPointsPublished, "disc points in the published chart");
         expectHolder(h[12], labelPoints, "label points");
+        expectHolder(h[16], labelWeek, "label week");
     }
 }
 

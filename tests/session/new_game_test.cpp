@@ -68,6 +68,12 @@ TEST_F(NewGame, DefaultsAreTwentiethJuly1982OnlyWithoutEarlierChoices) {
     p = defaultPlayerChoices(g);
     EXPECT_EQ(std::tuple(p.birthDay, p.birthMonth, p.birthYear, p.forename, p.male, p.nationality),
               std::tuple(24, 12u, 1980, std::string("Ann"), false, std::string("Scottish")));
+    // A year the lists do not offer is not a default.
+    for (auto [year, shown] : {std::pair{2003, 2003}, {2004, 1982}}) {
+        g.prefs.rec.birthYear = narrow<int16_t>(year);
+        writePrefs(g);
+        EXPECT_EQ(defaultPlayerChoices(g).birthYear, shown);
+    }
 }
 
 TEST_F(NewGame, ThePlayerIsAStaffRecordAgedByTheComputersClock) {
