@@ -5,6 +5,7 @@
 #include "day/daily_cycle.h"
 #include "label/departments.h"
 #include "label/finances.h"
+#include "label/label_details.h"
 #include "session/invariants.h"
 #include "support/amend.h"
 #include "support/game_test.h"
@@ -19,6 +20,7 @@ using DepartmentWages = test::GameTest;
 using DepartmentRating = test::GameTest;
 using DepartmentLevels = test::GameTest;
 using DepartmentError = test::GameTest;
+using LabelPage = test::GameTest;
 
 namespace {
 
@@ -132,6 +134,20 @@ TEST(LabelReputation, IsTheFiveMarketsAdded) {
     LabelRecord l{};
     l.reputation = {40, 15, 20, 10, 5};
     EXPECT_EQ(labelReputationSum(l), 90);
+}
+
+// What the label's page shows of its standing: the five markets' points and
+// their sum, each reputation as a percent, and the years since founding.
+TEST_F(LabelPage, AddsTheFiveMarketsPoints) {
+    const int16_t l = addLabel(g, 0);
+    amend(g.label, l, [&] {
+        g.label->points = {1, 20, 300, 4000, 50000};
+        g.label->reputation = {40, 15, 20, 10, 5};
+        g.label->founded = 90;
+    });
+    const LabelDetails d = labelDetails(g, l);
+    EXPECT_EQ(std::tuple(d.points, d.pointsTotal, d.reputation[0], d.reputation[4], d.age, d.independence),
+              std::tuple(std::array<int32_t, 5>{1, 20, 300, 4000, 50000}, 54321, "40%", "5%", 14, "Independent Label"));
 }
 
 TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) {

@@ -219,4 +219,38 @@ TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
               "Readers found it thoroughly lacking in substance, and it did little for their standing.");
 }
 
+// A live slot plays the act's latest disc out by the day (an album over a
+// single out the same day), else its set; the verdict turns above 60, 80 and 94.
+TEST_F(Media, ALiveSlotIsReviewedByWhatTheActHasOut) {
+    g.media.rec = MediaRecord{.mediaName = "Wave", .mediaType = 2};
+    const double on = serialFromCivil(2004, 1, 20);
+    auto live = [&](int kind, int rating) {
+        g.band.read(band);
+        return appearanceReview(g, kind, rating, on).second;
+    };
+    const std::string opening =
+        "The Testers appeared on the 20 January 2004 broadcast of Wave radio show. The Testers performed ";
+    const double today = g.gameDate;
+    for (double d : {kNoDate, today + 1})
+        amend(g.disc, addDisc("Not Out", 1000, band), [&] { g.disc->releaseDate = {d, d, d, d, d}; });
+    EXPECT_EQ(live(liveKind, 60), opening +
+                                      "a few songs from their live set. It was a performance best forgotten, "
+                                      "and few who heard it will be rushing out to buy the record.");
+    addDisc("Single", 1000, band, 1);
+    EXPECT_EQ(live(liveKind, 80),
+              opening +
+                  "the The Testers's new single. It was a solid if unspectacular performance that will have "
+                  "done no harm.");
+    amend(g.disc, addDisc("Album", 1000, band), [&] { g.disc->releaseDate = {today - 7, 0, 0, 0, 0}; });
+    EXPECT_EQ(live(liveKind, 81), opening +
+                                      "a track from their latest album. It was a fine performance that will "
+                                      "have won them a good few new fans.");
+    g.media->mediaType = 3;
+    EXPECT_EQ(live(bothKind, 95),
+              "The Testers appeared on the 20 January 2004 broadcast of Wave TV show. The TV show featured an "
+              "interview with the The Testers which in particular was thoroughly entertaining throughout the course of "
+              "the interview. The Testers performed a track from their latest album. It was a stunning performance, "
+              "and everyone who watched it will be talking about it for weeks.");
+}
+
 }  // namespace
