@@ -5,6 +5,8 @@
 #include "browse/band_browse.h"
 #include "browse/people_browse.h"
 #include "label/scouting.h"
+#include "schedule/schedule.h"
+#include "schedule/schedule_types.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 
@@ -185,6 +187,18 @@ TEST_F(ArtistBrowse, TheRichListOpensByWealthLeavesOutTheRetiredAndNamesTheJobBy
     clickColumnLabel(sort, grid, 5);  // a click sorts up from the poorest
     EXPECT_EQ(rows(true), (Names{"Poor Roe", "Rich Roe", "Also Rich Roe"}));
     EXPECT_EQ(rows(false, " Rich Roe "), (Names{"Rich Roe"}));
+}
+
+TEST_F(BandBrowse, TheActivityColumnShowsTodaysEngagement) {
+    const int16_t busy = band("Busy", [](BandRecord&) {});
+    band("Idle", [](BandRecord&) {});
+    const int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Tin Roof");
+    addSchedule(
+        g,
+        ScheduleRecord{
+            .type = static_cast<uint8_t>(ScheduleType::bandSigns), .date = g.gameDate, .band = busy, .label = label});
+    populateBandGrid(g, 1, filter, {bcActivity}, sort, grid);
+    EXPECT_EQ(cells(0), (Names{"Signing for Tin Roof", "None"}));
 }
 
 TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
