@@ -137,17 +137,21 @@ TEST(LabelReputation, IsTheFiveMarketsAdded) {
 }
 
 // What the label's page shows of its standing: the five markets' points and
-// their sum, each reputation as a percent, and the years since founding.
+// their sum, each reputation as a percent, the years since founding, the boss.
 TEST_F(LabelPage, AddsTheFiveMarketsPoints) {
     const int16_t l = addLabel(g, 0);
+    g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe"};
+    const auto boss = static_cast<int16_t>(g.staff.append());  // the first staff record
     amend(g.label, l, [&] {
+        g.label->boss = boss;
         g.label->points = {1, 20, 300, 4000, 50000};
         g.label->reputation = {40, 15, 20, 10, 5};
         g.label->founded = 90;
     });
     const LabelDetails d = labelDetails(g, l);
-    EXPECT_EQ(std::tuple(d.points, d.pointsTotal, d.reputation[0], d.reputation[4], d.age, d.independence),
-              std::tuple(std::array<int32_t, 5>{1, 20, 300, 4000, 50000}, 54321, "40%", "5%", 14, "Independent Label"));
+    EXPECT_EQ(std::tuple(d.points, d.pointsTotal, d.reputation[0], d.reputation[4], d.age, d.independence, d.boss),
+              std::tuple(std::array<int32_t, 5>{1, 20, 300, 4000, 50000}, 54321, "40%", "5%", 14, "Independent Label",
+                         "Kim Rowe"));
 }
 
 TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) {
