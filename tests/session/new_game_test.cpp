@@ -157,6 +157,18 @@ TEST_F(NewGame, TakingOverALabelKeepsItsCashAndBands) {
     auto labels = existingLabels(g);
     ASSERT_EQ(labels.size(), 1u);
     EXPECT_EQ(labels[0].bands, std::vector<std::string>{"Tess Calloway"});
+    // A signed act starts each market's hype at minus its reputation there, its members at its reputation.
+    int signedActs = 0;
+    for (int32_t n = 1; n < g.band.recordCount(); ++n) {
+        const BandRecord b = (g.band.read(n), g.band.rec);
+        if (b.label < 1) continue;
+        ++signedActs;
+        std::array<int16_t, 5> minus{};
+        for (std::size_t m = 0; m < 5; ++m) minus[m] = static_cast<int16_t>(-b.reputation[m]);
+        EXPECT_EQ(std::tuple(b.hype, (g.artist.read(b.members[0]), g.artist->reputation)),
+                  std::tuple(minus, b.reputation));
+    }
+    EXPECT_GT(signedActs, 0);
 }
 
 TEST_F(NewGame, EveryNewGameRaisesTheCounterAndCancelLeavesNoWorkingSet) {
