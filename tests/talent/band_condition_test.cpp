@@ -59,8 +59,10 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
     int16_t falling = addAct(g, {.style = style});
     int16_t top = addAct(g, {.style = style});
     int16_t gone = addAct(g, {.style = style});
-    setMember(pair, 0, 80, 60, 90);  // v = 23.15 + 90 = 113.15: one point, 13 left
-    setMember(pair, 1, 60, 60, 0);   // v = 0
+    int16_t exact = addAct(g, {.style = style});
+    setMember(pair, 0, 80, 60, 90);    // v = 23.15 + 90 = 113.15: one point, 13 left
+    setMember(exact, 0, 60, 60, 100);  // v = 100: a point, nothing left
+    setMember(pair, 1, 60, 60, 0);     // v = 0
     // (20 - 60) / 2 x 10 / 36 / 12 x 100 = -46.30, less 60: -106.30: k = -1, v = -6.30, toward zero.
     setMember(falling, 0, 20, 60, -60);
     setMember(top, 0, 100, 100, 150);
@@ -71,7 +73,8 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
         int16_t band;
         int ability, progress;
     };
-    for (Case c : {Case{pair, 61, 13}, Case{falling, 59, -6}, Case{top, 100, 50}, Case{gone, 60, 90}}) {
+    for (Case c :
+         {Case{pair, 61, 13}, Case{falling, 59, -6}, Case{top, 100, 50}, Case{gone, 60, 90}, Case{exact, 61, 0}}) {
         EXPECT_EQ(member(c.band).ability, c.ability) << "band " << c.band;
         EXPECT_EQ(member(c.band).abilityProgress, c.progress) << "band " << c.band;
     }
