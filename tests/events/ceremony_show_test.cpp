@@ -138,6 +138,11 @@ TEST_F(Show, AnActOnTourOrElsewhereSendsItsMessage) {
     busy(band, 17);
     EXPECT_EQ(speechOf(band, "The Testers")[1],
               "Unfortunately The Testers couldn't make it tonight, however they recorded this message for us...");
+    // An artist in no band has nothing on and collects it in person.
+    const int16_t ann = (g.band.read(solo), g.band->members[0]);
+    amend(g.artist, ann, [&] { g.artist->band = 0; });
+    const int16_t c = addCeremony({addAward("Best Singer", 1, {{ann, "Ann Smith"}})});
+    EXPECT_FALSE(buildCeremonyShow(g, c, night).at(2).at(1).starts_with("Unfortunately"));
 }
 
 TEST_F(Show, AnActThatWonBeforeThanksAsOneThatHas) {
