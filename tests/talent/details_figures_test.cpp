@@ -105,6 +105,18 @@ TEST_F(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
     EXPECT_EQ(std::tuple(d.retired, d.retirementDate, d.players), std::tuple(true, test::day(2005, 3, 4), false));
 }
 
+TEST_F(ArtistDetailsFigures, APlayersArtistShowsItsLookOrNoneWithoutOne) {
+    g.band.read(us);
+    const int16_t a = g.band->members[0];
+    g.look.rec = LookRecord{.name = "Grunge"};
+    const auto grunge = static_cast<uint8_t>(g.look.append());
+    for (auto [look, shown] : {std::pair{uint8_t{0}, ""}, {grunge, "Grunge"}}) {
+        amend(g.artist, a, [&] { g.artist->look = look; });
+        const ArtistDetails d = artistDetails(g, a);
+        EXPECT_EQ(std::tuple(d.players, d.look), std::tuple(true, std::string(shown)));
+    }
+}
+
 TEST_F(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
     g.venue.rec = VenueRecord{.name = std::string("The Hall"), .capacity = 1200, .city = 1};
     g.venue.append();
