@@ -57,8 +57,9 @@ TEST(SimBrowseVerbs, AdvanceFlagsAreInTheDisplayCurrencyAndSortByValueAndBadArgu
     EXPECT_EQ(past.find("Cheap"), std::string::npos);
     for (const char* args : {"browse band --age 5..3", "browse band --royalty 0..101", "browse band --gig x..2",
                              "browse band --reputation mars=1..2", "browse band --sort Nope", "browse band --desc",
-                             "browse band --where Style=Rock", "image \"No One\""})
+                             "browse band --where Style=Rock", "image \"No One\"", "achievements --band Nobody"})
         EXPECT_EQ(sim(data, args).first, 2) << args;
+    EXPECT_EQ(sim(data, "achievements --band Dear").first, 0) << "the first act is found";
 }
 
 TEST(SimBrowseVerbs, AnotherLabelsArtistIsRefusedAndNothingIsFiled) {

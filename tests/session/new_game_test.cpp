@@ -169,6 +169,14 @@ TEST_F(NewGame, TakingOverALabelKeepsItsCashAndBands) {
                   std::tuple(minus, b.reputation));
     }
     EXPECT_GT(signedActs, 0);
+    // The hundred solo artists made last: one member each, the act named after them.
+    ASSERT_GT(g.band.recordCount(), 100);
+    for (int32_t n = g.band.recordCount() - 100; n < g.band.recordCount(); ++n) {
+        const BandRecord b = (g.band.read(n), g.band.rec);
+        const ArtistRecord a = (g.artist.read(b.members[0]), g.artist.rec);
+        EXPECT_EQ(std::tuple(int{b.memberCount}, trim(b.name.value)),
+                  std::tuple(1, trim(trim(a.forename.value) + " " + trim(a.surname.value))));
+    }
 }
 
 TEST_F(NewGame, EveryNewGameRaisesTheCounterAndCancelLeavesNoWorkingSet) {
