@@ -8,6 +8,7 @@
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "talent/band_offers.h"
+#include "talent/contract_news.h"
 #include "talent/contracts.h"
 #include "world/strings.h"
 
@@ -114,6 +115,39 @@ TEST_F(Deals, AmountsTypedAreTakenBackThroughTheExchangeRate) {
     g.offer.read(1);
     EXPECT_EQ(g.offer->initialAdvance, 60'000);
     EXPECT_EQ(g.offer->additionalAdvance, 45'002);
+}
+
+// Each reason has its own words: the clincher of a yes, the complaint of a
+// harsh no (a score of 60 or less) and of a mild one.
+TEST_F(Deals, EachReasonHasItsOwnWordsInAYesAndInEitherNo) {
+    g.band.read(band);
+    g.label.read(home);
+    g.offer.rec = OfferRecord{.additionalAdvanceCount = 3};
+    const char* const clincher[] = {
+        "initial advance offered by the label, guaranteeing them a sizeable guaranteed income.",
+        "advances they stand to receive after their initial album is completed.", "royalty rate the label offered.",
+        "they are looking forward to working with such a prestigious label.",
+        "they are looking forward to working with a label so well equipped to represent them in their main market."};
+    const std::string size =
+        " They have indicated them would require a much better deal to consider representing a label of your size.";
+    const std::string harsh[] = {
+        " The initial advance offered has been singled out by the band as being particularly disappointing.",
+        " They have indicated their main criticism of the deal concerns the additional advances offered.",
+        " The royalty rate in particular is way below what they were hoping for.", size, size};
+    const char* const mild[] = {
+        "It is believed an increase in the initial advance offered is what they are after.",
+        "The band have informed you that the additional advances package you offered is proving the sticking point.",
+        "The band have indicated an improved royalty rate should be enough to make your offer acceptable.",
+        "It is believed their main concern is the size of your label, however, the band have indicated an improved "
+        "contract offer would help overcome this problem.",
+        "They are concerned about under-representation in their main market, however it is believed an improved "
+        "contract would do much to ease the problem."};
+    for (int r = 1; r <= 5; ++r) {
+        const auto i = static_cast<std::size_t>(r - 1);
+        EXPECT_TRUE(agreementText(g, r).ends_with(clincher[i])) << r;
+        EXPECT_TRUE(rejectionText(g, 60, r).ends_with(harsh[i])) << r;
+        EXPECT_TRUE(rejectionText(g, 61, r).ends_with(mild[i])) << r;
+    }
 }
 
 TEST_F(Deals, AnOfferJoinsTheDateOfAnotherLabelsDecision) {
