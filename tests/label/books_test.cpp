@@ -137,10 +137,12 @@ TEST(LabelReputation, IsTheFiveMarketsAdded) {
 }
 
 // What the label's page shows of its standing: the five markets' points and
-// their sum, each reputation as a percent, the years since founding, the boss.
+// their sum, each reputation as a percent, the years since founding, the boss
+// and the boss's own page.
 TEST_F(LabelPage, AddsTheFiveMarketsPoints) {
     const int16_t l = addLabel(g, 0);
-    g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe"};
+    g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe", .reputation = {9, 8, 7, 6, 5}, .employer = l};
+    g.staff->points = {5, 6, 7, 8, 9};
     const auto boss = static_cast<int16_t>(g.staff.append());  // the first staff record
     amend(g.label, l, [&] {
         g.label->boss = boss;
@@ -152,6 +154,9 @@ TEST_F(LabelPage, AddsTheFiveMarketsPoints) {
     EXPECT_EQ(std::tuple(d.points, d.pointsTotal, d.reputation[0], d.reputation[4], d.age, d.independence, d.boss),
               std::tuple(std::array<int32_t, 5>{1, 20, 300, 4000, 50000}, 54321, "40%", "5%", 14, "Independent Label",
                          "Kim Rowe"));
+    const StaffDetails b = staffDetails(g, boss);
+    EXPECT_EQ(std::tuple(b.name, b.post, b.reputation, b.points),
+              std::tuple("Kim Rowe", "Label Boss", std::array{9, 8, 7, 6, 5}, std::array<int32_t, 5>{5, 6, 7, 8, 9}));
 }
 
 TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) {
