@@ -47,6 +47,16 @@ TEST_F(NewGameChecks, TheFirstNameRuleBrokenIsNamedWithItsField) {
         std::pair(NewGameField::surname, std::string("The surname holds \"Ω\", a character the game cannot store.")));
 }
 
+TEST_F(NewGameChecks, ANameFillsItsThirtyTwoCharactersAndNoMore) {
+    PlayerChoices p = player();
+    p.surname = std::string(32, 'e');
+    EXPECT_FALSE(checkPlayerChoices(g, p));
+    p.surname += "é";
+    EXPECT_EQ(
+        said(checkPlayerChoices(g, p)),
+        std::pair(NewGameField::surname, std::string("The surname is 33 characters long; it may be at most 32.")));
+}
+
 TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
     struct Case {
         int y;
