@@ -172,22 +172,26 @@ TEST_F(RivalRelease, ATerritoryNeedsFourFifthsOfTheBestGlobalIncluded) {
 }
 
 TEST_F(RivalRelease, ASingleMarksItsLeadSongInTheRecordsOwnOrder) {
-    setReputation({0, 0, 40, 0, 0});  // Europe alone: the song's fourth field
-    const int16_t disc = recorded(1);
-    g.band.read(band);
-    g.disc.read(disc);
-    rivalRecordingComplete(g);
-    g.disc.read(disc);
-    g.song.read(g.disc->tracks[0]);
-    EXPECT_EQ(g.song->singleDisc, (std::array<int16_t, 5>{0, 0, 0, disc, 0}));
-    setReputation({0, 0, 0, 0, 40});  // Global alone: the middle field
-    const int16_t other = recorded(1);
-    g.band.read(band);
-    g.disc.read(other);
-    rivalRecordingComplete(g);
-    g.disc.read(other);
-    g.song.read(g.disc->tracks[0]);
-    EXPECT_EQ(g.song->singleDisc, (std::array<int16_t, 5>{0, 0, other, 0, 0}));
+    // The song's fields run UK, US, Global, Europe, Oceania.
+    using Five = std::array<int, 5>;
+    for (auto [markets, fields] : {std::pair{Five{40, 0, 0, 0, 0}, Five{1, 0, 0, 0, 0}},
+                                   {Five{0, 40, 0, 0, 0}, Five{0, 1, 0, 0, 0}},
+                                   {Five{0, 0, 40, 0, 0}, Five{0, 0, 0, 1, 0}},
+                                   {Five{0, 0, 0, 40, 0}, Five{0, 0, 0, 0, 1}},
+                                   {Five{0, 0, 0, 0, 40}, Five{0, 0, 1, 0, 0}}}) {
+        std::array<uint8_t, 5> reputation{};
+        for (std::size_t t = 0; t < 5; ++t) reputation[t] = static_cast<uint8_t>(markets[t]);
+        setReputation(reputation);
+        const int16_t disc = recorded(1);
+        g.band.read(band);
+        g.disc.read(disc);
+        rivalRecordingComplete(g);
+        g.disc.read(disc);
+        g.song.read(g.disc->tracks[0]);
+        std::array<int16_t, 5> marked{};
+        for (std::size_t f = 0; f < 5; ++f) marked[f] = static_cast<int16_t>(fields[f] * disc);
+        EXPECT_EQ(g.song->singleDisc, marked);
+    }
 }
 
 TEST_F(RivalRelease, AReleaseGoesToTheMondayAfterSevenWeeks) {
