@@ -83,10 +83,10 @@ TEST_F(FestivalBill, AnotherFestivalsBillKeepsItsActsBusy) {
     addFestival("Elsewhere", {1}, {28}, 1);  // Sunday 11 July, one act
     tour = scheduled();
     const auto elsewhere = static_cast<int16_t>(tour + 1);
+    fill(tour);  // the first festival of the table
     fill(elsewhere);
-    fill(tour);
-    EXPECT_EQ(billOf(g, gigsOf(elsewhere)[0]), std::vector<int16_t>{star});
-    EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{next}));
+    EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{star, next}));
+    EXPECT_TRUE(billOf(g, gigsOf(elsewhere)[0]).empty()) << "both are on the first festival's bill";
 }
 
 TEST_F(FestivalBill, AnEmptyPlaceEndsTheBill) {
