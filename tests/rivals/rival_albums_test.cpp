@@ -141,6 +141,16 @@ protected:
     void setReputation(std::array<uint8_t, 5> r) {
         amend(g.band, band, [&] { g.band->reputation = r; });
     }
+    // A disc recorded by the band at these reputations and completed; left in the disc buffer.
+    int16_t completed(std::array<uint8_t, 5> reputation, uint8_t single) {
+        setReputation(reputation);
+        const int16_t disc = recorded(single);
+        g.band.read(band);
+        g.disc.read(disc);
+        rivalRecordingComplete(g);
+        g.disc.read(disc);
+        return disc;
+    }
     // The date the rival chooses for the disc in the UK.
     double dateInUk(int16_t disc) {
         g.disc.read(disc);
@@ -161,32 +171,19 @@ TEST_F(RivalRelease, ATerritoryNeedsFourFifthsOfTheBestGlobalIncluded) {
     for (auto [reputation, out] : {std::pair{std::array<uint8_t, 5>{30, 30, 30, 30, 0}, std::array{1, 1, 1, 1, 1}},
                                    {{30, 30, 30, 0, 0}, {1, 1, 1, 0, 0}},
                                    {{50, 40, 39, 0, 0}, {1, 1, 0, 0, 0}}}) {
-        setReputation(reputation);
-        const int16_t disc = recorded(0);
-        g.band.read(band);
-        g.disc.read(disc);
-        rivalRecordingComplete(g);
-        g.disc.read(disc);
+        completed(reputation, 0);
         for (std::size_t t = 0; t < 5; ++t) EXPECT_EQ(g.disc->releaseDate[t] > kNoDate, out[t] == 1) << t;
     }
 }
 
 TEST_F(RivalRelease, ASingleMarksItsLeadSongInTheRecordsOwnOrder) {
     // The song's fields run UK, US, Global, Europe, Oceania.
-    using Five = std::array<int, 5>;
-    for (auto [markets, fields] : {std::pair{Five{40, 0, 0, 0, 0}, Five{1, 0, 0, 0, 0}},
-                                   {Five{0, 40, 0, 0, 0}, Five{0, 1, 0, 0, 0}},
-                                   {Five{0, 0, 40, 0, 0}, Five{0, 0, 0, 1, 0}},
-                                   {Five{0, 0, 0, 40, 0}, Five{0, 0, 0, 0, 1}},
-                                   {Five{0, 0, 0, 0, 40}, Five{0, 0, 1, 0, 0}}}) {
-        std::array<uint8_t, 5> reputation{};
-        for (std::size_t t = 0; t < 5; ++t) reputation[t] = static_cast<uint8_t>(markets[t]);
-        setReputation(reputation);
-        const int16_t disc = recorded(1);
-        g.band.read(band);
-        g.disc.read(disc);
-        rivalRecordingComplete(g);
-        g.disc.read(disc);
+    for (auto [markets, fields] : {std::pair{std::array<uint8_t, 5>{40, 0, 0, 0, 0}, std::array{1, 0, 0, 0, 0}},
+                                   {{0, 40, 0, 0, 0}, {0, 1, 0, 0, 0}},
+                                   {{0, 0, 40, 0, 0}, {0, 0, 0, 1, 0}},
+                                   {{0, 0, 0, 40, 0}, {0, 0, 0, 0, 1}},
+                                   {{0, 0, 0, 0, 40}, {0, 0, 1, 0, 0}}}) {
+        const int16_t disc = completed(markets, 1);
         g.song.read(g.disc->tracks[0]);
         std::array<int16_t, 5> marked{};
         for (std::size_t f = 0; f < 5; ++f) marked[f] = static_cast<int16_t>(fields[f] * disc);
