@@ -280,6 +280,12 @@ TEST(Stories, ADayRollsOneEventFewerThanItsRolls) {
         runRandomEvents(g);
         EXPECT_EQ(g.rng.draw(), expected.draw()) << rolls;
     }
+    // The first event alone able to start a story is enough for the day to roll.
+    amend(g.event, 2, [&] { g.event->isRoot = 0; });
+    g.eventRollsPerDay = 2;
+    Random untouched = g.rng;
+    runRandomEvents(g);
+    EXPECT_NE(g.rng.draw(), untouched.draw());
 }
 
 // A story drawn to start casts each of its participants, two different artists.
