@@ -102,6 +102,7 @@ TEST(SimBrowseVerbs, AnyTableIsListedByItsBrowserWithItsChoicesAndSort) {
     for (const char* args :
          {"browse disc --band Nobody", "browse style --band 1", "browse song --unsigned", "browse disc --where Nope=1",
           "browse disc --where \"Release Date=9..1\"", "browse disc --sort Nope", "browse disc --desc"})
-        EXPECT_EQ(sim(data, args).first, 2) << args;    EXPECT_NE(sim(data, "--json browse venue").second.find("\"caption\":\"Venue Search\""), std::string::npos)
+        EXPECT_EQ(sim(data, args).first, 2) << args;
+    EXPECT_NE(sim(data, "--json browse venue").second.find("\"caption\":\"Venue Search\""), std::string::npos)
         << "the first of the tables";
 }
