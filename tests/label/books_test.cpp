@@ -139,7 +139,7 @@ TEST(LabelReputation, IsTheFiveMarketsAdded) {
 // What the label's page shows of its standing: the five markets' points and
 // their sum, each reputation as a percent, the years since founding, the boss
 // and the boss's own page.
-TEST_F(LabelPage, AddsTheFiveMarketsPoints) {
+TEST_F(LabelPage, ShowsItsStandingItsBossAndTheBossesPage) {
     const int16_t l = addLabel(g, 0);
     g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe", .reputation = {9, 8, 7, 6, 5}, .employer = l};
     g.staff->points = {5, 6, 7, 8, 9};
