@@ -96,9 +96,7 @@ TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {
         expectHolder(h[10], discPointsPublished, "disc points in the published chart");
         expectHolder(h[12], labelPoints, "label points");
         expectHolder(h[16], labelWeek, "label week");
-        if (t == 4) {
-            EXPECT_EQ(h[8].value, 0) << "the Global chart counts no label's weeks";
-        }
+        if (t == 4) { EXPECT_EQ(h[8].value, 0) << "the Global chart counts no label's weeks"; }
     }
 }
 
