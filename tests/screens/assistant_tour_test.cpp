@@ -35,6 +35,15 @@ TEST_F(ScreenTest, TheAssistantPlansATourOfTheHomeNationsThatTheRecordsKeep) {
     ASSERT_NE(arrange, nullptr);
     ASSERT_TRUE(arrange->optAreas[0]->isChecked());
     EXPECT_EQ(arrange->cmbNation->currentText(), "England");
+    EXPECT_FALSE(arrange->cmbNation->isEnabled()) << "a tour of England names its nation";
+    arrange->optAreas[1]->setChecked(true);  // Europe: all its nations, or one
+    EXPECT_TRUE(arrange->cmbNation->isEnabled());
+    EXPECT_EQ(arrange->cmbNation->currentText(), "All nations");
+    EXPECT_GE(arrange->cmbNation->findText("France"), 1);
+    EXPECT_TRUE(arrange->cmdAuto->isEnabled());
+    arrange->optAreas[6]->setChecked(true);
+    EXPECT_FALSE(arrange->cmdAuto->isEnabled()) << "the assistant does not plan tours of Africa";
+    arrange->optAreas[0]->setChecked(true);
     click(arrange->cmdAuto);
 
     auto* ask = dialog<screens::frmConfirm>("frmConfirm");

@@ -51,6 +51,8 @@ TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) 
     {
         screens::frmSetReleaseDate none(*game, disc);
         none.show();
+        none.cmbYear[0]->setCurrentIndex(1);
+        EXPECT_EQ(none.cmbMonth[0]->count(), 12) << "2005 from January";
         for (auto* box : none.chkTerritories) box->setChecked(false);
         click(none.cmdConfirm);
         EXPECT_EQ(none.result(), QDialog::Rejected) << "nothing ticked acts as cancel";
@@ -68,6 +70,32 @@ TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) 
     click(form.cmdConfirm);
     EXPECT_EQ(record().releaseDate[0], serialFromCivil(2004, 10, 4));
     EXPECT_EQ(record().releaseDate[1], 0.0);
+}
+
+// An act whose contract ends before the earliest release date leaves every
+// territory without a day: none ticked, none to tick.
+TEST_F(DiscForms, ATerritoryWithoutADayCannotBeTicked) {
+    amend(game->band, record().band, [&] { game->band->contractEnd = game->gameDate + 10; });
+    screens::frmSetReleaseDate form(*game, disc);
+    for (auto* box : form.chkTerritories) {
+        EXPECT_FALSE(box->isChecked());
+        EXPECT_FALSE(box->isEnabled());
+    }
+}
+
+// Pressing needs a recorded, dated disc of the player's; dating needs one not yet on sale.
+TEST_F(DiscForms, TheOptionsOfferWhatTheDiscIsReadyFor) {
+    auto offered = [&] {
+        screens::frmDiscOptions options(*game, disc);
+        return std::pair(options.lblSetReleaseDate->isEnabled(), options.lblPressDiscs->isEnabled());
+    };
+    EXPECT_EQ(offered(), std::pair(true, false)) << "recorded, not dated";
+    amend(game->disc, disc, [&] { game->disc->releaseDate[2] = game->gameDate + 1; });
+    EXPECT_EQ(offered(), std::pair(true, true)) << "dated, out tomorrow";
+    amend(game->disc, disc, [&] { game->disc->releaseDate[2] = game->gameDate; });
+    EXPECT_EQ(offered(), std::pair(false, true)) << "out today";
+    amend(game->disc, disc, [&] { game->disc->tracksRecorded = 9; });
+    EXPECT_EQ(offered(), std::pair(false, false)) << "a track still to record";
 }
 
 TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
@@ -90,9 +118,14 @@ TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
 
 TEST_F(DiscForms, TheDistributorFormListsTheWeeksTerritoriesAndConfirms) {
     amend(game->disc, disc, [&] { game->disc->releaseDate = {game->gameDate + 6, game->gameDate + 30, 0, 0, 0}; });
+    game->business.rec = BusinessRecord{.name = "Half Built", .kind = 2, .quality = 90, .open = 0};
+    const int32_t building = game->business.append();
     screens::frmChooseDistributor form(*game, disc);
     form.show();
     ASSERT_NE(form.cmbFirm[0], nullptr);
+    EXPECT_GE(form.cmbFirm[0]->findData(firm), 0);
+    EXPECT_EQ(form.cmbFirm[0]->findData(plant), -1) << "a pressing plant ships nothing";
+    EXPECT_EQ(form.cmbFirm[0]->findData(building), -1) << "nor does a firm still being built";
     EXPECT_EQ(form.cmbFirm[1], nullptr);
     EXPECT_FALSE(form.cmbFirm[0]->isEnabled());
     click(form.cmdChange[0]);
