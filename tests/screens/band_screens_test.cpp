@@ -119,13 +119,15 @@ TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
 }
 
 TEST_F(BandScreens, ADiscOfTheBandOpensDiscDetails) {
-    game->disc.rec = DiscRecord{.title = "Marsh Songs", .releaseDate = {game->gameDate - 30, 0, 0, 0, 0}, .band = band};
+    game->disc.rec = DiscRecord{
+        .title = "Marsh Songs", .releaseDate = {game->gameDate - 30, 0, game->gameDate - 44, 0, 0}, .band = band};
     const auto disc = static_cast<int16_t>(game->disc.append());
     openFromSearch("The Marsh Lights");
     auto* discs = find<QTableWidget>("flxDiscs");
     ASSERT_EQ(discs->rowCount(), 1);
     EXPECT_EQ(discs->item(0, 0)->text(), "Marsh Songs");
     EXPECT_EQ(discs->item(0, 1)->text(), "Album");
+    EXPECT_EQ(discs->item(0, 2)->text(), "22/6/2004") << "its first release anywhere";
     discs->setCurrentCell(0, 0);
     discs->setFocus();
     QTest::keyClick(discs, Qt::Key_Return);

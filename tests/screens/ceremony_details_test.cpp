@@ -125,6 +125,7 @@ TEST_F(CeremonyDetailsScreens, ARowOpensTheNightAndTheLastNightAsTheRecordsHoldT
         EXPECT_EQ(nominees->item(k, 2)->text().toStdString(), trim(band.nomineeNames[at].value));
         EXPECT_EQ(nominees->item(k, 3)->text(), QString::number(band.scores[at]));
         EXPECT_EQ(nominees->item(k, 4)->text(), k == 0 ? "Winner" : "") << k;
+        EXPECT_EQ(nominees->item(k, 1)->font().bold(), k == 0) << "the winner's line is bold";
     }
     EXPECT_EQ(nominees->item(0, 0)->text(), "Band of the Year");
     EXPECT_EQ(nominees->item(1, 0)->text(), "") << "the award is named once";

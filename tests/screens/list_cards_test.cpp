@@ -7,6 +7,7 @@
 #include "screens/business_screens.h"
 #include "screens/media_screens.h"
 #include "screens/side_bar.h"
+#include "support/amend.h"
 #include "world/strings.h"
 
 namespace trovane::test {
@@ -77,6 +78,18 @@ TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
     EXPECT_TRUE(lines[4].endsWith("(reputation 20, value 3)")) << lines[4].toStdString();
     EXPECT_EQ(lines.size(), 5) << "a kind without a minimum is not offered";
     screenshotOf(card, "49_frmMediaCard");
+    card->close();
+
+    // A monthly outlet keeps its week in issueWeek and its weekday in issueMonth.
+    amend(g.media, outlet, [&] {
+        g.media->frequency = 2;
+        g.media->issueWeek = 1;
+        g.media->issueMonth = 7;
+    });
+    openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);
+    card = dialog<screens::frmMediaCard>("frmMediaCard");
+    ASSERT_NE(card, nullptr);
+    EXPECT_EQ(card->lblMediaDetails->text().split('\n').value(3), "Out: Monthly: the first Saturday of the month");
     card->close();
 }
 
