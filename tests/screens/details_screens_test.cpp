@@ -88,6 +88,18 @@ TEST_F(DetailsScreens, AnotherLabelsArtistShowsNoImageAndHasNoOptions) {
     EXPECT_EQ(pressExtra(), nullptr);
 }
 
+TEST_F(DetailsScreens, ARetiredArtistShowsTheDayWhenItIsKnown) {
+    const int16_t sol = member(theirs, 1);
+    window->openArtist(sol);
+    EXPECT_EQ(window->currentScreenWidget()->findChild<QLabel*>("lblRetired"), nullptr);
+    amend(game->artist, sol, [&] { game->artist->retired = kTrue; });
+    window->openArtist(sol);
+    EXPECT_EQ(label("lblRetired")->text(), "Retired") << "no day on file";
+    amend(game->artist, sol, [&] { game->artist->retirementDate = game->gameDate - 5; });
+    window->openArtist(sol);
+    EXPECT_EQ(label("lblRetired")->text(), "Retired on 31/7/2004");
+}
+
 TEST_F(DetailsScreens, ExtraOpensTheOptionsOfEachDetailsScreenAndClosesOnASecondPress) {
     window->openBand(ours);
     screens::OptionPanel* panel = expectPanel("frmBandOptionsSigned");
