@@ -81,16 +81,21 @@ TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
     card->close();
 
     // A monthly outlet keeps its week in issueWeek and its weekday in issueMonth.
-    amend(g.media, outlet, [&] {
-        g.media->frequency = 2;
-        g.media->issueWeek = 1;
-        g.media->issueMonth = 7;
-    });
-    openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);
-    card = dialog<screens::frmMediaCard>("frmMediaCard");
-    ASSERT_NE(card, nullptr);
-    EXPECT_EQ(card->lblMediaDetails->text().split('\n').value(3), "Out: Monthly: the first Saturday of the month");
-    card->close();
+    const std::tuple<uint8_t, uint8_t, const char*> monthly[] = {{1, 7, "the first Saturday"},
+                                                                 {4, 1, "the fourth Sunday"}};
+    for (const auto& [week, weekday, words] : monthly) {
+        amend(g.media, outlet, [&] {
+            g.media->frequency = 2;
+            g.media->issueWeek = week;
+            g.media->issueMonth = weekday;
+        });
+        openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);
+        card = dialog<screens::frmMediaCard>("frmMediaCard");
+        ASSERT_NE(card, nullptr);
+        EXPECT_EQ(card->lblMediaDetails->text().split('\n').value(3),
+                  QStringLiteral("Out: Monthly: %1 of the month").arg(words));
+        card->close();
+    }
 }
 
 }  // namespace trovane::test
