@@ -76,10 +76,17 @@ TEST_F(ScreenTest, ATourFromTheBandsPanelToItsDetails) {
     ASSERT_NE(finalise, nullptr);
     EXPECT_EQ(finalise->windowTitle().toStdString(), "Finalise Tour");
     EXPECT_TRUE(finalise->lblQuestion->text().endsWith(QStringLiteral(". Finalise the tour?")));
+    for (int i = 0; i < 4; ++i) test::addHartbeats(g);  // four more acts of ours, free throughout
     click(finalise->cmdYes);
 
     auto* provisions = dialog<screens::frmChooseProvisions>("frmChooseProvisions");
     ASSERT_NE(provisions, nullptr);
+    QListWidget* supports = provisions->lstSupports;
+    ASSERT_EQ(supports->count(), 4);
+    for (int i = 0; i < 4; ++i) supports->item(i)->setCheckState(Qt::Checked);
+    EXPECT_EQ(supports->item(2)->checkState(), Qt::Checked);
+    EXPECT_EQ(supports->item(3)->checkState(), Qt::Unchecked) << "three support acts at the most";
+    for (int i = 0; i < 4; ++i) supports->item(i)->setCheckState(Qt::Unchecked);
     ASSERT_EQ(provisions->flxSponsors->rowCount(), 1);
     EXPECT_FALSE(provisions->cmdConfirm->isEnabled()) << "a sponsor fits, so one must be chosen";
     provisions->flxSponsors->selectRow(0);
