@@ -96,6 +96,21 @@ TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
                   QStringLiteral("Out: Monthly: %1 of the month").arg(words));
         card->close();
     }
+    // A broadcaster offers both together only at a value of their own, from the higher minimum.
+    for (uint8_t both : {0, 9}) {
+        amend(g.media, outlet, [&] {
+            g.media->mediaType = 3;
+            g.media->interviewMinimum = 10;
+            g.media->liveMinimum = 30;
+            g.media->bothValue = both;
+        });
+        openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);
+        card = dialog<screens::frmMediaCard>("frmMediaCard");
+        ASSERT_NE(card, nullptr);
+        EXPECT_EQ(card->lblMediaDetails->text().contains("\nInterview & Live Performance (reputation 30, value 9)"),
+                  both > 0);
+        card->close();
+    }
 }
 
 }  // namespace trovane::test
