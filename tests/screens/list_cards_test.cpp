@@ -107,8 +107,8 @@ TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
         openLastRow("lblMedia", Screen::frmMediaBrowse, outlet);
         card = dialog<screens::frmMediaCard>("frmMediaCard");
         ASSERT_NE(card, nullptr);
-        EXPECT_EQ(card->lblMediaDetails->text().contains("\nInterview & Live Performance (reputation 30, value 9)"),
-                  both > 0);
+        const QString line = QStringLiteral("\nInterview & Live Performance (reputation 30, value %1)").arg(both);
+        EXPECT_EQ(card->lblMediaDetails->text().contains(line), both > 0);
         card->close();
     }
 }
