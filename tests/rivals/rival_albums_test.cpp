@@ -26,11 +26,8 @@ protected:
     }
     // A rival disc of the band released on date in every territory.
     int16_t addReleased(int16_t band, uint8_t single, double date) {
-        g.disc.rec = DiscRecord{};
-        g.disc->band = band;
-        g.disc->label = kRival;
-        g.disc->isSingle = single;
-        g.disc->releaseDate.fill(date);
+        g.disc.rec = DiscRecord{
+            .releaseDate = {date, date, date, date, date}, .isSingle = single, .band = band, .label = kRival};
         return static_cast<int16_t>(g.disc.append());
     }
 };
@@ -109,15 +106,12 @@ TEST_F(RivalAlbums, AnAlbumStartsOnlyMoreThan230DaysAfterTheLast) {
     const int16_t players = addBand("Ours", kPlayer, 1, 40);
     addReleased(band, 0, g.gameDate - 230);
     computerRecordAlbum(g);
-    g.band.read(band);
-    EXPECT_EQ(g.band->albumStatus, 0);
+    EXPECT_EQ((g.band.read(band), g.band->albumStatus), 0);
     g.gameDate += 1;  // 231 days on
     computerRecordAlbum(g);
     g.band.read(band);
-    EXPECT_EQ(g.band->albumStatus, 1);
-    EXPECT_EQ(g.band->materialBudget, 3);  // m 40
-    g.band.read(players);
-    EXPECT_EQ(g.band->albumStatus, 0);  // never the player's act
+    EXPECT_EQ(std::tuple(g.band->albumStatus, g.band->materialBudget), std::tuple(1, 3));  // m 40
+    EXPECT_EQ((g.band.read(players), g.band->albumStatus), 0);                             // never the player's act
 }
 
 class RivalRelease : public RivalAlbums {
@@ -127,14 +121,11 @@ protected:
 
     int16_t recorded(uint8_t single) {
         const int32_t song = addSong(band, 50, 50, 0);
-        g.disc.rec = DiscRecord{};
-        g.disc->band = band;
-        g.disc->label = kRival;
-        g.disc->isSingle = single;
-        g.disc->trackCount = 1;
-        g.disc->tracks[0] = song;
-        g.disc->releaseDate.fill(kNoDate);
-        const auto disc = static_cast<int16_t>(g.disc.append());
+        const int16_t disc = addReleased(band, single, kNoDate);
+        amend(g.disc, disc, [&] {
+            g.disc->trackCount = 1;
+            g.disc->tracks[0] = song;
+        });
         amend(g.song, song, [&] { g.song->disc = static_cast<uint16_t>(disc); });
         return disc;
     }

@@ -56,6 +56,27 @@ protected:
         g.shortlist.rec = ShortlistRecord{.band = band, .label = label};
         g.shortlist.append();
     }
+    // The player's offer of the given advances, three options of 18 months at 15 percent.
+    int32_t playersOffer(double date, int32_t initial, int32_t additional) {
+        g.offer.rec = OfferRecord{.decisionDate = date,
+                                  .label = kPlayer,
+                                  .initialAdvance = initial,
+                                  .additionalAdvance = additional,
+                                  .additionalAdvanceCount = 3,
+                                  .optionLength = 18,
+                                  .band = act,
+                                  .royalty = 15};
+        return g.offer.append();
+    }
+    // Each label's window in the UK runs 20 to 39.
+    void lookFor(std::initializer_list<int16_t> labels) {
+        for (int16_t l : labels) {
+            amend(g.label, l, [&] {
+                g.label->reputationTarget = {40, 0, 0, 0, 0};
+                g.label->maxControversy = 100;
+            });
+        }
+    }
     std::vector<OfferRecord> offers() {
         std::vector<OfferRecord> out;
         for (int32_t n : offersOnBand(g, act)) {
@@ -76,13 +97,12 @@ protected:
 
 TEST_F(RivalSigning, AdjustingScalesAndHoldsTheTerms) {
     g.offer.rec = OfferRecord{.initialAdvance = 40'000'000, .additionalAdvance = 1000, .royalty = 90};
-    adjustOfferTerms(g, 33, false);                  // x 1.33
-    EXPECT_EQ(g.offer->royalty, 100);                // 119.7, held at 100
-    EXPECT_EQ(g.offer->initialAdvance, 50'000'000);  // 53.2 million, held
-    EXPECT_EQ(g.offer->additionalAdvance, 1330);
-    adjustOfferTerms(g, 33, true);  // x 0.67
-    EXPECT_EQ(g.offer->royalty, 67);
-    EXPECT_EQ(g.offer->additionalAdvance, 891);  // 1330 x 0.67 = 891.1
+    // x 1.33: the royalty of 119.7 is held at 100 and the 53.2 million at 50 million.
+    adjustOfferTerms(g, 33, false);
+    EXPECT_EQ(std::tuple(g.offer->royalty, g.offer->initialAdvance, g.offer->additionalAdvance),
+              std::tuple(100, 50'000'000, 1330));
+    adjustOfferTerms(g, 33, true);  // x 0.67: 1330 x 0.67 = 891.1
+    EXPECT_EQ(std::tuple(g.offer->royalty, g.offer->additionalAdvance), std::tuple(67, 891));
 }
 
 TEST_F(RivalSigning, TwoRivalsShareTheFirstDateAndOneDecisionUnreportedOffThePlayersShortlist) {
@@ -94,25 +114,15 @@ TEST_F(RivalSigning, TwoRivalsShareTheFirstDateAndOneDecisionUnreportedOffThePla
     computerApproachBands(g);  // a second week does not bid again while the offers stand
     const auto o = offers();
     ASSERT_EQ(o.size(), 2u);
-    EXPECT_EQ(o[0].decisionDate, g.gameDate + 7);
-    EXPECT_EQ(o[1].decisionDate, g.gameDate + 7);
-    EXPECT_EQ(o[0].optionLength, 18);
+    EXPECT_EQ(std::tuple(o[0].decisionDate, o[1].decisionDate, o[0].optionLength),
+              std::tuple(g.gameDate + 7, g.gameDate + 7, 18));
     EXPECT_EQ(typeFourEntries(), 1);
     g.schedule.read(g.schedule.recordCount() - 1);
-    EXPECT_EQ(g.schedule->offer, o[0].id);
-    EXPECT_EQ(g.schedule->label, kRival);
+    EXPECT_EQ(std::tuple(g.schedule->offer, g.schedule->label), std::tuple(o[0].id, kRival));
 }
 
 TEST_F(RivalSigning, ARivalJoinsThePlayersDateWithoutANewDecision) {
-    g.offer.rec = OfferRecord{.decisionDate = g.gameDate + 3,
-                              .label = kPlayer,
-                              .initialAdvance = 100'000,
-                              .additionalAdvance = 50'000,
-                              .additionalAdvanceCount = 3,
-                              .optionLength = 18,
-                              .band = act,
-                              .royalty = 15};
-    g.offer.append();
+    playersOffer(g.gameDate + 3, 100'000, 50'000);
     list(kRival, act);
     computerApproachBands(g);
     const auto o = offers();
@@ -126,8 +136,7 @@ TEST_F(RivalSigning, AStaleOfferDoesNotSetTheDate) {
     g.offer.append();
     list(kRival, act);
     computerApproachBands(g);
-    const auto o = offers();
-    EXPECT_EQ(o.back().decisionDate, g.gameDate + 7);
+    EXPECT_EQ(offers().back().decisionDate, g.gameDate + 7);
 }
 
 TEST_F(RivalSigning, AFullRosterOrThinCashNeverBids) {
@@ -218,13 +227,7 @@ TEST(RivalKeepsBand, RatingLossesAndTheAlbumsIncomeDecide) {
 }
 
 TEST_F(RivalSigning, RivalsJudgeEveryActButThePlayerDoesNot) {
-    // The rival's window in the UK is 20 to 39; the act sits at 30.
-    for (int16_t l : {kRival, second, kPlayer}) {
-        amend(g.label, l, [&] {
-            g.label->reputationTarget = {40, 0, 0, 0, 0};
-            g.label->maxControversy = 100;
-        });
-    }
+    lookFor({kRival, second, kPlayer});  // the act sits at 30
     amend(g.band, act, [&] { g.band->reputation = {30, 0, 0, 0, 0}; });
     for (int week = 0; week < 20; ++week) computerCheckBands(g);
     std::vector<int16_t> listers;
@@ -238,12 +241,7 @@ TEST_F(RivalSigning, RivalsJudgeEveryActButThePlayerDoesNot) {
 }
 
 TEST_F(RivalSigning, JudgingLeavesTheBuffersAtTheLastPairTestedAndAPairFoundListedAsRead) {
-    for (int16_t l : {kRival, second}) {
-        amend(g.label, l, [&] {
-            g.label->reputationTarget = {40, 0, 0, 0, 0};
-            g.label->maxControversy = 100;
-        });
-    }
+    lookFor({kRival, second});
     amend(g.band, act, [&] { g.band->reputation = {30, 0, 0, 0, 0}; });
     list(second, act);   // record 1
     list(kPlayer, act);  // record 2, which no rival's judging reads
@@ -254,8 +252,7 @@ TEST_F(RivalSigning, JudgingLeavesTheBuffersAtTheLastPairTestedAndAPairFoundList
         g.band.read(signedElsewhere);
         g.label.read(kPlayer);
         computerCheckBands(g);
-        EXPECT_EQ(g.band->id, act);
-        EXPECT_EQ(g.label->id, second);
+        EXPECT_EQ(std::tuple(g.band->id, g.label->id), std::tuple(act, second));
         foundListed = g.shortlist->label == second;
     }
     EXPECT_TRUE(foundListed);
@@ -266,16 +263,7 @@ TEST_F(RivalSigning, AContestedActDecidesOnceOnThePlayersDateAndTheBestOfferWins
     list(kPlayer, act);
     list(second, act);
     list(kRival, act);
-    // a poor offer: a tenth of what is asked
-    g.offer.rec = OfferRecord{.decisionDate = g.gameDate + 5,
-                              .label = kPlayer,
-                              .initialAdvance = 1000,
-                              .additionalAdvance = 500,
-                              .additionalAdvanceCount = 3,
-                              .optionLength = 18,
-                              .band = act,
-                              .royalty = 15};
-    const int32_t players = g.offer.append();
+    const int32_t players = playersOffer(g.gameDate + 5, 1000, 500);  // a tenth of what is asked
     const int32_t decision = addSchedule(
         g, ScheduleRecord{.type = 4, .date = g.gameDate + 5, .band = act, .label = kPlayer, .offer = players});
     computerApproachBands(g);

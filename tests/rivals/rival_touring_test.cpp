@@ -95,13 +95,10 @@ TEST_F(RivalTouring, SixVenuesMakeATourFromTheActTheAlbumTourAloneTakingSupports
     planFor(rivalBand, 1);
     t = lastTour();
     EXPECT_EQ(gigDate(t, 0), g.gameDate + 42);
-    EXPECT_EQ(t.band, rivalBand);
-    EXPECT_EQ(trim(t.areaCode.value), "E");
-    EXPECT_EQ(t.hospitalityLevel, 2);
-    EXPECT_EQ(t.accommodationLevel, 2);
-    EXPECT_EQ(t.contentLevel, 0);  // the style's content weight 20
-    EXPECT_EQ(t.sponsorProduct, -1);
-    EXPECT_EQ(t.supportCount, 1);
+    // Content level 0 for the style's content weight of 20.
+    EXPECT_EQ(std::tuple(t.band, trim(t.areaCode.value), t.hospitalityLevel, t.accommodationLevel, t.contentLevel,
+                         t.sponsorProduct, t.supportCount),
+              std::tuple(rivalBand, std::string("E"), 2, 2, 0, -1, 1));
     EXPECT_EQ(billOf(t.gigs[0]), (std::vector<int16_t>{rivalBand, a}));
 }
 
@@ -187,13 +184,11 @@ TEST_F(RivalTouring, APlayersActIsAskedOnceAndNotPlaced) {
 TEST_F(RivalTouring, TheSupportOfferReadsAsTheGameWordsIt) {
     int16_t tour = handTour({42, 44});
     g.tour.read(tour);
-    ScheduleRecord e{};
-    e.type = static_cast<uint8_t>(ScheduleType::supportSlotOffer);
-    e.date = g.gameDate;
-    e.band = band;
-    e.label = label;
-    e.gig = g.tour->gigs[0];
-    g.schedule.read(addSchedule(g, e));
+    g.schedule.read(addSchedule(g, ScheduleRecord{.type = static_cast<uint8_t>(ScheduleType::supportSlotOffer),
+                                                  .date = g.gameDate,
+                                                  .band = band,
+                                                  .label = label,
+                                                  .gig = g.tour->gigs[0]}));
     offerSupportSlot(g);
     g.news.read(g.news.recordCount() - 1);
     // Today is 5 January 2004: the gigs are on 16 and 18 February.
@@ -201,8 +196,7 @@ TEST_F(RivalTouring, TheSupportOfferReadsAsTheGameWordsIt) {
     EXPECT_EQ(trim(g.news->text.value),
               "The Others invited The Testers to support them on their forthcoming european tour. The tour takes "
               "place from 16/2/2004 to 18/2/2004 and will consist of 2 gigs. Allow The Testers to play the tour?");
-    EXPECT_EQ(g.news->kind, 1);
-    EXPECT_EQ(g.news->mustReply, 0);
+    EXPECT_EQ(std::tuple(g.news->kind, g.news->mustReply), std::tuple(1, 0));
 }
 
 TEST_F(RivalTouring, TheTourAreaFollowsTheFlagsWorldFirst) {
@@ -220,17 +214,15 @@ TEST_F(RivalTouring, TheTourAreaFollowsTheFlagsWorldFirst) {
 TEST_F(RivalTouring, TheAssistantSaysSoWhenTooFewVenuesSuitOrARetirementComesFirst) {
     addEnglishVenues(5, 8000);
     AssistantTour a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
-    EXPECT_EQ(a.tour, 0);
-    EXPECT_EQ(a.refusal,
-              "Your assistant has informed you he feels there are not enough suitable venues for The Testers to "
-              "tour there.");
+    EXPECT_EQ(std::tuple(a.tour, a.refusal),
+              std::tuple(0, std::string("Your assistant has informed you he feels there are not enough suitable "
+                                        "venues for The Testers to tour there.")));
     addEnglishVenues(1, 8000);
     retireOn(band, g.gameDate + 42);  // the first gig's own day
     a = planAssistantTour(g, band, "E", static_cast<uint8_t>(england));
-    EXPECT_EQ(a.tour, 0);
-    EXPECT_EQ(a.refusal,
-              "Your assistant has informed you he feels there is insufficient time before The Testers's retirement "
-              "to book a tour.");
+    EXPECT_EQ(std::tuple(a.tour, a.refusal),
+              std::tuple(0, std::string("Your assistant has informed you he feels there is insufficient time before "
+                                        "The Testers's retirement to book a tour.")));
     EXPECT_EQ(liveTours(), 0);
 }
 
@@ -238,10 +230,8 @@ class FollowUpTours : public RivalTouring {
 protected:
     FollowUpTours() { addEnglishVenues(6, 8000); }
     void albumOut(int16_t act, int daysAgo) {
-        g.disc.rec = DiscRecord{};
-        g.disc->band = act;
-        g.disc->label = rival;
-        g.disc->releaseDate.fill(g.gameDate - daysAgo);
+        const double d = g.gameDate - daysAgo;
+        g.disc.rec = DiscRecord{.releaseDate = {d, d, d, d, d}, .band = act, .label = rival};
         g.disc.append();
     }
 };
@@ -308,9 +298,7 @@ TEST_F(RivalTouring, TheAssistantsTourListsEveryGig) {
     ASSERT_GT(a.tour, 0);
     g.tour.read(a.tour);
     const TourRecord t = g.tour.rec;
-    EXPECT_EQ(t.band, band);
-    EXPECT_EQ(t.nation, england);
-    EXPECT_EQ(t.sponsorProduct, -1);
+    EXPECT_EQ(std::tuple(t.band, t.nation, t.sponsorProduct), std::tuple(band, england, -1));
     // The first gig is six weeks from 5 January 2004: 16 February.
     const std::string opening = "Your assistant has presented his plan for The Testers's tour, which consists of " +
                                 std::to_string(t.gigCount) + " gigs :-\n16 Feb 2004 - Hall (";

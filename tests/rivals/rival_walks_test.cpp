@@ -52,11 +52,9 @@ TEST_F(RivalWalks, FreeDaysOfAStretchAnswerAndLeaveTheBuffersAsAskingDayByDay) {
 }
 
 TEST_F(RivalWalks, WeeklyStepsLeaveTheBuffersAtTheLastRecordsWhichTheyPassOver) {
-    g.band.rec = BandRecord{};
-    g.band->name = "Nobody Yet";
+    g.band.rec = BandRecord{.name = "Nobody Yet"};
     const int32_t band = g.band.append();
-    g.artist.rec = ArtistRecord{};
-    g.artist->forename = "Quiet";
+    g.artist.rec = ArtistRecord{.forename = "Quiet"};
     const int32_t artist = g.artist.append();
     g.band.read(1);
     g.artist.read(1);
@@ -67,8 +65,7 @@ TEST_F(RivalWalks, WeeklyStepsLeaveTheBuffersAtTheLastRecordsWhichTheyPassOver) 
     EXPECT_EQ(g.band->id, band);
     updateSongs(g);
     EXPECT_EQ(g.artist->id, artist);
-    g.shortlist.rec = ShortlistRecord{};
-    g.shortlist->band = static_cast<int16_t>(band);
+    g.shortlist.rec = ShortlistRecord{.band = static_cast<int16_t>(band)};
     const int32_t row = g.shortlist.append();
     g.shortlist.read(1);
     computerApproachBands(g);
