@@ -173,11 +173,9 @@ TEST(StatusBar, ShowsDateCashInTheChosenCurrencyLabelAndPlayer) {
     g.player.playerSurname = "Lee";
     g.prefs->currencySymbol = "$";
     g.prefs->exchangeRate = 1.77f;
-    StatusBarTexts s = statusBarTexts(g);
-    EXPECT_EQ(s.date, "Thursday 5/8/2004 ");
-    EXPECT_EQ(s.cash, "$-2,185,184");
-    EXPECT_EQ(s.company, "Quarry Records");
-    EXPECT_EQ(s.name, "Ann Lee");
+    const StatusBarTexts s = statusBarTexts(g);
+    EXPECT_EQ(std::tuple(s.date, s.cash, s.company, s.name),
+              std::tuple("Thursday 5/8/2004 ", "$-2,185,184", "Quarry Records", "Ann Lee"));
 }
 
 }  // namespace

@@ -21,10 +21,10 @@ protected:
             });
         }
     }
-    ArtistRecord member(int16_t act, std::size_t i) {
+    std::pair<int, int> energyAndMorale(int16_t act, std::size_t i) {
         g.band.read(act);
         g.artist.read(g.band->members[i]);
-        return g.artist.rec;
+        return {g.artist->energy, g.artist->morale};
     }
 };
 
@@ -37,9 +37,7 @@ TEST_F(FestivalWear, EachActOnTheDaysBillSpendsAGigsEnergyAndMorale) {
         g.gig->bill[0] = alpha;
         g.gig->bill[1] = beta;
     });
-    setActMembers(alpha, 50, 50);
-    setActMembers(beta, 50, 50);
-    setActMembers(band, 50, 50);  // the player's act, not on the bill
+    for (int16_t act : {alpha, beta, band}) setActMembers(act, 50, 50);  // band, the player's act, is off the bill
     g.gig.read(firstDay);
     const double date = g.gig->gigDate;
     g.gameDate = date;
@@ -56,12 +54,8 @@ TEST_F(FestivalWear, EachActOnTheDaysBillSpendsAGigsEnergyAndMorale) {
     // A festival's tour has levels 0 and 0: the cost 7 less round((3 - 0) / 2) = round(1.5) = 2 is 5,
     // and a gig's morale is -5: 50 -> 45 for both.
     for (int16_t act : {alpha, beta})
-        for (std::size_t i = 0; i < 2; ++i) {
-            EXPECT_EQ(member(act, i).energy, 45) << act;
-            EXPECT_EQ(member(act, i).morale, 45) << act;
-        }
-    EXPECT_EQ(member(band, 0).energy, 50) << "an act off the bill is not worn";
-    EXPECT_EQ(member(band, 0).morale, 50);
+        for (std::size_t i = 0; i < 2; ++i) EXPECT_EQ(energyAndMorale(act, i), std::pair(45, 45)) << act;
+    EXPECT_EQ(energyAndMorale(band, 0), std::pair(50, 50)) << "an act off the bill is not worn";
 }
 
 }  // namespace

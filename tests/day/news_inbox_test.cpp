@@ -45,7 +45,6 @@ int32_t fileLinked(Game& g, ScheduleRecord e) {
 }  // namespace
 
 TEST_F(NewsInbox, ListIsNewestFirstWithoutDeletedItemsAndSorts) {
-    Game& g = eg.g;
     EXPECT_TRUE(newsListRows(g).empty());
     EXPECT_FALSE(clickNewsRow(g, {}, 0));
     for (const char* t : {"b first", "A second", "c third"}) post(g, t);
@@ -104,7 +103,6 @@ TEST(NewsButtons, DeleteAndSidebarFollowKindAndAnswer) {
 }
 
 TEST_F(NewsInbox, UnansweredItemsHoldTheDayLowestFirst) {
-    Game& g = eg.g;
     post(g, "Plain");
     int32_t second = post(g, "Second", kNewsYesNo, 0, true);
     int32_t third = post(g, "Third", kNewsYesNo, 0, true);
@@ -121,11 +119,7 @@ TEST_F(NewsInbox, UnansweredItemsHoldTheDayLowestFirst) {
 }
 
 TEST_F(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
-    Game& g = eg.g;
-    ScheduleRecord ended{};
-    ended.type = 18;
-    ended.band = addBand(g, {50});
-    int32_t id = post(g, "Option ended", kNewsOk, fileLinked(g, ended), true);
+    int32_t id = post(g, "Option ended", kNewsOk, fileLinked(g, {.type = 18, .band = addBand(g, {50})}), true);
     open(g, id);
     pressNewsCmd1(g);
     EXPECT_EQ(g.currentScreen, Screen::frmBandOptionDecision);
@@ -136,12 +130,9 @@ TEST_F(NewsInbox, AnEndedOptionOpensItsDecisionOnlyOnce) {
 }
 
 TEST_F(NewsInbox, YesToARivalsTourTakesTheNextSupportPlace) {
-    Game& g = eg.g;
     g.gameDate = day(2004, 9, 1);
-    ScheduleRecord ask{};
-    ask.type = 19;
-    ask.band = addBand(g, {50});
-    ask.gig = addGig(g, addBand(g, {50}), day(2004, 10, 1), {7});
+    const ScheduleRecord ask{
+        .type = 19, .band = addBand(g, {50}), .gig = addGig(g, addBand(g, {50}), day(2004, 10, 1), {7})};
     open(g, post(g, "Support", kNewsYesNo, fileLinked(g, ask)));
     pressNewsCmd1(g);
     g.gig.read(ask.gig);
@@ -151,16 +142,12 @@ TEST_F(NewsInbox, YesToARivalsTourTakesTheNextSupportPlace) {
 }
 
 TEST_F(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
-    Game& g = eg.g;
     g.gameDate = day(2004, 9, 1);
     g.label.rec.name = "My Label";
     g.label.append();
-    ScheduleRecord decision{};
-    decision.type = 4;
-    decision.band = addBand(g, {50}, 0, "The Hopefuls");
-    g.offer.rec.band = decision.band;
-    g.offer->label = 1;
-    decision.offer = g.offer.append();
+    const int16_t band = addBand(g, {50}, 0, "The Hopefuls");
+    g.offer.rec = OfferRecord{.label = 1, .band = band};
+    const ScheduleRecord decision{.type = 4, .band = band, .offer = g.offer.append()};
     int32_t question = post(g, "Agreed", kNewsYesNo, fileLinked(g, decision), true);
     open(g, question);
     pressNewsCmd2(g);
@@ -176,7 +163,6 @@ TEST_F(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
 }
 
 TEST_F(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
-    Game& g = eg.g;
     g.player.playerLabelName = "Loud Records ";
     g.event.rec.replyText = {Text<256>("We stand by them."), Text<256>("We are appalled."), Text<256>("...")};
     int32_t story =
@@ -186,8 +172,7 @@ TEST_F(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
     pressNewsCmd2(g);
     g.news.read(story + 1);
     EXPECT_EQ(trim(g.news->title.value), "Loud Records boss responds to media");
-    EXPECT_EQ(g.news->text.value, "We are appalled.");
-    EXPECT_EQ(g.news->replied, kTrue);
+    EXPECT_EQ(std::tuple(g.news->text.value, g.news->replied), std::tuple(std::string("We are appalled."), kTrue));
     EXPECT_TRUE(open(g, story).buttons[1].enabled);
     pressNewsCmd1(g);
     pressNewsCmd3(g);

@@ -10,10 +10,9 @@ namespace {
 TEST(ScheduleTypes, ANumberWithNoRowIsACalledOffEntry) {
     for (int t : {-1, 32, 255}) {
         const ScheduleTypeInfo& info = scheduleTypeInfo(t);
-        EXPECT_EQ(info.type, ScheduleType::calledOff) << t;
-        EXPECT_FALSE(info.occupiesBand) << t;
-        EXPECT_EQ(info.wear, nullptr) << t;
-        EXPECT_EQ(scheduleAction(t).run, nullptr) << t;
+        EXPECT_EQ(std::tuple(info.type, info.occupiesBand, info.wear == nullptr, scheduleAction(t).run == nullptr),
+                  std::tuple(ScheduleType::calledOff, false, true, true))
+            << t;
     }
 }
 
