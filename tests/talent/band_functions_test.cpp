@@ -16,20 +16,17 @@ protected:
 
     // An artist holding a job of the given rank (0: no job).
     int16_t addArtist(int16_t rank = 0, uint8_t share = 0) {
-        g.artist.rec = ArtistRecord{};
+        g.artist.rec = ArtistRecord{.royaltyShare = share};
         if (rank > 0) {
-            g.job.rec = JobRecord{};
-            g.job->rank = rank;
+            g.job.rec = JobRecord{.rank = rank};
             g.artist->job = narrow<uint8_t>(g.job.append());
         }
-        g.artist->royaltyShare = share;
         return narrow<int16_t>(g.artist.append());
     }
     // A band of the given members, left in the band buffer.
     void addBand(std::initializer_list<int16_t> members, int16_t label = 0) {
-        g.band.rec = BandRecord{};
+        g.band.rec = BandRecord{.label = label};
         for (int16_t m : members) g.band->members[g.band->memberCount++] = m;
-        g.band->label = label;
         g.band.append();
     }
     ArtistRecord& artist(int16_t n) {
@@ -94,15 +91,14 @@ TEST_F(Bands, DiscRoyaltiesPaySharesThenTheWritersThirtyPercent) {
     int16_t singer = addArtist(0, 42), drummer = addArtist(0, 28);
     addBand({singer, drummer});
     auto song = [&](int16_t writer) {
-        g.song.rec = SongRecord{};
-        g.song->writer = writer;
+        g.song.rec = SongRecord{.writer = writer};
         return g.song.append();
     };
     g.disc->trackCount = 4;  // the drummer's song is past the disc's tracks
     g.disc->tracks = {song(singer), song(0), song(singer), song(singer), song(drummer)};
     payArtists(g, moneyUnits(1000));
-    EXPECT_EQ(g.song->id, g.disc->tracks[3]) << "the buffers are left at the last track and the last paid";
-    EXPECT_EQ(g.artist->id, singer);
+    EXPECT_EQ(std::tuple(g.song->id, g.artist->id), std::tuple(g.disc->tracks[3], singer))
+        << "the buffers are left at the last track and the last paid";
     EXPECT_EQ(artist(singer).wealth, 420 + 225) << "3 of 4 tracks of the writers' 300";
     EXPECT_EQ(artist(drummer).wealth, 280);
     payArtistsEvenly(g, moneyUnits(1001));
@@ -123,12 +119,10 @@ TEST_F(Bands, CostsAndPointsReachTheLabelItsBossAndItsHeads) {
     addBandPoints(g, 1, 5);
 
     g.band.read(1);
-    EXPECT_EQ(g.band->costs, moneyUnits(500));
-    EXPECT_EQ(g.band->bandPoints[1], 30);
+    EXPECT_EQ(std::tuple(g.band->costs, g.band->bandPoints[1]), std::tuple(moneyUnits(500), 30));
     g.label.read(label);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerAdvances), -moneyUnits(500));
-    EXPECT_EQ(g.label->cashBalance, -moneyUnits(500));
-    EXPECT_EQ(g.label->points[1], 30);
+    EXPECT_EQ(std::tuple(ledgerEntry(g.label.rec, 0, ledgerAdvances), g.label->cashBalance, g.label->points[1]),
+              std::tuple(-moneyUnits(500), -moneyUnits(500), 30));
     for (auto [staff, points] : {std::pair{1, 30}, {2, 30}, {3, 0}}) {
         g.staff.read(staff);
         EXPECT_EQ(g.staff->points[1], points) << "staff " << staff;

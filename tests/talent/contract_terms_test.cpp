@@ -16,9 +16,7 @@ protected:
     Game& g = eg.g;
 
     BandRecord askedBy(std::array<uint8_t, 5> reputation) {
-        g.band.rec = BandRecord{};
-        g.band->reputation = reputation;
-        g.band->advanceToPay = moneyUnits(61'234);
+        g.band.rec = BandRecord{.reputation = reputation, .advanceToPay = moneyUnits(61'234)};
         setAskingTerms(g);
         return g.band.rec;
     }
@@ -36,22 +34,19 @@ TEST_F(Terms, TheAskRisesWithTheSquareOfTheActsWorth) {
     // v = 10 x 20 + 3 x 3 = 209: 209^2 / 1089 x 1500 = 60,166.67 -> 60,167, on its step 60,000;
     // royalty Int(Int(209 / 33) / 6) + 9 = Int(6 / 6) + 9 = 10.
     BandRecord b = askedBy({0, 20, 0, 0, 3});
-    EXPECT_EQ(b.initialAdvance, moneyUnits(60'000));
-    EXPECT_EQ(b.royaltyRate, 10);
+    EXPECT_EQ(std::tuple(b.initialAdvance, b.royaltyRate), std::tuple(moneyUnits(60'000), 10));
     // v = 33 x 33 = 1089: 1,633,500 on its step of 100,000: 1,600,000; royalty Int(33 / 6) + 9 = 14.
     b = askedBy({33, 33, 33, 33, 33});
-    EXPECT_EQ(b.initialAdvance, moneyUnits(1'600'000));
-    EXPECT_EQ(b.royaltyRate, 14);
+    EXPECT_EQ(std::tuple(b.initialAdvance, b.royaltyRate), std::tuple(moneyUnits(1'600'000), 14));
     // v = 3300: 15,000,000 exactly; royalty Int(100 / 6) + 9 = 25.
     b = askedBy({100, 100, 100, 100, 100});
-    EXPECT_EQ(b.initialAdvance, moneyUnits(15'000'000));
-    EXPECT_EQ(b.additionalAdvance, moneyUnits(15'000'000));
-    EXPECT_EQ(b.royaltyRate, 25);
+    EXPECT_EQ(std::tuple(b.initialAdvance, b.additionalAdvance, b.royaltyRate),
+              std::tuple(moneyUnits(15'000'000), moneyUnits(15'000'000), 25));
 }
 
 TEST(LabelStanding, AGapInTheMainMarketCountsTwice) {
-    EXPECT_EQ(labelStanding(50, 30, 100, 80).standing, 40);  // 80 - 2 x 20
-    EXPECT_EQ(labelStanding(50, 30, 100, 80).gap, 40);
+    const auto s = labelStanding(50, 30, 100, 80);
+    EXPECT_EQ(std::pair(s.standing, s.gap), std::pair(40, 40));  // 80 - 2 x 20
     EXPECT_EQ(labelStanding(30, 50, 100, 80).standing, 80) << "a label ahead of the band has no gap";
     EXPECT_EQ(labelStanding(0, 0, 0, 10).standing, 1000) << "a band of no total counts as 1";
 }
@@ -119,13 +114,11 @@ TEST_F(Scoring, ARoyaltyBelowTheAskCountsDoubleWhenAdvancesArePoor) {
     // royaltyDelta round(5 x 100 / 10 - 100) = -50. Advances of 0: a = 0, royaltyScore
     // 100 + round(round(200 x -50) / 100) = 0; initial 0, options 0: mean 0, score 0.
     offer(0, 0, 3, 18, 5);
-    ContractRating r = rateContract(g, 1);
-    EXPECT_EQ(r.score, 0);
+    EXPECT_EQ(rateContract(g, 1).score, 0);
     // Full advances: a = 100, royaltyScore 100 + round(-5000 / 100) = 50: mean round(250 / 3) = 83,
     // x 0.9 = 74.7 -> 75.
     offer(60'000, 60'000, 3, 18, 5);
-    r = rateContract(g, 1);
-    EXPECT_EQ(r.score, 75);
+    EXPECT_EQ(rateContract(g, 1).score, 75);
 }
 
 TEST_F(Scoring, ReasonsNameTheBestAndTheWorstTerm) {
@@ -135,14 +128,12 @@ TEST_F(Scoring, ReasonsNameTheBestAndTheWorstTerm) {
     // neither. Standing 90 is below the high of 100 though above the low: worst 4 (gap 80 > 20: 5).
     offer(60'000, 48'000, 3, 18, 10);
     ContractRating r = rateContract(g, 1);
-    EXPECT_EQ(r.bestReason, 1);
-    EXPECT_EQ(r.worstReason, 5);
+    EXPECT_EQ(std::pair(r.bestReason, r.worstReason), std::pair(1, 5));
     // A standing of 150 (no gap) beats every term: best 5 while the label's total (150) is below the
     // band's + 100.
     g.label.rec.reputation = {50, 100, 0, 0, 0};
     r = rateContract(g, 1);
-    EXPECT_EQ(r.bestReason, 5);
-    EXPECT_EQ(r.worstReason, 2);
+    EXPECT_EQ(std::pair(r.bestReason, r.worstReason), std::pair(5, 2));
 }
 
 TEST_F(Scoring, ARenewalLeavesTheInitialAdvanceOut) {

@@ -1,6 +1,7 @@
 // The hype meter and the reputation it moves.
 #include <gtest/gtest.h>
 
+#include "support/amend.h"
 #include "support/empty_game.h"
 #include "support/signing_world.h"
 #include "talent/reputation.h"
@@ -25,14 +26,20 @@ protected:
     }
     int16_t actAt(uint8_t r, int16_t h, std::initializer_list<int16_t> ranks = {1}, int16_t label = 0) {
         int16_t b = addAct(g, {.reputation = {r, r, r, r, r}, .ranks = ranks, .label = label});
-        g.band.read(b);
-        g.band->hype[0] = h;
-        g.band.write(b);
+        amend(g.band, b, [&] { g.band->hype[0] = h; });
         return b;
     }
     int memberRep(int16_t artist) {
         g.artist.read(artist);
         return g.artist->reputation[0];
+    }
+    // The UK reputation of each member of the band.
+    std::vector<int> memberReps(int16_t band) {
+        g.band.read(band);
+        const BandRecord b = g.band.rec;
+        std::vector<int> out;
+        for (int i = 0; i < b.memberCount; ++i) out.push_back(memberRep(b.members[static_cast<std::size_t>(i)]));
+        return out;
     }
 };
 
@@ -73,21 +80,14 @@ TEST_F(Hype, AtTheTopTheGainStillCountsForMembersAndLabel) {
 
 TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChangeUpOrDown) {
     int16_t band = actAt(10, 9, {1, 3, 4});
-    boost(band, 0, 1);  // +1 to the band
-    g.band.read(band);
-    auto m = g.band->members;
-    EXPECT_EQ(memberRep(m[0]), 13);  // 10 + round(3 / 1)
-    EXPECT_EQ(memberRep(m[1]), 11);  // 10 + round(3 / 3)
-    EXPECT_EQ(memberRep(m[2]), 11);  // 10 + round(0.75)
+    boost(band, 0, 1);  // +1 to the band: 10 + round(3 / 1), 10 + round(3 / 3), 10 + round(0.75)
+    EXPECT_EQ(memberReps(band), (std::vector<int>{13, 11, 11}));
     int16_t solo = actAt(10, 9, {4});
     boost(solo, 0, 1);
-    g.band.read(solo);
-    EXPECT_EQ(memberRep(g.band->members[0]), 11) << "a solo artist moves with the act, whatever the job";
+    EXPECT_EQ(memberReps(solo), std::vector<int>{11}) << "a solo artist moves with the act, whatever the job";
     int16_t falling = actAt(20, -99, {1, 2});
     boost(falling, 0, -1);
-    g.band.read(falling);
-    EXPECT_EQ(memberRep(g.band->members[0]), 17);  // 20 - 3
-    EXPECT_EQ(memberRep(g.band->members[1]), 18);  // 20 + round(-1.5) = 20 - 2
+    EXPECT_EQ(memberReps(falling), (std::vector<int>{17, 18}));  // 20 - 3, 20 + round(-1.5) = 20 - 2
 }
 
 TEST_F(Hype, AChangeReachesTheLabelsChartingDiscsOutsideTheRestOfTheWorld) {
@@ -96,20 +96,16 @@ TEST_F(Hype, AChangeReachesTheLabelsChartingDiscsOutsideTheRestOfTheWorld) {
     int16_t disc = static_cast<int16_t>(g.disc.append());
     for (int chart : {0, 4}) {
         openChart(g, chart);
-        g.chart.rec = ChartRow{};
-        g.chart->disc = disc;
+        g.chart.rec = ChartRow{.disc = disc};
         g.chart.append();
         closeChart(g);
     }
     int16_t band = actAt(10, 9, {1}, label);
     boost(band, 0, 1);
-    g.band.read(band);
-    g.band->hype[4] = 9;
-    g.band.write(band);
+    amend(g.band, band, [&] { g.band->hype[4] = 9; });
     boost(band, 4, 1);
     g.disc.read(disc);
-    EXPECT_EQ(g.disc->hype[0], 51);
-    EXPECT_EQ(g.disc->hype[4], 50);
+    EXPECT_EQ(std::tuple(g.disc->hype[0], g.disc->hype[4]), std::tuple(51, 50));
 }
 
 }  // namespace
