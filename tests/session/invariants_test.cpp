@@ -69,10 +69,9 @@ TEST_P(Invariants, NameTheBrokenRule) {
     GetParam().apply(eg.g);
     auto broken = checkInvariants(eg.g);
     ASSERT_TRUE(broken);
-    EXPECT_EQ(broken->table, GetParam().table);
-    EXPECT_EQ(broken->record, GetParam().record);
-    EXPECT_EQ(broken->field, GetParam().field);
-    EXPECT_EQ(broken->rule, GetParam().rule);
+    const Fault& f = GetParam();
+    EXPECT_EQ(std::tuple(broken->table, broken->record, broken->field, broken->rule),
+              std::tuple(f.table, f.record, f.field, f.rule));
 }
 
 namespace {
@@ -98,23 +97,16 @@ void addBand(Game& g, const std::function<void(BandRecord&)>& f) {
 INSTANTIATE_TEST_SUITE_P(
     Faults, Invariants,
     ::testing::Values(
-        Fault{"RoyaltiesTakenFromTheRow",
-              [](Game& g) {
-                  // Cash and this month agree, but the royalties run from the row's figure.
-                  onLabel(g, 2, [](auto& l) { l.period[0].expense[6] = 0; });
-              },
+        // Cash and this month agree, but the royalties run from the row's figure.
+        Fault{"RoyaltiesTakenFromTheRow", [](Game& g) { onLabel(g, 2, [](auto& l) { l.period[0].expense[6] = 0; }); },
               "label", 2, "cashBalance", "labelCashMatchesLedger"},
         Fault{"PlayerCashAside", [](Game& g) { g.player.playerLabelCash += 1; }, "session", 0, "playerLabelCash",
               "playerCashIsTheLabels"},
         Fault{"LevelPastItsBound",
               [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[3].staffAtLevel[4] = 33; }); }, "label", 1,
               "department[3].staffAtLevel[4]", "staffLevelsWithinBounds"},
-        Fault{"LevelAtItsBound",
-              [](Game& g) {
-                  onLabel(g, 1, [](auto& l) {
-                      l.department[3].staffAtLevel[4] = 32;  // allowed, but rating and bill now lag
-                  });
-              },
+        // Allowed, but the rating and the bill now lag.
+        Fault{"LevelAtItsBound", [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[3].staffAtLevel[4] = 32; }); },
               "label", 1, "department[3].rating", "departmentRatingsFollowStaff"},
         Fault{"HeadOfAnotherLabel", [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[0].head = 1; }); }, "label",
               1, "department[0].head", "departmentHeadsWorkThere"},

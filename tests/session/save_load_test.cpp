@@ -24,20 +24,24 @@ protected:
 
     void SetUp() override {
         // A small game in progress: a label, a band, a news item, three years of schedule.
-        g.label.rec.name = "Quarry Records";
-        g.label->cashBalance = moneyUnits(250000);
-        g.label->reputation = {40, 20, 15, 10, 5};
+        g.label.rec =
+            LabelRecord{.name = "Quarry Records", .cashBalance = moneyUnits(250000), .reputation = {40, 20, 15, 10, 5}};
         g.player.playerLabel = narrow<int16_t>(g.label.append());
         g.player.playerForename = "Ann";
         g.player.playerSurname = "Lee";
         g.player.gameNumber = 7;
-        g.band.rec.name = "The Paper Lanterns";
+        g.band.rec = BandRecord{.name = "The Paper Lanterns"};
         g.band.append();
         g.gameDate = serialFromCivil(2006, 3, 9);
         g.lastScheduleYear = 2006;
         makeYearFiles();
     }
 
+    void renameBand(const char* name) {
+        g.band.read(1);
+        g.band->name = name;
+        g.band.write(1);
+    }
     void makeYearFiles() {
         for (int y = g.firstScheduleYear; y <= g.lastScheduleYear; ++y) {
             fs::path p = dataFile(g, std::to_string(y), "vel");
@@ -79,16 +83,12 @@ TEST_F(SaveSlots, LoadBringsBackTheSessionAndEveryYearFile) {
     double savedDate = g.gameDate;
     g.gameDate += 40;
     g.player.playerLabelCash = moneyUnits(1);
-    g.band.read(1);
-    g.band->name = "Changed";
-    g.band.write(1);
+    renameBand("Changed");
     fs::remove(dataFile(g, "2008", "vel"));
 
     loadGame(g, 1);
-    EXPECT_EQ(g.gameDate, savedDate);
-    EXPECT_EQ(g.lastScheduleYear, 2008);
-    EXPECT_EQ(g.player.gameNumber, 7);
-    EXPECT_EQ(g.player.playerLabelCash, 0);
+    EXPECT_EQ(std::tuple(g.gameDate, g.lastScheduleYear, g.player.gameNumber, g.player.playerLabelCash),
+              std::tuple(savedDate, 2008, 7, 0));
     g.band.read(1);
     EXPECT_EQ(g.band->name, "The Paper Lanterns");
     EXPECT_TRUE(fs::exists(dataFile(g, "2008", "vel")));
@@ -99,12 +99,9 @@ TEST_F(SaveSlots, OverwriteDeleteAndDetails) {
     g.gameDate += 10;
     saveGame(g, 5, "New");  // a used slot is overwritten without a question
     EXPECT_EQ(slotName(g, 5), "New");
-    SlotDetails d = slotDetails(g, 5);
-    EXPECT_EQ(d.gameDate, g.gameDate);
-    EXPECT_EQ(d.labelName, "Quarry Records");
-    EXPECT_EQ(d.cash, moneyUnits(250000));
-    EXPECT_EQ(d.reputation[0], 40);
-    EXPECT_EQ(d.playerForename + " " + d.playerSurname, "Ann Lee");
+    const SlotDetails d = slotDetails(g, 5);
+    EXPECT_EQ(std::tuple(d.gameDate, d.labelName, d.cash, d.reputation[0], d.playerForename + " " + d.playerSurname),
+              std::tuple(g.gameDate, "Quarry Records", moneyUnits(250000), 40, "Ann Lee"));
 
     deleteSlot(g, 5);
     EXPECT_EQ(slotName(g, 5), "None");
@@ -125,9 +122,7 @@ class BrokenSlot : public SaveSlots, public ::testing::WithParamInterface<Damage
 TEST_P(BrokenSlot, IsRefusedByNameAndTheRunningGameIsUntouched) {
     saveGame(g, 6, "To be damaged");
     GetParam().apply(g.dataDir);
-    g.band.read(1);
-    g.band->name = "Running game";
-    g.band.write(1);
+    renameBand("Running game");
     double date = g.gameDate;
     auto before = workingSet();
     try {
