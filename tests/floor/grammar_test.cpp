@@ -1,15 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "floor/grammar.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 
 using namespace trovane;
 
 namespace {
 
-struct GrammarFixture : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+struct GrammarFixture : test::GameTest {
     int32_t dave = 0, ann = 0;
 
     void SetUp() override {
@@ -17,16 +15,12 @@ struct GrammarFixture : ::testing::Test {
         ann = addArtist("Ann", kFalse);
     }
     int32_t addArtist(const char* forename, int16_t male) {
-        g.artist.rec = ArtistRecord{};
-        g.artist->forename = forename;
-        g.artist->male = male;
+        g.artist.rec = ArtistRecord{.forename = forename, .male = male};
         return g.artist.append();
     }
     void useBand(uint8_t memberCount, int32_t firstMember) {
-        g.band.rec = BandRecord{};
-        g.band->memberCount = memberCount;
-        g.band->members[0] = static_cast<int16_t>(firstMember);
-        g.band->members[1] = static_cast<int16_t>(ann);
+        g.band.rec = BandRecord{.memberCount = memberCount,
+                                .members = {static_cast<int16_t>(firstMember), static_cast<int16_t>(ann)}};
     }
 };
 

@@ -3,16 +3,13 @@
 #include <tuple>
 
 #include "floor/list_fillers.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 
 using namespace trovane;
 
 namespace {
 
-struct ListFixture : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
-
+struct ListFixture : test::GameTest {
     void SetUp() override {
         for (auto [name, adjective, region] : {std::tuple{"England", "English", "E"},
                                                {"Peru", "Peruvian", "S"},  // no city

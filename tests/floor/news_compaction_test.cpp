@@ -3,18 +3,14 @@
 
 #include "floor/news_post.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/strings.h"
 
 using namespace trovane;
 
 namespace {
 
-class NewsCompaction : public ::testing::Test {
-protected:
-    test::EmptyGame eg;
-    Game& g = eg.g;
-
+struct NewsCompaction : test::GameTest {
     void post(const std::string& title, bool read, bool deleted = false, bool mustReply = false) {
         postNews(g, {.date = 100, .title = title, .text = "t", .mustReply = mustReply});
         g.news->read = read ? kTrue : kFalse;
