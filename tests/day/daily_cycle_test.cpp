@@ -11,7 +11,8 @@
 
 #include "day/daily_cycle.h"
 #include "floor/preferences.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
+#include "support/sim_run.h"
 #include "support/temp_folder.h"
 #include "world/dates.h"
 #include "world/strings.h"
@@ -25,16 +26,6 @@ struct TracedDay {
     year_month_day date;
     std::vector<std::string> steps;
 };
-
-std::string runCommand(const std::string& cmd) {
-    std::string out;
-    FILE* p = popen(cmd.c_str(), "r");
-    if (!p) return out;
-    char buf[4096];
-    while (std::fgets(buf, sizeof buf, p)) out += buf;
-    pclose(p);
-    return out;
-}
 
 // Parses "Weekday d/m/yyyy" lines followed by indented step names.
 std::vector<TracedDay> parseTrace(const std::string& text) {
@@ -60,9 +51,9 @@ class TwoYearsOfDays : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
         folder_ = new test::TempFolder();
-        std::string sim = std::string(TROVANE_SIM_PATH) + " --seed 7 --data " + folder_->path().string();
-        runCommand(sim + " init");
-        days_ = new std::vector<TracedDay>(parseTrace(runCommand(sim + " advance 880 --trace")));
+        test::runSim(folder_->path(), "--seed 7 init");
+        days_ = new std::vector<TracedDay>(
+            parseTrace(test::runSim(folder_->path(), "--seed 7 advance 880 --trace").second));
     }
     static void TearDownTestSuite() {
         delete days_;
@@ -142,9 +133,10 @@ TEST_F(TwoYearsOfDays, YearEndSchedulesTheYearAfterNextOnlyFromTheSecondYear) {
     }
 }
 
-TEST(PlayTime, TheHourlyItemComesOnlyOnAWholeHour) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+using PlayTime = test::GameTest;
+using StatusBar = test::GameTest;
+
+TEST_F(PlayTime, TheHourlyItemComesOnlyOnAWholeHour) {
     g.prefs->minutesPlayed = 58;
     writePrefs(g);
     tickPlayMinute(g);
@@ -164,9 +156,7 @@ TEST(PlayTime, TheHourlyItemComesOnlyOnAWholeHour) {
     EXPECT_EQ(g.prefs->minutesPlayed, 61);
 }
 
-TEST(StatusBar, ShowsDateCashInTheChosenCurrencyLabelAndPlayer) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+TEST_F(StatusBar, ShowsDateCashInTheChosenCurrencyLabelAndPlayer) {
     g.player.playerLabelCash = moneyUnits(-1234567);
     g.player.playerLabelName = "Quarry Records";
     g.player.playerForename = "Ann";
