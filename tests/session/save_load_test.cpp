@@ -6,8 +6,8 @@
 
 #include "floor/preferences.h"
 #include "session/save_load.h"
-#include "support/empty_game.h"
 #include "support/folder_files.h"
+#include "support/game_test.h"
 #include "world/dates.h"
 #include "world/manifest.h"
 
@@ -17,11 +17,7 @@ using test::folderFiles;
 
 namespace {
 
-class SaveSlots : public ::testing::Test {
-protected:
-    test::EmptyGame eg;
-    Game& g = eg.g;
-
+struct SaveSlots : test::GameTest {
     void SetUp() override {
         // A small game in progress: a label, a band, a news item, three years of schedule.
         g.label.rec =

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "session/session_record.h"
-#include "support/empty_game.h"
 #include "support/folder_files.h"
+#include "support/game_test.h"
 #include "support/sim_run.h"
 #include "world/dates.h"
 
@@ -24,13 +24,11 @@ struct SetDamage {
 };
 
 // A game in progress: one label, the player's, and the years 2004 and 2005.
-class WorkingSet : public ::testing::Test {
+class WorkingSet : public test::GameTest {
 protected:
-    test::EmptyGame eg;
     fs::path dir = eg.folder.path();
 
     void SetUp() override {
-        Game& g = eg.g;
         g.label.rec = LabelRecord{.name = "Quarry Records"};
         g.label.append();
         g.player.playerLabel = 1;
@@ -38,7 +36,6 @@ protected:
         closeAllTables(g);
     }
     void setPlayerLabel(int16_t label) {
-        Game& g = eg.g;
         readSessionFile(g, workingSessionFile(g));
         g.player.playerLabel = label;
         writeSessionFile(g, workingSessionFile(g));
@@ -100,7 +97,6 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.what); });
 
 TEST_F(WorkingSet, AGameLongPastTheLastYearOfItsScheduleGoesOn) {
-    Game& g = eg.g;
     readSessionFile(g, workingSessionFile(g));
     g.gameDate = serialFromCivil(2014, 8, 5);  // the schedule still ends with 2005
     writeSessionFile(g, workingSessionFile(g));

@@ -5,7 +5,7 @@
 #include <set>
 #include <vector>
 
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "talent/artist_functions.h"
 #include "talent/artist_names.h"
 
@@ -13,11 +13,7 @@ using namespace trovane;
 
 namespace {
 
-class NewArtists : public ::testing::Test {
-protected:
-    test::EmptyGame eg;
-    Game& g = eg.g;
-
+struct NewArtists : test::GameTest {
     void useStyle(uint8_t lifeSpan) {
         g.style.rec = StyleRecord{.lifeSpan = lifeSpan, .baseCharisma = 60, .baseAngst = 95};
         g.artist.rec = ArtistRecord{};

@@ -3,7 +3,7 @@
 
 #include "floor/news_post.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 #include "talent/band_condition.h"
 #include "talent/lifecycle.h"
@@ -14,11 +14,7 @@ using namespace trovane::test;
 
 namespace {
 
-class Condition : public ::testing::Test {
-protected:
-    EmptyGame eg;
-    Game& g = eg.g;
-
+struct Condition : test::GameTest {
     ArtistRecord member(int16_t band, int i = 0) {
         g.band.read(band);
         g.artist.read(g.band->members[static_cast<std::size_t>(i)]);

@@ -2,18 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "label/finances.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "talent/band_functions.h"
 
 using namespace trovane;
 
 namespace {
 
-class Bands : public ::testing::Test {
-protected:
-    test::EmptyGame eg;
-    Game& g = eg.g;
-
+struct Bands : test::GameTest {
     // An artist holding a job of the given rank (0: no job).
     int16_t addArtist(int16_t rank = 0, uint8_t share = 0) {
         g.artist.rec = ArtistRecord{.royaltyShare = share};

@@ -1,7 +1,7 @@
 // What an act asks for and how an offer scores against it.
 #include <gtest/gtest.h>
 
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 #include "talent/contract_terms.h"
 
@@ -10,11 +10,7 @@ using namespace trovane::test;
 
 namespace {
 
-class Terms : public ::testing::Test {
-protected:
-    EmptyGame eg;
-    Game& g = eg.g;
-
+struct Terms : test::GameTest {
     BandRecord askedBy(std::array<uint8_t, 5> reputation) {
         g.band.rec = BandRecord{.reputation = reputation, .advanceToPay = moneyUnits(61'234)};
         setAskingTerms(g);
@@ -53,10 +49,8 @@ TEST(LabelStanding, AGapInTheMainMarketCountsTwice) {
 
 // A band of US 100 asking 60,000, 3 options of 18 months and 10 percent; a
 // label of US 60 and UK x: standing = (60 + x) - 2 x (100 - 60) = x - 20.
-class Scoring : public ::testing::Test {
+class Scoring : public test::GameTest {
 protected:
-    EmptyGame eg;
-    Game& g = eg.g;
     int16_t style = addStyle(g, 10);
 
     void setUpBand(uint8_t age = 0, uint8_t askedOptions = 3, std::array<uint8_t, 5> reputation = {0, 100, 0, 0, 0}) {

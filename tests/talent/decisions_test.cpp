@@ -5,7 +5,7 @@
 #include "floor/news_post.h"
 #include "label/scouting.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 #include "talent/band_offers.h"
 #include "talent/contract_news.h"
@@ -23,10 +23,8 @@ const std::string kUnderRepresented =
 
 // A band of US 100 asking 60,000, three options of 18 months and 10 percent.
 // A label of UK x and US 60 stands at x - 20 against it.
-class Deals : public ::testing::Test {
+class Deals : public test::GameTest {
 protected:
-    EmptyGame eg;
-    Game& g = eg.g;
     int16_t style = addStyle(g, 10);
     int16_t home = 0;
     int16_t band = 0;

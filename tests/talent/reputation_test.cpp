@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 #include "talent/reputation.h"
 #include "world/record_store.h"
@@ -12,11 +12,7 @@ using namespace trovane::test;
 
 namespace {
 
-class Hype : public ::testing::Test {
-protected:
-    EmptyGame eg;
-    Game& g = eg.g;
-
+struct Hype : test::GameTest {
     // One market's reputation and meter after a call.
     std::pair<int, int> boost(int16_t band, int market, int16_t amount) {
         g.band.read(band);
