@@ -93,9 +93,7 @@ TEST(NewsButtons, DeleteAndSidebarFollowKindAndAnswer) {
         NewsItemView v = open(g, id);
         std::string shown;
         for (const auto& b : v.buttons) shown += !b.visible ? '-' : b.enabled ? 'E' : 'v';
-        EXPECT_EQ(shown, c.buttons);
-        EXPECT_EQ(v.sidebarEnabled, c.mayLeave);
-        EXPECT_EQ(v.helpVisible, c.replied);
+        EXPECT_EQ(std::tuple(shown, v.sidebarEnabled, v.helpVisible), std::tuple(c.buttons, c.mayLeave, c.replied));
         EXPECT_EQ(deleteNewsItem(g), c.mayLeave);
         g.news.read(id);
         EXPECT_EQ(g.news->read, kTrue);

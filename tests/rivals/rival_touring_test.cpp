@@ -147,8 +147,7 @@ TEST_F(RivalTouring, NeitherAnActBusyDuringTheTourNorOneOfTheParentStyleSupports
     const auto parent = static_cast<uint8_t>(g.style.append());
     // the headliner's style descends from parent
     amend(g.style, style, [&] { g.style->parentStyle = parent; });
-    g.style.rec = StyleRecord{};
-    g.style->parentStyle = static_cast<uint8_t>(style);
+    g.style.rec = StyleRecord{.parentStyle = static_cast<uint8_t>(style)};
     const auto child = static_cast<uint8_t>(g.style.append());
     const int16_t a = addAct("A", rival, 40);
     const int16_t busy = addAct("Busy", rival, 45);

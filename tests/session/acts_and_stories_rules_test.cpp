@@ -36,9 +36,8 @@ struct Stories : AlbumWorld {
         a = g.band->members[0];
         b = g.band->members[1];
         for (uint8_t type : {uint8_t{3}, uint8_t{6}}) {
-            g.event.rec =
-                EventRecord{.eventNumber = static_cast<int16_t>(g.event.recordCount()), .participantCount = 2};
-            g.event->eventType = type;
+            g.event.rec = EventRecord{
+                .eventNumber = static_cast<int16_t>(g.event.recordCount()), .participantCount = 2, .eventType = type};
             g.event.append();
         }
         g.event.read(1);

@@ -42,11 +42,9 @@ TEST_F(Condition, PotentialDeclinesOnlyPastHalfTheCareer) {
     setMember(half, 0, 80, 60, 0);
     setMember(past, 0, 80, 60, 0);
     bandPotentialCalculations(g);
-    EXPECT_EQ(member(half).potential, 80);
-    EXPECT_EQ(member(past).potential, 79);
+    EXPECT_EQ(std::tuple(member(half).potential, member(past).potential), std::tuple(80, 79));
     // (80 - 60) / 2 x 10 / 36 / 12 x 100 = 23.15: no whole point yet.
-    EXPECT_EQ(member(half).ability, 60);
-    EXPECT_EQ(member(half).abilityProgress, 23);
+    EXPECT_EQ(std::tuple(member(half).ability, member(half).abilityProgress), std::tuple(60, 23));
 }
 
 TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
@@ -71,8 +69,8 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
     };
     for (Case c :
          {Case{pair, 61, 13}, Case{falling, 59, -6}, Case{top, 100, 50}, Case{gone, 60, 90}, Case{exact, 61, 0}}) {
-        EXPECT_EQ(member(c.band).ability, c.ability) << "band " << c.band;
-        EXPECT_EQ(member(c.band).abilityProgress, c.progress) << "band " << c.band;
+        EXPECT_EQ(std::tuple(member(c.band).ability, member(c.band).abilityProgress), std::tuple(c.ability, c.progress))
+            << "band " << c.band;
     }
     g.band.read(pair);
     EXPECT_EQ(g.band->ability, 60) << "round(60.5) to even";

@@ -167,8 +167,8 @@ TEST(Birthplaces, AMembersCountryIsTheOneAWalkOfTheNationsGives) {
                 const AssRecord left = g.assnation.rec;
                 g.assnation.read(1);
                 EXPECT_EQ(pickBirthCountry(g, home, false), expected) << "home " << home;
-                EXPECT_EQ(g.assnation->a, left.a) << "the buffer as the walk leaves it";
-                EXPECT_EQ(g.assnation->b, left.b);
+                EXPECT_EQ(std::tuple(g.assnation->a, g.assnation->b), std::tuple(left.a, left.b))
+                    << "the buffer as the walk leaves it";
                 ASSERT_EQ(g.rng.between(0, 1 << 30), walked.between(0, 1 << 30)) << "the same draws, home " << home;
                 picked += expected != home;
             }
