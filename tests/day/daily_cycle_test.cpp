@@ -14,7 +14,6 @@
 #include "support/game_test.h"
 #include "support/sim_run.h"
 #include "support/temp_folder.h"
-#include "world/dates.h"
 #include "world/strings.h"
 
 using namespace trovane;

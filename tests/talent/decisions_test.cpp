@@ -111,8 +111,7 @@ TEST_F(Deals, AmountsTypedAreTakenBackThroughTheExchangeRate) {
     typed.additionalAdvance = 90'003;  // 45,001.5 -> 45,002
     makeOffer(g, band, typed);
     g.offer.read(1);
-    EXPECT_EQ(g.offer->initialAdvance, 60'000);
-    EXPECT_EQ(g.offer->additionalAdvance, 45'002);
+    EXPECT_EQ(std::tuple(g.offer->initialAdvance, g.offer->additionalAdvance), std::tuple(60'000, 45'002));
 }
 
 // Each reason has its own words: the clincher of a yes, the complaint of a

@@ -95,8 +95,7 @@ TEST_F(BandDetailsFigures, OnlyThePlayersActsShowTheirAttributes) {
 }
 
 TEST_F(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
-    g.band.read(us);
-    const int16_t a = g.band->members[0];
+    const int16_t a = (g.band.read(us), g.band->members[0]);
     amend(g.artist, a, [&] {
         g.artist->retired = kTrue;
         g.artist->retirementDate = test::day(2005, 3, 4);
@@ -106,8 +105,7 @@ TEST_F(ArtistDetailsFigures, ARetiredArtistShowsTheDateSet) {
 }
 
 TEST_F(ArtistDetailsFigures, APlayersArtistShowsItsLookOrNoneWithoutOne) {
-    g.band.read(us);
-    const int16_t a = g.band->members[0];
+    const int16_t a = (g.band.read(us), g.band->members[0]);
     g.look.rec = LookRecord{.name = "Grunge"};
     const auto grunge = static_cast<uint8_t>(g.look.append());
     for (auto [look, shown] : {std::pair{uint8_t{0}, ""}, {grunge, "Grunge"}}) {
