@@ -95,8 +95,7 @@ TEST(NewsButtons, DeleteAndSidebarFollowKindAndAnswer) {
         for (const auto& b : v.buttons) shown += !b.visible ? '-' : b.enabled ? 'E' : 'v';
         EXPECT_EQ(std::tuple(shown, v.sidebarEnabled, v.helpVisible), std::tuple(c.buttons, c.mayLeave, c.replied));
         EXPECT_EQ(deleteNewsItem(g), c.mayLeave);
-        g.news.read(id);
-        EXPECT_EQ(g.news->read, kTrue);
+        EXPECT_EQ((g.news.read(id), g.news->read), kTrue);
     }
 }
 
@@ -133,8 +132,7 @@ TEST_F(NewsInbox, YesToARivalsTourTakesTheNextSupportPlace) {
         .type = 19, .band = addBand(g, {50}), .gig = addGig(g, addBand(g, {50}), day(2004, 10, 1), {7})};
     open(g, post(g, "Support", kNewsYesNo, fileLinked(g, ask)));
     pressNewsCmd1(g);
-    g.gig.read(ask.gig);
-    EXPECT_EQ(g.gig->bill[2], ask.band);
+    EXPECT_EQ((g.gig.read(ask.gig), g.gig->bill[2]), ask.band);
     g.tour.read(g.gig->tour);
     EXPECT_EQ(g.tour->supportCount, 2);
 }
@@ -149,8 +147,7 @@ TEST_F(NewsInbox, NoToAnAgreedDealVoidsTheOffer) {
     int32_t question = post(g, "Agreed", kNewsYesNo, fileLinked(g, decision), true);
     open(g, question);
     pressNewsCmd2(g);
-    g.offer.read(1);
-    EXPECT_EQ(g.offer->band, -1);
+    EXPECT_EQ((g.offer.read(1), g.offer->band), -1);
     EXPECT_EQ(entriesOfDay(g, g.gameDate).size(), 2u);
     EXPECT_TRUE(allRepliesGiven(g));
     g.news.read(question + 1);
@@ -174,7 +171,6 @@ TEST_F(NewsInbox, ACondemnedStoryStaysOpenToAnotherAnswer) {
     EXPECT_TRUE(open(g, story).buttons[1].enabled);
     pressNewsCmd1(g);
     pressNewsCmd3(g);
-    g.news.read(story + 2);
-    EXPECT_EQ(g.news->text.value, "We stand by them.");
+    EXPECT_EQ((g.news.read(story + 2), g.news->text.value), "We stand by them.");
     EXPECT_EQ(g.news.recordCount(), story + 3);
 }

@@ -63,8 +63,7 @@ TEST(Preferences, TheCurrencyChangesTheShownCashNeverTheStoredCash) {
     EXPECT_EQ(statusBarTexts(g).cash, "$1,770");
     ASSERT_TRUE(changeCurrency(g, "€"));
     EXPECT_EQ(statusBarTexts(g).cash, "€1,470");
-    g.label.read(g.player.playerLabel);
-    EXPECT_EQ(g.label->cashBalance, moneyUnits(1000));
+    EXPECT_EQ((g.label.read(g.player.playerLabel), g.label->cashBalance), moneyUnits(1000));
     EXPECT_EQ(g.player.playerLabelCash, moneyUnits(1000));
 
     // Written at once: a fresh read finds the euro at its single-precision rate.

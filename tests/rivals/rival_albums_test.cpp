@@ -80,8 +80,7 @@ TEST_F(RivalAlbums, TheBestSongsGoOnInWritingOrderAndABandBelowItsNeedWaits) {
     for (int i = 0; i < 19; ++i) addSong(short19, 50, 50);
 
     computerCheckAlbumProgress(g);
-    g.band.read(seven);
-    EXPECT_EQ(g.band->albumStatus, 2);
+    EXPECT_EQ((g.band.read(seven), g.band->albumStatus), 2);
     const int16_t disc = static_cast<int16_t>(g.band->songsWritten);
     EXPECT_EQ(tracksOf(disc), songs);
     g.disc.read(disc);

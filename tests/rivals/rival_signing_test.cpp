@@ -187,12 +187,10 @@ TEST_F(RivalSigning, AnOptionIsTakenUpOrDroppedOnTheActsOwnBooks) {
         g.disc.append();
         g.band.read(act);
         rivalOptionDecision(g);
-        g.band.read(act);
-        EXPECT_EQ(g.band->label, c.wantLabel);
+        EXPECT_EQ((g.band.read(act), g.band->label), c.wantLabel);
         if (c.wantOptions >= 0) { EXPECT_EQ(g.band->optionsRemaining, c.wantOptions); }
     }
-    g.label.read(kRival);
-    EXPECT_EQ(g.label->bandCount, 0) << "two acts dropped";
+    EXPECT_EQ((g.label.read(kRival), g.label->bandCount), 0) << "two acts dropped";
 }
 
 TEST(RivalKeepsBand, RatingLossesAndTheAlbumsIncomeDecide) {

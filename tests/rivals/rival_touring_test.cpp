@@ -1,6 +1,8 @@
 // Rival labels' tours, their support acts and the assistant's tour for the player.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "live/tour_planner.h"
 #include "rivals/rival_albums.h"
 #include "rivals/rival_touring.h"
@@ -81,11 +83,8 @@ TEST_F(RivalTouring, SixVenuesMakeATourFromTheActTheAlbumTourAloneTakingSupports
     amend(g.band, rivalBand, [&] { g.band->topAttitudeLevel = 45; });
     planFor(rivalBand, 3);
     TourRecord t = lastTour();
-    std::vector<int16_t> venues;
-    for (int i = 0; i < t.gigCount; ++i) {
-        g.gig.read(t.gigs[static_cast<std::size_t>(i)]);
-        if (std::find(venues.begin(), venues.end(), g.gig->venue) == venues.end()) venues.push_back(g.gig->venue);
-    }
+    std::set<int16_t> venues;
+    for (int i = 0; i < t.gigCount; ++i) venues.insert((g.gig.read(t.gigs[static_cast<std::size_t>(i)]), g.gig->venue));
     EXPECT_EQ(venues.size(), 6u) << "each of the six venues is played";
     EXPECT_EQ(gigDate(t, 0), g.gameDate + 7);
     EXPECT_EQ(t.supportCount, 0);
@@ -153,9 +152,8 @@ TEST_F(RivalTouring, NeitherAnActBusyDuringTheTourNorOneOfTheParentStyleSupports
     const int16_t busy = addAct("Busy", rival, 45);
     const int16_t young = addAct("Young", rival, 35);
     const int16_t old = addAct("Old", rival, 45);
-    for (auto [act, s] : {std::pair{young, child}, std::pair{old, parent}}) {
+    for (auto [act, s] : {std::pair{young, child}, std::pair{old, parent}})
         amend(g.band, act, [&] { g.band->style = s; });
-    }
     // the last gig's day
     addSchedule(g,
                 ScheduleRecord{

@@ -97,8 +97,7 @@ class LabelHome : public NewGame, public ::testing::WithParamInterface<Home> {};
 TEST_P(LabelHome, ANewLabelsReputationFollowsItsHome) {
     NewPlayer p = confirmPlayer(g, player());
     foundLabel(g, p, label(GetParam().country, GetParam().city));
-    g.label.read(g.player.playerLabel);
-    EXPECT_EQ(g.label->reputation, GetParam().reputation);
+    EXPECT_EQ((g.label.read(g.player.playerLabel), g.label->reputation), GetParam().reputation);
 }
 
 INSTANTIATE_TEST_SUITE_P(NewGame, LabelHome,

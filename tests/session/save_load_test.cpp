@@ -85,8 +85,7 @@ TEST_F(SaveSlots, LoadBringsBackTheSessionAndEveryYearFile) {
     loadGame(g, 1);
     EXPECT_EQ(std::tuple(g.gameDate, g.lastScheduleYear, g.player.gameNumber, g.player.playerLabelCash),
               std::tuple(savedDate, 2008, 7, 0));
-    g.band.read(1);
-    EXPECT_EQ(g.band->name, "The Paper Lanterns");
+    EXPECT_EQ((g.band.read(1), g.band->name), "The Paper Lanterns");
     EXPECT_TRUE(fs::exists(dataFile(g, "2008", "vel")));
 }
 

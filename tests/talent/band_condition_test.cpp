@@ -72,8 +72,7 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
         EXPECT_EQ(std::tuple(member(c.band).ability, member(c.band).abilityProgress), std::tuple(c.ability, c.progress))
             << "band " << c.band;
     }
-    g.band.read(pair);
-    EXPECT_EQ(g.band->ability, 60) << "round(60.5) to even";
+    EXPECT_EQ((g.band.read(pair), g.band->ability), 60) << "round(60.5) to even";
 }
 
 TEST_F(Condition, DropBandHypeTakesTwoFromEveryMarketAndAPointBelowMinusAHundred) {
@@ -112,8 +111,7 @@ TEST_F(Condition, ARestedPlayerBandSaysThanksOnce) {
     checkBandEnergy(g);
     // A rival's band is rested too, without news.
     for (auto [b, complaint] : {std::pair{ours, 0}, {tired, 1}, {rival, 0}}) {
-        g.band.read(b);
-        EXPECT_EQ(g.band->complaints[1], complaint) << b;
+        EXPECT_EQ((g.band.read(b), g.band->complaints[1]), complaint) << b;
     }
     ASSERT_EQ(g.news.recordCount(), 2);
     g.news.read(1);
@@ -173,8 +171,7 @@ TEST_F(Condition, UnsignedMonthsCountOnlyForFreeActiveBands) {
     }
     updateBandTimeWithoutADeal(g);
     for (auto [b, months] : {std::pair{signedBand, 8}, {gone, 8}, {free, 9}}) {
-        g.band.read(b);
-        EXPECT_EQ(g.band->monthsUnsigned, months) << b;
+        EXPECT_EQ((g.band.read(b), g.band->monthsUnsigned), months) << b;
     }
     EXPECT_EQ(g.band->retired, kFalse) << "nine months unsigned is not yet the end";
 }

@@ -120,7 +120,6 @@ TEST_F(Bands, CostsAndPointsReachTheLabelItsBossAndItsHeads) {
     EXPECT_EQ(std::tuple(ledgerEntry(g.label.rec, 0, ledgerAdvances), g.label->cashBalance, g.label->points[1]),
               std::tuple(-moneyUnits(500), -moneyUnits(500), 30));
     for (auto [staff, points] : {std::pair{1, 30}, {2, 30}, {3, 0}}) {
-        g.staff.read(staff);
-        EXPECT_EQ(g.staff->points[1], points) << "staff " << staff;
+        EXPECT_EQ((g.staff.read(staff), g.staff->points[1]), points) << "staff " << staff;
     }
 }

@@ -57,12 +57,10 @@ TEST_F(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
     updateMonthsRemainingOnOption(g);
     // 130,000 x 0.75 = 97,500, in steps of 5,000: 19.5 to the even 20, so 100,000.
     EXPECT_EQ(ledger(kRival, ledgerOtherExpense), -moneyUnits(100000));
-    g.artist.read(1);
-    EXPECT_EQ(g.artist->wealth, 50000);
+    EXPECT_EQ((g.artist.read(1), g.artist->wealth), 50000);
     const BandRecord b = this->band(band);
     EXPECT_EQ(std::tuple(b.label, b.costs, b.advanceToPay), std::tuple(0, 0, moneyUnits(130000)));
-    g.label.read(kRival);
-    EXPECT_EQ(g.label->bandCount, 0);
+    EXPECT_EQ((g.label.read(kRival), g.label->bandCount), 0);
     EXPECT_EQ(newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
 }
 
@@ -177,6 +175,5 @@ TEST_F(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
     EXPECT_EQ(trim(lastNews().text.value),
               "Home Label have announced they are releasing Famous from their contract with them. As a result, "
               "Famous will be looking for a new label to represent them.");
-    g.label.read(kPlayer);
-    EXPECT_EQ(g.label->bandCount, 0);
+    EXPECT_EQ((g.label.read(kPlayer), g.label->bandCount), 0);
 }

@@ -99,8 +99,7 @@ TEST_F(Deals, AnOfferIsDecidedInAWeekAndAChangeKeepsItsNumberDateAndEntry) {
     auto entries = entriesOn(m.decisionDate);
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(std::tuple(entries[0].type, entries[0].offer, entries[0].label), std::tuple(uint8_t{4}, m.offer, home));
-    g.offer.read(m.offer);
-    EXPECT_EQ(g.offer->royalty, 12);
+    EXPECT_EQ((g.offer.read(m.offer), g.offer->royalty), 12);
     EXPECT_EQ(offerFormStart(g, band).royalty, 12) << "the form opens on the pending offer";
 }
 
@@ -182,8 +181,7 @@ TEST_F(Deals, AtNinetyTheBandRejectsWithoutAVerdict) {
     EXPECT_EQ(trim(n.title.value), "The Testers reject Home Records deal.");
     // Worst reason 5: the standing of 5 is below the high of 100 and the gap is 80.
     EXPECT_EQ(trim(n.text.value), kUnderRepresented);
-    g.offer.read(m.offer);
-    EXPECT_EQ(g.offer->band, kVoidOffer);
+    EXPECT_EQ((g.offer.read(m.offer), g.offer->band), kVoidOffer);
     EXPECT_EQ(hasOfferFrom(g, home, band), 0) << "a rejected player may file again at once";
 }
 
@@ -216,8 +214,7 @@ TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDay) {
     EXPECT_EQ(std::tuple(tomorrow[0].type, tomorrow[0].offer), std::tuple(uint8_t{5}, offer));
     playDay(date + 1);
     EXPECT_EQ(labelOf(band), rival);
-    g.label.read(rival);
-    EXPECT_EQ(g.label->bandCount, 1);
+    EXPECT_EQ((g.label.read(rival), g.label->bandCount), 1);
     g.offer.read(offer);
     EXPECT_EQ(g.offer->band, kVoidOffer);
 }
@@ -264,8 +261,7 @@ TEST_F(Deals, AVoidOfferSignsNobody) {
     voidOffers(g, band);
     playDay(g.gameDate + 1);
     EXPECT_EQ(labelOf(band), 0);
-    g.label.read(rival);
-    EXPECT_EQ(g.label->bandCount, 0);
+    EXPECT_EQ((g.label.read(rival), g.label->bandCount), 0);
 }
 
 TEST_F(Deals, OfEqualBestScoresTheLaterOfferWins) {
@@ -289,12 +285,10 @@ TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithItButNotOnTheDecisionDay) {
     }
     withdrawOffer(g, band);
     EXPECT_EQ(entriesOn(m.decisionDate)[0].type, 255);
-    g.offer.read(m.offer);
-    EXPECT_EQ(g.offer->band, kVoidOffer);
+    EXPECT_EQ((g.offer.read(m.offer), g.offer->band), kVoidOffer);
     playDay(m.decisionDate);
     EXPECT_EQ(labelOf(band), 0);
-    g.offer.read(joiner);
-    EXPECT_EQ(g.offer->band, band) << "the joiner stays on file, undecided";
+    EXPECT_EQ((g.offer.read(joiner), g.offer->band), band) << "the joiner stays on file, undecided";
     EXPECT_TRUE(entriesOn(m.decisionDate + 1).empty());
 }
 
@@ -331,13 +325,11 @@ TEST_F(Deals, ASoloActSignsForThePlayerWithSeventyPercent) {
     EXPECT_EQ(std::tuple(g.band->label, g.band->optionsRemaining, g.band->optionMonthsLeft, g.band->advanceToPay,
                          g.band->signedOn),
               std::tuple(home, uint8_t{4}, uint8_t{18}, moneyUnits(60'000), m.decisionDate));
-    g.artist.read(g.band->members[0]);
-    EXPECT_EQ(g.artist->royaltyShare, 70);
+    EXPECT_EQ((g.artist.read(g.band->members[0]), g.artist->royaltyShare), 70);
     EXPECT_EQ(trim(lastNews().title.value), "Jo Testa signs for Home Records.");
     g.song.read(1);
     EXPECT_EQ(trim(g.song->title.value), "Harbour Lights") << "the player's new act's songs get titles";
-    g.newsong.read(1);
-    EXPECT_EQ(g.newsong->uses, 1);
+    EXPECT_EQ((g.newsong.read(1), g.newsong->uses), 1);
     EXPECT_TRUE(playerShortlist(g).empty()) << "a band signed to the player leaves every shortlist";
     g.band.read(solo);
     g.label.read(rival);

@@ -64,9 +64,7 @@ TEST_F(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
     test::addGig(g, them, d, {others});       // tour 2, not ours
     test::addGig(g, them, d, {others, us});   // tour 3, we support in the third slot
     test::addGig(g, them, d, {us}, them, 1);  // tour 4, a festival
-    for (int32_t t = 1; t <= 4; ++t) {
-        amend(g.tour, t, [&] { g.tour->areaCode = std::string(t == 3 ? "N" : "E"); });
-    }
+    for (int32_t t = 1; t <= 4; ++t) amend(g.tour, t, [&] { g.tour->areaCode = std::string(t == 3 ? "N" : "E"); });
     const std::vector<TourLine> tours = toursOf(g, us);
     ASSERT_EQ(tours.size(), 3u);
     EXPECT_EQ(std::tuple(tours[0].tour, tours[0].name, tours[0].role, tours[0].area),
@@ -123,9 +121,7 @@ TEST_F(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
     const int32_t late = test::addGig(g, us, d + 2);
     const int32_t sameDay = test::addGig(g, them, d);
     const int32_t elsewhere = test::addGig(g, us, d + 5);
-    for (int32_t n : {early, late, sameDay}) {
-        amend(g.gig, n, [&] { g.gig->venue = 1; });
-    }
+    for (int32_t n : {early, late, sameDay}) amend(g.gig, n, [&] { g.gig->venue = 1; });
     amend(g.gig, elsewhere, [&] { g.gig->venue = 0; });
     const VenueDetails v = venueDetails(g, 1);
     EXPECT_EQ(std::tuple(v.name, v.city, v.country, v.capacity),

@@ -72,6 +72,5 @@ TEST(EventFatigue, AWornOutPlayerBandAsksForABreakOnce) {
     EXPECT_EQ(trim(g.news->title.value), "The Weary demand a break");
     EXPECT_EQ(g.news->date, g.gameDate + 1);
     EXPECT_NE(g.news->text.value.find("jaded after their recent activity. They are concerned"), std::string::npos);
-    g.band.read(band);
-    EXPECT_EQ(g.band->complaints[0], 1);
+    EXPECT_EQ((g.band.read(band), g.band->complaints[0]), 1);
 }

@@ -221,12 +221,10 @@ TEST_F(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
     memberLeaves(g);
     EXPECT_EQ(member(x, 0), b);
     EXPECT_EQ(member(y, 0), c);
-    g.band.read(z);
-    EXPECT_EQ(g.band->retired, kTrue) << "no one for c's post";
+    EXPECT_EQ((g.band.read(z), g.band->retired), kTrue) << "no one for c's post";
     auto bandOf = [&](int32_t n) { return (g.artist.read(n), g.artist->band); };
     EXPECT_EQ(std::tuple(bandOf(a), bandOf(b), bandOf(c), bandOf(member(z, 1))), std::tuple(0, x, y, 0));
-    g.artist.read(a);
-    EXPECT_EQ(g.artist->retired, kTrue);
+    EXPECT_EQ((g.artist.read(a), g.artist->retired), kTrue);
     EXPECT_EQ(g.band.recordCount(), bands + 1) << "Z's end makes a new act";
     EXPECT_GT(g.artist.recordCount(), artists) << "a's retirement makes an artist";
 
@@ -243,8 +241,7 @@ TEST_F(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
     setBandRec(x, [](BandRecord& b) { b.monthsUnsigned = 9; });
     const int32_t news = newsCount(), bands = g.band.recordCount();
     updateBandTimeWithoutADeal(g);
-    g.band.read(x);
-    EXPECT_EQ(g.band->retired, kTrue);
+    EXPECT_EQ((g.band.read(x), g.band->retired), kTrue);
     EXPECT_EQ(newsCount(), news);
     EXPECT_EQ(g.band.recordCount(), bands + 1);
 }

@@ -99,9 +99,8 @@ TEST(NameDraws, ARowWrittenInPlayIsDrawnAsItNowReads) {
         g.forename.append();
     }
     EXPECT_EQ(drawForename(g, 1, true), 1);
-    for (int16_t n : {1, 2}) {
+    for (int16_t n : {1, 2})
         amend(g.forename, n, [&] { g.forename->isMale = g.forename->isMale == kFalse ? kTrue : kFalse; });
-    }
     EXPECT_EQ(drawForename(g, 1, true), 2);
     EXPECT_EQ(g.forename->name.value, "Bea");
 }
@@ -116,9 +115,8 @@ TEST(Birthplaces, ACityWrittenInPlayIsDrawnAsItNowReads) {
     }
     EXPECT_EQ(pickBirthCity(g, 201), first);
     EXPECT_EQ(g.city->id, first + 1) << "the buffer as a walk of every city leaves it";
-    for (int32_t n : {first, first + 1}) {
+    for (int32_t n : {first, first + 1})
         amend(g.city, n, [&] { g.city->country = g.city->country == 201 ? 202 : 201; });
-    }
     EXPECT_EQ(pickBirthCity(g, 201), first + 1);
 }
 

@@ -70,8 +70,7 @@ TEST_F(Hype, AtTheTopTheGainStillCountsForMembersAndLabel) {
     EXPECT_EQ(boost(band, 0, 1), std::pair(100, 52));
     g.band.read(band);
     EXPECT_EQ(memberRep(g.band->members[0]), 100) << "a member's reputation is held to 100";
-    g.label.read(label);
-    EXPECT_EQ(g.label->hype[0], 2) << "the label's meter takes the change";
+    EXPECT_EQ((g.label.read(label), g.label->hype[0]), 2) << "the label's meter takes the change";
 }
 
 TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChangeUpOrDown) {
