@@ -16,8 +16,7 @@ namespace {
 struct NewArtists : test::GameTest {
     void useStyle(uint8_t lifeSpan) {
         g.style.rec = StyleRecord{.lifeSpan = lifeSpan, .baseCharisma = 60, .baseAngst = 95};
-        g.artist.rec = ArtistRecord{};
-        g.artist->style = narrow<uint8_t>(g.style.append());
+        g.artist.rec = ArtistRecord{.style = narrow<uint8_t>(g.style.append())};
     }
 };
 
@@ -93,9 +92,7 @@ TEST_F(NewArtists, NamesFitTheCountryAndTheSexByTheirWeights) {
          }) {
         Shares seenForenames, seenSurnames;
         for (int i = 0; i < 3000; ++i) {
-            g.artist.rec = ArtistRecord{};
-            g.artist->country = country;
-            g.artist->male = boolean(male);
+            g.artist.rec = ArtistRecord{.country = country, .male = boolean(male)};
             drawArtistName(g);
             seenForenames[g.artist->forename.value] += 1 / 3000.0;
             seenSurnames[g.artist->surname.value] += 1 / 3000.0;
