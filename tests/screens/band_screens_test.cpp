@@ -119,12 +119,16 @@ TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
 }
 
 TEST_F(BandScreens, ADiscOfTheBandOpensDiscDetails) {
+    game->disc.rec = DiscRecord{.title = "Marsh Single", .isSingle = 1, .band = band};
+    game->disc.append();
     game->disc.rec = DiscRecord{
         .title = "Marsh Songs", .releaseDate = {game->gameDate - 30, 0, game->gameDate - 44, 0, 0}, .band = band};
     const auto disc = static_cast<int16_t>(game->disc.append());
     openFromSearch("The Marsh Lights");
     auto* discs = find<QTableWidget>("flxDiscs");
-    ASSERT_EQ(discs->rowCount(), 1);
+    ASSERT_EQ(discs->rowCount(), 2);
+    EXPECT_EQ(discs->item(1, 1)->text(), "Single");
+    EXPECT_EQ(discs->item(1, 2)->text(), "Not released");
     EXPECT_EQ(discs->item(0, 0)->text(), "Marsh Songs");
     EXPECT_EQ(discs->item(0, 1)->text(), "Album");
     EXPECT_EQ(discs->item(0, 2)->text(), "22/6/2004") << "its first release anywhere";

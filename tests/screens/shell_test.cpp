@@ -136,6 +136,13 @@ TEST_F(ScreenTest, NewsSortsByItsHeadersAndDeletedItemsLeaveTheList) {
     click("cmdDelete");
     EXPECT_EQ(screen(), Screen::frmNews);
     EXPECT_EQ(titles(), "Zebra,New i");  // and the sort lasts
+    EXPECT_FALSE(find<QLabel>("lblNoNews")->isVisible());
+    for (int left = 2; left > 0; --left) {
+        find<QTableView>("flxNews")->setFocus();
+        QTest::keyClick(find<QTableView>("flxNews"), Qt::Key_Return);
+        click("cmdDelete");
+    }
+    EXPECT_TRUE(find<QLabel>("lblNoNews")->isVisible()) << "an empty inbox says so";
 }
 
 TEST_F(ScreenTest, CurrencyChangesTheCashShownAndNeverTheCashHeld) {

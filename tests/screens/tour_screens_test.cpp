@@ -108,6 +108,7 @@ TEST_F(ScreenTest, ATourFromTheBandsPanelToItsDetails) {
     // England to France: 3 days, so 2 of travel and none of rest.
     EXPECT_EQ(details->flxGigs->item(1, 4)->data(Qt::DisplayRole).toInt(), 2);
     EXPECT_EQ(details->flxGigs->item(1, 5)->data(Qt::DisplayRole).toInt(), 0);
+    EXPECT_EQ(details->flxGigs->item(1, 6)->text(), "") << "no crowd before the night";
     EXPECT_TRUE(details->lblSummary->text().contains(QStringLiteral("Content : Extravagant")));
     screenshotOf(details, "74_frmTourDetails");
     g.tour.read(g.tour.recordCount() - 1);
