@@ -67,6 +67,8 @@ TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntriesAndAPastWeekAndAnotherC
     form.cmbWeek->setCurrentIndex(2);  // the oldest week
     ASSERT_EQ(form.model()->lines().size(), 2u);
     EXPECT_EQ(form.model()->lines()[0].e.disc, c);
+    form.cmbWeek->setCurrentIndex(0);
+    EXPECT_EQ(form.model()->lines().size(), 3u) << "back to the latest week";
     form.cmbChart->setCurrentIndex(9);
     EXPECT_EQ(form.lblTitle->text(), QStringLiteral("Global Single Chart"));
     EXPECT_EQ(form.lblChartSizeR->text(), QStringLiteral("Top 20"));
