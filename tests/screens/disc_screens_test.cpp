@@ -96,6 +96,8 @@ TEST_F(DiscForms, TheOptionsOfferWhatTheDiscIsReadyFor) {
     EXPECT_EQ(offered(), std::pair(false, true)) << "out today";
     amend(game->disc, disc, [&] { game->disc->tracksRecorded = 9; });
     EXPECT_EQ(offered(), std::pair(false, false)) << "a track still to record";
+    amend(game->disc, disc, [&] { game->disc->trackCount = game->disc->tracksRecorded = 0; });
+    EXPECT_EQ(offered(), std::pair(false, false)) << "no tracks at all";
 }
 
 TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
