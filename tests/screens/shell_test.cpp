@@ -46,6 +46,12 @@ TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
     EXPECT_TRUE(bar->gameOptions()->isAncestorOf(QApplication::focusWidget()));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(bar->openPanel(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), bar->btnGameOptions) << "the keyboard goes back to the panel's button";
+    click(bar->btnFind);
+    auto* news = find<QTableView>("flxNews");
+    news->setFocus();
+    bar->CloseOtherWindows();
+    EXPECT_EQ(QApplication::focusWidget(), news) << "a panel without the keyboard takes it nowhere";
 
     click(bar->btnCharts);
     continueOneDay();
