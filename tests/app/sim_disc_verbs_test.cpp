@@ -48,6 +48,9 @@ TEST_F(SimDiscVerbs, BadArgumentsExitTwoAndRefusalsOne) {
     EXPECT_EQ(sim("press Ours --plant " + std::to_string(plant) + " --us 1000").first, 1);  // no US date
     EXPECT_EQ(sim("press Ours --plant " + std::to_string(plant) + " --copies 1000").first, 0);
     EXPECT_EQ(sim("distribute Nothing").first, 2);
+    auto [noFirm, which] = sim("distribute Ours --uk Nowhere");
+    EXPECT_EQ(noFirm, 2);
+    EXPECT_NE(which.find("There is no firm Nowhere"), std::string::npos) << which;
     auto [early, notYet] = sim("distribute Ours");  // out in two weeks
     EXPECT_EQ(early, 1);
     EXPECT_NE(notYet.find("Ours has no release due within the week."), std::string::npos) << notYet;

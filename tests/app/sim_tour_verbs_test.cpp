@@ -50,5 +50,6 @@ TEST(SimTourVerbs, ATourByHandIsFiledWithItsRoad) {
                         "\"travel\"},{\"date\":\"2005-02-17\",\"kind\":\"rest\"}]"),
               std::string::npos)
         << info;
+    EXPECT_NE(w.sim("tours").second.find("The Testers"), std::string::npos) << "a tour with gigs is listed";
     EXPECT_EQ(w.sim("unsupport 1 'The Testers'").first, 1);
 }

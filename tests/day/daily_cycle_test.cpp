@@ -77,6 +77,15 @@ test::TempFolder* TwoYearsOfDays::folder_ = nullptr;
 
 // Consecutive days from Thursday 5 August 2004, each rolling events first and
 // ending with the schedule, the scores and energy, the weekly steps on their weekday.
+TEST_F(TwoYearsOfDays, TheFirstDaysStepsComeAlikeAsJson) {
+    test::TempFolder other;
+    test::runSim(other.path(), "--seed 7 init");
+    std::string steps;
+    for (const std::string& s : days_->front().steps) steps += (steps.empty() ? "\"" : ",\"") + s + "\"";
+    EXPECT_EQ(test::runSim(other.path(), "--seed 7 --json advance 1 --trace").second,
+              "[{\"date\":\"2004-08-05\",\"steps\":[" + steps + "]}]\n");
+}
+
 TEST_F(TwoYearsOfDays, EveryDayFollowsTheLastAndRunsItsWeekdaysSteps) {
     ASSERT_EQ(days_->size(), 880u);
     EXPECT_EQ(days_->front().date, year{2004} / August / 5);

@@ -28,6 +28,7 @@ TEST(SimNewsVerbs, AHeldDayIsAnsweredFromTheCommandLine) {
          {"news item 1 must be answered first: Sign them?", "They want to sign.", "reply 1 yes|no"}) {
         EXPECT_NE(heldOut.find(part), std::string::npos) << heldOut;
     }
+    EXPECT_NE(sim("news").second.find("Sign them?  [must be answered]"), std::string::npos);
     EXPECT_EQ(sim("delete 1").first, 1);
     EXPECT_EQ(sim("reply 1 ok").first, 1);
     auto [answered, answer] = sim("--json reply 1 no");
@@ -38,6 +39,7 @@ TEST(SimNewsVerbs, AHeldDayIsAnsweredFromTheCommandLine) {
     EXPECT_EQ(ran, 0);
     EXPECT_EQ(days, "[{\"date\":\"2004-08-05\"},{\"date\":\"2004-08-06\"}]\n");
     EXPECT_NE(sim("--json news").second.find("\"replied\":true"), std::string::npos);
+    EXPECT_EQ(sim("news").second.find("[must be answered]"), std::string::npos) << "answered";
     EXPECT_EQ(sim("delete 1").first, 0);
     EXPECT_EQ(sim("--json news").second, "[]\n");
     EXPECT_EQ(sim("--json schedule 2004-08-07").second, "[]\n");
