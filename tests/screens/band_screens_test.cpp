@@ -99,6 +99,10 @@ TEST_F(BandScreens, AnOfferIsMadeChangedAndWithdrawn) {
     click("cmdInitialAdvanceInc");  // 60,000 + its step of 5,000
     EXPECT_EQ(find<QLabel>("lblRoyalty")->text(), "11 percent");
     EXPECT_EQ(find<QLabel>("lblOptionLength")->text(), "12 months");
+    click("cmdOptionLengthInc");
+    click("cmdOptionLengthInc");  // 18 stays 18
+    EXPECT_EQ(find<QLabel>("lblOptionLength")->text(), "18 months");
+    click("cmdOptionLengthDec");
     screenshot("band_05_band_contract");
     click("cmdOk");
     closeDialog();
