@@ -190,6 +190,8 @@ TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {
     sides.show();
     EXPECT_EQ(sides.cmbBSide[0]->currentData().toInt(), songs[1]);
     EXPECT_EQ(sides.cmbBSide[1]->currentData().toInt(), songs[3]);
+    EXPECT_EQ(sides.cmbBSide[0]->count(), 3) << "every track but the lead";
+    EXPECT_EQ(sides.cmbBSide[1]->findData(songs[0]), -1);
     click(sides.cmdConfirm);
     ASSERT_GT(sides.single, 0);
     g.disc.read(sides.single);
