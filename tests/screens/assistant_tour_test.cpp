@@ -35,6 +35,7 @@ TEST_F(ScreenTest, TheAssistantPlansATourOfTheHomeNationsThatTheRecordsKeep) {
     ASSERT_NE(arrange, nullptr);
     ASSERT_TRUE(arrange->optAreas[0]->isChecked());
     EXPECT_EQ(arrange->cmbNation->currentText(), "England");
+    EXPECT_EQ(arrange->cmbNation->currentData().toInt(), 1) << "the small world's first country";
     EXPECT_FALSE(arrange->cmbNation->isEnabled()) << "a tour of England names its nation";
     arrange->optAreas[1]->setChecked(true);  // Europe: all its nations, or one
     EXPECT_TRUE(arrange->cmbNation->isEnabled());

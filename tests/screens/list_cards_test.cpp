@@ -113,4 +113,29 @@ TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
     }
 }
 
+TEST_F(ListCards, ASongRowOpensItsDiscElseItsBand) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    const int16_t band = addHartbeats(g);
+    g.song.rec = SongRecord{.title = "Zz Loose Leaf", .band = band};
+    const int32_t song = g.song.append();
+    auto open = [&] {
+        click(window->sideBar()->btnFind);
+        click(window->sideBar()->findOptions()->entry(QStringLiteral("lblSongs")));
+        auto* grid = qobject_cast<screens::BrowseGridWidget*>(findShown("flxGrid"));
+        ASSERT_NE(grid, nullptr);
+        ASSERT_TRUE(grid->typeAhead(QStringLiteral("Zz")));
+        ASSERT_EQ(grid->currentRecord(), song);
+        grid->setFocus();
+        QTest::keyClick(grid, Qt::Key_Return);
+    };
+    open();
+    EXPECT_EQ(screen(), Screen::frmBandDetails) << "a song on no disc";
+    g.disc.rec = DiscRecord{.title = "Pressed", .band = band};
+    const auto disc = static_cast<int16_t>(g.disc.append());
+    amend(g.song, song, [&] { g.song->disc = static_cast<uint16_t>(disc); });
+    open();
+    EXPECT_EQ(std::tuple(screen(), window->discOnScreen), std::tuple(Screen::frmDiscDetails, disc));
+}
+
 }  // namespace trovane::test
