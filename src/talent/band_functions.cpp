@@ -39,8 +39,6 @@ int32_t wealthAfter(int32_t wealth, double units) {
     return narrow<int32_t>(static_cast<int64_t>(wealth) + roundTo<int32_t>(units));
 }
 
-void addWealth(ArtistRecord& a, double units) { a.wealth = wealthAfter(a.wealth, units); }
-
 }  // namespace
 
 int32_t bandValue(const Game& g) { return weighted(g.band.rec.reputation); }
@@ -121,13 +119,14 @@ void addBandPoints(Game& g, int market, int32_t amount) {
 }
 
 void payArtistsEvenly(Game& g, Money amount) {
+    static const std::size_t kArtistWealth = offsetIn<ArtistRecord>("wealth");
     auto [members, n] = membersOf(g.band.rec);
     double share = moneyToDouble(amount) / g.band->memberCount;
-    for (std::size_t i = 0; i < n; ++i) {
-        g.artist.read(members[i]);
-        addWealth(g.artist.rec, share);
-        g.artist.write();
-    }
+    // Paid in the wealth of each record; the buffer is left at the last
+    // member, as reading and writing each in turn leaves it.
+    for (std::size_t i = 0; i < n; ++i)
+        patchField<int32_t>(g.artist, members[i], kArtistWealth, [&](int32_t w) { return wealthAfter(w, share); });
+    if (n > 0) g.artist.read(members[n - 1]);
 }
 
 void payArtists(Game& g, Money amount) {

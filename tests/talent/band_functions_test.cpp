@@ -98,7 +98,9 @@ TEST_F(Bands, DiscRoyaltiesPaySharesThenTheWritersThirtyPercent) {
     EXPECT_EQ(artist(singer).wealth, 420 + 225) << "3 of 4 tracks of the writers' 300";
     EXPECT_EQ(artist(drummer).wealth, 280);
     payArtistsEvenly(g, moneyUnits(1001));
-    EXPECT_EQ(artist(drummer).wealth, 280 + 500) << "500.5 rounds to even";
+    EXPECT_EQ(std::tuple(g.artist->id, g.artist->wealth), std::tuple(drummer, 280 + 500))
+        << "500.5 rounds to even; the buffer is left at the last member, as paid";
+    EXPECT_EQ(artist(singer).wealth, 645 + 500);
 }
 
 TEST_F(Bands, CostsAndPointsReachTheLabelItsBossAndItsHeads) {
