@@ -133,6 +133,7 @@ TEST_F(BrowseScreens, TheBandFilterTakesMoneyInTheDisplayCurrency) {
         form.cmdOkClick();
         screenshotOf(&form, "browse_02_band_filter");
     }
+    EXPECT_EQ(kept.style, 0) << "\"Only the style\" unticked: any style";
     EXPECT_EQ(kept.advanceMax, moneyUnits(100'000));
     EXPECT_EQ(kept.ageMax, 51);
     qobject_cast<screens::frmBandBrowse*>(findShown("frmBandBrowse"))->refill();

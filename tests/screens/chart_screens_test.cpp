@@ -79,6 +79,7 @@ TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
     startNewGameAsPlayer();
     threeWeeks();
     screens::frmChartForm form(*window);
+    EXPECT_EQ(form.flxEntries->model()->columnCount(), 11);
     form.flxEntries->sortByColumn(5, Qt::AscendingOrder);
     QModelIndex first = form.flxEntries->model()->index(0, 2);
     EXPECT_EQ(first.data().toString(), QStringLiteral("Bravo, Live"));
@@ -91,6 +92,21 @@ TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
     EXPECT_EQ(rows[0], QStringLiteral("position,movement,lastWeek,peak,weeks,entry,disc,title,band,label,sales,award"));
     EXPECT_TRUE(rows[1].startsWith(QStringLiteral("3,NE,0,3,1,New,"))) << rows[1].toStdString();
     EXPECT_TRUE(rows[1].contains(QStringLiteral("\"Bravo, Live\""))) << rows[1].toStdString();
+}
+
+TEST_F(ChartScreen, TheRecordsTabShowsCopiesAsFiguresAndSharesAsPercentages) {
+    startNewGameAsPlayer();
+    Game& g = *game;
+    g.chartrecs.read(10);  // the records of the last chart, the Global single chart
+    g.chartrecs->holder[16] = {.value = 123456, .text = "Halcyon"};
+    g.chartrecs->holder[17] = {.value = 1234, .text = "Alpha"};
+    g.chartrecs.write(10);
+    screens::frmChartForm form(*window);
+    form.cmbChart->setCurrentIndex(9);
+    auto shown = [&](const char* name) { return form.findChild<QLabel*>(name)->text(); };
+    EXPECT_EQ(shown("lblMostWeeklySalesLabelR"), "Halcyon  123,456");
+    EXPECT_EQ(shown("lblHighestBandPercentageR"), "Alpha  12.34%") << "1234 hundredths of a percent";
+    EXPECT_EQ(shown("lblMostTotalSalesR"), "-") << "no holder yet";
 }
 
 TEST_F(ChartScreen, TheChartsPanelOpensTheChosenChart) {
