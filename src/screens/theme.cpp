@@ -170,6 +170,12 @@ void applyTheme(QApplication& app) {
     p.setColor(QPalette::Disabled, QPalette::Text, palette::disabledText);
     p.setColor(QPalette::Disabled, QPalette::ButtonText, palette::disabledText);
     app.setPalette(p);
+    // Fusion outlines a check box in the window colour darkened, which on this
+    // dark window all but hides an unticked box: check boxes outline theirs
+    // from the muted text colour instead.
+    QPalette boxes = p;
+    boxes.setColor(QPalette::Window, palette::mutedText);
+    app.setPalette(boxes, "QCheckBox");
     QFont f = app.font();
     if (f.pointSizeF() < 10.5) f.setPointSizeF(10.5);
     app.setFont(f);
