@@ -26,12 +26,17 @@ namespace {
 
 Money units(int64_t whole) { return moneyUnits(whole); }
 
-int16_t addLabel(Game& g, Money cash, int financeRating = 0) {
-    g.label.rec = LabelRecord{};
-    g.label->name = "Ledger Records";
-    g.label->cashBalance = cash;
+int16_t addLabel(Game& g, Money cash, int financeRating = 0, Money wageBill = 0) {
+    g.label.rec = LabelRecord{.name = "Ledger Records", .cashBalance = cash, .wageBill = wageBill};
     g.label->department[financeAndLaw].rating = static_cast<uint8_t>(financeRating);
     return static_cast<int16_t>(g.label.append());
+}
+
+// Label n as filed, and one of its books' entries.
+LabelRecord labelOf(Game& g, int32_t n) { return (g.label.read(n), g.label.rec); }
+Money entryOf(Game& g, int32_t n, int period, int category) {
+    LabelRecord l = labelOf(g, n);
+    return ledgerEntry(l, period, category);
 }
 
 }  // namespace
@@ -51,52 +56,42 @@ TEST_F(Interest, RatingSquaredIsTheMonthlyRateInMillionthsHalfToEven) {
 }
 
 TEST_F(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
-    addLabel(g, units(100));
-    g.label->wageBill = units(1500);
-    g.label.write();
-    addLabel(g, -units(50));
-    g.label->wageBill = units(2700);
-    g.label.write();
+    addLabel(g, units(100), 0, units(1500));
+    addLabel(g, -units(50), 0, units(2700));
     takeLabelWages(g);
-    g.label.read(1);
-    EXPECT_EQ(g.label->cashBalance, -units(1400));
-    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerWages), -units(1500));  // expenses are booked below 0
-    g.label.read(2);
-    EXPECT_EQ(g.label->cashBalance, -units(2750));
-    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerWages), -units(2700));
+    // expenses are booked below 0
+    EXPECT_EQ(std::tuple(labelOf(g, 1).cashBalance, entryOf(g, 1, 0, ledgerWages)),
+              std::tuple(-units(1400), -units(1500)));
+    EXPECT_EQ(std::tuple(labelOf(g, 2).cashBalance, entryOf(g, 2, 2, ledgerWages)),
+              std::tuple(-units(2750), -units(2700)));
 }
 
 TEST_F(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
     addLabel(g, units(10'000), 10);  // 1% of 1% a month: 10,000 x 100 / 1e6 = 1.0000
     g.gameDate = serialFromCivil(2004, 12, 1);
     updateLabelFinances(g);
-    g.label.read(1);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerInvestments), units(1)) << "1 December keeps the year";
+    EXPECT_EQ(entryOf(g, 1, 2, ledgerInvestments), units(1)) << "1 December keeps the year";
 
     g.gameDate = serialFromCivil(2004, 12, 31);
     updateLabelFinances(g);  // 10,001 x 100 / 1e6 = 1.0001
-    g.label.read(1);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 1, ledgerInvestments), 10'001);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerInvestments), 0) << "31 December clears the year";
+    EXPECT_EQ(entryOf(g, 1, 1, ledgerInvestments), 10'001);
+    EXPECT_EQ(entryOf(g, 1, 2, ledgerInvestments), 0) << "31 December clears the year";
 
     g.gameDate = serialFromCivil(2005, 1, 1);
     updateLabelFinances(g);  // 10,002.0001 x 100 / 1e6 = 1.00020001 -> 1.0002
-    g.label.read(1);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 1, ledgerInvestments), 10'002);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerInvestments), 10'002) << "1 January's interest starts the year";
-    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerInvestments), 0);
-    EXPECT_EQ(g.label->cashBalance, units(10'003) + 3);
+    EXPECT_EQ(entryOf(g, 1, 1, ledgerInvestments), 10'002);
+    EXPECT_EQ(entryOf(g, 1, 2, ledgerInvestments), 10'002) << "1 January's interest starts the year";
+    EXPECT_EQ(std::tuple(entryOf(g, 1, 0, ledgerInvestments), g.label->cashBalance), std::tuple(0, units(10'003) + 3));
 }
 
 // Played day by day from Thursday 5 August 2004 to 2 January 2005: wages of
 // 1,500 on each of 22 Fridays, the Friday the 1st of October and Friday 31
 // December falling in the month that closes that day.
 TEST_F(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
-    addLabel(g, units(50'000));
+    addLabel(g, units(50'000), 0, units(1500));
     g.player.playerLabel = 1;
-    g.label->department[marketing].staffAtLevel[0] = 1;  // 1,500 a week; weighted 5, rating 0
-    g.label->wageBill = units(1500);
-    g.label.write();
+    amend(g.label, 1,
+          [&] { g.label->department[marketing].staffAtLevel[0] = 1; });  // 1,500 a week; weighted 5, rating 0
     g.player.playerLabelCash = units(50'000);
     addExpense(g, units(25), ledgerRoyaltiesPaid);
     writeOpeningLedgerRows(g);
@@ -117,17 +112,17 @@ TEST_F(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
     ASSERT_EQ(g.ledger.recordCount(), 1 + 1 + 6);
     for (int i = 0; i < 6; ++i) {
         g.ledger.read(i + 2);
-        EXPECT_EQ(g.ledger->date, closes[i].date) << i;
-        EXPECT_EQ(g.ledger->figures.expense[0], -units(1500) * closes[i].fridays) << i;
-        EXPECT_EQ(g.ledger->figures.expense[ledgerRoyaltiesPaid - ledgerWages], -units(25)) << "carried, row " << i;
+        // royalties carried on every row
+        EXPECT_EQ(std::tuple(g.ledger->date, g.ledger->figures.expense[0],
+                             g.ledger->figures.expense[ledgerRoyaltiesPaid - ledgerWages]),
+                  std::tuple(closes[i].date, -units(1500) * closes[i].fridays, -units(25)))
+            << "row " << i;
     }
-    g.label.read(1);
     // 50,000 - 25 - 22 x 1,500 = 16,975
-    EXPECT_EQ(g.label->cashBalance, units(16'975));
-    EXPECT_EQ(g.ledger->cash, units(16'975));
-    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerWages), 0);
-    EXPECT_EQ(ledgerEntry(g.label.rec, 2, ledgerRoyaltiesPaid), -units(25)) << "the year end leaves royalties";
-    EXPECT_EQ(ledgerEntry(g.label.rec, 0, ledgerRoyaltiesPaid), -units(25));
+    EXPECT_EQ(std::tuple(labelOf(g, 1).cashBalance, g.ledger->cash), std::tuple(units(16'975), units(16'975)));
+    EXPECT_EQ(entryOf(g, 1, 2, ledgerWages), 0);
+    EXPECT_EQ(entryOf(g, 1, 2, ledgerRoyaltiesPaid), -units(25)) << "the year end leaves royalties";
+    EXPECT_EQ(entryOf(g, 1, 0, ledgerRoyaltiesPaid), -units(25));
 }
 
 TEST(LabelReputation, IsTheFiveMarketsAdded) {
@@ -176,15 +171,13 @@ TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) 
 
 TEST_F(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
     Department& dep = g.label->department[publicRelations];
-    dep.staffAtLevel = {2, 0, 0, 0, 0};  // weighted 10 -> 8
-    setDepartmentRating(g, publicRelations);
-    EXPECT_EQ(dep.rating, 8);
-    dep.staffAtLevel = {1, 0, 0, 0, 0};  // weighted 5 -> 0
-    setDepartmentRating(g, publicRelations);
-    EXPECT_EQ(dep.rating, 0);
-    dep.staffAtLevel = {21, 24, 0, 0, 0};  // weighted 201 -> 160, held at 80
-    setDepartmentRating(g, publicRelations);
-    EXPECT_EQ(dep.rating, 80);
+    // weighted 10 -> 8; 5 -> 0; 201 -> 160, held at 80
+    for (auto [levels, rating] :
+         {std::pair{std::array<uint8_t, 5>{2, 0, 0, 0, 0}, 8}, {{1, 0, 0, 0, 0}, 0}, {{21, 24, 0, 0, 0}, 80}}) {
+        dep.staffAtLevel = levels;
+        setDepartmentRating(g, publicRelations);
+        EXPECT_EQ(dep.rating, rating) << int{levels[0]};
+    }
 
     g.staff.rec = StaffRecord{};
     g.staff->ability = 50;
@@ -199,23 +192,24 @@ TEST_F(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty)
 
 TEST_F(DepartmentLevels, TheSliderBoundsAreTheWagesBounds) {
     EXPECT_EQ(checkDepartmentLevels(0, {21, 24, 27, 29, 32}), "");
-    EXPECT_NE(checkDepartmentLevels(0, {22, 0, 0, 0, 0}), "");
-    EXPECT_NE(checkDepartmentLevels(0, {0, 25, 0, 0, 0}), "");
-    EXPECT_NE(checkDepartmentLevels(0, {0, 0, 28, 0, 0}), "");
-    EXPECT_NE(checkDepartmentLevels(0, {0, 0, 0, 30, 0}), "");
-    EXPECT_NE(checkDepartmentLevels(0, {0, 0, 0, 0, 33}), "");
-    EXPECT_NE(checkDepartmentLevels(0, {-1, 0, 0, 0, 0}), "");
-    EXPECT_NE(checkDepartmentLevels(6, {0, 0, 0, 0, 0}), "");
+    // one past each bound, a level below 0 and a seventh department
+    for (auto [dep, levels] : {std::pair{0, std::array{22, 0, 0, 0, 0}},
+                               {0, {0, 25, 0, 0, 0}},
+                               {0, {0, 0, 28, 0, 0}},
+                               {0, {0, 0, 0, 30, 0}},
+                               {0, {0, 0, 0, 0, 33}},
+                               {0, {-1, 0, 0, 0, 0}},
+                               {6, {0, 0, 0, 0, 0}}})
+        EXPECT_NE(checkDepartmentLevels(dep, levels), "") << dep << " " << testing::PrintToString(levels);
 }
 
 TEST_F(DepartmentLevels, LockingWritesCountsRatingAndBill) {
     addLabel(g, 0);
     g.player.playerLabel = 1;
     setDepartmentLevels(g, financeAndLaw, {4, 0, 0, 0, 1});  // weighted 21 -> 16; 6,000 + 1,000
-    g.label.read(1);
-    EXPECT_EQ(g.label->department[financeAndLaw].staffAtLevel[0], 4);
-    EXPECT_EQ(g.label->department[financeAndLaw].rating, 16);
-    EXPECT_EQ(g.label->wageBill, units(7000));
+    const LabelRecord l = labelOf(g, 1);
+    EXPECT_EQ(std::tuple(l.department[financeAndLaw].staffAtLevel[0], l.department[financeAndLaw].rating, l.wageBill),
+              std::tuple(uint8_t{4}, uint8_t{16}, units(7000)));
 }
 
 TEST_F(DepartmentError, APerfectDepartmentReadsTrueAndAnEmptyOneMovesTheValueByTwoWholePercentDraws) {

@@ -24,8 +24,7 @@ TEST_F(LabelFinances, IncomeAndExpensesLandInThisMonthAndThisYearOnly) {
     }
     for (Money m : g.label->period[1].income) EXPECT_EQ(m, 0);
     for (Money m : g.label->period[1].expense) EXPECT_EQ(m, 0);
-    EXPECT_EQ(g.label->cashBalance, moneyUnits(307));
-    EXPECT_EQ(g.player.playerLabelCash, moneyUnits(307));
+    EXPECT_EQ(std::tuple(g.label->cashBalance, g.player.playerLabelCash), std::tuple(moneyUnits(307), moneyUnits(307)));
 
     g.label.read(1);
     addExpense(g, moneyUnits(999), ledgerStudioFees);
@@ -46,12 +45,10 @@ TEST_F(LabelFinances, HypeRaisesReputationOnceItPassesIt) {
 
 TEST_F(LabelFinances, PointsReachTheBossAndEachHeadAndTheBufferEndsOnTheLast) {
     for (const char* name : {"Boss", "Head", "Idle"}) {
-        g.staff.rec = StaffRecord{};
-        g.staff->forename = name;
+        g.staff.rec = StaffRecord{.forename = name};
         g.staff.append();
     }
-    g.label.rec = LabelRecord{};
-    g.label->boss = 1;
+    g.label.rec = LabelRecord{.boss = 1};
     g.label->department[0].head = 2;
     g.label->department[5].head = 1;  // the boss heads a department too
     g.label->points[2] = 5;
@@ -62,10 +59,7 @@ TEST_F(LabelFinances, PointsReachTheBossAndEachHeadAndTheBufferEndsOnTheLast) {
     // The boss earns twice, 30 + 30; the head 30; the idle one nothing.
     EXPECT_EQ(g.staff->id, 1);  // the last earner, the sixth head
     EXPECT_EQ(g.staff->points, (std::array<int32_t, 5>{0, 0, 60, 0, 0}));
-    g.staff.read(2);
-    EXPECT_EQ(g.staff->points, (std::array<int32_t, 5>{0, 0, 30, 0, 0}));
-    g.staff.read(3);
-    EXPECT_EQ(g.staff->points[2], 0);
-    g.label.read(1);
-    EXPECT_EQ(g.label->points[2], 35);  // 5 + 30
+    EXPECT_EQ((g.staff.read(2), g.staff->points), (std::array<int32_t, 5>{0, 0, 30, 0, 0}));
+    EXPECT_EQ((g.staff.read(3), g.staff->points[2]), 0);
+    EXPECT_EQ((g.label.read(1), g.label->points[2]), 35);  // 5 + 30
 }

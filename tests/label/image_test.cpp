@@ -4,7 +4,7 @@
 #include "label/departments.h"
 #include "label/image.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 
 using namespace trovane;
@@ -12,28 +12,23 @@ using namespace trovane::test;
 
 namespace {
 
-class Image : public ::testing::Test {
+class Image : public GameTest {
 protected:
-    EmptyGame eg;
-    Game& g = eg.g;
     int16_t rock = addStyle(g, 10);
 
     // A look whose bounds are 0 to 100 except a low bound on charisma.
     int16_t addLook(const std::string& name, uint8_t charismaLow, uint8_t sex = 0, uint8_t bonus = 0) {
-        g.look.rec = LookRecord{};
-        g.look->name = name;
+        g.look.rec = LookRecord{.name = name, .sex = sex};
         for (std::size_t i = 0; i < 8; ++i) g.look->bounds[2 * i + 1] = 100;
         g.look->bounds[0] = charismaLow;
-        g.look->sex = sex;
         int16_t id = static_cast<int16_t>(g.look.append());
-        if (bonus > 0) {
-            g.asslook.rec = AssRecord{};
-            g.asslook->a = static_cast<uint8_t>(id);
-            g.asslook->b = static_cast<uint8_t>(rock);
-            g.asslook->weight = bonus;
-            g.asslook.append();
-        }
+        if (bonus > 0) like(id, bonus);
         return id;
+    }
+    // A liking of rock for the look.
+    void like(int16_t look, uint8_t bonus) {
+        g.asslook.rec = AssRecord{.a = static_cast<uint8_t>(look), .b = static_cast<uint8_t>(rock), .weight = bonus};
+        g.asslook.append();
     }
     int16_t addMarketed(int16_t label, std::initializer_list<int16_t> ranks, uint8_t look, uint8_t imageRating,
                         const std::string& name = "The Testers") {
@@ -52,10 +47,7 @@ protected:
         amend(g.label, l, [&] { g.label->department[marketing].rating = rating; });
         return l;
     }
-    int16_t lookOf(int16_t artist) {
-        g.artist.read(artist);
-        return g.artist->look;
-    }
+    int16_t lookOf(int16_t artist) { return (g.artist.read(artist), g.artist->look); }
 };
 
 TEST_F(Image, BestLookTakesTheFirstOfEqualsAndOnlyLooksForTheArtistsSex) {
@@ -141,8 +133,7 @@ TEST_P(ImageReport, TheTextFollowsTheRatingAndWhetherALookBeatsIt) {
     });
     int32_t entry = requestImageAnalysis(g, artist);
     g.schedule.read(entry);
-    EXPECT_EQ(g.schedule->type, 9);
-    EXPECT_EQ(g.schedule->date, g.gameDate + 7);
+    EXPECT_EQ(std::tuple(g.schedule->type, g.schedule->date), std::tuple(uint8_t{9}, g.gameDate + 7));
     imageReport(g);
     g.news.read(1);
     EXPECT_EQ(g.news->title.value, "Marketing Department present Ada Vox image report");
@@ -155,8 +146,7 @@ TEST_P(ImageReport, TheTextFollowsTheRatingAndWhetherALookBeatsIt) {
     const std::string ending = " Change Ada Vox's image?";
     EXPECT_EQ(t.size() > ending.size() && t.substr(t.size() - ending.size()) == ending, c.change);
     EXPECT_EQ(g.news->kind, c.change ? 1 : 0);
-    g.schedule.read(entry);
-    EXPECT_EQ(g.schedule->look, c.change ? glam : 0);
+    EXPECT_EQ((g.schedule.read(entry), g.schedule->look), c.change ? glam : 0);
     if (c.change) { EXPECT_NE(t.find(" from Grunge to Glam"), std::string::npos); }
 }
 
@@ -190,11 +180,7 @@ TEST_F(Image, AnotherLabelsArtistCannotBeAnalysed) {
 TEST_F(Image, TheFirstLikingOfAStyleForALookCountsAndChangingLookTakesItsRating) {
     int16_t plain = addLook("Plain", 0);      // 50
     int16_t cape = addLook("Cape", 5, 0, 4);  // charisma 0 below 5: 45 + 4 = 49
-    g.asslook.rec = AssRecord{};              // a second row for the same look and style
-    g.asslook->a = static_cast<uint8_t>(cape);
-    g.asslook->b = static_cast<uint8_t>(rock);
-    g.asslook->weight = 10;  // would give 55
-    g.asslook.append();
+    like(cape, 10);                           // a second row for the same look and style: would give 55
     g.artist.rec = ArtistRecord{.style = static_cast<uint8_t>(rock)};
     const int16_t a = static_cast<int16_t>(g.artist.append());
     g.artist.read(a);
@@ -203,8 +189,7 @@ TEST_F(Image, TheFirstLikingOfAStyleForALookCountsAndChangingLookTakesItsRating)
     EXPECT_EQ(rateLook(g), 49);
     changeLook(g);
     g.artist.read(a);
-    EXPECT_EQ(g.artist->look, cape);
-    EXPECT_EQ(g.artist->imageRating, 49);
+    EXPECT_EQ(std::tuple(g.artist->look, g.artist->imageRating), std::tuple(cape, uint8_t{49}));
 }
 
 TEST_F(Image, TheAnalysisQuestionNamesTheJobInAGroupAndOnlyTheNameForASoloAct) {

@@ -4,7 +4,7 @@
 #include "label/scouting.h"
 #include "label/scouting_text.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 #include "world/strings.h"
 
@@ -13,10 +13,8 @@ using namespace trovane::test;
 
 namespace {
 
-class Scouting : public ::testing::Test {
+class Scouting : public GameTest {
 protected:
-    EmptyGame eg;
-    Game& g = eg.g;
     int16_t rock = addStyle(g, 10);
 
     // Unsigned acts whose every figure reads 100: an estimate well above 75.
@@ -30,6 +28,10 @@ protected:
             });
         }
     }
+    void load(int16_t band, int16_t label) {
+        g.band.read(band);
+        g.label.read(label);
+    }
     int listedBy(int16_t label) {
         int n = 0;
         for (int32_t r = 1; r < g.shortlist.recordCount(); ++r) {
@@ -42,9 +44,7 @@ protected:
 
 TEST_F(Scouting, APairIsListedOnceAndFreedOnRemoval) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1});
-    int16_t band = addAct(g, {});
-    g.band.read(band);
-    g.label.read(label);
+    load(addAct(g, {}), label);
     EXPECT_FALSE(isShortlisted(g));
     shortlistAdd(g);
     shortlistAdd(g);
@@ -75,25 +75,19 @@ TEST_F(Scouting, ARivalLooksFromHalfItsTargetToJustBelowIt) {
     // 41 / 2 = 20.5: a reputation of 20 is below an odd target's half.
     for (Case c : {Case{40, 40, false}, Case{40, 39, true}, Case{40, 20, true}, Case{40, 19, false},
                    Case{41, 20, false}, Case{41, 21, true}}) {
-        int16_t b = addAct(g, {.reputation = {c.reputation, 0, 0, 0, 0}});
-        g.band.read(b);
-        g.label.read(label);
+        load(addAct(g, {.reputation = {c.reputation, 0, 0, 0, 0}}), label);
         g.label->reputationTarget = {c.target, 0, 0, 0, 0};
         EXPECT_EQ(considerForShortlist(g, 0), c.listed) << int{c.target} << " " << int{c.reputation};
     }
     // Forced, the window is skipped and the band listed.
-    int16_t big = addAct(g, {.reputation = {90, 0, 0, 0, 0}});
-    g.band.read(big);
-    g.label.read(label);
+    load(addAct(g, {.reputation = {90, 0, 0, 0, 0}}), label);
     EXPECT_TRUE(considerForShortlist(g, -1));
     EXPECT_TRUE(isShortlisted(g));
 }
 
 TEST_F(Scouting, ASignedBandOrOneOutsideTheControversyBoundsIsNotTaken) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1});
-    int16_t b = addAct(g, {.label = label});
-    g.band.read(b);
-    g.label.read(label);
+    load(addAct(g, {.label = label}), label);
     EXPECT_FALSE(considerForShortlist(g, -1));
     g.band->label = 0;
     g.band->controversy = 50;
@@ -182,12 +176,9 @@ TEST_F(Scouting, AnEstimateWeighsPotentialByCareerAndTalentByCommerciality) {
         g.artist->potential = 80;
         g.artist->imageRating = 70;
     });
-    g.band.read(b);
-    g.label.read(label);
+    load(b, label);
     BandEstimate e = estimateBand(g);
-    EXPECT_EQ(e.present, 64);
-    EXPECT_EQ(e.potential, 80);
-    EXPECT_EQ(e.talent, 70);
+    EXPECT_EQ(std::tuple(e.present, e.potential, e.talent), std::tuple(64, 80, 70));
 }
 
 }  // namespace

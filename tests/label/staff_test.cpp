@@ -9,7 +9,7 @@
 #include "label/staff.h"
 #include "session/invariants.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/dates.h"
 #include "world/strings.h"
 
@@ -19,9 +19,7 @@ namespace {
 
 Money units(int64_t whole) { return moneyUnits(whole); }
 
-struct StaffGame : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+struct StaffGame : test::GameTest {
     int16_t label = 0;
 
     void SetUp() override {
@@ -29,9 +27,7 @@ struct StaffGame : ::testing::Test {
         g.prefs->currencySymbol = "£";
         g.staff.rec = StaffRecord{.forename = "Pat", .surname = "Boss"};
         g.player.playerStaff = static_cast<int16_t>(g.staff.append());
-        g.label.rec = LabelRecord{};
-        g.label->name = "Kettle Records";
-        g.label->boss = g.player.playerStaff;
+        g.label.rec = LabelRecord{.name = "Kettle Records", .boss = g.player.playerStaff};
         label = static_cast<int16_t>(g.label.append());
         g.player.playerLabel = label;
         amend(g.staff, g.player.playerStaff, [&] { g.staff->employer = label; });
@@ -44,6 +40,18 @@ struct StaffGame : ::testing::Test {
         g.staff->aptitude[9] = style;
         return static_cast<int16_t>(g.staff.append());
     }
+    // The person, already working in the label's department.
+    int16_t employed(const std::string& forename, Money wage, uint8_t department, bool male = true,
+                     uint8_t ability = 60) {
+        const int16_t p = person(forename, wage, male, 0, ability);
+        amend(g.staff, p, [&] {
+            g.staff->employer = label;
+            g.staff->department = department;
+        });
+        return p;
+    }
+    StaffRecord staff(int16_t n) { return (g.staff.read(n), g.staff.rec); }
+    LabelRecord books() { return (g.label.read(label), g.label.rec); }
 
     void playDay(int days = 1) {
         for (int i = 0; i < days; ++i) {
@@ -54,14 +62,9 @@ struct StaffGame : ::testing::Test {
         }
     }
 
-    std::string lastTitle() {
-        g.news.read(g.news.recordCount() - 1);
-        return trim(g.news->title.value);
-    }
-    std::string lastText() {
-        g.news.read(g.news.recordCount() - 1);
-        return trim(g.news->text.value);
-    }
+    // The title and text of the news item `back` from the last.
+    std::string title(int back = 1) { return (g.news.read(g.news.recordCount() - back), trim(g.news->title.value)); }
+    std::string lastText() { return (g.news.read(g.news.recordCount() - 1), trim(g.news->text.value)); }
 };
 
 }  // namespace
@@ -74,18 +77,13 @@ TEST_F(StaffGame, AnOfferAtExactlyNineTenthsIsTakenAndOneUnitLessIsNot) {
     // 899.9999
     amend(g.staff, bob, [&] { g.staff->offerWage -= 1; });
     playDay(8);  // the answers come a week on
-    g.staff.read(ann);
-    EXPECT_EQ(g.staff->offerLabel, label) << "an accepted offer stands until the deal";
-    g.staff.read(bob);
-    EXPECT_EQ(g.staff->offerLabel, 0);
-    EXPECT_EQ(g.staff->offerWage, 0);
-    EXPECT_EQ(lastTitle(), "Bob Smith rejects Kettle Records's contract offer");
-    g.news.read(g.news.recordCount() - 2);
-    EXPECT_EQ(trim(g.news->title.value), "Ann Smith agrees terms with Kettle Records.");
+    EXPECT_EQ(staff(ann).offerLabel, label) << "an accepted offer stands until the deal";
+    EXPECT_EQ(std::tuple(staff(bob).offerLabel, staff(bob).offerWage), std::tuple(int16_t{0}, Money{0}));
+    EXPECT_EQ(title(), "Bob Smith rejects Kettle Records's contract offer");
+    EXPECT_EQ(title(2), "Ann Smith agrees terms with Kettle Records.");
     EXPECT_EQ(g.news->mustReply, kTrue);
     g.schedule.read(g.news->scheduleLink);
-    EXPECT_EQ(g.schedule->type, 1);
-    EXPECT_EQ(g.schedule->staff, ann);
+    EXPECT_EQ(std::tuple(g.schedule->type, g.schedule->staff), std::tuple(uint8_t{1}, ann));
 }
 
 TEST_F(StaffGame, ALabelOfAnotherStyleMustOfferATenthMore) {
@@ -97,12 +95,8 @@ TEST_F(StaffGame, ALabelOfAnotherStyleMustOfferATenthMore) {
     approachStaff(g, far, 1, 1100, 1);
     approachStaff(g, near, 2, 1099, 1);
     playDay(8);
-    g.staff.read(fan);
-    EXPECT_EQ(g.staff->offerLabel, label);
-    g.staff.read(far);
-    EXPECT_EQ(g.staff->offerLabel, label);
-    g.staff.read(near);
-    EXPECT_EQ(g.staff->offerLabel, 0);
+    EXPECT_EQ(std::tuple(staff(fan).offerLabel, staff(far).offerLabel, staff(near).offerLabel),
+              std::tuple(label, label, int16_t{0}));
 }
 
 TEST_F(StaffGame, AYesHiresThePersonIntoTheDepartmentOnTheOfferedTerms) {
@@ -119,18 +113,14 @@ TEST_F(StaffGame, AYesHiresThePersonIntoTheDepartmentOnTheOfferedTerms) {
     pressNewsCmd1(g);
     playDay();
 
-    g.staff.read(ann);
-    EXPECT_EQ(g.staff->employer, label);
-    EXPECT_EQ(g.staff->department, marketing);
-    EXPECT_EQ(g.staff->hiredOn, today - 1);
-    EXPECT_EQ(g.staff->contractEnd, serialFromCivil(2008, 8, 13));
-    EXPECT_EQ(g.staff->wage, units(950));
-    EXPECT_EQ(g.staff->offerLabel, 0);
-    g.label.read(label);
-    EXPECT_EQ(g.label->department[marketing].head, ann);
-    EXPECT_EQ(g.label->department[marketing].rating, 12);  // 8 + 70 / 20 = 11.5, to the even 12
-    EXPECT_EQ(g.label->wageBill, units(3950));
-    EXPECT_EQ(lastTitle(), "Ann Smith hired by Kettle Records.");
+    const StaffRecord a = staff(ann);
+    EXPECT_EQ(std::tuple(a.employer, a.department, a.hiredOn, a.contractEnd, a.wage, a.offerLabel),
+              std::tuple(label, uint8_t{marketing}, today - 1, serialFromCivil(2008, 8, 13), units(950), int16_t{0}));
+    const LabelRecord l = books();
+    // rating 8 + 70 / 20 = 11.5, to the even 12
+    EXPECT_EQ(std::tuple(l.department[marketing].head, l.department[marketing].rating, l.wageBill),
+              std::tuple(ann, uint8_t{12}, units(3950)));
+    EXPECT_EQ(title(), "Ann Smith hired by Kettle Records.");
     EXPECT_NE(lastText().find("Ann Smith announced she was looking forward"), std::string::npos);
 }
 
@@ -140,17 +130,12 @@ TEST_F(StaffGame, APostTakenBeforeTheHireRunsMakesTheDealFallThrough) {
     approachStaff(g, ann, hospitality, 1000, 2);
     approachStaff(g, bob, hospitality, 1000, 2);
     playDay(8);
-    for (int32_t n = 1; n != g.news.recordCount(); ++n) {
-        g.news.read(n);
-        if (g.news->mustReply == kTrue) pressNewsCmd1(g);
-    }
+    for (int32_t n = 1; n != g.news.recordCount(); ++n)
+        if (g.news.read(n), g.news->mustReply == kTrue) pressNewsCmd1(g);
     playDay();  // both hires run today: Ann's was filed first
-    g.label.read(label);
-    EXPECT_EQ(g.label->department[hospitality].head, ann);
-    g.staff.read(bob);
-    EXPECT_EQ(g.staff->employer, 0);
-    EXPECT_EQ(g.staff->offerLabel, 0);
-    EXPECT_EQ(lastTitle(), "Bob Smith deal falls through.");
+    EXPECT_EQ(books().department[hospitality].head, ann);
+    EXPECT_EQ(std::tuple(staff(bob).employer, staff(bob).offerLabel), std::tuple(int16_t{0}, int16_t{0}));
+    EXPECT_EQ(title(), "Bob Smith deal falls through.");
     EXPECT_EQ(lastText(),
               "Bob Smith's proposed move into a new role as Head of Hospitality at Kettle Records has fallen through. "
               "A spokesperson for the company has revealed there was no longer a position for Bob Smith.");
@@ -163,10 +148,8 @@ TEST_F(StaffGame, AWithdrawalCancelsTheAnswerAndClearsTheOffer) {
     EXPECT_NE(checkApproachStaff(g, ann), "") << "an offer is pending";
     EXPECT_EQ(checkWithdrawStaffOffer(g, ann), "");
     withdrawStaffOffer(g, ann);
-    g.staff.read(ann);
-    EXPECT_EQ(g.staff->offerLabel, 0);
-    g.schedule.read(1);
-    EXPECT_EQ(g.schedule->type, 255);
+    EXPECT_EQ(staff(ann).offerLabel, 0);
+    EXPECT_EQ((g.schedule.read(1), g.schedule->type), 255);
     playDay(8);
     EXPECT_EQ(g.news.recordCount(), 1) << "no answer comes";
 }
@@ -187,9 +170,7 @@ TEST_F(StaffGame, AWithdrawalIsRefusedFromTheDecisionDayTillANoToAgreedTerms) {
     pressNewsCmd1(g);
     EXPECT_NE(checkWithdrawStaffOffer(g, bob), "") << "the hire is filed";
     playDay();
-    g.staff.read(ann);
-    EXPECT_EQ(g.staff->offerLabel, label);
-    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_EQ(std::tuple(staff(ann).offerLabel, staff(ann).employer), std::tuple(label, int16_t{0}));
     EXPECT_NE(checkApproachStaff(g, ann), "");
     ASSERT_EQ(checkWithdrawStaffOffer(g, ann), "");
     withdrawStaffOffer(g, ann);
@@ -199,27 +180,22 @@ TEST_F(StaffGame, AWithdrawalIsRefusedFromTheDecisionDayTillANoToAgreedTerms) {
 TEST_F(StaffGame, ApproachIsRefusedForTheEmployedAndThePlayer) {
     EXPECT_NE(checkApproachStaff(g, g.player.playerStaff), "");
     int16_t taken = person("Taken", units(500));
-    g.staff->employer = label;
-    g.staff.write();
+    amend(g.staff, taken, [&] { g.staff->employer = label; });
     EXPECT_EQ(checkApproachStaff(g, taken), "Taken Smith already works for Kettle Records.");
     int16_t free = person("Free", units(500));
-    g.staff->offerLabel = 9;  // an old offer of another label goes with the approach
-    g.staff.write();
+    amend(g.staff, free, [&] { g.staff->offerLabel = 9; });  // an old offer of another label goes with the approach
     EXPECT_EQ(checkApproachStaff(g, free), "");
     approachStaff(g, free, 0, 600, 5);
-    g.staff.read(free);
-    EXPECT_EQ(g.staff->offerLabel, label);
-    EXPECT_EQ(g.staff->offerYears, 5);
-    EXPECT_EQ(g.staff->offerWage, units(600));
+    const StaffRecord f = staff(free);
+    EXPECT_EQ(std::tuple(f.offerLabel, f.offerYears, f.offerWage), std::tuple(label, uint8_t{5}, units(600)));
 }
 
 TEST_F(StaffGame, AReleasedHeadLeavesTheDepartmentAndAsksTheMarketRate) {
-    int16_t ann = person("Ann", units(2000), false, 0, 52);
-    g.staff->reputation = {33, 33, 33, 33, 33};  // standing 33: 33 x 2 x 52 x 32 / 52 = 2,112
-    g.staff->employer = label;
-    g.staff->department = financeAndLaw;
-    g.staff->hiredOn = serialFromCivil(2004, 7, 31);
-    g.staff.write();
+    int16_t ann = employed("Ann", units(2000), financeAndLaw, false, 52);
+    amend(g.staff, ann, [&] {
+        g.staff->reputation = {33, 33, 33, 33, 33};  // standing 33: 33 x 2 x 52 x 32 / 52 = 2,112
+        g.staff->hiredOn = serialFromCivil(2004, 7, 31);
+    });
     // 52 / 20 = 2.6 -> 3
     amend(g.label, label, [&] {
         g.label->department[financeAndLaw].head = ann;
@@ -230,27 +206,18 @@ TEST_F(StaffGame, AReleasedHeadLeavesTheDepartmentAndAsksTheMarketRate) {
     terminateStaff(g, ann);
     EXPECT_NE(checkTerminateStaff(g, ann), "") << "already on notice";
     playDay();
-    g.staff.read(ann);
-    EXPECT_EQ(g.staff->employer, 0);
-    EXPECT_EQ(g.staff->wage, units(2112));
-    g.label.read(label);
-    EXPECT_EQ(g.label->department[financeAndLaw].head, 0);
-    EXPECT_EQ(g.label->department[financeAndLaw].rating, 0);
-    EXPECT_EQ(g.label->wageBill, 0);
-    EXPECT_EQ(lastTitle(), "Ann Smith released by Kettle Records.");
+    EXPECT_EQ(std::tuple(staff(ann).employer, staff(ann).wage), std::tuple(int16_t{0}, units(2112)));
+    const LabelRecord l = books();
+    EXPECT_EQ(std::tuple(l.department[financeAndLaw].head, l.department[financeAndLaw].rating, l.wageBill),
+              std::tuple(int16_t{0}, uint8_t{0}, Money{0}));
+    EXPECT_EQ(title(), "Ann Smith released by Kettle Records.");
     // July to August is one calendar month, though only five days.
     EXPECT_NE(lastText().find("after only 1 months in the job"), std::string::npos);
 }
 
 TEST_F(StaffGame, AFormerBossHeadsNothingAndGoesWithoutTouchingADepartment) {
-    int16_t old = person("Old", units(800));
-    g.staff->employer = label;
-    g.staff->department = security;
-    g.staff.write();
-    int16_t head = person("Head", units(300));
-    g.staff->employer = label;
-    g.staff->department = security;
-    g.staff.write();
+    int16_t old = employed("Old", units(800), security);
+    int16_t head = employed("Head", units(300), security);
     amend(g.label, label, [&] {
         g.label->department[security].head = head;
         g.label->department[security].rating = 3;
@@ -258,10 +225,8 @@ TEST_F(StaffGame, AFormerBossHeadsNothingAndGoesWithoutTouchingADepartment) {
     });
     terminateStaff(g, old);
     playDay();
-    g.label.read(label);
-    EXPECT_EQ(g.label->department[security].head, head);
-    g.staff.read(old);
-    EXPECT_EQ(g.staff->employer, 0);
+    EXPECT_EQ(books().department[security].head, head);
+    EXPECT_EQ(staff(old).employer, 0);
     EXPECT_NE(checkTerminateStaff(g, old), "") << "no longer works there";
 }
 
