@@ -7,7 +7,7 @@
 #include "floor/news_post.h"
 #include "schedule/schedule.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/dates.h"
 #include "world/strings.h"
 
@@ -15,14 +15,10 @@ using namespace trovane;
 
 namespace {
 
-class Ceremonies : public ::testing::Test {
+class Ceremonies : public test::GameTest {
 protected:
-    test::EmptyGame eg;
-    Game& g = eg.g;
     int16_t addCeremony(const char* name, std::array<uint8_t, 6> calendar) {
-        g.ceremony.rec = CeremonyRecord{};
-        g.ceremony->name = name;
-        g.ceremony->calendar = calendar;
+        g.ceremony.rec = CeremonyRecord{.name = name, .calendar = calendar};
         return static_cast<int16_t>(g.ceremony.append());
     }
     // (type, ceremony) of each entry filed on the date.
@@ -73,8 +69,7 @@ TEST_F(Ceremonies, TheInvitationDatesTheNightAndAsksYesOrNo) {
     int16_t item = static_cast<int16_t>(g.news.recordCount());
     inviteToCeremony(g);
     g.ceremony.read(brits);
-    EXPECT_EQ(g.ceremony->date, day(2005, 2, 15));
-    EXPECT_EQ(g.ceremony->playerInvited, kFalse);
+    EXPECT_EQ(std::tuple(g.ceremony->date, g.ceremony->playerInvited), std::tuple(day(2005, 2, 15), kFalse));
     g.news.read(item);
     EXPECT_EQ(trim(g.news->title.value), "Invitation to Brit Night");
     EXPECT_EQ(trim(g.news->text.value),

@@ -23,10 +23,9 @@ TEST(NomineeList, AFullListDropsItsLowestAndTiesKeepTheEarlier) {
     for (int i = 0; i < 10; ++i) insertNominee(list, 50 + i, static_cast<int16_t>(i + 1), "n");
     insertNominee(list, 55, 20, "tie");  // equal to id 6: goes below it
     ASSERT_EQ(list.count, 10);
-    EXPECT_EQ(list.entries[0].id, 10);  // 59 on top
-    EXPECT_EQ(list.entries[4].id, 6);   // 55, filed first
-    EXPECT_EQ(list.entries[5].id, 20);  // 55, filed later
-    EXPECT_EQ(list.entries[9].id, 2);   // 51; 50 (id 1) dropped
+    // 59 on top; the 55 filed first, then the one filed later; 51 last, 50 (id 1) dropped.
+    EXPECT_EQ((std::array{list.entries[0].id, list.entries[4].id, list.entries[5].id, list.entries[9].id}),
+              (std::array<int16_t, 4>{10, 6, 20, 2}));
     insertNominee(list, 51, 21, "too low");
     EXPECT_EQ(list.entries[9].id, 2);
 }

@@ -7,7 +7,7 @@
 #include "events/hidden_bands.h"
 #include "events/scores.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/signing_world.h"
 #include "world/dates.h"
 #include "world/record_store.h"
@@ -17,11 +17,8 @@ using namespace trovane::test;
 
 namespace {
 
-class Scores : public ::testing::Test {
+class Scores : public GameTest {
 protected:
-    EmptyGame eg;
-    Game& g = eg.g;
-
     int16_t addArtist(const std::string& forename, double born, int16_t band = 0) {
         g.artist.rec =
             ArtistRecord{.forename = forename, .surname = "Smith", .age = 30, .birthDate = born, .band = band};
@@ -120,8 +117,8 @@ TEST_F(Scores, AFourPiecesAchievementIsEachMembersNewestFirst) {
     for (int m = 0; m < 4; ++m) {
         const auto rows = achievementsOf(g, 1, b.members[static_cast<std::size_t>(m)]);
         ASSERT_EQ(rows.size(), 2u) << m;
-        EXPECT_EQ(rows[0].text, "(Quartet) First platinum");
-        EXPECT_EQ(rows[1].text, "(Quartet) First gold");
+        EXPECT_EQ(std::pair(rows[0].text, rows[1].text),
+                  std::pair(std::string("(Quartet) First platinum"), std::string("(Quartet) First gold")));
     }
     const auto own = achievementsOf(g, 0, band);
     ASSERT_EQ(own.size(), 2u);
@@ -183,9 +180,7 @@ TEST_F(HiddenBands, OnlyTheExactNameOfAnActInTheBankUnlocksIt) {
     unlockHiddenBand(g);
     typed("Ivo", "Marsh");  // The Salt Lanterns: not in this bank
     unlockHiddenBand(g);
-    EXPECT_EQ(g.band.recordCount(), 1);
-    EXPECT_EQ(g.artist.recordCount(), 1);
-    EXPECT_EQ(g.news.recordCount(), 1);
+    EXPECT_EQ(std::tuple(g.band.recordCount(), g.artist.recordCount(), g.news.recordCount()), std::tuple(1, 1, 1));
 }
 
 }  // namespace
