@@ -16,12 +16,11 @@ struct FirmFigures {
     int64_t studioBuild;
 };
 
-class FirmsByQuality : public ::testing::TestWithParam<FirmFigures> {};
+class FirmsByQuality : public AlbumWorld, public ::testing::TestWithParam<FirmFigures> {};
+struct Businesses : AlbumWorld, ::testing::Test {};
 
 TEST_P(FirmsByQuality, CapacitiesPricesAndCosts) {
     const FirmFigures f = GetParam();
-    AlbumWorld w;
-    Game& g = w.g;
     g.business->quality = static_cast<uint8_t>(f.quality);
     EXPECT_EQ(distributorDailyCapacity(g), f.distributor);
     EXPECT_EQ(plantDailyCapacity(g), f.plant);
@@ -49,11 +48,9 @@ INSTANTIATE_TEST_SUITE_P(
         // 2,000,000 (step 100,000); 1,000,000 twice; 15,000; 100,000; 15,000,000; 50 x 100 x 1000.
         FirmFigures{100, 2000000, 2000000, 15000, 100000, 15000000, 15000000, 5000000}));
 
-TEST(Businesses, RunningCostsAreChargedOnlyForOpenOwnedFirms) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(Businesses, RunningCostsAreChargedOnlyForOpenOwnedFirms) {
     auto firm = [&](const char* name, int16_t owner, bool open, int32_t cost) {
-        w.addFirm(name, kStudio, 50, owner, open);
+        addFirm(name, kStudio, 50, owner, open);
         g.business->runningCost = cost;
         g.business.write();
     };
@@ -63,25 +60,23 @@ TEST(Businesses, RunningCostsAreChargedOnlyForOpenOwnedFirms) {
     firm("Independent", 0, true, 4000);
     firm("Theirs", AlbumWorld::kRival, true, 50000);
     subtractBusinessRunningCosts(g);
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerBusinessUpkeep), -moneyUnits(1020));
-    EXPECT_EQ(w.ledger(AlbumWorld::kRival, ledgerBusinessUpkeep), -moneyUnits(50000));
-    EXPECT_EQ(w.cash(AlbumWorld::kPlayer), -moneyUnits(1020));
+    EXPECT_EQ(ledger(AlbumWorld::kPlayer, ledgerBusinessUpkeep), -moneyUnits(1020));
+    EXPECT_EQ(ledger(AlbumWorld::kRival, ledgerBusinessUpkeep), -moneyUnits(50000));
+    EXPECT_EQ(cash(AlbumWorld::kPlayer), -moneyUnits(1020));
 }
 
-TEST(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
-    AlbumWorld w;
-    Game& g = w.g;
-    w.addFirm("Press", kPlant, 50, 0);  // only studios are offered for studio work
+TEST_F(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
+    addFirm("Press", kPlant, 50, 0);  // only studios are offered for studio work
     FacilityOrder order{.kind = kStudio, .name = "Home Rooms", .quality = 45, .city = 1};
     ASSERT_EQ(checkBuildFacility(g, order), "");
     int16_t firm = buildFacility(g, order);
     g.business.read(firm);
     EXPECT_EQ(std::tuple(g.business->open, g.business->owner, g.business->runningCost),
               std::tuple(int16_t{0}, AlbumWorld::kPlayer, 20250));
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerBusinessUpkeep), -moneyUnits(990000));
+    EXPECT_EQ(ledger(AlbumWorld::kPlayer, ledgerBusinessUpkeep), -moneyUnits(990000));
     EXPECT_TRUE(chooseBusiness(g, kStudio).empty()) << "not open while being built";
-    EXPECT_EQ(trim(w.lastNews().title.value), "Home Rooms plans finalised.");
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    EXPECT_EQ(trim(lastNews().title.value), "Home Rooms plans finalised.");
+    EXPECT_EQ(trim(lastNews().text.value),
               "Work has begun on your new studio Home Rooms. It is estimated the work will take six months.");
 
     // 5 August 2004 + six calendar months.
@@ -94,14 +89,13 @@ TEST(Businesses, BuildingAFirmBillsTheLabelAndOpensItSixMonthsOn) {
     openBusiness(g);
     EXPECT_EQ((g.business.read(firm), g.business->open), -1);
     EXPECT_EQ(chooseBusiness(g, kStudio), (std::vector<int16_t>{firm}));
-    EXPECT_EQ(trim(w.lastNews().title.value), "Home Rooms opens for business.");
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    EXPECT_EQ(trim(lastNews().title.value), "Home Rooms opens for business.");
+    EXPECT_EQ(trim(lastNews().text.value),
               "Home Rooms is now complete, as a result you will now be able to use it  to record your bands' "
               "material.");
 }
 
-TEST(Businesses, ABuildOrderIsRefusedInTheGamesWordsAndChangesNothing) {
-    AlbumWorld w;
+TEST_F(Businesses, ABuildOrderIsRefusedInTheGamesWordsAndChangesNothing) {
     struct Row {
         std::string name;
         int quality, city;
@@ -114,10 +108,10 @@ TEST(Businesses, ABuildOrderIsRefusedInTheGamesWordsAndChangesNothing) {
         SCOPED_TRACE(r.name + " " + std::to_string(r.quality));
         FacilityOrder order{.kind = kPlant, .name = r.name, .quality = r.quality, .city = static_cast<int16_t>(r.city)};
         if (r.refusal)
-            EXPECT_EQ(checkBuildFacility(w.g, order), r.refusal);
+            EXPECT_EQ(checkBuildFacility(g, order), r.refusal);
         else
-            EXPECT_NE(checkBuildFacility(w.g, order), "");
+            EXPECT_NE(checkBuildFacility(g, order), "");
     }
-    EXPECT_EQ(w.g.business.recordCount(), 1);
-    EXPECT_EQ(w.cash(AlbumWorld::kPlayer), 0);
+    EXPECT_EQ(g.business.recordCount(), 1);
+    EXPECT_EQ(cash(AlbumWorld::kPlayer), 0);
 }

@@ -16,6 +16,8 @@ using test::AlbumWorld;
 
 namespace {
 
+struct Songwriting : AlbumWorld, ::testing::Test {};
+
 // Runs writesThisWeek n times on artist a of band b; how many weeks it wrote.
 int weeksWritten(Game& g, int16_t band, int16_t artist, int n) {
     int wrote = 0;
@@ -52,10 +54,8 @@ std::array<int, 4> spreadOf(Game& g, int16_t band, int n, bool own) {
 
 }  // namespace
 
-TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Full Time", AlbumWorld::kRival, 1, 50, 100);
+TEST_F(Songwriting, WritingChanceFollowsRateAndFocus) {
+    int16_t band = addBand("Full Time", AlbumWorld::kRival, 1, 50, 100);
     // the album takes all their time: focus 100 whatever writingFocus says
     amend(g.band, band, [&] { g.band->albumStatus = 1; });
     // c = round(100 x 7 x 100 / 100) = 700 against 0..899: 700 of 900 weeks.
@@ -70,16 +70,14 @@ TEST(Songwriting, WritingChanceFollowsRateAndFocus) {
     EXPECT_EQ(weeksWritten(g, band, 1, 2000), 0) << "c = 0 is never above a draw";
 }
 
-TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWritingLeaderAtStatusOne) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t recording = w.addBand("Recording", AlbumWorld::kRival, 2, 60, 100);  // artists 1, 2
-    int16_t ending = w.addBand("Ending", AlbumWorld::kRival, 2, 60, 100);        // 3, 4
-    int16_t writing = w.addBand("Writing", AlbumWorld::kRival, 2, 60, 100);      // 5, 6
-    int16_t idle = w.addBand("Idle", AlbumWorld::kRival, 2, 60, 100);            // 7, 8
-    int16_t follower = w.addBand("Follower", AlbumWorld::kRival, 2, 60, 100);    // 9, 10
-    int16_t noPens = w.addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);       // 11, 12: the leader can't write
-    int16_t retired = w.addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);        // 13
+TEST_F(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWritingLeaderAtStatusOne) {
+    int16_t recording = addBand("Recording", AlbumWorld::kRival, 2, 60, 100);  // artists 1, 2
+    int16_t ending = addBand("Ending", AlbumWorld::kRival, 2, 60, 100);        // 3, 4
+    int16_t writing = addBand("Writing", AlbumWorld::kRival, 2, 60, 100);      // 5, 6
+    int16_t idle = addBand("Idle", AlbumWorld::kRival, 2, 60, 100);            // 7, 8
+    int16_t follower = addBand("Follower", AlbumWorld::kRival, 2, 60, 100);    // 9, 10
+    int16_t noPens = addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);       // 11, 12: the leader can't write
+    int16_t retired = addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);        // 13
     amend(g.artist, 13, [&] { g.artist->retired = -1; });
     for (int16_t b : {recording, ending, writing, idle, follower, noPens, retired}) {
         g.band.read(b);
@@ -87,12 +85,9 @@ TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWritingLe
         if (b == ending) g.band->contractEnd = g.gameDate + 100;
         g.band.write();
     }
-    g.artist.read(7);  // Idle's leader gives writing all his time; the rest of Idle none
-    g.artist->writingFocus = 100;
-    g.artist.write();
-    g.artist.read(9);  // Follower's leader never writes nor buys
-    g.artist->writingRate = 0;
-    g.artist.write();
+    // Idle's leader gives writing all his time, the rest of Idle none; Follower's leader never writes nor buys.
+    amend(g.artist, 7, [&] { g.artist->writingFocus = 100; });
+    amend(g.artist, 9, [&] { g.artist->writingRate = 0; });
     for (int week = 0; week < 40; ++week) updateSongs(g);
 
     std::map<int16_t, std::pair<int, int>> ownAndBought;
@@ -113,10 +108,8 @@ TEST(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWritingLe
     EXPECT_EQ(ownAndBought[follower].second, 0) << "only the first member buys";
 }
 
-TEST(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Spread", AlbumWorld::kRival, 1, 50, 40);
+TEST_F(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred) {
+    int16_t band = addBand("Spread", AlbumWorld::kRival, 1, 50, 40);
     amend(g.artist, 1, [&] { g.artist->songCommerciality = 100; });
     // quality 50 + Int(5 r1) - Int(5 r2): 46 to 54; commerciality 100 + Int(10 r1) - Int(10 r2):
     // 91 to 109, held at 100.
@@ -127,7 +120,7 @@ TEST(Songwriting, AnArtistsSongVariesByATenthEitherWayAndStaysWithinOneToHundred
     EXPECT_EQ(trim(g.song->title.value), "Untitled") << "a rival's songs take no bank title";
 }
 
-class BoughtMaterial : public ::testing::TestWithParam<int> {};
+class BoughtMaterial : public AlbumWorld, public ::testing::TestWithParam<int> {};
 
 TEST_P(BoughtMaterial, EachBudgetHasItsQualityCommercialityAndPrice) {
     const int level = GetParam();
@@ -139,24 +132,20 @@ TEST_P(BoughtMaterial, EachBudgetHasItsQualityCommercialityAndPrice) {
     // quality base + Int(10 r3) - Int(10 r4); commerciality 60 + Int(10 r1) - Int(r2 (10 b + 10)).
     const Level levels[] = {{90, 50000, 51}, {80, 20000, 41}, {65, 5000, 31}, {50, 2500, 21}, {40, 500, 11}};
     const Level want = levels[level];
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Buyers", AlbumWorld::kRival, 1, 50, 40);
+    int16_t band = addBand("Buyers", AlbumWorld::kRival, 1, 50, 40);
     amend(g.band, band, [&] { g.band->materialBudget = static_cast<uint8_t>(level); });
     const int songs = 600;
     EXPECT_EQ(spreadOf(g, band, songs, false),
               (std::array{want.quality - 9, want.quality + 9, want.lowestCommerciality, 69}));
     g.song.read(1);
     EXPECT_EQ(std::tuple(trim(g.song->writerForename.value), g.song->writer), std::tuple(std::string("Unknown"), 0));
-    EXPECT_EQ(w.ledger(AlbumWorld::kRival, ledgerOtherExpense), -moneyUnits(want.price * songs));
+    EXPECT_EQ(ledger(AlbumWorld::kRival, ledgerOtherExpense), -moneyUnits(want.price * songs));
 }
 
 INSTANTIATE_TEST_SUITE_P(Levels, BoughtMaterial, ::testing::Values(0, 1, 2, 3, 4));
 
-TEST(Songwriting, SongTitlesComeFromTheBankForThePlayersBands) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Ours", AlbumWorld::kPlayer);
+TEST_F(Songwriting, SongTitlesComeFromTheBankForThePlayersBands) {
+    int16_t band = addBand("Ours", AlbumWorld::kPlayer);
     g.newsong.rec = NewSongRecord{.title = "Other Style", .style = 2};
     g.newsong.append();
     g.newsong.rec = NewSongRecord{.title = "Worn Out", .style = 1, .uses = 100};
@@ -178,10 +167,8 @@ TEST(Songwriting, SongTitlesComeFromTheBankForThePlayersBands) {
     EXPECT_EQ((g.newsong.read(2), g.newsong->uses), 1);
 }
 
-TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Paid", AlbumWorld::kPlayer, 2);
+TEST_F(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
+    int16_t band = addBand("Paid", AlbumWorld::kPlayer, 2);
     amend(g.band, band, [&] {
         g.band->advanceToPay = moneyUnits(30000);
         g.band->firstInstallmentDue = 1;
@@ -189,12 +176,11 @@ TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
     g.artist.read(1);
     writeSong(g, true, true);
     // 30,000 / 3 = 10,000 to the advances; 5,000 to each of two members.
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(10000));
-    g.artist.read(2);
-    EXPECT_EQ(g.artist->wealth, 5000);
+    EXPECT_EQ(ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(10000));
+    EXPECT_EQ((g.artist.read(2), g.artist->wealth), 5000);
     g.band.read(band);
     EXPECT_EQ(std::tuple(g.band->firstInstallmentDue, g.band->songsWritten), std::tuple(0, 1));
-    const NewsRecord& n = w.lastNews();
+    const NewsRecord& n = lastNews();
     EXPECT_EQ(trim(n.title.value), "Paid paid the first installment of their advance.");
     EXPECT_EQ(trim(n.text.value),
               "The first installment of Paid's advance (£10,000) has been paid from your accounts.");
@@ -202,37 +188,35 @@ TEST(Songwriting, FirstSongOfATermPaysTheFirstThirdOfTheAdvance) {
     g.artist.read(1);
     g.band.read(band);
     writeSong(g, true, true);
-    EXPECT_EQ(w.ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(10000)) << "once a term";
+    EXPECT_EQ(ledger(AlbumWorld::kPlayer, ledgerAdvances), -moneyUnits(10000)) << "once a term";
 }
 
-TEST(Songwriting, ProgressNewsFromTheTenthToTheFiftiethSong) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Prolific", AlbumWorld::kPlayer, 2);
+TEST_F(Songwriting, ProgressNewsFromTheTenthToTheFiftiethSong) {
+    int16_t band = addBand("Prolific", AlbumWorld::kPlayer, 2);
     auto writeAt = [&](int32_t before, uint8_t status) {
         amend(g.band, band, [&] {
             g.band->songsWritten = before;
             g.band->albumStatus = status;
         });
         g.artist.read(1);
-        int32_t news = w.newsCount();
+        int32_t news = newsCount();
         writeSong(g, true, false);
-        return w.newsCount() - news;
+        return newsCount() - news;
     };
     EXPECT_EQ(writeAt(8, 0), 0) << "the ninth song";
     EXPECT_EQ(writeAt(9, 0), 1);
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    EXPECT_EQ(trim(lastNews().text.value),
               "In a progress meeting today Prolific informed you that they have now written 10 tracks  ready to "
               "appear on a future album.");
-    EXPECT_EQ(trim(w.lastNews().title.value), "Prolific album update.");
+    EXPECT_EQ(trim(lastNews().title.value), "Prolific album update.");
     EXPECT_EQ(writeAt(49, 1), 1);
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    EXPECT_EQ(trim(lastNews().text.value),
               "In a progress meeting today Prolific informed you that they have now written 50 tracks  for their "
               "forthcoming album.");
     EXPECT_EQ(writeAt(50, 1), 0) << "the 51st song";
 }
 
-TEST(Songwriting, SongFiguresAndSingles) {
+TEST_F(Songwriting, SongFiguresAndSingles) {
     SongRecord s{};
     s.quality = 45;
     s.commerciality = 50;
@@ -246,11 +230,9 @@ TEST(Songwriting, SongFiguresAndSingles) {
     EXPECT_FALSE(isAlreadySingle(s));
 }
 
-TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t recent = w.addBand("Recent", AlbumWorld::kRival, 2, 50, 100);
-    int16_t older = w.addBand("Older", AlbumWorld::kRival, 2, 0, 100);  // no writers
+TEST_F(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
+    int16_t recent = addBand("Recent", AlbumWorld::kRival, 2, 50, 100);
+    int16_t older = addBand("Older", AlbumWorld::kRival, 2, 0, 100);  // no writers
     for (auto [band, daysAgo] : {std::pair{recent, 180}, std::pair{older, 181}}) {
         const double out = g.gameDate - daysAgo;
         g.disc.rec = DiscRecord{.releaseDate = {out, out + 30, kNoDate, kNoDate, kNoDate}, .band = band};
@@ -274,7 +256,7 @@ TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
     EXPECT_EQ(g.song->writer, 0) << "no member can write: bought in";
 
     // Any member may be drawn to write: here only the last one can.
-    const int16_t second = w.addBand("Second", AlbumWorld::kRival, 2, 50, 100);
+    const int16_t second = addBand("Second", AlbumWorld::kRival, 2, 50, 100);
     g.band.read(second);
     const int16_t writer = g.band->members[1];
     amend(g.artist, g.band->members[0], [&] { g.artist->songQuality = 0; });
@@ -286,32 +268,28 @@ TEST(Songwriting, SeedingGivesSongsOnlyToBandsWithoutARecentAlbum) {
     for (int32_t n = before; n < g.song.recordCount(); ++n) EXPECT_EQ((g.song.read(n), g.song->writer), writer);
 }
 
-TEST(Songwriting, TheNewPlayerIsBriefedOnBandsWithTracksAndNoAlbumInTheStudio) {
-    AlbumWorld w;
-    Game& g = w.g;
+TEST_F(Songwriting, TheNewPlayerIsBriefedOnBandsWithTracksAndNoAlbumInTheStudio) {
     for (auto [name, songs, status] :
          {std::tuple{"One", 1, 0}, std::tuple{"Many", 12, 1}, std::tuple{"Busy", 9, 2}, std::tuple{"None", 0, 0}}) {
-        int16_t b = w.addBand(name, AlbumWorld::kPlayer);
+        int16_t b = addBand(name, AlbumWorld::kPlayer);
         amend(g.band, b, [&] {
             g.band->songsWritten = songs;
             g.band->albumStatus = static_cast<uint8_t>(status);
         });
     }
-    w.addBand("Theirs", AlbumWorld::kRival);
+    addBand("Theirs", AlbumWorld::kRival);
     amend(g.band, 5, [&] { g.band->songsWritten = 3; });
     briefNewPlayerOnAlbums(g);
-    ASSERT_EQ(w.newsCount(), 1);
-    EXPECT_EQ(trim(w.lastNews().title.value), "Introductory album progress briefing");
-    EXPECT_EQ(trim(w.lastNews().text.value),
+    ASSERT_EQ(newsCount(), 1);
+    EXPECT_EQ(trim(lastNews().title.value), "Introductory album progress briefing");
+    EXPECT_EQ(trim(lastNews().text.value),
               "In one of your introductory meetings today you were briefed on how the bands on signed to your new "
               "label are progressing on forthcoming albums, the report can be seen below :-\n- One : written 1 track "
               "to appear on a future album.\n- Many : written 12 tracks to appear on a future album.");
 }
 
-TEST(Songwriting, AnAlbumTitleSomeDiscBearsIsNeverChosen) {
-    AlbumWorld w;
-    Game& g = w.g;
-    int16_t band = w.addBand("Ours", AlbumWorld::kPlayer);
+TEST_F(Songwriting, AnAlbumTitleSomeDiscBearsIsNeverChosen) {
+    int16_t band = addBand("Ours", AlbumWorld::kPlayer);
     for (const char* title : {"Taken", "Fresh", "Elsewhere"}) {
         g.newalbum.rec = NewAlbumRecord{.style = static_cast<uint8_t>(title[0] == 'E' ? 2 : 1), .title = title};
         g.newalbum.append();

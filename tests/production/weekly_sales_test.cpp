@@ -115,9 +115,7 @@ TEST_F(WeeklySales, OnlyThePlayersDiscsAndShortlistBringCertificationNews) {
     int32_t before = g.news.recordCount();
     sellIn(d, 0, 0, 60000);
     EXPECT_EQ(g.news.recordCount(), before);
-    g.shortlist.rec = ShortlistRecord{};
-    g.shortlist->band = other;
-    g.shortlist->label = label;
+    g.shortlist.rec = ShortlistRecord{.band = other, .label = label};
     g.shortlist.append();
     sellIn(d, 0, 60000, 40000);  // gold at 100000
     ASSERT_EQ(g.news.recordCount(), before + 1);
@@ -147,10 +145,9 @@ TEST_F(WeeklySales, DiscIncomeRecoupsTheBandsDebtFromItsShare) {
         h.band.read(fresh.band);
         payDiscIncome(h, 0);
         LabelRecord l = fresh.labelRec(fresh.label);
-        EXPECT_EQ(ledgerEntry(l, 0, ledgerRecordSales), moneyUnits(6000));
-        EXPECT_EQ(ledgerEntry(l, 0, ledgerRecoupedAdvances), moneyUnits(r.recouped));
-        EXPECT_EQ(fresh.disc(d).income, moneyUnits(r.discIncome));
-        EXPECT_EQ(fresh.bandRec(fresh.band).grossIncome, moneyUnits(r.gross));
+        EXPECT_EQ(std::tuple(ledgerEntry(l, 0, ledgerRecordSales), ledgerEntry(l, 0, ledgerRecoupedAdvances),
+                             fresh.disc(d).income, fresh.bandRec(fresh.band).grossIncome),
+                  std::tuple(moneyUnits(6000), moneyUnits(r.recouped), moneyUnits(r.discIncome), moneyUnits(r.gross)));
         for (int m : {0, 1})
             EXPECT_EQ((h.artist.read(fresh.bandRec(fresh.band).members[m]), h.artist->wealth), r.memberWealth);
     }
