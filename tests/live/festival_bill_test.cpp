@@ -15,6 +15,11 @@ class FestivalBill : public test::FestivalWorld, public ::testing::Test {
 protected:
     int16_t tour = 0;
     std::vector<int16_t> billOfDay(std::size_t i) { return billOf(g, gigsOf(tour)[i]); }
+    // Schedules the festival and fills its bill.
+    void drawUp() {
+        tour = scheduled();
+        fill(tour);
+    }
     void accept(int32_t slot) {
         g.band.read(band);
         loadDay(tour, 0);
@@ -27,8 +32,7 @@ TEST_F(FestivalBill, TakesTheMostReputedActsWithTiesInRecordOrder) {
     addAct("Third", 60);
     int16_t first = addAct("First", 70);
     int16_t top = addAct("Top", 100);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     // Top 100, then the two 70s in record order; the bill holds three.
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{top, second, first}));
     EXPECT_EQ(billOfDay(1), billOfDay(0));
@@ -40,8 +44,7 @@ TEST_F(FestivalBill, ReputationIsTakenInTheFestivalsTerritory) {
     // Europe
     amend(g.band, abroad, [&] { g.band->reputation[2] = 90; });
     amend(g.festival, festival, [&] { g.festival->territory = 2; });
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     // Home has 50 in Europe, as every act of the world made here.
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{abroad, home}));
 }
@@ -58,8 +61,7 @@ TEST_F(FestivalBill, TakesOnlyTheFestivalsStyleAndItsDescendants) {
         amend(g.band, act, [&] { g.band->style = static_cast<uint8_t>(st); });
     }
     amend(g.festival, festival, [&] { g.festival->festivalStyle = static_cast<uint8_t>(rock); });
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{rocker, punks}));
 }
 
@@ -72,8 +74,7 @@ TEST_F(FestivalBill, PassesOverAnActBusyOnAnyDayOrRetired) {
     // Gigging plays its own gig on the Sunday; Supporting supports it.
     int32_t other = test::addGig(g, gigging, day(2004, 7, 11), {supporting});
     test::file(g, 8, day(2004, 7, 11), gigging, other);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{free}));
 }
 
@@ -92,8 +93,7 @@ TEST_F(FestivalBill, AnotherFestivalsBillKeepsItsActsBusy) {
 TEST_F(FestivalBill, AnEmptyPlaceEndsTheBill) {
     int16_t only = addAct("Only", 30);
     amend(g.festival, festival, [&] { g.festival->billSize = 5; });
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     g.gig.read(gigsOf(tour)[1]);
     EXPECT_EQ(std::tuple(g.gig->bill[0], g.gig->bill[1]), std::tuple(only, int16_t{0}));
 }
@@ -124,8 +124,7 @@ TEST_F(FestivalBill, AOneDayInvitationReadsOneGigAndItsPlace) {
     addAct("Above", 90);
     setReputation(band, 80);
     amend(g.festival, festival, [&] { g.festival->days = 1; });
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     EXPECT_NE(newsText(lastNews()).find("will appear 2nd on the bill and will play 1 gig from 10/7/2004 on"),
               std::string::npos);
 }
@@ -134,8 +133,7 @@ TEST_F(FestivalBill, AcceptingWhenFreeTakesThePlaceOnEveryDay) {
     addAct("Next", 70);
     int16_t last = addAct("Last", 60);
     setReputation(band, 80);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     const int32_t before = lastNews();
     accept(0);
     EXPECT_EQ(billOfDay(0), (std::vector<int16_t>{band, last}));
@@ -147,8 +145,7 @@ TEST_F(FestivalBill, AcceptingWhenFreeTakesThePlaceOnEveryDay) {
 TEST_F(FestivalBill, AcceptingWhenBusyLeavesTheBillAndSaysSo) {
     int16_t next = addAct("Next", 70);
     setReputation(band, 80);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     test::file(g, 7, day(2004, 7, 11), band);  // a recording day on the Sunday
     accept(0);
     EXPECT_EQ(billOfDay(1), std::vector<int16_t>{next});
@@ -161,8 +158,7 @@ TEST_F(FestivalBill, AcceptingWhenBusyLeavesTheBillAndSaysSo) {
 TEST_F(FestivalBill, ThePlayersActPutOutOfItsPlaceIsTold) {
     int16_t ours = addAct("Our Other Act", 70, label);
     setReputation(band, 80);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     // Both of the player's acts were asked: The Testers for first place, then Our Other Act for it.
     g.news.read(lastNews());
     g.schedule.read(g.news->scheduleLink);
@@ -181,8 +177,7 @@ TEST_F(FestivalBill, AnActOutOfActionDropsFromThatDayOnAndPlacesMoveUp) {
     int16_t a = addAct("Alpha", 90);
     int16_t b = addAct("Beta", 80);
     int16_t c = addAct("Gamma", 70);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     g.band.read(b);
     amend(g.artist, g.band->members[1], [&] { g.artist->energy = -1; });
     loadDay(tour, 1);
@@ -199,8 +194,7 @@ TEST_F(FestivalBill, AnActOutOfActionDropsFromThatDayOnAndPlacesMoveUp) {
 TEST_F(FestivalBill, ThePlayersRetiredActIsRemovedWithTheNews) {
     int16_t a = addAct("Alpha", 90);
     setReputation(band, 80);
-    tour = scheduled();
-    fill(tour);
+    drawUp();
     accept(1);
     ASSERT_EQ(billOfDay(0), (std::vector<int16_t>{a, band}));
     amend(g.band, band, [&] { g.band->retired = kTrue; });

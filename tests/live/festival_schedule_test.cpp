@@ -12,8 +12,7 @@ using test::day;
 namespace {
 
 FestivalRecord festivalOf(std::vector<uint8_t> weekdays, std::vector<uint8_t> weeks) {
-    FestivalRecord f{};
-    f.days = static_cast<uint8_t>(weekdays.size());
+    FestivalRecord f{.days = static_cast<uint8_t>(weekdays.size())};
     for (std::size_t i = 0; i < weekdays.size(); ++i) {
         f.weekday[i] = weekdays[i];
         f.week[i] = weeks[i];

@@ -4,9 +4,8 @@
 
 #include "live/sponsors.h"
 #include "live/tour_provisions.h"
+#include "live_checks.h"
 #include "schedule/band_calendar.h"
-#include "schedule/schedule.h"
-#include "session/invariants.h"
 #include "support/amend.h"
 #include "support/calendar_world.h"
 #include "support/gig_world.h"
@@ -36,14 +35,7 @@ protected:
         g.band.read(band);
         return createTour(g, area, nation);
     }
-    std::vector<uint8_t> typesOn(double date) {
-        std::vector<uint8_t> out;
-        for (int32_t id : entriesOfDay(g, date)) {
-            g.schedule.read(id);
-            out.push_back(g.schedule->type);
-        }
-        return out;
-    }
+    std::vector<uint8_t> typesOn(double date) { return test::typesOn(g, date); }
     int16_t addProduct(const char* name, uint8_t minimum, const char* area, std::array<uint8_t, 5> countries = {},
                        uint8_t minC = 0, uint8_t maxC = 100) {
         g.product.rec = ProductRecord{.name = name,
@@ -274,23 +266,17 @@ TEST_F(HandTour, TheRoadFeedsAHabitAlreadyBegunUpToAHundred) {
     }
 }
 
-std::optional<InvariantBreak> ruleOn(Game& g, std::string_view name) {
-    for (const InvariantRule& r : invariantRules())
-        if (std::string_view(r.name) == name) return r.check(g);
-    return InvariantBreak{.rule = "missing"};
-}
-
 TEST_F(Supports, TheCheckerFindsGigsOutOfOrderAndAFourthSupport) {
-    EXPECT_FALSE(ruleOn(g, "tourGigsInDateOrder").has_value());
+    EXPECT_FALSE(test::ruleOn(g, "tourGigsInDateOrder").has_value());
     // the same day as the first gig
     amend(g.gig, two, [&] { g.gig->gigDate = first; });
-    ASSERT_TRUE(ruleOn(g, "tourGigsInDateOrder").has_value());
-    EXPECT_EQ(ruleOn(g, "tourGigsInDateOrder")->field, "gigs[1]");
+    ASSERT_TRUE(test::ruleOn(g, "tourGigsInDateOrder").has_value());
+    EXPECT_EQ(test::ruleOn(g, "tourGigsInDateOrder")->field, "gigs[1]");
     amend(g.tour, t, [&] { g.tour->supportCount = 3; });
-    EXPECT_FALSE(ruleOn(g, "supportCountsWithinThree").has_value());
+    EXPECT_FALSE(test::ruleOn(g, "supportCountsWithinThree").has_value());
     g.tour->supportCount = 4;
     g.tour.write();
-    EXPECT_TRUE(ruleOn(g, "supportCountsWithinThree").has_value());
+    EXPECT_TRUE(test::ruleOn(g, "supportCountsWithinThree").has_value());
 }
 
 }  // namespace

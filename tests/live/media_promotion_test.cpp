@@ -77,12 +77,13 @@ protected:
         });
     }
     // A daily paper in England taking small articles of the value.
-    int16_t paper(const char* name, uint8_t value, uint8_t minimum = 1) {
+    int16_t paper(const char* name, uint8_t value, uint8_t minimum = 1, uint8_t minC = 0, uint8_t maxC = 100) {
         g.media.rec = MediaRecord{.mediaName = name,
                                   .reach = 1,
                                   .smallMinimum = minimum,
                                   .smallValue = value,
-                                  .maxControversy = 100,
+                                  .minControversy = minC,
+                                  .maxControversy = maxC,
                                   .country = static_cast<uint8_t>(england)};
         return static_cast<int16_t>(g.media.append());
     }
@@ -131,13 +132,8 @@ TEST_F(Media, OffersNeedANonZeroMinimumTheBandReaches) {
 }
 
 TEST_F(Media, ControversyBoundsAreInclusiveAndAStyleTakesItsDescendants) {
-    int16_t exact = paper("Exact", 69);
-    g.media->minControversy = 5;
-    g.media->maxControversy = 5;
-    g.media.write(exact);
-    int16_t below = paper("Below", 69);
-    g.media->maxControversy = 4;
-    g.media.write(below);
+    int16_t exact = paper("Exact", 69, 1, 5, 5);
+    int16_t below = paper("Below", 69, 1, 0, 4);
     EXPECT_EQ(offered(0), std::vector<int16_t>{exact});
 
     g.style.rec = StyleRecord{};
@@ -181,10 +177,7 @@ TEST_F(Media, RivalsBookBestFirstUntilPromotionPasses150) {
 }
 
 TEST_F(Media, AnAnnualIssueIsBookedOnlyWithinSixWeeks) {
-    MediaRecord m{};
-    m.frequency = 3;
-    m.issueDay = 31;
-    m.issueMonth = 12;
+    const MediaRecord m{.frequency = 3, .issueDay = 31, .issueMonth = 12};
     g.band.read(band);
     double eve = serialFromCivil(2005, 12, 31);
     EXPECT_EQ(freeIssueDays(g, m, eve - 42, 400), std::vector<double>{eve});
@@ -208,10 +201,8 @@ TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
     g.schedule.read(entry);
     int32_t item = g.news.recordCount();
     performAppearance(g);
-    g.disc.read(disc);
-    EXPECT_EQ(g.disc->promotion, (std::array<uint8_t, 5>{100, 20, 20, 20, 20}));  // 95 + 10, held
-    g.schedule.read(entry);
-    EXPECT_EQ(g.schedule->value, 1000);  // the effect in hundredths
+    EXPECT_EQ((g.disc.read(disc), g.disc->promotion), (std::array<uint8_t, 5>{100, 20, 20, 20, 20}));  // 95 + 10, held
+    EXPECT_EQ((g.schedule.read(entry), g.schedule->value), 1000);  // the effect in hundredths
     g.news.read(item);
     EXPECT_EQ(trim(g.news->title.value), "The Testers in Daily Beat");
     EXPECT_EQ(trim(g.news->text.value),

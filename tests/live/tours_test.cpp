@@ -1,8 +1,7 @@
 // The player's booking of one gig, a tour of one, and the tour's gigs.
 #include <gtest/gtest.h>
 
-#include "schedule/schedule.h"
-#include "session/invariants.h"
+#include "live_checks.h"
 #include "support/amend.h"
 #include "support/gig_world.h"
 
@@ -15,14 +14,6 @@ protected:
     int16_t hall = 0;
     Booking() { hall = addVenue("Hall", 1000, leeds); }
     GigBooking booking(double daysAhead) { return {.band = band, .venue = hall, .date = g.gameDate + daysAhead}; }
-    std::vector<uint8_t> typesOn(double date) {
-        std::vector<uint8_t> out;
-        for (int32_t id : entriesOfDay(g, date)) {
-            g.schedule.read(id);
-            out.push_back(g.schedule->type);
-        }
-        return out;
-    }
 };
 
 TEST_F(Booking, ANightNeedsSixWeeksAnActiveActOfTheLabelAndTimeBeforeARetirement) {
@@ -48,16 +39,12 @@ TEST_F(Booking, ABookedNightIsATourOfOneAndKeepsTheBandBusy) {
               std::tuple(uint8_t{1}, booked.gig, band, uint8_t{0}, int16_t{0}, std::string("E")));
     g.gig.read(booked.gig);
     EXPECT_EQ(std::tuple(g.gig->bill[0], g.gig->venue), std::tuple(band, hall));
-    EXPECT_EQ(typesOn(g.gameDate + 42), std::vector<uint8_t>{8});
+    EXPECT_EQ(test::typesOn(g, g.gameDate + 42), std::vector<uint8_t>{8});
     EXPECT_EQ(gigBookingRefusal(g, booking(42)), "The Testers are already busy on that day.");
 }
 
 TEST_F(Booking, TheCheckerFindsAGigOutsideItsTour) {
-    auto rule = [&] {
-        for (const InvariantRule& r : invariantRules())
-            if (std::string(r.name) == "gigsAndToursPointWithin") return r.check(g);
-        return std::optional<InvariantBreak>{InvariantBreak{.rule = "missing"}};
-    };
+    auto rule = [&] { return test::ruleOn(g, "gigsAndToursPointWithin"); };
     bookGig(g, {.band = band, .venue = hall, .date = g.gameDate + 42});
     EXPECT_FALSE(rule().has_value());
     // one tour on file
