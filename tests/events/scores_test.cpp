@@ -120,9 +120,11 @@ TEST_F(Scores, AFourPiecesAchievementIsEachMembersNewestFirst) {
         EXPECT_EQ(std::pair(rows[0].text, rows[1].text),
                   std::pair(std::string("(Quartet) First platinum"), std::string("(Quartet) First gold")));
     }
+    g.band.read(band);
+    addAchievement(g, 0, "Top ten");  // the platinum's day: written after it, shown before it
     const auto own = achievementsOf(g, 0, band);
-    ASSERT_EQ(own.size(), 2u);
-    EXPECT_EQ(own[0].text, "First platinum");
+    ASSERT_EQ(own.size(), 3u);
+    EXPECT_EQ(std::tuple(own[0].text, own[1].text), std::tuple(std::string("Top ten"), std::string("First platinum")));
     EXPECT_EQ(achievementsOf(g, 2, band).size(), 0u);  // a label of the same number has none
 }
 

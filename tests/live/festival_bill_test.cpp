@@ -92,6 +92,7 @@ TEST_F(FestivalBill, AnotherFestivalsBillKeepsItsActsBusy) {
 
 TEST_F(FestivalBill, AnEmptyPlaceEndsTheBill) {
     int16_t only = addAct("Only", 30);
+    addAct("Unknown", 0);  // no standing at all in the territory: never billed
     amend(g.festival, festival, [&] { g.festival->billSize = 5; });
     drawUp();
     g.gig.read(gigsOf(tour)[1]);

@@ -130,8 +130,10 @@ TEST_F(WeeklySales, DiscIncomeRecoupsTheBandsDebtFromItsShare) {
         int64_t costs, recouped, discIncome, gross;
         int32_t memberWealth;
     };
-    // 0 + 1500 - 1000 = 500: the asymmetric figure, not + 1000.
-    for (Row r : {Row{0, 0, 6000, 0, 750}, Row{2000, 1500, 7500, 1500, 0}, Row{1000, 1000, 7000, 500, 250}}) {
+    // 0 + 1500 - 1000 = 500: the asymmetric figure, not + 1000. A debt of
+    // exactly the share takes it all and counts it all as earned.
+    for (Row r : {Row{0, 0, 6000, 0, 750}, Row{2000, 1500, 7500, 1500, 0}, Row{1500, 1500, 7500, 1500, 0},
+                  Row{1000, 1000, 7000, 500, 250}}) {
         SCOPED_TRACE(r.costs);
         DiscWorld fresh;
         Game& h = fresh.g;
