@@ -1,13 +1,16 @@
 // Band and Artist Details, the options of what is on screen, the image
 // question, the hall of fame, the birthday note and a story's answers.
+#include <QChartView>
 #include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QValueAxis>
 
 #include "events/scores.h"
 #include "events/story_text.h"
 #include "floor/news_post.h"
+#include "label/finances.h"
 #include "schedule/schedule.h"
 #include "screen_fixture.h"
 #include "screens/details_extra_screens.h"
@@ -236,6 +239,24 @@ TEST_F(DetailsScreens, LabelAndStaffDetailsListTheirAchievementsNewestFirst) {
     ASSERT_EQ(staff->count(), 1);
     EXPECT_EQ(staff->item(0)->text(), "2/8/2004   Boss of the month");
     screenshot("47_frmStaffDetails_achievements");
+}
+
+TEST_F(DetailsScreens, TheLabelPagesCashChartLeavesATenthOfTheSpreadAboveAndBelow) {
+    Game& g = *game;
+    for (int32_t n = 1; n < g.ledger.recordCount(); ++n)
+        amend(g.ledger, n, [&] { g.ledger->cash = moneyUnits(1'000'000); });
+    appendLedgerRow(g, g.player.playerLabel, LedgerPeriod{}, moneyUnits(3'000'000));
+    click(window->sideBar()->btnLabelOptions);
+    ASSERT_EQ(screen(), Screen::frmLabelDetails);
+    auto* view = window->currentScreenWidget()->findChild<QChartView*>("chtCash");
+    ASSERT_NE(view, nullptr);
+    const auto axes = view->chart()->axes(Qt::Vertical);
+    ASSERT_EQ(axes.size(), 1);
+    const auto* y = qobject_cast<QValueAxis*>(axes[0]);
+    ASSERT_NE(y, nullptr);
+    // 1,000,000 to 3,000,000: a tenth of the 2,000,000 between, 200,000, is
+    // more than a twentieth of the top, 150,000.
+    EXPECT_EQ(std::pair(y->min(), y->max()), std::pair(800'000.0, 3'200'000.0));
 }
 
 TEST_F(DetailsScreens, ASessionThatStartsOnThePlayersBirthdayOpensTheNote) {
