@@ -35,6 +35,8 @@ Members membersOf(const BandRecord& band) {
     return {band.members, band.memberCount};
 }
 
+const std::size_t kArtistWealth = offsetIn<ArtistRecord>("wealth");
+
 int32_t wealthAfter(int32_t wealth, double units) {
     return narrow<int32_t>(static_cast<int64_t>(wealth) + roundTo<int32_t>(units));
 }
@@ -119,7 +121,6 @@ void addBandPoints(Game& g, int market, int32_t amount) {
 }
 
 void payArtistsEvenly(Game& g, Money amount) {
-    static const std::size_t kArtistWealth = offsetIn<ArtistRecord>("wealth");
     auto [members, n] = membersOf(g.band.rec);
     double share = moneyToDouble(amount) / g.band->memberCount;
     // Paid in the wealth of each record; the buffer is left at the last
@@ -131,7 +132,6 @@ void payArtistsEvenly(Game& g, Money amount) {
 
 void payArtists(Game& g, Money amount) {
     static const std::size_t kSongWriter = offsetIn<SongRecord>("writer");
-    static const std::size_t kArtistWealth = offsetIn<ArtistRecord>("wealth");
     static const std::size_t kArtistRoyaltyShare = offsetIn<ArtistRecord>("royaltyShare");
     auto [members, n] = membersOf(g.band.rec);
     double x = moneyToDouble(amount);

@@ -101,6 +101,12 @@ TEST_F(Bands, DiscRoyaltiesPaySharesThenTheWritersThirtyPercent) {
     EXPECT_EQ(std::tuple(g.artist->id, g.artist->wealth), std::tuple(drummer, 280 + 500))
         << "500.5 rounds to even; the buffer is left at the last member, as paid";
     EXPECT_EQ(artist(singer).wealth, 645 + 500);
+
+    const int16_t solo = addArtist();
+    addBand({solo});
+    g.artist.read(singer);
+    payArtistsEvenly(g, moneyUnits(7));
+    EXPECT_EQ(std::tuple(g.artist->id, g.artist->wealth), std::tuple(solo, 7)) << "a solo act's buffer too";
 }
 
 TEST_F(Bands, CostsAndPointsReachTheLabelItsBossAndItsHeads) {
