@@ -124,8 +124,8 @@ void addSongsVerb(CLI::App& app, SimContext& ctx) {
                         out.size() > 1 ? "," : "", s.id, jsonQuote(trim(s.title.value)), jsonQuote(writer), s.quality,
                         s.commerciality, isoDate(s.written));
                 else
-                    std::printf("%6d  %-40s  %-28s  q %3d  c %3d  %s\n", s.id, trim(s.title.value).c_str(),
-                                writer.c_str(), s.quality, s.commerciality, isoDate(s.written).c_str());
+                    fmt::print("{:6}  {:<40}  {:<28}  q {:3}  c {:3}  {}\n", s.id, trim(s.title.value).c_str(),
+                               writer.c_str(), s.quality, s.commerciality, isoDate(s.written).c_str());
             }
             if (ctx.json) std::printf("%s]\n", out.c_str());
         }
@@ -266,11 +266,11 @@ void addFirmsVerb(CLI::App& app, SimContext& ctx) {
                     jsonQuote(owner), *kind == kStudio ? "costPerDay" : "capacityPerDay",
                     *kind == kStudio ? moneyUnits(perDay) : perDay, moneyUnits(f.runningCost));
             else
-                std::printf("%5d  %-32s  %-20s  %3d%%  %-28s  %s %s  running %s\n", f.id, trim(f.name.value).c_str(),
-                            city.c_str(), f.quality, owner.c_str(), *kind == kStudio ? "day" : "capacity",
-                            *kind == kStudio ? formatMoney(g, moneyUnits(perDay), "###,###,##0").c_str()
-                                             : formatNumber(perDay, "###,###,##0").c_str(),
-                            formatMoney(g, moneyUnits(f.runningCost), "###,###,##0").c_str());
+                fmt::print("{:5}  {:<32}  {:<20}  {:3}%  {:<28}  {} {}  running {}\n", f.id, trim(f.name.value).c_str(),
+                           city.c_str(), f.quality, owner.c_str(), *kind == kStudio ? "day" : "capacity",
+                           *kind == kStudio ? formatMoney(g, moneyUnits(perDay), "###,###,##0").c_str()
+                                            : formatNumber(perDay, "###,###,##0").c_str(),
+                           formatMoney(g, moneyUnits(f.runningCost), "###,###,##0").c_str());
         }
         if (ctx.json) std::printf("%s]\n", out.c_str());
         ctx.closeGame();

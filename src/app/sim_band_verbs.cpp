@@ -245,8 +245,8 @@ void addBandVerbs(CLI::App& app, SimContext& ctx) {
                                         json.size() > 1 ? "," : "", b, jsonQuote(d.name), jsonQuote(d.style),
                                         money(g.band->initialAdvance), jsonQuote(d.label));
                 else
-                    std::printf("%5d  %-32s %-20s %14s  %s\n", b, d.name.c_str(), d.style.c_str(),
-                                formatMoney(g, g.band->initialAdvance, "###,###,##0").c_str(), d.label.c_str());
+                    fmt::print("{:5}  {:<32} {:<20} {:>14}  {}\n", b, d.name.c_str(), d.style.c_str(),
+                               formatMoney(g, g.band->initialAdvance, "###,###,##0").c_str(), d.label.c_str());
             }
             if (ctx.json) std::printf("%s]\n", json.c_str());
         } else if (int16_t b = bandNamed(ctx, g, shortlistOpts->band); b && panelOpen(ctx, g, b)) {

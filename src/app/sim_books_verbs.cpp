@@ -117,9 +117,9 @@ void addLabelVerb(CLI::App& app, SimContext& ctx) {
                     d.reputation[3].c_str(), d.reputation[4].c_str(),
                     formatMoney(g, d.wageBill, "###,###,##0").c_str());
                 for (const auto& v : d.departments)
-                    std::printf("  %-22s %2d %2d %2d %2d %2d  %4s  %-24s %s\n", v.department.c_str(), v.levels[0],
-                                v.levels[1], v.levels[2], v.levels[3], v.levels[4], v.rating.c_str(), v.head.c_str(),
-                                formatMoney(g, v.wages, "###,###,##0").c_str());
+                    fmt::print("  {:<22} {:2} {:2} {:2} {:2} {:2}  {:>4}  {:<24} {}\n", v.department.c_str(),
+                               v.levels[0], v.levels[1], v.levels[2], v.levels[3], v.levels[4], v.rating.c_str(),
+                               v.head.c_str(), formatMoney(g, v.wages, "###,###,##0").c_str());
             }
         }
         ctx.closeGame();

@@ -440,8 +440,8 @@ void addBrowseVerbs(CLI::App& app, SimContext& ctx) {
         }
         std::printf("Pos  %-11s  %-32s  %s\n", "Score", "Player", "Label");
         for (const HighScoreRow& r : rows)
-            std::printf("%3d%c %11s  %-32s  %s\n", r.position, r.game == thisGame ? '*' : ' ',
-                        formatNumber(r.score, "###,###,##0").c_str(), r.player.c_str(), r.label.c_str());
+            fmt::print("{:3}{} {:>11}  {:<32}  {}\n", r.position, r.game == thisGame ? '*' : ' ',
+                       formatNumber(r.score, "###,###,##0").c_str(), r.player.c_str(), r.label.c_str());
     });
 }
 

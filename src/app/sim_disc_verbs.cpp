@@ -328,9 +328,9 @@ void runDisc(SimContext& ctx, const std::string& key) {
                     "Sales", "Award", "Pos");
         for (int t = 0; t < 5; ++t) {
             auto i = at(t);
-            std::printf("%-8s %-10s %-28s %10d %10d %10d %5s %4s\n", kTerritoryNames[i],
-                        isoDateIfSet(d.releaseDate[i]).c_str(), firmName(g, d.distributor[i]).c_str(), d.stock[i],
-                        d.pressingOrder[i], d.totalSales[i], awardLetter(t, d.totalSales[i]), positions[i].c_str());
+            fmt::print("{:<8} {:<10} {:<28} {:10} {:10} {:10} {:>5} {:>4}\n", kTerritoryNames[i],
+                       isoDateIfSet(d.releaseDate[i]).c_str(), firmName(g, d.distributor[i]).c_str(), d.stock[i],
+                       d.pressingOrder[i], d.totalSales[i], awardLetter(t, d.totalSales[i]), positions[i].c_str());
         }
     }
     ctx.closeGame();
@@ -375,8 +375,8 @@ void runChart(SimContext& ctx, int chart, const std::string& weekText, bool csv)
         std::printf("%s, Top %d%s\n", chartTitle(chart), publishedLength(chart),
                     shown > 0 ? (", week of " + formatDate(shown, "d/m/yyyy")).c_str() : "");
         for (const ChartLine& l : lines)
-            std::printf("%3d %4s %-8s %-40s %-30s %10d %s\n", l.e.position, l.e.movement.c_str(), l.e.entry.c_str(),
-                        l.title.c_str(), l.band.c_str(), l.e.sales, l.award.c_str());
+            fmt::print("{:3} {:>4} {:<8} {:<40} {:<30} {:10} {}\n", l.e.position, l.e.movement.c_str(),
+                       l.e.entry.c_str(), l.title.c_str(), l.band.c_str(), l.e.sales, l.award.c_str());
     }
     ctx.closeGame();
 }
@@ -398,8 +398,8 @@ void runRun(SimContext& ctx, const std::string& key) {
     } else {
         if (run.empty()) std::printf("Not yet in a published chart.\n");
         for (const RunWeek& w : run)
-            std::printf("%s  %-22s %3d %10d\n", formatDate(w.week, "d/m/yyyy").c_str(), chartTitle(w.chart), w.position,
-                        w.sales);
+            fmt::print("{}  {:<22} {:3} {:10}\n", formatDate(w.week, "d/m/yyyy").c_str(), chartTitle(w.chart),
+                       w.position, w.sales);
     }
     ctx.closeGame();
 }

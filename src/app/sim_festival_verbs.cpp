@@ -49,8 +49,8 @@ void runFestivals(SimContext& ctx, std::optional<int> yearOption) {
                 out.empty() ? "" : ",", f.festival, jsonQuote(f.name), jsonQuote(f.style), jsonQuote(f.territory),
                 f.prestige, f.days, jsonQuote(first), jsonQuote(last), billed);
         else
-            std::printf("%4d  %-40s %-16s %-8s %3d %3d  %-10s %-10s %3zu\n", f.festival, f.name.c_str(),
-                        f.style.c_str(), f.territory.c_str(), f.prestige, f.days, first.c_str(), last.c_str(), billed);
+            fmt::print("{:4}  {:<40} {:<16} {:<8} {:3} {:3}  {:<10} {:<10} {:3}\n", f.festival, f.name.c_str(),
+                       f.style.c_str(), f.territory.c_str(), f.prestige, f.days, first.c_str(), last.c_str(), billed);
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
     ctx.closeGame();
@@ -77,7 +77,7 @@ void runFestival(SimContext& ctx, const std::string& key, std::optional<int> yea
                     fmt::format("{}{{\"band\":{},\"name\":{},\"label\":{},\"reputation\":{}}}", bill.empty() ? "" : ",",
                                 act.band, jsonQuote(act.name), jsonQuote(act.label), act.reputation);
             else
-                std::printf("  %-40s %-30s %3d\n", act.name.c_str(), act.label.c_str(), act.reputation);
+                fmt::print("  {:<40} {:<30} {:3}\n", act.name.c_str(), act.label.c_str(), act.reputation);
         }
         if (ctx.json)
             days += fmt::format("{}{{\"gig\":{},\"date\":{},\"venue\":{},\"bill\":[{}],\"crowd\":{},\"overall\":{}}}",

@@ -128,8 +128,8 @@ void addListVerbs(CLI::App& app, SimContext& ctx) {
         for (std::size_t i = 0; i < rows.size(); ++i) {
             const Row& r = rows[i];
             if (labels)
-                std::printf("%4d  %-32s  %-20s  %s%s\n", r.id, r.name.c_str(), r.city.c_str(), r.style.c_str(),
-                            standing[i].c_str());
+                fmt::print("{:4}  {:<32}  {:<20}  {}{}\n", r.id, r.name.c_str(), r.city.c_str(), r.style.c_str(),
+                           standing[i].c_str());
             else if (r.id == 0)
                 std::printf("      %s\n", r.name.c_str());
             else

@@ -74,8 +74,8 @@ void runVenues(SimContext& ctx, const VenuesOptions& o) {
                                jsonQuote(country), v.capacity, v.rating);
             out += crowd ? fmt::format(",\"expected\":{}}}", *crowd) : "}";
         } else {
-            std::printf("%5d  %-32s %-20s %-20s %9d %3d", n, trim(v.name.value).c_str(), city.c_str(), country.c_str(),
-                        v.capacity, v.rating);
+            fmt::print("{:5}  {:<32} {:<20} {:<20} {:9} {:3}", n, trim(v.name.value).c_str(), city.c_str(),
+                       country.c_str(), v.capacity, v.rating);
             if (crowd) std::printf(" %9d", *crowd);
             std::printf("\n");
         }
@@ -149,9 +149,9 @@ void runGigs(SimContext& ctx, const std::string& key) {
                 out.empty() ? "" : ",", n, isoDate(gig.gigDate), jsonQuote(venue), jsonQuote(city), g.venue->capacity,
                 gig.attendance, gig.overallQuality, moneyUnits(gig.profit));
         else
-            std::printf("%6d  %s  %-32s %-20s %9d %9d %3d %12s\n", n, isoDate(gig.gigDate).c_str(), venue.c_str(),
-                        city.c_str(), g.venue->capacity, gig.attendance, gig.overallQuality,
-                        formatMoney(g, moneyUnits(gig.profit), "###,###,##0").c_str());
+            fmt::print("{:6}  {}  {:<32} {:<20} {:9} {:9} {:3} {:>12}\n", n, isoDate(gig.gigDate).c_str(),
+                       venue.c_str(), city.c_str(), g.venue->capacity, gig.attendance, gig.overallQuality,
+                       formatMoney(g, moneyUnits(gig.profit), "###,###,##0").c_str());
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
     ctx.closeGame();
@@ -176,8 +176,8 @@ void runCeremonies(SimContext& ctx) {
                                out.empty() ? "" : ",", n, jsonQuote(trim(c.name.value)), jsonQuote(country),
                                jsonQuote(night), attending, c.held);
         else
-            std::printf("%4d  %-40s %-20s %-10s %-3s %d\n", n, trim(c.name.value).c_str(), country.c_str(),
-                        night.c_str(), attending ? "yes" : "no", c.held);
+            fmt::print("{:4}  {:<40} {:<20} {:<10} {:<3} {}\n", n, trim(c.name.value).c_str(), country.c_str(),
+                       night.c_str(), attending ? "yes" : "no", c.held);
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
     ctx.closeGame();
@@ -206,7 +206,7 @@ void runCeremony(SimContext& ctx, const std::string& key) {
             if (ctx.json)
                 nominees += fmt::format("{}{{\"name\":{},\"score\":{}}}", k ? "," : "", jsonQuote(who.name), who.score);
             else
-                std::printf("  %-65s %3d%s\n", who.name.c_str(), who.score, who.winner ? "  winner" : "");
+                fmt::print("  {:<65} {:3}{}\n", who.name.c_str(), who.score, who.winner ? "  winner" : "");
         }
         if (!ctx.json && a.state == AwardState::notAwarded) std::printf("  not awarded\n");
         if (ctx.json)

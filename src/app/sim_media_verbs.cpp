@@ -58,7 +58,7 @@ void runMedia(SimContext& ctx, const std::string& bandKey, const std::string& te
                                out.empty() ? "" : ",", o.media, jsonQuote(name), jsonQuote(type), jsonQuote(kind),
                                o.value);
         else
-            std::printf("%5d  %-40s %-11s %-28s %4d\n", o.media, name.c_str(), type.c_str(), kind.c_str(), o.value);
+            fmt::print("{:5}  {:<40} {:<11} {:<28} {:4}\n", o.media, name.c_str(), type.c_str(), kind.c_str(), o.value);
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
     ctx.closeGame();
@@ -120,8 +120,8 @@ void runAppearances(SimContext& ctx, const std::string& bandKey) {
                                jsonQuote(mediaKindName(e.mediaOption)), jsonQuote(label));
             out += played ? fmt::format(",\"effect\":{:.2f}}}", effect) : "}";
         } else {
-            std::printf("%6d  %s  %-30s %-34s %-28s %-24s", n, isoDate(e.date).c_str(), act.c_str(), outlet.c_str(),
-                        mediaKindName(e.mediaOption).c_str(), label.c_str());
+            fmt::print("{:6}  {}  {:<30} {:<34} {:<28} {:<24}", n, isoDate(e.date).c_str(), act.c_str(), outlet.c_str(),
+                       mediaKindName(e.mediaOption).c_str(), label.c_str());
             if (played) std::printf(" %+.2f", effect);
             std::printf("\n");
         }

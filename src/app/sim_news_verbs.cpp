@@ -164,8 +164,8 @@ void addNewsVerbs(CLI::App& app, SimContext& ctx) {
             for (const NewsRow& r : rows) {
                 g.news.read(r.record);
                 bool held = g.news->mustReply != 0 && g.news->replied == 0;
-                std::printf("%5d  %-6s  %s  %s%s\n", r.record, r.unread.c_str(), r.date.c_str(), r.title.c_str(),
-                            held ? "  [must be answered]" : "");
+                fmt::print("{:5}  {:<6}  {}  {}{}\n", r.record, r.unread.c_str(), r.date.c_str(), r.title.c_str(),
+                           held ? "  [must be answered]" : "");
             }
         }
         ctx.closeGame();

@@ -264,10 +264,10 @@ void runTours(SimContext& ctx, const ToursOptions& o) {
                 isoDate(first), isoDate(last), t.supportCount, t.contentLevel, t.hospitalityLevel, t.accommodationLevel,
                 jsonQuote(sponsor), moneyUnits(fee));
         else
-            std::printf("%5d  %-30s %s %-16s %2d  %s  %s  %d  %-30s %-20s %s\n", n, act.c_str(),
-                        trim(t.areaCode.value).c_str(), nation.c_str(), t.gigCount, isoDate(first).c_str(),
-                        isoDate(last).c_str(), t.supportCount, levelsText(t).c_str(), sponsor.c_str(),
-                        fee ? formatMoneyValue(g, fee, "###,###,##0").c_str() : "");
+            fmt::print("{:5}  {:<30} {} {:<16} {:2}  {}  {}  {}  {:<30} {:<20} {}\n", n, act.c_str(),
+                       trim(t.areaCode.value).c_str(), nation.c_str(), t.gigCount, isoDate(first).c_str(),
+                       isoDate(last).c_str(), t.supportCount, levelsText(t).c_str(), sponsor.c_str(),
+                       fee ? formatMoneyValue(g, fee, "###,###,##0").c_str() : "");
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
     ctx.closeGame();
@@ -316,9 +316,9 @@ void runTourInfo(SimContext& ctx, const std::string& key) {
                 i ? "," : "", t.gigs[i], isoDate(gig.gigDate), jsonQuote(venue), jsonQuote(city), billJson,
                 gig.attendance, gig.overallQuality, moneyUnits(gig.profit));
         else
-            std::printf("%6d  %s  %-32s %-20s %9d %3d %12s  %s\n", t.gigs[i], isoDate(gig.gigDate).c_str(),
-                        venue.c_str(), city.c_str(), gig.attendance, gig.overallQuality,
-                        formatMoneyValue(g, static_cast<double>(gig.profit), "###,###,##0").c_str(), bill.c_str());
+            fmt::print("{:6}  {}  {:<32} {:<20} {:9} {:3} {:>12}  {}\n", t.gigs[i], isoDate(gig.gigDate).c_str(),
+                       venue.c_str(), city.c_str(), gig.attendance, gig.overallQuality,
+                       formatMoneyValue(g, static_cast<double>(gig.profit), "###,###,##0").c_str(), bill.c_str());
     }
     if (ctx.json)
         std::printf("{\"tour\":%d,\"gigs\":[%s],\"road\":[%s],\"profit\":%lld}\n", tour, gigs.c_str(), road.c_str(),
@@ -376,8 +376,8 @@ void runSponsors(SimContext& ctx, const SponsorsOptions& o) {
             out += fmt::format("{}{{\"id\":{},\"name\":{},\"minimum\":{},\"fee\":{}}}", out.empty() ? "" : ",",
                                s.product, jsonQuote(name), g.product->minimumReputation, moneyUnits(s.feePerGig));
         else
-            std::printf("%4d  %-32s %3d %12s\n", s.product, name.c_str(), g.product->minimumReputation,
-                        formatMoneyValue(g, s.feePerGig, "###,###,##0").c_str());
+            fmt::print("{:4}  {:<32} {:3} {:>12}\n", s.product, name.c_str(), g.product->minimumReputation,
+                       formatMoneyValue(g, s.feePerGig, "###,###,##0").c_str());
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());
     ctx.closeGame();

@@ -4,8 +4,10 @@
 
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "session/session_record.h"
 #include "support/amend.h"
@@ -25,6 +27,7 @@ protected:
         theirs = addDisc("Theirs", 1000000, addBand("Others", rival));
         amend(g.disc, theirs, [&] { g.disc->label = rival; });
         addRow(0, theirs);
+        addRow(0, addDisc("Zoë", 1000000, addBand("Ciarán Whelan", rival)));
         writeSessionFile(g, workingSessionFile(g));
         closeAllTables(g);
     }
@@ -56,7 +59,18 @@ TEST_F(SimDiscVerbs, BadArgumentsExitTwoAndRefusalsOne) {
     EXPECT_NE(notYet.find("Ours has no release due within the week."), std::string::npos) << notYet;
 }
 
-TEST_F(SimDiscVerbs, TheChartPrintsAsJsonAndAsCsv) {
+TEST_F(SimDiscVerbs, TheChartPrintsAsTextJsonAndCsv) {
+    // Columns line up by the characters a reader sees: a name with an accent
+    // takes no more room than any other.
+    auto [textStatus, text] = sim("chart 0");
+    EXPECT_EQ(textStatus, 0);
+    std::vector<std::size_t> widths;
+    for (std::size_t at = text.find('\n') + 1, end; (end = text.find('\n', at)) != std::string::npos; at = end + 1) {
+        const std::string row = text.substr(at, text.rfind(' ', end) - at);  // up to the sales, award left out
+        widths.push_back(std::count_if(row.begin(), row.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+    }
+    EXPECT_EQ(widths, (std::vector<std::size_t>{100, 100})) << text;
+
     auto [status, json] = sim("--json chart 0");
     EXPECT_EQ(status, 0);
     EXPECT_NE(json.find("\"title\":\"UK Album Chart\""), std::string::npos) << json;
