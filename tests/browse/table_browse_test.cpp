@@ -153,6 +153,24 @@ TEST_F(TableBrowse, ABandsToursSayWhetherItHeadsOrSupports) {
     EXPECT_EQ(names(BrowseTable::tour, 2), (Names{"North America", "Brazil"}));
 }
 
+TEST_F(TableBrowse, ABandsGigsAreThoseItIsBilledOnAndEveryCeremonyIsListed) {
+    const int16_t olympia = venue("Olympia", 2000, paris);
+    g.gig.rec = GigRecord{.gigNumber = 1, .bill = {4, 7}, .venue = olympia, .attendance = 900};
+    g.gig.append();
+    g.gig.rec = GigRecord{.gigNumber = 2, .bill = {5}, .venue = olympia, .attendance = 300};
+    g.gig.append();
+    EXPECT_EQ(names(BrowseTable::gig, 4), (Names{"900", "300"}));
+    filter.band = 7;  // on the bill as the support act
+    EXPECT_EQ(names(BrowseTable::gig, 4), (Names{"900"}));
+
+    for (auto [name, in] : {std::pair{"Brits", france}, {"Grammys", brazil}}) {
+        g.ceremony.rec = CeremonyRecord{.name = name, .country = static_cast<uint8_t>(in)};
+        g.ceremony.append();
+    }
+    EXPECT_EQ(names(BrowseTable::ceremony), (Names{"Brits", "Grammys"}));
+    EXPECT_EQ(names(BrowseTable::ceremony, 1), (Names{"France", "Brazil"}));
+}
+
 TEST_F(TableBrowse, AStylesPopularityIsTheWeightedOverallFigure) {
     addStyle(g, 10, 100, 0, "Rock");
     amend(g.style, 1, [&] { g.style->popularity = {50, 100, 0, 0, 0}; });

@@ -140,6 +140,11 @@ TEST(EngagementIndex, FollowsBillsAndEntriesChangedAfterTheyWereFiled) {
     EXPECT_EQ(busyOn(g, a, kDay + 1), entry);
     addGig(g, a, kDay + 1, {b});
     EXPECT_EQ(busyOn(g, b, kDay + 1), entry);
+
+    // Entries filed in a later year's day file, its number full of nines, are followed too.
+    const double later = day(2009, 9, 9);
+    const int32_t far = file(g, 7, later, a);
+    EXPECT_EQ(busyOn(g, a, later), far);
 }
 
 TEST(EngagementIndex, ARebookedEntryStaysOnItsOldDayAndTheIndexIsBuiltAgainOnOpening) {
