@@ -168,9 +168,8 @@ TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {
     EXPECT_TRUE(build->isVisible()) << "no name: refused";
     QTest::keyClicks(build->txtName, "Nightjar Rooms");
     for (int i = 0; i < 5; ++i) click(build->cmdQualityDown);  // 50 down to 45
-    EXPECT_EQ(build->lblQuality->text().toStdString(), "45%");
-    EXPECT_EQ(build->lblCost->text().toStdString(), "£990,000");
-    EXPECT_EQ(build->lblRunningCost->text().toStdString(), "£20,250 per month");
+    EXPECT_EQ(QStringList({build->lblQuality->text(), build->lblCost->text(), build->lblRunningCost->text()}),
+              QStringList({"45%", "£990,000", "£20,250 per month"}));
     screenshotOf(build, "37_frmBuildNewFacility");
     click(build->cmdConfirm);
     ASSERT_EQ(facilities->flxBusinesses->rowCount(), 1);

@@ -72,8 +72,7 @@ TEST_F(ScreenTest, TheAssistantPlansATourOfTheHomeNationsThatTheRecordsKeep) {
         const int32_t gig = tour.gigs[static_cast<std::size_t>(i)];
         g.gig.read(gig);
         const GigRecord night = g.gig.rec;
-        EXPECT_EQ(night.bill[0], band);
-        EXPECT_EQ(night.tour, tour.tourNumber);
+        EXPECT_EQ(std::tuple(night.bill[0], night.tour), std::tuple(band, tour.tourNumber));
         played.insert(night.venue);
         int entries = 0;
         for (int32_t id : entriesOfDay(g, night.gigDate)) {

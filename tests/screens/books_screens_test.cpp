@@ -63,8 +63,7 @@ TEST_F(ScreenTest, LabelDetailsShowTheBooksAndLockDepartmentChangesIn) {
     click("cmdHireFire");
     EXPECT_FALSE(page->sldNoOfEachAbility[0]->isEnabled());
     // weighted 2 x 5 + 3 = 13 -> 8; wages 2 x 1,500 + 3 x 1,000 = 6,000
-    EXPECT_EQ(page->lblQualityR->text(), "8%");
-    EXPECT_EQ(page->lblWageBillR->text(), "£6,000");
+    EXPECT_EQ(QStringList({page->lblQualityR->text(), page->lblWageBillR->text()}), QStringList({"8%", "£6,000"}));
     game->label.read(game->player.playerLabel);
     EXPECT_EQ(std::tuple(game->label->department[1].staffAtLevel[0], game->label->department[1].rating,
                          game->label->wageBill),

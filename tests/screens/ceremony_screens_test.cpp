@@ -12,8 +12,9 @@ namespace {
 
 class CeremonyScreen : public test::ScreenTest {
 protected:
-    // An attended ceremony of one award with two nominees, held tomorrow night.
+    // A new game with an attended ceremony of one award with two nominees, held tomorrow night.
     void attendTonight() {
+        startNewGameAsPlayer();
         Game& g = *game;
         // A label wins: no speech, so the steps are known.
         g.award.rec = AwardRecord{.name = "Best Act", .kind = 3, .nomineeCount = 2, .nominees = {1, 2}};
@@ -30,7 +31,6 @@ protected:
 };
 
 TEST_F(CeremonyScreen, ANightPlaysStepByStepAndEndsOnTheNews) {
-    startNewGameAsPlayer();
     attendTonight();
     screens::frmAwardCeremony::revealInterval = 0;
     continueOneDay();
@@ -55,17 +55,14 @@ TEST_F(CeremonyScreen, ANightPlaysStepByStepAndEndsOnTheNews) {
 }
 
 TEST_F(CeremonyScreen, NextCompletesAStepBeforeGoingOn) {
-    startNewGameAsPlayer();
     attendTonight();
     screens::frmAwardCeremony::revealInterval = 60000;
     continueOneDay();
     ASSERT_NE(form(), nullptr);
     click(form()->cmdNext);  // on to the award: its first line only
-    EXPECT_EQ(form()->stepShown(), 1u);
-    EXPECT_EQ(form()->linesShown(), 1u);
+    EXPECT_EQ(std::tuple(form()->stepShown(), form()->linesShown()), std::tuple(1u, 1u));
     click(form()->cmdNext);  // the rest of it at once
-    EXPECT_EQ(form()->stepShown(), 1u);
-    EXPECT_EQ(form()->linesShown(), 4u);
+    EXPECT_EQ(std::tuple(form()->stepShown(), form()->linesShown()), std::tuple(1u, 4u));
     screens::frmAwardCeremony::revealInterval = 0;
 }
 

@@ -55,9 +55,8 @@ TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntriesAndAPastWeekAndAnotherC
     EXPECT_EQ(std::tuple(lines[0].e.movement, lines[0].e.weeks), std::tuple(std::string("-"), 3));
     EXPECT_EQ(std::tuple(lines[1].e.entry, lines[1].e.peak), std::tuple(std::string("Re-entry"), 1));
     EXPECT_EQ(std::tuple(lines[2].e.entry, lines[2].e.movement), std::tuple(std::string("New"), std::string("NE")));
-    EXPECT_EQ(form.cmbChart->count(), 10);
-    EXPECT_EQ(form.cmbWeek->count(), 3);
-    EXPECT_EQ(form.lblChartSizeR->text(), QStringLiteral("Top 40"));
+    EXPECT_EQ(std::tuple(form.cmbChart->count(), form.cmbWeek->count(), form.lblChartSizeR->text()),
+              std::tuple(10, 3, QStringLiteral("Top 40")));
     form.resize(1280, 800);
     form.show();
     screenshotOf(&form, QStringLiteral("30_frmChartForm"));

@@ -105,9 +105,7 @@ TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
     screens::frmPressDiscs form(*game, disc);
     form.show();
     EXPECT_FALSE(form.cmbQuantities[1]->isEnabled());
-    click(form.cmdQuantitiesInc[0]);
-    click(form.cmdQuantitiesInc[0]);
-    click(form.cmdQuantitiesInc[0]);
+    for (int i = 0; i < 3; ++i) click(form.cmdQuantitiesInc[0]);
     click(form.cmdQuantitiesDec[0]);
     EXPECT_EQ(form.cmbQuantities[0]->currentText(), QStringLiteral("5,000"));
     EXPECT_TRUE(form.lblCost->text().startsWith(QStringLiteral("Estimated Cost : ")))
@@ -146,9 +144,7 @@ TEST_F(DiscForms, DiscDetailsShowsEachTerritory) {
     screens::frmDiscDetails details(*window, disc);
     details.resize(1280, 800);
     details.show();
-    EXPECT_EQ(details.flxTerritories->item(0, 0)->text(), QStringLiteral("20/9/2004"));
-    EXPECT_EQ(details.flxTerritories->item(0, 2)->text(), QStringLiteral("12,000"));
-    EXPECT_EQ(details.flxTerritories->item(0, 5)->text(), QStringLiteral("S"));
+    EXPECT_EQ(cells(details.flxTerritories, 0, {0, 2, 5}), (QStringList{"20/9/2004", "12,000", "S"}));
     EXPECT_TRUE(details.cmdExtra->isEnabled());
     screenshotOf(&details, QStringLiteral("35_frmDiscDetails"));
 }

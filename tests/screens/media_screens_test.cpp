@@ -51,9 +51,7 @@ TEST_F(PromotionScreen, AnOutletIsChosenADayPickedAndTheBookingConfirmed) {
     form->show();
     form->cmbTerritory->setCurrentIndex(4);  // a global outlet is of the Other territory
     ASSERT_GE(form->flxMedia->rowCount(), 1);
-    EXPECT_EQ(form->flxMedia->item(0, 0)->text(), "Worldwide Weekly");
-    EXPECT_EQ(form->flxMedia->item(0, 2)->text(), "Global");
-    EXPECT_EQ(form->flxMedia->item(0, 4)->text(), "Large Article");
+    EXPECT_EQ(cells(form->flxMedia, 0, {0, 2, 4}), (QStringList{"Worldwide Weekly", "Global", "Large Article"}));
     EXPECT_TRUE(form->lblMediaDetails->text().contains("Weekly: Monday"));
     // Six weeks hold six Mondays; a day the act is busy is left out.
     ASSERT_GE(form->lstDates->count(), 1);

@@ -160,4 +160,10 @@ int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacit
     return static_cast<int16_t>(g.venue.append());
 }
 
+QStringList ScreenTest::cells(const QTableWidget* t, int row, std::initializer_list<int> columns) {
+    QStringList out;
+    for (int c : columns) out << (t->item(row, c) ? t->item(row, c)->text() : QStringLiteral("<none>"));
+    return out;
+}
+
 }  // namespace trovane::test

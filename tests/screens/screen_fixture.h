@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 #include <initializer_list>
 #include <memory>
@@ -58,6 +59,8 @@ protected:
     // The control of that name that is on screen (hidden pages keep controls of the same names).
     QWidget* findShown(const char* name) const;
     void screenshotOf(QWidget* w, const QString& name);
+    // The texts of a table's row at those columns ("<none>" for a missing cell).
+    static QStringList cells(const QTableWidget* t, int row, std::initializer_list<int> columns);
 };
 
 }  // namespace trovane::test

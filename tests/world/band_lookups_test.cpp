@@ -5,7 +5,7 @@
 #include <set>
 
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "support/played_world.h"
 #include "world/band_lookups.h"
 
@@ -74,9 +74,9 @@ TEST(BandLookups, AgreeWithAWalkAfterAYearOfPlay) {
     EXPECT_EQ(g.disc.rec, disc);
 }
 
-TEST(DiscLookups, AReleaseDayMovesWithTheDiscAndAnEmptiedTableIsIndexedAfresh) {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+using DiscLookups = test::GameTest;
+
+TEST_F(DiscLookups, AReleaseDayMovesWithTheDiscAndAnEmptiedTableIsIndexedAfresh) {
     for (int16_t band : {4, 7}) {
         g.disc.rec = DiscRecord{.releaseDate = {kNoDate, kNoDate, kNoDate, kNoDate, kNoDate}, .band = band};
         g.disc.append();

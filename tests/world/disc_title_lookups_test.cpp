@@ -1,19 +1,16 @@
 #include <gtest/gtest.h>
 
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/disc_title_lookups.h"
 
 using namespace trovane;
 
 namespace {
 
-struct DiscTitles : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+struct DiscTitles : test::GameTest {
     int32_t add(const std::string& title) {
-        g.disc.rec = DiscRecord{};
-        g.disc->title = title;
+        g.disc.rec = DiscRecord{.title = title};
         return g.disc.append();
     }
     void retitle(int32_t n, const std::string& title) {

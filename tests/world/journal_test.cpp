@@ -129,12 +129,9 @@ TEST_F(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
     fs::path bands = g.dataDir / "band.vel";
     fs::path year = g.dataDir / "2006.vel";
     auto bandsBefore = fs::file_size(bands);
-    g.band.rec = BandRecord{};
-    g.band->name = "Night Ferry";
+    g.band.rec = BandRecord{.name = "Night Ferry"};
     g.band.append();
-    ScheduleRecord entry{};
-    entry.type = 1;
-    entry.date = serialFromCivil(2006, 1, 2);
+    const ScheduleRecord entry{.type = 1, .date = serialFromCivil(2006, 1, 2)};
     addSchedule(g, entry);  // files the year 2006
     EXPECT_EQ(fs::file_size(bands), bandsBefore);
     EXPECT_FALSE(fs::exists(year));
@@ -149,8 +146,7 @@ TEST_F(DayCommit, TheDaysWritesReachNoFileBeforeTheCommitAndAllAfterIt) {
 
 TEST_F(DayCommit, RecordsChangedFarApartAreWrittenWithoutWhatLiesBetween) {
     for (int i = 1; i <= 40; ++i) {
-        g.band.rec = BandRecord{};
-        g.band->name = "Band " + std::to_string(i);
+        g.band.rec = BandRecord{.name = "Band " + std::to_string(i)};
         g.band.append();
     }
     flushAllTables(g);

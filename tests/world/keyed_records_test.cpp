@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/matching_records.h"
 #include "world/record_bytes.h"
 
@@ -22,15 +22,10 @@ KeyedRecords<int16_t>::Keys castOf(std::span<const uint8_t> bytes) {
     return keys;
 }
 
-struct KeyedSchedule : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+struct KeyedSchedule : test::GameTest {
     KeyedRecords<int16_t> cast;
     int32_t add(uint8_t type, int16_t a, int16_t b) {
-        g.schedule.rec = ScheduleRecord{};
-        g.schedule->type = type;
-        g.schedule->artist = a;
-        g.schedule->artist2 = b;
+        g.schedule.rec = ScheduleRecord{.type = type, .artist = a, .artist2 = b};
         return g.schedule.append();
     }
     std::vector<int32_t> of(int16_t artist) {
@@ -75,8 +70,7 @@ TEST_F(KeyedSchedule, ManyKeysDifferingInTheirHighBitsAreEachFoundAfterTheIndexG
         return keys;
     });
     for (int day = 1; day <= 300; ++day) {
-        g.schedule.rec = ScheduleRecord{};
-        g.schedule->date = day;
+        g.schedule.rec = ScheduleRecord{.date = static_cast<double>(day)};
         g.schedule.append();
     }
     for (uint32_t day = 1; day <= 300; ++day) ASSERT_EQ(byDay.firstOf(day << 16), static_cast<int32_t>(day));

@@ -2,20 +2,16 @@
 
 #include "day/daily_cycle.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/news_lookups.h"
 
 using namespace trovane;
 
 namespace {
 
-struct News : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+struct News : test::GameTest {
     int32_t add(int16_t mustReply, int16_t replied) {
-        g.news.rec = NewsRecord{};
-        g.news->mustReply = mustReply;
-        g.news->replied = replied;
+        g.news.rec = NewsRecord{.replied = replied, .mustReply = mustReply};
         return g.news.append();
     }
     void setReplied(int32_t n, int16_t replied) {

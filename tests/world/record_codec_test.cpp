@@ -61,8 +61,7 @@ TEST(TextField, IsStoredAsBlankPaddedWindows1252) {
         {"", "", ""},
     };
     for (const auto& c : cases) {
-        CityRecord city{};
-        city.name = c.value;
+        const CityRecord city{.name = c.value};
         std::vector<uint8_t> bytes(CityRecord::kLength);
         encodeRecord(city, bytes.data());
         std::string name(bytes.begin() + 2, bytes.begin() + 22);

@@ -1,11 +1,12 @@
 // Records as text and as JSON, the way trovane-sim and trovane-world show them.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <limits>
 
+#include "support/game_test.h"
 #include "support/temp_folder.h"
-#include "world/fatal_error.h"
 #include "world/record_dump.h"
 
 using namespace trovane;
@@ -13,13 +14,9 @@ using namespace trovane;
 namespace {
 
 LabelRecord sampleLabel() {
-    LabelRecord l{};
-    l.id = 3;
-    l.name = "Rival \"Q\" Records";
-    l.hype = {1, -2, 0, 0, 300};
+    LabelRecord l{.id = 3, .name = "Rival \"Q\" Records", .cashBalance = -50000, .hype = {1, -2, 0, 0, 300}};
     l.period[1].expense[2] = 12345;
     l.department[5].head = 77;
-    l.cashBalance = -50000;
     return l;
 }
 
@@ -32,8 +29,7 @@ TEST(RecordDump, TextShowsEveryFieldOnItsOwnLineAndNestedRecordsAsJson) {
     EXPECT_NE(text.find("\"head\":77"), std::string::npos);
     EXPECT_EQ(text.substr(text.rfind('\n') + 1, 12), "chartPeaks: ");
 
-    ScheduleRecord s{};
-    s.date = 38204;
+    const ScheduleRecord s{.date = 38204};
     EXPECT_NE(recordToString(s, DumpFormat::text).find("\ndate: 38204 (2004-08-05)\n"), std::string::npos);
 }
 
@@ -43,9 +39,8 @@ TEST(RecordDump, JsonEscapesControlCharactersAndGivesNullForNumbersItCannotHold)
     EXPECT_NE(json.find(",\"hype\":[1,-2,0,0,300],"), std::string::npos);
     EXPECT_EQ(json.back(), '}');
 
-    TourRecord t{};
-    t.areaCode.value = std::string("\0\t\x1f", 3);
-    t.averageQuality = std::numeric_limits<float>::quiet_NaN();
+    const TourRecord t{.areaCode = std::string("\0\t\x1f", 3),
+                       .averageQuality = std::numeric_limits<float>::quiet_NaN()};
     std::string tour = recordToString(t, DumpFormat::json);
     EXPECT_NE(tour.find("\"areaCode\":\"\\u0000\\t\\u001f\""), std::string::npos) << tour;
     EXPECT_NE(tour.find("\"averageQuality\":null"), std::string::npos);
@@ -69,11 +64,10 @@ TEST(RecordDump, TableFileDumpsEveryRecordAndRefusesADamagedFile) {
     EXPECT_EQ(dumpTableFile(file, FileNo::fileShortlist, DumpFormat::json),
               "[{\"id\":1,\"band\":-1,\"label\":10},\n{\"id\":2,\"band\":-2,\"label\":20}]\n");
 
+    // A file of 17 bytes is no whole number of 8-byte records.
     std::ofstream(file, std::ios::binary | std::ios::app) << 'x';
-    try {
-        dumpTableFile(file, FileNo::fileShortlist, DumpFormat::text);
-        FAIL() << "a file of 17 bytes was dumped as 8-byte records";
-    } catch (const FatalError& e) { EXPECT_NE(std::string(e.what()).find("shortlist.sg2"), std::string::npos); }
+    EXPECT_THAT(test::fatalMessage([&] { dumpTableFile(file, FileNo::fileShortlist, DumpFormat::text); }),
+                ::testing::HasSubstr("shortlist.sg2"));
 }
 
 TEST(RecordDump, FileNamesTellTheirTable) {

@@ -1,5 +1,6 @@
 // The record store: counting, the one buffer per table, searching by name,
 // compaction, and the errors that stop the game.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
@@ -16,6 +17,7 @@
 
 using namespace trovane;
 using test::fatalMessage;
+using ::testing::HasSubstr;
 
 namespace {
 
@@ -149,8 +151,7 @@ TEST_F(RecordStore, RecordsCountFromOneAndReadingPastTheEndStopsTheGameNamingThe
     EXPECT_EQ(recordCount(g, FileNo::fileBand), 2);
     EXPECT_THROW(recordCount(g, FileNo::fileTemp), FatalError);
     for (int32_t n : {0, 2, -1}) {
-        std::string message = fatalMessage([&] { g.band.read(n); });
-        EXPECT_NE(message.find("band"), std::string::npos) << message;
+        EXPECT_THAT(fatalMessage([&] { g.band.read(n); }), HasSubstr("band"));
     }
     EXPECT_THROW(g.band.write(3), FatalError);  // only the next free number adds a record
     EXPECT_FALSE(g.band.readIfPresent(2));
@@ -160,8 +161,7 @@ TEST_F(RecordStore, RecordsCountFromOneAndReadingPastTheEndStopsTheGameNamingThe
 TEST_F(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
     for (int32_t n = 1; n <= 32767; ++n) add(g.look, [](LookRecord&) {});
     EXPECT_EQ(g.look->id, 32767);
-    std::string message = fatalMessage([&] { add(g.look, [](LookRecord&) {}); });
-    EXPECT_NE(message.find("look"), std::string::npos) << message;
+    EXPECT_THAT(fatalMessage([&] { add(g.look, [](LookRecord&) {}); }), HasSubstr("look"));
     EXPECT_EQ(g.look.recordCount(), 32768);  // the file did not grow
 }
 
@@ -290,11 +290,8 @@ TEST_F(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEven
 }
 
 TEST_F(CompactTable, KeepsTheWantedRecordsInOrderNumberedFromOneAndMayKeepNone) {
-    for (auto [band, label] : {std::pair{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
-        add(g.shortlist, [&](ShortlistRecord& r) {
-            r.band = static_cast<int16_t>(band);
-            r.label = static_cast<int16_t>(label);
-        });
+    for (auto [band, label] : {std::pair<int16_t, int16_t>{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
+        put(g.shortlist, ShortlistRecord{.band = band, .label = label});
     compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
     ASSERT_EQ(g.shortlist.recordCount(), 4);
     g.shortlist.read(2);

@@ -2,16 +2,14 @@
 
 #include "label/scouting.h"
 #include "support/amend.h"
-#include "support/empty_game.h"
+#include "support/game_test.h"
 #include "world/shortlist_lookups.h"
 
 using namespace trovane;
 
 namespace {
 
-struct ShortlistPairs : ::testing::Test {
-    test::EmptyGame eg;
-    Game& g = eg.g;
+struct ShortlistPairs : test::GameTest {
     int32_t add(int16_t band, int16_t label) {
         g.shortlist.rec = ShortlistRecord{.band = band, .label = label};
         return g.shortlist.append();

@@ -1,4 +1,5 @@
 // Opening and copying the table set, and the files used one operation at a time.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -16,6 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 using test::fatalMessage;
+using ::testing::HasSubstr;
 using OpenAllTables = test::GameTest;
 using OpenTable = test::GameTest;
 using CopyTableSet = test::GameTest;
@@ -24,12 +26,10 @@ using PerUseFiles = test::GameTest;
 TEST_F(OpenAllTables, AMissingOrBrokenWorldTableIsAnErrorNamingItsFile) {
     closeAllTables(g);
     fs::remove(g.dataDir / "country.vel");
-    std::string missing = fatalMessage([&] { openAllTables(g, "vel"); });
-    EXPECT_NE(missing.find("country.vel"), std::string::npos) << missing;
+    EXPECT_THAT(fatalMessage([&] { openAllTables(g, "vel"); }), HasSubstr("country.vel"));
     closeAllTables(g);
     std::ofstream(g.dataDir / "country.vel", std::ios::binary) << std::string(CountryRecord::kLength + 1, 'x');
-    std::string broken = fatalMessage([&] { openAllTables(g, "vel"); });
-    EXPECT_NE(broken.find("country.vel"), std::string::npos) << broken;
+    EXPECT_THAT(fatalMessage([&] { openAllTables(g, "vel"); }), HasSubstr("country.vel"));
 }
 
 TEST_F(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
@@ -61,16 +61,14 @@ TEST_F(OpenTable, OpensEachTableUnderItsOwnFileName) {
         closeTable(g, c.file);
         EXPECT_FALSE(tableByNumber(g, c.file).isOpen());
     }
-    std::string fact = fatalMessage([&] { openTable(g, FileNo::fileFact); });
-    EXPECT_NE(fact.find("fact.gam"), std::string::npos) << fact;
+    EXPECT_THAT(fatalMessage([&] { openTable(g, FileNo::fileFact); }), HasSubstr("fact.gam"));
     EXPECT_THROW(openTable(g, FileNo::fileDay), FatalError);
 }
 
 TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTargetAndRefusesAnOpenTableOrAMissingSource) {
     g.band.rec.name = "Saved";
     g.band.append();
-    std::string open = fatalMessage([&] { copyTableSet(g, "vel", "sg1"); });
-    EXPECT_NE(open.find("still open"), std::string::npos) << open;
+    EXPECT_THAT(fatalMessage([&] { copyTableSet(g, "vel", "sg1"); }), HasSubstr("still open"));
     EXPECT_FALSE(fs::exists(g.dataDir / "artist.sg1"));
     closeAllTables(g);
     std::ofstream(g.dataDir / "chart9.vel", std::ios::binary) << std::string(ChartRow::kLength, '\1');
@@ -86,21 +84,18 @@ TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTargetAndRefusesAnOpenTableOr
     EXPECT_EQ(fs::file_size(g.dataDir / "chart9.sg1"), ChartRow::kLength);
 
     fs::remove(g.dataDir / "chart7.vel");
-    std::string missing = fatalMessage([&] { copyTableSet(g, "vel", "sg2"); });
-    EXPECT_NE(missing.find("chart7.vel"), std::string::npos) << missing;
+    EXPECT_THAT(fatalMessage([&] { copyTableSet(g, "vel", "sg2"); }), HasSubstr("chart7.vel"));
 }
 
 TEST_F(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
-    std::string missing = fatalMessage([&] { openDayFile(g, 2031); });
-    EXPECT_NE(missing.find("2031.vel"), std::string::npos) << missing;
+    EXPECT_THAT(fatalMessage([&] { openDayFile(g, 2031); }), HasSubstr("2031.vel"));
 
     copyEmptyFile(g, g.dataDir / "2031.vel");
     openDayFile(g, 2031);
     g.dayIndex->entries[0] = 17;
     g.dayIndex->count = 1;
     g.dayIndex.write(1);
-    std::string twice = fatalMessage([&] { openDayFile(g, 2032); });
-    EXPECT_NE(twice.find("2031.vel"), std::string::npos) << twice;
+    EXPECT_THAT(fatalMessage([&] { openDayFile(g, 2032); }), HasSubstr("2031.vel"));
     closeDayFile(g);
     EXPECT_FALSE(g.dayIndex.isOpen());
     // Closed, the day waits for the commit; the commit writes it.
@@ -112,8 +107,7 @@ TEST_F(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
     openDayFile(g, 2031);
     g.dayIndex.read(1);
     closeDayFile(g);
-    EXPECT_EQ(g.dayIndex->count, 1);
-    EXPECT_EQ(g.dayIndex->entries[0], 17);
+    EXPECT_EQ(std::tuple(g.dayIndex->count, g.dayIndex->entries[0]), std::tuple(1, 17));
 }
 
 TEST_F(PerUseFiles, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables) {
@@ -125,8 +119,7 @@ TEST_F(PerUseFiles, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables
     };
     auto writeDayOne = [&](int32_t count) {
         openDayFile(g, 2031);
-        g.dayIndex.rec = DayRecord{};
-        g.dayIndex->count = count;
+        g.dayIndex.rec = DayRecord{.count = count};
         g.dayIndex.write(1);
         closeDayFile(g);
     };
