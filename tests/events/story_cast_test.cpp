@@ -262,6 +262,22 @@ TEST_F(Stories, ADayRollsOneEventFewerThanItsRolls) {
     EXPECT_NE(g.rng.draw(), untouched.draw());
 }
 
+// A roll starts a story only below the event's chance: never at 0, now and then at 1.
+TEST_F(Stories, AnEventOfNoChanceNeverStartsAndOneOfTheLeastChanceDoes) {
+    twoStageStory(2);
+    amend(g.event, 1, [&] {
+        g.event->isRoot = -1;
+        g.event->chance = 0;
+    });
+    g.eventRollsPerDay = 255;
+    const int32_t entries = g.schedule.recordCount();
+    for (int day = 0; day < 20; ++day) runRandomEvents(g);  // 5,080 rolls
+    EXPECT_EQ(g.schedule.recordCount(), entries);
+    amend(g.event, 1, [&] { g.event->chance = 1; });
+    for (int day = 0; day < 5; ++day) runRandomEvents(g);
+    EXPECT_GT(g.schedule.recordCount(), entries);
+}
+
 // A story drawn to start casts each of its participants, two different artists.
 TEST_F(Stories, AStoryDrawnToStartCastsEveryParticipant) {
     twoStageStory(2);

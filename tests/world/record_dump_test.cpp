@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
 #include <limits>
 
@@ -29,8 +30,14 @@ TEST(RecordDump, TextShowsEveryFieldOnItsOwnLineAndNestedRecordsAsJson) {
     EXPECT_NE(text.find("\"head\":77"), std::string::npos);
     EXPECT_EQ(text.substr(text.rfind('\n') + 1, 12), "chartPeaks: ");
 
-    const ScheduleRecord s{.date = 38204};
-    EXPECT_NE(recordToString(s, DumpFormat::text).find("\ndate: 38204 (2004-08-05)\n"), std::string::npos);
+    for (auto [serial, shown] : {std::pair{38204.0, "38204 (2004-08-05)"}, {1.0, "1 (1899-12-31)"}, {0.0, "0"}}) {
+        const ScheduleRecord s{.date = serial};
+        EXPECT_NE(recordToString(s, DumpFormat::text).find(std::string("\ndate: ") + shown + "\n"), std::string::npos)
+            << shown;
+    }
+    // Text shows a number it cannot hold as it is; only JSON needs null.
+    const std::string tour = recordToString(TourRecord{.averageQuality = std::nanf("")}, DumpFormat::text);
+    EXPECT_NE(tour.find("\naverageQuality: nan"), std::string::npos) << tour;
 }
 
 TEST(RecordDump, JsonEscapesControlCharactersAndGivesNullForNumbersItCannotHold) {

@@ -65,6 +65,13 @@ TEST(FieldReader, RefusesWhatDoesNotFitAndSaysWhere) {
     nested.read<LabelRecord>("department = [ { boss = 1 } ]\n");
     ASSERT_EQ(nested.diag.sorted().size(), 1u);
     EXPECT_EQ(nested.diag.sorted()[0].message, "unknown field `department.boss`");
+
+    Reading money;
+    money.read<StaffRecord>("wage = 900000000000000\n");  // the most an amount may be
+    EXPECT_TRUE(money.diag.clean());
+    money.read<StaffRecord>("wage = 900000000000001\n");
+    ASSERT_EQ(money.diag.sorted().size(), 1u);
+    EXPECT_EQ(money.diag.sorted()[0].message, "`wage` is out of range for an amount of money");
 }
 
 }  // namespace
