@@ -104,6 +104,7 @@ TEST_F(SaveSlots, OverwriteDeleteAndDetails) {
     EXPECT_EQ(slotName(g, 5), "Again");
     readPrefs(g);
     EXPECT_EQ(g.prefs->slotUsed[5], kTrue);
+    for (int slot : {-1, 10}) EXPECT_THROW(saveGame(g, slot, "Nowhere"), SlotError) << slot;  // slots 0 to 9
 }
 
 struct Damage {
