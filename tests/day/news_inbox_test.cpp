@@ -64,6 +64,9 @@ TEST_F(NewsInbox, ListIsNewestFirstWithoutDeletedItemsAndSorts) {
         sortNewsRows(rows, sort);
         EXPECT_EQ(records(rows), order) << header;
     }
+    std::vector<NewsRow> many{{.record = 10}, {.record = 9}, {.record = 2}};
+    sortNewsRows(many, sort);
+    EXPECT_EQ(records(many), (std::vector<int32_t>{2, 9, 10})) << "numbers sort as numbers";
     ASSERT_TRUE(clickNewsRow(g, rows, 1));
     EXPECT_EQ(g.news->id, 3);
     EXPECT_EQ(g.currentScreen, Screen::frmNewsFull);
