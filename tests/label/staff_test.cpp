@@ -203,6 +203,7 @@ TEST_F(StaffGame, AReleasedHeadLeavesTheDepartmentAndAsksTheMarketRate) {
         g.label->wageBill = units(2000);
     });
     EXPECT_EQ(checkTerminateStaff(g, ann), "");
+    const double firedOn = g.gameDate;
     terminateStaff(g, ann);
     EXPECT_NE(checkTerminateStaff(g, ann), "") << "already on notice";
     playDay();
@@ -211,6 +212,7 @@ TEST_F(StaffGame, AReleasedHeadLeavesTheDepartmentAndAsksTheMarketRate) {
     EXPECT_EQ(std::tuple(l.department[financeAndLaw].head, l.department[financeAndLaw].rating, l.wageBill),
               std::tuple(int16_t{0}, uint8_t{0}, Money{0}));
     EXPECT_EQ(title(), "Ann Smith released by Kettle Records.");
+    EXPECT_EQ(g.news->date, firedOn + 1) << "the news comes out the next day";
     // July to August is one calendar month, though only five days.
     EXPECT_NE(lastText().find("after only 1 months in the job"), std::string::npos);
 }
