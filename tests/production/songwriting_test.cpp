@@ -79,7 +79,8 @@ TEST_F(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWriting
     int16_t noPens = addBand("No Pens", AlbumWorld::kPlayer, 2, 0, 100);       // 11, 12: the leader can't write
     int16_t retired = addBand("Gone", AlbumWorld::kPlayer, 1, 90, 100);        // 13
     amend(g.artist, 13, [&] { g.artist->retired = -1; });
-    for (int16_t b : {recording, ending, writing, idle, follower, noPens, retired}) {
+    int16_t lastPens = addBand("Last Pens", AlbumWorld::kPlayer, 1, 0, 100);  // 14, the last artist, can't write
+    for (int16_t b : {recording, ending, writing, idle, follower, noPens, retired, lastPens}) {
         g.band.read(b);
         g.band->albumStatus = b == recording ? 2 : b == idle ? 0 : 1;
         if (b == ending) g.band->contractEnd = g.gameDate + 100;
@@ -100,6 +101,7 @@ TEST_F(Songwriting, OwnWorkStopsWhileRecordingAndBoughtSongsComeOnlyFromAWriting
     EXPECT_EQ(ownAndBought.count(ending), 0u) << "an announced end: nothing at all";
     EXPECT_EQ(ownAndBought.count(noPens), 0u) << "a leader who can't write neither writes nor buys in";
     EXPECT_EQ(ownAndBought.count(retired), 0u) << "a retired artist neither writes nor buys in";
+    EXPECT_EQ(ownAndBought.count(lastPens), 0u) << "nor does the last artist of all when it can't write";
     EXPECT_GT(ownAndBought[writing].first, 0);
     EXPECT_GT(ownAndBought[writing].second, 0) << "the leader buys in on weeks without a song";
     EXPECT_GT(ownAndBought[idle].first, 0);
