@@ -206,6 +206,19 @@ TEST_F(Release, DistributorNeededMovesItsDateAndNamesTheTerritories) {
     EXPECT_EQ(g.news->scheduleLink, entry);
 }
 
+TEST_F(Release, ARivalsDiscGetsADistributorOnlyWhereItIsOutNextWeek) {
+    int16_t d = recorded();
+    const double out = g.gameDate + 7;
+    amend(g.disc, d, [&] {
+        g.disc->label = rival;
+        g.disc->releaseDate = {out, out + 7, 0, 0, 0};
+        g.disc->stock = {1000, 1000, 0, 0, 0};
+    });
+    g.schedule.read(addSchedule(g, ScheduleRecord{.type = 26, .date = g.gameDate, .disc = d}));
+    distributorNeeded(g);
+    EXPECT_EQ(std::pair(disc(d).distributor[0], disc(d).distributor[1]), std::pair(distributor, int16_t{0}));
+}
+
 TEST_F(Release, ReleaseDayPutsTheDiscOnSaleWhereItIsOutToday) {
     int16_t d = recorded();
     amend(g.disc, d, [&] {
