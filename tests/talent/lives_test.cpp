@@ -263,3 +263,51 @@ TEST_F(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
         if (count) { EXPECT_NEAR(count / 2000.0, 0.02, 0.012); }
     }
 }
+
+TEST_F(Retirement, ASoloActGoesWithItsArtist) {
+    readyForNewActs();
+    const double tomorrow = g.gameDate + 1;
+    // A solo artist's notice is the act's: a year's notice, nothing filed for the artist.
+    int16_t solo = group("Solo", 90, 1);
+    g.schedule.rec = ScheduleRecord{.type = 29, .artist = narrow<int16_t>(member(solo, 0))};
+    announceArtistRetirement(g);
+    auto filed = entries();
+    ASSERT_EQ(filed.size(), 1u);
+    EXPECT_EQ(std::tuple(filed[0].type, filed[0].date, filed[0].band), std::tuple(uint8_t{28}, g.gameDate + 365, solo));
+    EXPECT_EQ((g.band.read(solo), g.band->contractEnd), g.gameDate + 365);
+    EXPECT_EQ(lastNews().title.value, "Solo announces planned retirement.");
+    amend(g.artist, member(solo, 0), [&] { g.artist->job = 9; });
+
+    // A chain that takes a solo artist ends that act the same day.
+    int16_t x = group("X"), y = group("Y", 50, 1);
+    amend(g.artist, member(x, 1), [&] { g.artist->job = 9; });
+    const int32_t a = member(x, 0), b = member(y, 0);
+    g.schedule.clearAll();
+    g.schedule.rec = ScheduleRecord{.type = 29, .artist = narrow<int16_t>(a)};
+    announceArtistRetirement(g);
+    filed = entries();
+    ASSERT_EQ(filed.size(), 2u);
+    EXPECT_EQ(std::tuple(filed[0].type, filed[0].band, filed[0].artist, filed[0].artist2),
+              std::tuple(uint8_t{30}, x, int16_t(a), int16_t(b)));
+    EXPECT_EQ(std::tuple(filed[1].type, filed[1].date, filed[1].band), std::tuple(uint8_t{28}, tomorrow, y));
+    EXPECT_EQ((g.band.read(y), g.band->contractEnd), tomorrow);
+
+    // With nobody to take the place, a group calls it a day and a solo act ends.
+    int16_t z = group("Z", 90), w = group("W", 90, 1);
+    const int32_t z0 = member(z, 0), z1 = member(z, 1), w0 = member(w, 0);
+    g.schedule.rec = ScheduleRecord{.type = 30, .artist = narrow<int16_t>(z0)};
+    retireArtist(g, 1, narrow<int16_t>(z0));
+    EXPECT_EQ((g.news.read(newsCount() - 1), g.news->title.value), "Z call it a day.");
+    EXPECT_EQ(lastNews().title.value, "Z retire.");
+    // A solo act ends even with a replacement named.
+    g.schedule.rec =
+        ScheduleRecord{.type = 30, .artist = narrow<int16_t>(w0), .artist2 = narrow<int16_t>(freeArtist(50, 50))};
+    const int32_t news = newsCount();
+    retireArtist(g, 1, narrow<int16_t>(w0));
+    EXPECT_EQ(newsCount(), news + 1);
+    EXPECT_EQ(lastNews().title.value, "W retire.");
+    auto bandOf = [&](int32_t n) { return (g.artist.read(n), g.artist->band); };
+    EXPECT_EQ(std::tuple(bandOf(z0), bandOf(z1), bandOf(w0)), std::tuple(0, 0, 0));
+    EXPECT_EQ(std::tuple((g.band.read(z), g.band->retired), (g.band.read(w), g.band->retired)),
+              std::tuple(kTrue, kTrue));
+}
