@@ -295,8 +295,6 @@ std::string regionName(const std::string& letter) {
     return "";
 }
 
-std::string browseTableName(BrowseTable t) { return kTableNames[static_cast<std::size_t>(t)]; }
-
 std::optional<BrowseTable> browseTableNamed(const std::string& name) {
     for (std::size_t i = 0; i < kTableNames.size(); ++i)
         if (name == kTableNames[i]) return static_cast<BrowseTable>(i);

@@ -30,8 +30,7 @@ struct BrowseFilter {
     int16_t band = 0;                   // disc, song, tour, gig: the band's own; 0 all
 };
 
-// The table's name in trovane-sim ("venue", ...), and back; nullopt if none.
-std::string browseTableName(BrowseTable t);
+// The table of a trovane-sim name ("venue", ...); nullopt if none.
 std::optional<BrowseTable> browseTableNamed(const std::string& name);
 
 // Fills the grid with the records that pass the filter, then sorts.

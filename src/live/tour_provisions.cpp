@@ -130,28 +130,12 @@ void removeSupportBand(Game& g, int16_t tour, int16_t band) {
     }
 }
 
-std::string levelsRefusal(int content, int hospitality, int accommodation) {
-    auto inRange = [](int v) { return v >= 0 && v <= 4; };
-    if (!inRange(content) || !inRange(hospitality) || !inRange(accommodation))
-        return "Production levels run from 0 to 4.";
-    return {};
-}
-
 void setTourLevels(Game& g, int16_t tour, int content, int hospitality, int accommodation) {
     g.tour.read(tour);
     g.tour->contentLevel = static_cast<uint8_t>(content);
     g.tour->hospitalityLevel = static_cast<uint8_t>(hospitality);
     g.tour->accommodationLevel = static_cast<uint8_t>(accommodation);
     g.tour.write();
-}
-
-std::string sponsorRefusal(Game& g, int16_t tour, int16_t product) {
-    if (tour < 1 || tour >= g.tour.recordCount()) return "There is no such tour.";
-    if (product == 0) return {};
-    if (product < 0 || product >= g.product.recordCount()) return "There is no such product.";
-    if (productFitsTour(g, tour, product)) return {};
-    g.product.read(product);
-    return trim(g.product->name.value) + " isn't willing to sponsor this tour.";
 }
 
 void setTourSponsor(Game& g, int16_t tour, int16_t product) {

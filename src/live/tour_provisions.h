@@ -32,12 +32,8 @@ void addSupportBand(Game& g, int16_t tour, int16_t band);
 // Takes `band` off every gig's bill, the places after it moving up.
 void removeSupportBand(Game& g, int16_t tour, int16_t band);
 
-// Why the levels can't be had: each runs from 0 to 4.
-std::string levelsRefusal(int content, int hospitality, int accommodation);
 void setTourLevels(Game& g, int16_t tour, int content, int hospitality, int accommodation);
 
-// Why `product` can't sponsor the tour; empty when it can (0 is no sponsor).
-std::string sponsorRefusal(Game& g, int16_t tour, int16_t product);
 // The tour's sponsor becomes `product` (0 for none).
 void setTourSponsor(Game& g, int16_t tour, int16_t product);
 // The "Confirm Sponsor" question.

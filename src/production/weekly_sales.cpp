@@ -123,8 +123,6 @@ void sellRow(Game& g, int chart, int32_t position) {
 
 }  // namespace
 
-Thresholds certificationThresholds(int t) { return kThresholds[at(t)]; }
-
 const char* awardLetter(int t, int32_t sales) {
     static thread_local std::string text;
     Thresholds th = kThresholds[at(t)];

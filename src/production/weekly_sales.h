@@ -34,7 +34,6 @@ void updateBestSellers(Game& g);
 struct Thresholds {
     int32_t silver, gold, platinum;
 };
-Thresholds certificationThresholds(int t);
 // The award column of a chart: "", "S", "G", "P" or "P(n)".
 const char* awardLetter(int t, int32_t sales);
 
