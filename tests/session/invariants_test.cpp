@@ -165,7 +165,94 @@ INSTANTIATE_TEST_SUITE_P(
                   });
                   put(g.disc, DiscRecord{.band = 1});
               },
-              "band", 2, "songsWritten", "recordingBandsNameTheirDisc"}),
+              "band", 2, "songsWritten", "recordingBandsNameTheirDisc"},
+        // Each reference one past its table (two labels, one staff member, no other records).
+        Fault{"ALedgerRowOfNoLabel", [](Game& g) { put(g.ledger, LedgerRecord{.label = 3}); }, "ledger", 5, "label",
+              "ledgerRowNamesALabel"},
+        Fault{"AHeadWhoIsNoStaff", [](Game& g) { onLabel(g, 1, [](auto& l) { l.department[4].head = 2; }); }, "label",
+              1, "department[4].head", "departmentHeadsWorkThere"},
+        Fault{"APlayerOfNoLabel", [](Game& g) { g.player.playerLabel = 3; }, "session", 0, "playerLabel",
+              "playerCashIsTheLabels"},
+        Fault{"ElevenMembers", [](Game& g) { addBand(g, [](auto& b) { b.memberCount = 11; }); }, "band", 1,
+              "memberCount", "bandsHoldTheirFields"},
+        Fault{"AnAlbumStatusOfFour", [](Game& g) { addBand(g, [](auto& b) { b.albumStatus = 4; }); }, "band", 1,
+              "albumStatus", "bandsHoldTheirFields"},
+        Fault{"AnOfferOfNoLabel",
+              [](Game& g) {
+                  addBand(g, [](auto&) {});
+                  put(g.offer, OfferRecord{.label = 3, .band = 1});
+              },
+              "offer", 1, "label", "offersAndShortlistPointWithin"},
+        Fault{"AShortlistRowOfNoBand", [](Game& g) { put(g.shortlist, ShortlistRecord{.band = 1, .label = 1}); },
+              "shortlist", 1, "band", "offersAndShortlistPointWithin"},
+        Fault{"AShortlistRowOfNoLabel", [](Game& g) { put(g.shortlist, ShortlistRecord{.label = 3}); }, "shortlist", 1,
+              "label", "offersAndShortlistPointWithin"},
+        Fault{"ADiscOfNoLabel", [](Game& g) { put(g.disc, DiscRecord{.label = 3}); }, "disc", 1, "label",
+              "songsAndDiscsPointWithin"},
+        Fault{"ATrackThatIsNoSong", [](Game& g) { put(g.disc, DiscRecord{.tracks = {1}, .trackCount = 1}); }, "disc", 1,
+              "tracks[0]", "songsAndDiscsPointWithin"},
+        Fault{"AFirmOfNoLabel", [](Game& g) { put(g.business, BusinessRecord{.owner = 3, .open = -1}); }, "business", 1,
+              "owner", "firmsHoldTheirFields"},
+        Fault{"AGigAtNoVenue", [](Game& g) { put(g.gig, GigRecord{.venue = 1}); }, "gig", 1, "venue",
+              "gigsAndToursPointWithin"},
+        Fault{"AGigBillingNoAct",
+              [](Game& g) {
+                  put(g.gig, GigRecord{.bill = {0, 0, 1}});
+              },
+              "gig", 1, "bill[2]", "gigsAndToursPointWithin"},
+        Fault{"AGigRated101",
+              [](Game& g) {
+                  put(g.gig, GigRecord{.quality = {0, 101}});
+              },
+              "gig", 1, "quality[1]", "gigsAndToursPointWithin"},
+        Fault{"FortyOneGigsOnATour", [](Game& g) { put(g.tour, TourRecord{.gigCount = 41}); }, "tour", 1, "gigCount",
+              "gigsAndToursPointWithin"},
+        Fault{"ATourGigThatIsNoGig", [](Game& g) { put(g.tour, TourRecord{.gigCount = 1, .gigs = {1}}); }, "tour", 1,
+              "gigs[0]", "gigsAndToursPointWithin"},
+        Fault{"AnImageRatedPast100", [](Game& g) { put(g.artist, ArtistRecord{.imageRating = 101}); }, "artist", 1,
+              "imageRating", "looksAndAchievementsPointWithin"},
+        Fault{"AnAchievementOfKindFour", [](Game& g) { put(g.achieve, AchievementRecord{.kind = 4, .who = 1}); },
+              "achieve", 1, "kind", "looksAndAchievementsPointWithin"},
+        Fault{"ARetiredMember",
+              [](Game& g) {
+                  put(g.artist, ArtistRecord{.retired = kTrue, .band = 1});
+                  addBand(g, [](auto& b) { b.memberCount = 1, b.members[0] = 1; });
+              },
+              "band", 1, "members[0]", "actsAndMembersAgree"},
+        Fault{"AMemberNamingNoBand",
+              [](Game& g) {
+                  put(g.artist, ArtistRecord{});
+                  addBand(g, [](auto& b) { b.memberCount = 1, b.members[0] = 1; });
+              },
+              "band", 1, "members[0]", "actsAndMembersAgree"},
+        Fault{"AnArtistOfAnEndedAct",
+              [](Game& g) {
+                  put(g.artist, ArtistRecord{.band = 1});
+                  addBand(g, [](auto& b) { b.retired = kTrue; });
+              },
+              "artist", 1, "band", "actsAndMembersAgree"},
+        Fault{"ElevenNominees", [](Game& g) { put(g.award, AwardRecord{.nomineeCount = 11}); }, "award", 1,
+              "nomineeCount", "awardsHoldTheirNominees"},
+        Fault{"ANomineeScored101",
+              [](Game& g) {
+                  put(g.award, AwardRecord{.nomineeCount = 2, .scores = {100, 101}});
+              },
+              "award", 1, "scores[1]", "awardsHoldTheirNominees"},
+        Fault{"AnAppearanceOfNoAct", [](Game& g) { put(g.schedule, ScheduleRecord{.type = 17, .band = 1}); },
+              "schedule", 1, "band", "appearancesPointWithin"},
+        Fault{"AnAppearanceOnNoOutlet",
+              [](Game& g) {
+                  addBand(g, [](auto&) {});
+                  put(g.schedule, ScheduleRecord{.type = 17, .band = 1, .media = 1});
+              },
+              "schedule", 1, "media", "appearancesPointWithin"},
+        Fault{"AnAppearanceOfKindFive",
+              [](Game& g) {
+                  addBand(g, [](auto&) {});
+                  put(g.media, MediaRecord{});
+                  put(g.schedule, ScheduleRecord{.type = 17, .band = 1, .media = 1, .mediaOption = 5});
+              },
+              "schedule", 1, "mediaOption", "appearancesPointWithin"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Invariants, ASoundGameWithAVoidOfferAndSongsAwaitingADiscPasses) {
@@ -174,6 +261,8 @@ TEST(Invariants, ASoundGameWithAVoidOfferAndSongsAwaitingADiscPasses) {
     soundGame(g);
     put(g.offer, OfferRecord{.band = -1});  // void
     for (uint16_t mark : {uint16_t{65535}, uint16_t{65534}}) put(g.song, SongRecord{.disc = mark});
+    for (int i = 0; i < 2; ++i) addBand(g, [](auto&) {});
+    put(g.gig, GigRecord{.bill = {1, 2}});  // two acts, each once
     auto broken = checkInvariants(g);
     EXPECT_FALSE(broken) << describeBreak(*broken);
 }
