@@ -90,6 +90,7 @@ TEST_F(SimBandVerbs, ShortlistScoutOfferAndWithdrawEachTakeEffect) {
     EXPECT_EQ(sim("--seed 3 --json scout 1").second, "{\"report\":\"2004-08-11\"}\n");
     EXPECT_EQ(sim("schedule 2004-08-11").second,
               "  1. entry 3: type 6 bandReport, band 1, label 1\n  2. entry 4: type 6 bandReport, band 1, label 1\n");
+    expectHas("--json schedule 2004-08-11", "{\"position\":2,\"handler\":\"bandReport\",\"type\":6,");
 
     for (const char* bad : {"--options 0", "--options 6", "--months 13", "--royalty 4", "--royalty 31", "--initial -1",
                             "--additional -1"})
@@ -98,9 +99,9 @@ TEST_F(SimBandVerbs, ShortlistScoutOfferAndWithdrawEachTakeEffect) {
               std::pair(1, std::string("trovane-sim: Taken has already signed for Rival Records.\n")));
     EXPECT_EQ(sim("offer Free --options 5 --months 12 --royalty 30 --initial 0 --additional 5000").second,
               "Offer 2: the band decides on Tuesday 10/8/2004, with another label's offer\n");
-    EXPECT_EQ(sim("--json offer Free --royalty 5 --months 18").second,
+    EXPECT_EQ(sim("--json offer Free --royalty 5 --options 2").second,
               "{\"offer\":2,\"decisionDate\":\"2004-08-10\",\"joined\":false}\n");
-    expectHas("offers Free", "Offer 2 from Home Records, decided 10/8/2004: £0 + £5,000 x 5, 18 months, 5% royalty");
+    expectHas("offers Free", "Offer 2 from Home Records, decided 10/8/2004: £0 + £5,000 x 2, 12 months, 5% royalty");
     EXPECT_EQ(sim("--json shortlist").second,
               "[{\"id\":1,\"name\":\"Free\",\"style\":\"Rock\",\"advance\":60000.0000,\"label\":\"Unsigned\"}]\n");
     EXPECT_EQ(sim("scout Free"),

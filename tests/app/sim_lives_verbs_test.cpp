@@ -36,6 +36,7 @@ struct SimLivesVerbs : ::testing::Test {
         amend(g.artist, 3, [&] {  // Ours' singer
             g.artist->forename = "Ann";
             g.artist->surname = "Lee";
+            g.artist->age = 30;
         });
         amend(g.artist, 4, [&] { g.artist->retired = kTrue; });
         g.artist.rec = ArtistRecord{.forename = "Lone", .surname = "Wolf", .nickname = "Wolfie"};  // 5, in no band
@@ -58,8 +59,10 @@ TEST_F(SimLivesVerbs, ACastAStoryCannotHaveIsRefusedInTheGamesWords) {
     EXPECT_EQ(sim("story 1 --cast 3,3"), refused(1, "Ann Lee cannot be both participants."));
     EXPECT_EQ(sim("story 3 --cast 4"), refused(1, "Member 1 has retired."));
     EXPECT_EQ(sim("story 3 --cast Wolfie"), refused(1, "Lone Wolf is in no band."));
-    EXPECT_EQ(sim("story 3 --cast 'Ann Lee'"), refused(1, "Ann Lee fails the age test of participant 1."));
+    EXPECT_EQ(sim("story 3 --cast 1"), refused(1, "Member 1 fails the age test of participant 1."));
     EXPECT_EQ(sim("--json stories --all"), Result(0, "[]\n")) << "nothing started";
+    EXPECT_EQ(sim("story 3 --cast 'Ann Lee'").first, 0);
+    EXPECT_EQ(sim("story 3 --cast 3"), refused(1, "A story of type 10 is already under way for Ann Lee."));
 }
 
 TEST_F(SimLivesVerbs, AStoryRunsItsStagesWithTheirNewsToItsEnd) {
