@@ -303,7 +303,7 @@ std::string checkAppearance(Game& g, int16_t media, int kind, double date) {
     const MediaRecord m = g.media.rec;
     if (!mediaOpenTo(g) || !offered(m, kind, mediaReputation(g)))
         return trim(m.mediaName.value) + " is not offering " + trim(band.name.value) + " " +
-               (kind == smallArticle || kind == largeArticle ? "a " : "an ") + mediaKindName(kind) + ".";
+               (kind == interviewKind || kind == bothKind ? "an " : "a ") + mediaKindName(kind) + ".";
     if (date <= g.gameDate) return "The appearance must be booked for a day after today.";
     bool annualTooFar = m.frequency == 3 && date > g.gameDate + kSixWeeks;
     if (!isIssueDay(m, date) || annualTooFar)

@@ -195,6 +195,8 @@ TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
     double on = serialFromCivil(2004, 1, 20);
     ASSERT_EQ(checkAppearance(g, daily, smallArticle, on), "");
     EXPECT_EQ(checkAppearance(g, daily, largeArticle, on), "Daily Beat is not offering The Testers a Large Article.");
+    EXPECT_EQ(checkAppearance(g, daily, liveKind, on), "Daily Beat is not offering The Testers a Live Performance.");
+    EXPECT_EQ(checkAppearance(g, daily, interviewKind, on), "Daily Beat is not offering The Testers an Interview.");
     g.band.read(band);
     int32_t entry = bookAppearance(g, daily, on, smallArticle);
     g.gameDate = on;
