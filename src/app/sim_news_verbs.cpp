@@ -63,7 +63,6 @@ std::string_view screenName(Screen s) {
     case Screen::frmDisclaimer: return "frmDisclaimer";
     case Screen::frmLabelDetails: return "frmLabelDetails";
     case Screen::frmStaffDetails: return "frmStaffDetails";
-    case Screen::frmStaffList: return "frmStaffList";
     case Screen::frmBandBrowse: return "frmBandBrowse";
     case Screen::frmArtistBrowse: return "frmArtistBrowse";
     case Screen::frmRichList: return "frmRichList";
@@ -80,7 +79,6 @@ std::string_view screenName(Screen s) {
     case Screen::frmCeremonyDetails: return "frmCeremonyDetails";
     case Screen::frmHistoricalCeremonyDetails: return "frmHistoricalCeremonyDetails";
     case Screen::frmBandDetails: return "frmBandDetails";
-    case Screen::frmBandList: return "frmBandList";
     case Screen::frmBandContract: return "frmBandContract";
     case Screen::frmDiscDetails: return "frmDiscDetails";
     case Screen::frmArtistDetails: return "frmArtistDetails";

@@ -140,23 +140,4 @@ StaffDetails staffDetails(Game& g, int16_t staff) {
     return d;
 }
 
-std::vector<StaffListRow> staffList(Game& g) {
-    std::vector<StaffListRow> rows;
-    for (int32_t n = 1; n != g.staff.recordCount(); ++n) {
-        const StaffRecord s = copyOf(g.staff, n);
-        StaffListRow r;
-        r.staff = static_cast<int16_t>(n);
-        r.name = staffName(s);
-        r.age = s.age;
-        if (s.country > 0 && s.country < g.country.recordCount())
-            r.nationality = trim(copyOf(g.country, s.country).adjective.value);
-        r.label = s.employer > 0 ? labelNameOf(g, s.employer) : "";
-        const std::string post = postOf(g, s, r.staff);
-        r.department = post.starts_with("Head of ") ? post.substr(8) : post == "None" ? "" : post;
-        r.wage = s.wage;
-        rows.push_back(std::move(r));
-    }
-    return rows;
-}
-
 }  // namespace trovane

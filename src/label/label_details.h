@@ -90,16 +90,5 @@ struct StaffDetails {
 };
 StaffDetails staffDetails(Game& g, int16_t staff);
 
-// Find's plain list of staff: "Name", "Age", "Nationality", "Label", "Department", "Wage (per week)".
-struct StaffListRow {
-    int16_t staff = 0;
-    std::string name;
-    int age = 0;
-    std::string nationality;
-    std::string label;
-    std::string department;
-    Money wage = 0;
-};
-std::vector<StaffListRow> staffList(Game& g);
 
 }  // namespace trovane

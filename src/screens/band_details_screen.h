@@ -25,14 +25,4 @@ public:
     QListWidget* lstAchievements;
 };
 
-// Find's "Band Search" (every act) and "Shortlisted Bands" (the player's
-// shortlist): Name, Style, Advance, Label; a row opens "Band Details".
-class frmBandList : public ScreenPage {
-    Q_OBJECT
-public:
-    frmBandList(mdiParentForm& main, bool shortlist, QWidget* parent = nullptr);
-
-    QTableWidget* flxBands;
-};
-
 }  // namespace trovane::screens

@@ -293,7 +293,6 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     case Screen::frmDisclaimer: return new frmDisclaimer(*this);
     case Screen::frmBandOptionDecision: return new frmBandOptionDecision(*this);
     case Screen::frmBandDetails: return new frmBandDetails(*this, bandOnScreen);
-    case Screen::frmBandList: return new frmBandList(*this, bandListIsShortlist);
     case Screen::frmBandContract: return new frmBandContract(*this, bandOnScreen);
     case Screen::frmDiscDetails: return new frmDiscDetails(*this, discOnScreen);
     case Screen::frmChartForm: {
@@ -313,7 +312,6 @@ QWidget* mdiParentForm::createMainScreen(Screen s) {
     }
     case Screen::frmLabelDetails: return new frmLabelDetails(*this, labelOnScreen);
     case Screen::frmStaffDetails: return new frmStaffDetails(*this, staffOnScreen);
-    case Screen::frmStaffList: return new frmStaffList(*this);
     case Screen::frmBandBrowse: return new frmBandBrowse(*this);
     case Screen::frmArtistBrowse:
     case Screen::frmRichList:

@@ -84,11 +84,10 @@ public:
     NewsSort& newsSort() { return newsSort_; }
     // The news item frmNewsFull shows (its record number), so it can come back to it.
     int32_t newsItemOnScreen = 0;
-    // The act frmBandDetails and frmBandContract show, and which list frmBandList is.
+    // The act frmBandDetails and frmBandContract show.
     int16_t bandOnScreen = 0;
     // The disc frmDiscDetails shows.
     int16_t discOnScreen = 0;
-    bool bandListIsShortlist = false;
     // Band Details of an act, from a list or a panel.
     void openBand(int16_t band);
     // The artist frmArtistDetails shows, and the way there.

@@ -36,69 +36,7 @@ QLabel* figure(const QString& text, QWidget* parent) {
     return l;
 }
 
-// A number cell that sorts by its value, not its text.
-class NumberItem : public QTableWidgetItem {
-public:
-    NumberItem(double value, const QString& text) : QTableWidgetItem(text), value_(value) {
-        setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
-    bool operator<(const QTableWidgetItem& other) const override {
-        if (auto* n = dynamic_cast<const NumberItem*>(&other)) return value_ < n->value_;
-        return QTableWidgetItem::operator<(other);
-    }
-
-private:
-    double value_;
-};
-
-QTableWidgetItem* numberItem(double value, const QString& text) { return new NumberItem(value, text); }
-
-void openStaff(mdiParentForm& main, int16_t staff) {
-    main.staffOnScreen = staff;
-    main.openScreen(Screen::frmStaffDetails);
-}
-
 }  // namespace
-
-// ---------------------------------------------------------------- Find: Staff
-
-frmStaffList::frmStaffList(mdiParentForm& main) : ScreenPage(main, QStringLiteral("frmStaffList"), tr("Staff")) {
-    std::vector<StaffListRow> rows;
-    main_.guarded([&] { rows = staffList(main_.game()); });
-    setSubtitle(tr("%n people. Open a row to see the person's details.", nullptr, static_cast<int>(rows.size())));
-    flxStaff = new QTableWidget(static_cast<int>(rows.size()), 6, this);
-    flxStaff->setObjectName(QStringLiteral("flxStaff"));
-    flxStaff->setHorizontalHeaderLabels(
-        {tr("Name"), tr("Age"), tr("Nationality"), tr("Label"), tr("Department"), tr("Wage (per week)")});
-    flxStaff->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    flxStaff->setSelectionBehavior(QAbstractItemView::SelectRows);
-    flxStaff->setSelectionMode(QAbstractItemView::SingleSelection);
-    flxStaff->verticalHeader()->hide();
-    flxStaff->setAlternatingRowColors(true);
-    const Game& g = main_.game();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const StaffListRow& r = rows[i];
-        const int row = static_cast<int>(i);
-        auto* name = new QTableWidgetItem(qs(r.name));
-        name->setData(Qt::UserRole, r.staff);
-        flxStaff->setItem(row, 0, name);
-        flxStaff->setItem(row, 1, numberItem(r.age, QString::number(r.age)));
-        flxStaff->setItem(row, 2, new QTableWidgetItem(qs(r.nationality)));
-        flxStaff->setItem(row, 3, new QTableWidgetItem(qs(r.label)));
-        flxStaff->setItem(row, 4, new QTableWidgetItem(qs(r.department)));
-        flxStaff->setItem(row, 5, numberItem(moneyToDouble(r.wage), qs(formatMoney(g, r.wage, "###,###,##0"))));
-    }
-    flxStaff->setSortingEnabled(true);
-    flxStaff->sortByColumn(0, Qt::AscendingOrder);
-    flxStaff->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    body()->addWidget(flxStaff, 1);
-    auto open = [this](int row) {
-        if (QTableWidgetItem* item = flxStaff->item(row, 0))
-            openStaff(main_, static_cast<int16_t>(item->data(Qt::UserRole).toInt()));
-    };
-    connect(flxStaff, &QTableWidget::cellActivated, this, [open](int row, int) { open(row); });
-    connect(flxStaff, &QTableWidget::cellDoubleClicked, this, [open](int row, int) { open(row); });
-}
 
 // ---------------------------------------------------------------- Staff Details
 

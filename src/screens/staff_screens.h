@@ -17,14 +17,6 @@ namespace trovane::screens {
 
 class OptionPanel;
 
-// The plain list of everyone on the staff file; a row opens frmStaffDetails.
-class frmStaffList : public ScreenPage {
-    Q_OBJECT
-public:
-    explicit frmStaffList(mdiParentForm& main);
-    QTableWidget* flxStaff;
-};
-
 class frmStaffDetails : public ScreenPage {
     Q_OBJECT
 public:
