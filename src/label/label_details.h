@@ -90,5 +90,4 @@ struct StaffDetails {
 };
 StaffDetails staffDetails(Game& g, int16_t staff);
 
-
 }  // namespace trovane
