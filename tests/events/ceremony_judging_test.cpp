@@ -12,10 +12,14 @@ using namespace trovane;
 
 namespace {
 
-TEST(NomineeList, MixTakesTheBasisAloneAt100AndTheHostAloneAt0) {
+TEST(NomineeList, MixTakesTheBasisAloneAt100TheHostAt0AndSalesTopOutAtTenMillion) {
     EXPECT_EQ(mix(100, 80, 20), 80);
     EXPECT_EQ(mix(0, 80, 20), 20);
     EXPECT_EQ(mix(50, 81, 20), 50);  // 50.5 to the even 50
+    EXPECT_EQ(salesScore(10000000), 100);
+    EXPECT_EQ(salesScore(50000000), 100);
+    EXPECT_EQ(salesScore(9949999), 99);  // 99.49999
+    EXPECT_EQ(salesScore(0), 0);
 }
 
 TEST(NomineeList, AFullListDropsItsLowestAndTiesKeepTheEarlier) {
@@ -28,13 +32,6 @@ TEST(NomineeList, AFullListDropsItsLowestAndTiesKeepTheEarlier) {
               (std::array<int16_t, 4>{10, 6, 20, 2}));
     insertNominee(list, 51, 21, "too low");
     EXPECT_EQ(list.entries[9].id, 2);
-}
-
-TEST(NomineeList, SalesScoreReachesItsTopAtTenMillion) {
-    EXPECT_EQ(salesScore(10000000), 100);
-    EXPECT_EQ(salesScore(50000000), 100);
-    EXPECT_EQ(salesScore(9949999), 99);  // 99.49999
-    EXPECT_EQ(salesScore(0), 0);
 }
 
 class Judging : public test::GigWorld, public ::testing::Test {
@@ -117,13 +114,11 @@ TEST_F(Judging, TheNightCrownsTheTopNomineeAndRecordsTheWin) {
     g.schedule.rec = ScheduleRecord{.ceremony = 1};
     int32_t rows = g.achieve.recordCount();
     finishCeremony(g);
-    g.award.read(1);
-    EXPECT_EQ(std::tuple(int{g.award->winner}, int{g.award->held}), std::tuple(1, 2004));
+    EXPECT_EQ((g.award.read(1), std::tuple(int{g.award->winner}, int{g.award->held})), std::tuple(1, 2004));
     EXPECT_EQ((g.award.read(2), g.award->winner), 0);
     // For each win the band's row and one for each of its two members.
     ASSERT_EQ(g.achieve.recordCount(), rows + 6);
-    g.achieve.read(rows + 3);
-    EXPECT_EQ(std::tuple(int{g.achieve->kind}, g.achieve->who), std::tuple(0, band));
+    EXPECT_EQ((g.achieve.read(rows + 3), std::tuple(int{g.achieve->kind}, g.achieve->who)), std::tuple(0, band));
     EXPECT_EQ(trim(g.achieve->text.value), "Winner of Song of the Year award. (The Night)");
 }
 

@@ -68,10 +68,7 @@ TEST_F(Show, ThankLinesKeepToToneSpeakerAwardAndCareer) {
     auto lines = drawThankLines(g, {.tone = 1, .solo = false, .awardClass = 2, .wonBefore = false}, 10);
     std::sort(lines.begin(), lines.end());
     EXPECT_EQ(lines, (std::vector<std::string>{"First win", "Heartfelt", "Plain"}));
-    for (int32_t n : {plain, heartfelt, firstWin}) {
-        g.thank.read(n);
-        EXPECT_EQ(g.thank->conditions[4], 1);
-    }
+    for (int32_t n : {plain, heartfelt, firstWin}) EXPECT_EQ((g.thank.read(n), g.thank->conditions[4]), 1);
     // A drunk speech takes drunk lines alone.
     EXPECT_EQ(drawThankLines(g, {.tone = 3, .solo = false, .awardClass = 2}, 4), std::vector<std::string>{"Drunk"});
 }
@@ -83,8 +80,7 @@ TEST_F(Show, TheLeastUsedLineComesFirstAndUsesStopAt255) {
     EXPECT_EQ(drawThankLines(g, {}, 3), (std::vector<std::string>{"Fresh", "Used", "Worn"}));
     // 3 + 1, 4 + 1, and 255 held.
     for (auto [n, uses] : {std::pair{fresh, 4}, {used, 5}, {worn, 255}}) {
-        g.thank.read(n);
-        EXPECT_EQ(g.thank->conditions[4], uses);
+        EXPECT_EQ((g.thank.read(n), g.thank->conditions[4]), uses);
     }
 }
 

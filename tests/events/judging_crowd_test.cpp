@@ -97,22 +97,16 @@ protected:
     }
 };
 
-TEST_F(CrowdedField, ArtistsByAbilityCharismaAndImage) {
+TEST_F(CrowdedField, ArtistsBandsAlbumsAndSinglesByEachBasisAndRule) {
     EXPECT_EQ(judge(1, 0, 60, 0, 0, 0, 0, 0),
               "62:91 61:87 60:82 71:82 70:78 66:76 51:72 8:71 26:71 7:67 | Member2 Of29");
     EXPECT_EQ(judge(1, 2, 50, static_cast<uint8_t>(style), 0, 1, 0, 0),
               "61:83 22:80 49:76 8:67 25:62 51:60 70:56 68:52 58:50 56:44 | Member1 Of29");
     EXPECT_EQ(judge(1, 5, 0, 0, 0, 2, 1, 0), "74:90 62:89 50:88 26:86 52:21 40:20 16:18 4:17 | Member2 Of35");
-}
-
-TEST_F(CrowdedField, BandsByAbilityNewcomersAndLive) {
     EXPECT_EQ(judge(2, 0, 70, 0, 0, 0, 0, 0), "10:76 21:74 32:72 31:71 12:68 34:63 4:62 15:60 26:57 25:56 | Act 8");
     EXPECT_EQ(judge(2, 4, 50, static_cast<uint8_t>(style), -3, 0, 0, 2), "15:48 3:27 27:18 | Act 13");
     // Men of the second age class, solo, from outside the UK: nobody qualifies.
     EXPECT_EQ(judge(2, 6, 40, 0, -4, 1, 1, 1), "");
-}
-
-TEST_F(CrowdedField, AlbumsAndSinglesByQualitySalesAndLive) {
     EXPECT_EQ(judge(0, 0, 50, 0, 0, 0, 0, 0),
               "59:76 23:70 19:66 47:66 45:64 11:60 69:60 9:58 7:56 65:56 | Disc 29.0 by Act 29");
     EXPECT_EQ(judge(0, 1, 50, static_cast<uint8_t>(style), -2, 0, 0, 0),

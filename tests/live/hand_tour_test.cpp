@@ -57,15 +57,30 @@ protected:
     }
 };
 
-TEST_F(HandTour, TheRoadBetweenVenuesTakesOneToFiveDays) {
+TEST_F(HandTour, TheRoadTakesOneToFiveDaysANextNightInTheSameCityNoneAndTheAreaBoundsTheVenues) {
     EXPECT_EQ(gapToNextGig(g, hall, arena), 1);    // both in Leeds
     EXPECT_EQ(gapToNextGig(g, hall, club), 2);     // Leeds to York, England
     EXPECT_EQ(gapToNextGig(g, hall, stadium), 3);  // England to France, both Europe
     int16_t samba = addVenue("Samba", 3000, rio);
     EXPECT_EQ(gapToNextGig(g, stadium, samba), 5);  // Europe to South America
+    int16_t t = tour();
+    addTourGig(g, t, hall, first);
+    addTourGig(g, t, arena, first + 1);
+    EXPECT_EQ(typesOn(first + 1), std::vector<uint8_t>{8});
+    EXPECT_EQ(typesOn(first), std::vector<uint8_t>{8});
+    int16_t uk = tour("E", static_cast<uint8_t>(england));
+    EXPECT_TRUE(tourTakesVenue(g, uk, bowl));  // Glasgow, Scotland
+    EXPECT_FALSE(tourTakesVenue(g, uk, stadium));
+    int16_t europe = tour("E", 0);
+    EXPECT_TRUE(tourTakesVenue(g, europe, stadium));
+    EXPECT_FALSE(tourTakesVenue(g, europe, samba));
+    int16_t parisOnly = tour("E", static_cast<uint8_t>(france));
+    EXPECT_FALSE(tourTakesVenue(g, parisOnly, hall));
+    EXPECT_TRUE(tourTakesVenue(g, tour("X", 0), samba));
+    EXPECT_EQ(tourGigRefusal(g, uk, stadium, first), "Stadium lies outside the tour's area.");
 }
 
-TEST_F(HandTour, TheFirstGigIsSixWeeksOutAndLaterOnesAGapAfterTheLast) {
+TEST_F(HandTour, TheFirstGigIsSixWeeksOutLaterOnesAGapAfterTheLastAndNotOnABusyDay) {
     int16_t t = tour();
     NextGig opening = earliestNextGig(g, hall);
     EXPECT_EQ(std::tuple(opening.date, opening.rest), std::tuple(g.gameDate + 42, 0));
@@ -77,24 +92,12 @@ TEST_F(HandTour, TheFirstGigIsSixWeeksOutAndLaterOnesAGapAfterTheLast) {
     EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 2),
               "The tour can't reach Stadium before 19/2/2004.");  // 5 January + 42 days + 3
     EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 3), "");
-}
-
-TEST_F(HandTour, ABusyDayOnTheRoadStopsTheGig) {
-    int16_t t = tour();
-    addTourGig(g, t, hall, first);
     test::file(g, 7, first + 1, band);  // a studio day
-    EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 5), "The Testers are already busy on that day or on the way.");
-    EXPECT_EQ(tourGigRefusal(g, t, club, first + 2), "The Testers are already busy on that day or on the way.");
+    const std::string busy = "The Testers are already busy on that day or on the way.";
+    EXPECT_EQ(tourGigRefusal(g, t, stadium, first + 5), busy);
+    EXPECT_EQ(tourGigRefusal(g, t, club, first + 2), busy);
     EXPECT_EQ(confirmGigDateText(g, band, hall, first),
               "Are you sure you want The Testers to play Hall on Monday 16/2/2004?");  // 5 January 2004 was a Monday
-}
-
-TEST_F(HandTour, ANextNightInTheSameCityHasNoRoad) {
-    int16_t t = tour();
-    addTourGig(g, t, hall, first);
-    addTourGig(g, t, arena, first + 1);
-    EXPECT_EQ(typesOn(first + 1), std::vector<uint8_t>{8});
-    EXPECT_EQ(typesOn(first), std::vector<uint8_t>{8});
 }
 
 TEST_F(HandTour, TheFortiethGigIsTakenAndTheFortyFirstRefusedAddingNothing) {
@@ -112,20 +115,6 @@ TEST_F(HandTour, TheFortiethGigIsTakenAndTheFortyFirstRefusedAddingNothing) {
     EXPECT_TRUE(typesOn(first + 45).empty());
 }
 
-TEST_F(HandTour, TheUnitedKingdomTakesTheHomeNationsAndAnAreaItsCountries) {
-    int16_t uk = tour("E", static_cast<uint8_t>(england));
-    EXPECT_TRUE(tourTakesVenue(g, uk, bowl));  // Glasgow, Scotland
-    EXPECT_FALSE(tourTakesVenue(g, uk, stadium));
-    int16_t europe = tour("E", 0);
-    EXPECT_TRUE(tourTakesVenue(g, europe, stadium));
-    int16_t samba = addVenue("Samba", 3000, rio);
-    EXPECT_FALSE(tourTakesVenue(g, europe, samba));
-    int16_t parisOnly = tour("E", static_cast<uint8_t>(france));
-    EXPECT_FALSE(tourTakesVenue(g, parisOnly, hall));
-    EXPECT_TRUE(tourTakesVenue(g, tour("X", 0), samba));
-    EXPECT_EQ(tourGigRefusal(g, uk, stadium, first), "Stadium lies outside the tour's area.");
-}
-
 TEST_F(HandTour, SponsorsPayByTheirMinimumBestFirst) {
     int16_t low = addProduct("Low", 0, "E");    // 0 + 450 = 450
     int16_t mid = addProduct("Mid", 40, "E");   // 40^4 = 2,560,000; / 5 = 512,000; / 100 = 5,120; + 450 = 5,570
@@ -136,7 +125,7 @@ TEST_F(HandTour, SponsorsPayByTheirMinimumBestFirst) {
     EXPECT_EQ(offers, (std::vector<std::pair<int16_t, int32_t>>{{top, 200450}, {mid, 5570}, {low, 450}}));
 }
 
-TEST_F(HandTour, AProductFitsByAreaByNationOrByNamingNeither) {
+TEST_F(HandTour, AProductFitsByAreaByNationOrByNamingNeitherAndByControversy) {
     int16_t europe = addProduct("Euro", 0, "E");
     int16_t french = addProduct("French", 0, "N", {0, 0, 0, static_cast<uint8_t>(france), 0});
     int16_t anywhere = addProduct("Anywhere", 0, "");
@@ -144,14 +133,11 @@ TEST_F(HandTour, AProductFitsByAreaByNationOrByNamingNeither) {
     addProduct("Scottish", 0, "", {static_cast<uint8_t>(scotland), 0, 0, 0, 0});
     EXPECT_EQ(sponsorsOf(tour("E", static_cast<uint8_t>(france))), (std::vector<int16_t>{europe, french, anywhere}));
     EXPECT_EQ(sponsorsOf(tour("E", 0)), (std::vector<int16_t>{europe, anywhere}));
-}
-
-TEST_F(HandTour, AProductWantsControversyInItsRange) {
-    addProduct("Tame", 0, "E", {}, 10, 30);
+    int16_t tame = addProduct("Tame", 0, "E", {}, 10, 30);
     int16_t t = tour();
     for (auto [controversy, fits] : {std::pair{9, false}, {10, true}, {30, true}, {31, false}}) {
         amend(g.band, band, [&] { g.band->controversy = static_cast<uint8_t>(controversy); });
-        EXPECT_EQ(productFitsTour(g, t, 1), fits) << controversy;
+        EXPECT_EQ(productFitsTour(g, t, tame), fits) << controversy;
     }
 }
 
@@ -195,13 +181,22 @@ protected:
     }
 };
 
-TEST_F(Supports, RemovingASupportClosesTheGapOnEveryGig) {
+TEST_F(Supports, RemovingASupportClosesTheGapOnEveryGigAndTheCheckerWatchesOrderAndCount) {
     for (int16_t s : {a, b, c}) addSupportBand(g, t, s);
     EXPECT_EQ(billOf(two), (std::array<int16_t, 4>{band, a, b, c}));
     removeSupportBand(g, t, b);
     EXPECT_EQ(billOf(one), (std::array<int16_t, 4>{band, a, c, 0}));
     EXPECT_EQ(billOf(two), (std::array<int16_t, 4>{band, a, c, 0}));
     EXPECT_EQ((g.tour.read(t), g.tour->supportCount), 2);
+    EXPECT_FALSE(test::ruleOn(g, "tourGigsInDateOrder").has_value());
+    // the same day as the first gig
+    amend(g.gig, two, [&] { g.gig->gigDate = first; });
+    EXPECT_EQ(test::ruleOn(g, "tourGigsInDateOrder").value_or(InvariantBreak{}).field, "gigs[1]");
+    amend(g.tour, t, [&] { g.tour->supportCount = 3; });
+    EXPECT_FALSE(test::ruleOn(g, "supportCountsWithinThree").has_value());
+    g.tour->supportCount = 4;
+    g.tour.write();
+    EXPECT_TRUE(test::ruleOn(g, "supportCountsWithinThree").has_value());
 }
 
 TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
@@ -219,7 +214,13 @@ TEST_F(Supports, AFourthSupportAndABusyOrForeignActAreRefused) {
     EXPECT_EQ(supportRefusal(g, t, static_cast<int16_t>(g.band.recordCount())), "There is no such band.");
 }
 
-TEST_F(Supports, CancellingCallsOffTheTourButNotOthersDays) {
+TEST_F(Supports, FinalisingSetsAnUnchosenSponsorToNoneRemovesAnEmptyTourAndCancellingCallsOffOnlyItsDays) {
+    EXPECT_EQ((g.tour.read(t), g.tour->sponsorProduct), -1);
+    EXPECT_TRUE(finaliseTour(g, t));
+    EXPECT_EQ((g.tour.read(t), g.tour->sponsorProduct), 0);
+    int16_t empty = tour();
+    EXPECT_FALSE(finaliseTour(g, empty));
+    EXPECT_EQ((g.tour.read(empty), g.tour->gigCount), 0);
     test::file(g, 7, first + 2, a);
     cancelTour(g, t);
     for (double d = first; d <= first + 4; ++d)
@@ -230,15 +231,6 @@ TEST_F(Supports, CancellingCallsOffTheTourButNotOthersDays) {
     EXPECT_EQ((g.tour.read(t), g.tour->gigCount), 0);
     g.band.read(band);
     EXPECT_EQ(bandEngagement(g, 1, first), 0);
-}
-
-TEST_F(Supports, FinalisingATourWithoutGigsRemovesItAndAnUnchosenSponsorIsNone) {
-    EXPECT_EQ((g.tour.read(t), g.tour->sponsorProduct), -1);
-    EXPECT_TRUE(finaliseTour(g, t));
-    EXPECT_EQ((g.tour.read(t), g.tour->sponsorProduct), 0);
-    int16_t empty = tour();
-    EXPECT_FALSE(finaliseTour(g, empty));
-    EXPECT_EQ((g.tour.read(empty), g.tour->gigCount), 0);
 }
 
 TEST_F(Supports, TheSummaryNamesLengthSupportsAndLevels) {
@@ -264,19 +256,6 @@ TEST_F(HandTour, TheRoadFeedsAHabitAlreadyBegunUpToAHundred) {
         EXPECT_EQ((g.artist.read(m0), g.artist->drugHabit), after) << type << " from " << before;
         EXPECT_EQ((g.artist.read(m1), g.artist->drugHabit), 0) << "a habit not begun stays unbegun, " << type;
     }
-}
-
-TEST_F(Supports, TheCheckerFindsGigsOutOfOrderAndAFourthSupport) {
-    EXPECT_FALSE(test::ruleOn(g, "tourGigsInDateOrder").has_value());
-    // the same day as the first gig
-    amend(g.gig, two, [&] { g.gig->gigDate = first; });
-    ASSERT_TRUE(test::ruleOn(g, "tourGigsInDateOrder").has_value());
-    EXPECT_EQ(test::ruleOn(g, "tourGigsInDateOrder")->field, "gigs[1]");
-    amend(g.tour, t, [&] { g.tour->supportCount = 3; });
-    EXPECT_FALSE(test::ruleOn(g, "supportCountsWithinThree").has_value());
-    g.tour->supportCount = 4;
-    g.tour.write();
-    EXPECT_TRUE(test::ruleOn(g, "supportCountsWithinThree").has_value());
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ using namespace trovane;
 
 namespace {
 
-TEST(AppearanceEffect, HandWorkedValuesARepOfZeroCountingAsOneHeldAtTwenty) {
+TEST(Appearance, HandWorkedEffectsARepOfZeroCountingAsOneHeldAtTwentyAndTheConfirmingWords) {
     struct Case {
         int skill, value, rep;
         float effect;
@@ -29,9 +29,6 @@ TEST(AppearanceEffect, HandWorkedValuesARepOfZeroCountingAsOneHeldAtTwenty) {
     };
     for (const Case& c : cases)
         EXPECT_FLOAT_EQ(appearanceEffect(c.skill, c.value, c.rep), c.effect) << c.skill << "/" << c.value;
-}
-
-TEST(MediaConfirm, EachKindAsksInItsWords) {
     double on = serialFromCivil(2005, 3, 9);
     EXPECT_EQ(mediaConfirmText("The Testers", "Daily Beat", largeArticle, on),
               "You have selected The Testers to appear in a large article in Daily Beat on 9/3/2005 confirm?");
@@ -40,29 +37,6 @@ TEST(MediaConfirm, EachKindAsksInItsWords) {
               "confirm?");
     EXPECT_EQ(mediaConfirmText("Ann", "Sofa", interviewKind, on),
               "You have selected Ann to be the subject of an interview on Sofa on 9/3/2005 confirm?");
-}
-
-TEST(IssueDays, EachFrequencyComesOutOnItsDays) {
-    MediaRecord m{};
-    auto day = [](unsigned month, unsigned d) { return serialFromCivil(2005, month, d); };
-    m.frequency = 0;
-    EXPECT_TRUE(isIssueDay(m, day(3, 1)));
-    m.frequency = 1;
-    m.airDay = {0, 0, -1, 0, 0, 0, 0};  // Wednesdays
-    EXPECT_TRUE(isIssueDay(m, day(3, 2)));
-    EXPECT_FALSE(isIssueDay(m, day(3, 1)));  // a Tuesday
-    EXPECT_TRUE(isIssueDay(m, day(3, 9)));
-    m.frequency = 2;
-    m.issueMonth = 5;  // the second Thursday: 3 March is the first
-    m.issueWeek = 2;
-    EXPECT_TRUE(isIssueDay(m, day(3, 10)));
-    EXPECT_FALSE(isIssueDay(m, day(3, 3)));
-    EXPECT_FALSE(isIssueDay(m, day(3, 17)));
-    m.frequency = 3;
-    m.issueDay = 31;
-    m.issueMonth = 12;
-    EXPECT_TRUE(isIssueDay(m, day(12, 31)));
-    EXPECT_FALSE(isIssueDay(m, day(12, 30)));
 }
 
 class Media : public test::GigWorld, public ::testing::Test {
@@ -103,6 +77,33 @@ protected:
         return out;
     }
 };
+
+TEST_F(Media, EachFrequencyComesOutOnItsDaysAndAnAnnualIssueIsBookedOnlyWithinSixWeeks) {
+    MediaRecord m{};
+    auto day = [](unsigned month, unsigned d) { return serialFromCivil(2005, month, d); };
+    m.frequency = 0;
+    EXPECT_TRUE(isIssueDay(m, day(3, 1)));
+    m.frequency = 1;
+    m.airDay = {0, 0, -1, 0, 0, 0, 0};  // Wednesdays
+    EXPECT_TRUE(isIssueDay(m, day(3, 2)));
+    EXPECT_FALSE(isIssueDay(m, day(3, 1)));  // a Tuesday
+    EXPECT_TRUE(isIssueDay(m, day(3, 9)));
+    m.frequency = 2;
+    m.issueMonth = 5;  // the second Thursday: 3 March is the first
+    m.issueWeek = 2;
+    EXPECT_TRUE(isIssueDay(m, day(3, 10)));
+    EXPECT_FALSE(isIssueDay(m, day(3, 3)));
+    EXPECT_FALSE(isIssueDay(m, day(3, 17)));
+    m.frequency = 3;
+    m.issueDay = 31;
+    m.issueMonth = 12;
+    EXPECT_TRUE(isIssueDay(m, day(12, 31)));
+    EXPECT_FALSE(isIssueDay(m, day(12, 30)));
+    g.band.read(band);  // the 31 December issue, open to booking only six weeks ahead
+    const double eve = day(12, 31);
+    EXPECT_EQ(freeIssueDays(g, m, eve - 42, 400), std::vector<double>{eve});
+    EXPECT_TRUE(freeIssueDays(g, m, eve - 43, 400).empty());
+}
 
 TEST_F(Media, OffersNeedANonZeroMinimumTheBandReaches) {
     // Skill 5 against reputation 1: q = 125, and a value of 69 is 125 x 4 / 100 = 5, worth 50.
@@ -176,14 +177,6 @@ TEST_F(Media, RivalsBookBestFirstUntilPromotionPasses150) {
     EXPECT_EQ(promote(151), 0);
 }
 
-TEST_F(Media, AnAnnualIssueIsBookedOnlyWithinSixWeeks) {
-    const MediaRecord m{.frequency = 3, .issueDay = 31, .issueMonth = 12};
-    g.band.read(band);
-    double eve = serialFromCivil(2005, 12, 31);
-    EXPECT_EQ(freeIssueDays(g, m, eve - 42, 400), std::vector<double>{eve});
-    EXPECT_TRUE(freeIssueDays(g, m, eve - 43, 400).empty());
-}
-
 TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
     int16_t daily = paper("Daily Beat", 73);  // effect 10
     int16_t disc = addDisc("Out Now", 1000, band);
@@ -205,8 +198,7 @@ TEST_F(Media, AnAppearanceMovesTheDiscAndIsReviewed) {
     performAppearance(g);
     EXPECT_EQ((g.disc.read(disc), g.disc->promotion), (std::array<uint8_t, 5>{100, 20, 20, 20, 20}));  // 95 + 10, held
     EXPECT_EQ((g.schedule.read(entry), g.schedule->value), 1000);  // the effect in hundredths
-    g.news.read(item);
-    EXPECT_EQ(trim(g.news->title.value), "The Testers in Daily Beat");
+    EXPECT_EQ((g.news.read(item), trim(g.news->title.value)), "The Testers in Daily Beat");
     EXPECT_EQ(trim(g.news->text.value),
               "The Testers featured in a small article in the 20 January 2004 edition of Daily Beat newspaper. "
               "Readers found it thoroughly lacking in substance, and it did little for their standing.");

@@ -13,24 +13,14 @@ using namespace trovane;
 
 namespace {
 
-std::vector<int32_t> songsWalked(Game& g, int16_t band, bool unusedOnly) {
+// The records a plain walk of the table finds for the test.
+template <class R, class Test>
+std::vector<int32_t> walked(Table<R>& t, Test test) {
     std::vector<int32_t> out;
-    SongRecord s{};
-    for (int32_t n = 1; n < g.song.recordCount(); ++n) {
-        decodeRecord(g.song.bytesOf(n).data(), s);
-        if (s.band == band && (!unusedOnly || s.disc == 65535)) out.push_back(n);
-    }
-    return out;
-}
-
-// The discs a plain walk of the table finds for the test.
-template <class Test>
-std::vector<int32_t> discsWalked(Game& g, Test test) {
-    std::vector<int32_t> out;
-    DiscRecord d{};
-    for (int32_t n = 1; n < g.disc.recordCount(); ++n) {
-        decodeRecord(g.disc.bytesOf(n).data(), d);
-        if (test(d)) out.push_back(n);
+    R r{};
+    for (int32_t n = 1; n < t.recordCount(); ++n) {
+        decodeRecord(t.bytesOf(n).data(), r);
+        if (test(r)) out.push_back(n);
     }
     return out;
 }
@@ -50,24 +40,23 @@ TEST(BandLookups, AgreeWithAWalkAfterAYearOfPlay) {
     const DiscRecord disc = g.disc.rec;
     int unused = 0;
     for (int16_t b = 1; b < g.band.recordCount(); ++b) {
-        ASSERT_EQ(songsOfBand(g, b), songsWalked(g, b, false)) << "band " << b;
-        ASSERT_EQ(unusedSongsOf(g, b), songsWalked(g, b, true)) << "band " << b;
-        ASSERT_EQ(discsOfBand(g, b), discsWalked(g, [&](const DiscRecord& d) { return d.band == b; })) << "band " << b;
+        ASSERT_EQ(songsOfBand(g, b), walked(g.song, [&](const SongRecord& s) { return s.band == b; })) << "band " << b;
+        ASSERT_EQ(unusedSongsOf(g, b),
+                  walked(g.song, [&](const SongRecord& s) { return s.band == b && s.disc == 65535; }))
+            << "band " << b;
+        ASSERT_EQ(discsOfBand(g, b), walked(g.disc, [&](const DiscRecord& d) { return d.band == b; })) << "band " << b;
         unused += static_cast<int>(unusedSongsOf(g, b).size());
     }
     std::set<double> dates;
-    discsWalked(g, [&](const DiscRecord& d) {
+    walked(g.disc, [&](const DiscRecord& d) {
         for (double date : d.releaseDate)
             if (date > kNoDate) dates.insert(date);
         return false;
     });
-    for (double date : dates)
-        ASSERT_EQ(discsOutOn(g, date), discsWalked(g,
-                                                   [&](const DiscRecord& d) {
-                                                       return std::find(d.releaseDate.begin(), d.releaseDate.end(),
-                                                                        date) != d.releaseDate.end();
-                                                   }))
-            << date;
+    for (double date : dates) {
+        auto out = [&](const DiscRecord& d) { return std::ranges::find(d.releaseDate, date) != d.releaseDate.end(); };
+        ASSERT_EQ(discsOutOn(g, date), walked(g.disc, out)) << date;
+    }
     EXPECT_GT(unused, 0);
     EXPECT_GT(dates.size(), 50u);  // the year put out plenty of discs
     EXPECT_EQ(g.song.rec, song);

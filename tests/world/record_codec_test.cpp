@@ -73,18 +73,12 @@ TEST(TextField, IsStoredAsBlankPaddedWindows1252) {
 }
 
 TEST(RecordCodec, NumbersAreLittleEndianAndBooleansAllBitsSet) {
-    ScheduleRecord s{};
-    s.type = 7;
-    s.date = 38204;  // 5 August 2004
-    s.band = -1;     // a true boolean, or 65535
-    s.id = 0x01020304;
+    // Day 38204 is 5 August 2004; a band of -1 is a true boolean, or 65535.
+    const ScheduleRecord s{.type = 7, .date = 38204, .band = -1, .id = 0x01020304};
     std::vector<uint8_t> b(ScheduleRecord::kLength);
     encodeRecord(s, b.data());
-    EXPECT_EQ(b[0], 7);
-    EXPECT_EQ(std::vector<uint8_t>(b.begin() + 1, b.begin() + 9),
-              (std::vector<uint8_t>{0, 0, 0, 0, 0x80, 0xA7, 0xE2, 0x40}));
-    EXPECT_EQ(b[9], 0xFF);
-    EXPECT_EQ(b[10], 0xFF);
+    EXPECT_EQ(std::vector<uint8_t>(b.begin(), b.begin() + 11),
+              (std::vector<uint8_t>{7, 0, 0, 0, 0, 0x80, 0xA7, 0xE2, 0x40, 0xFF, 0xFF}));
     EXPECT_EQ(std::vector<uint8_t>(b.begin() + 47, b.begin() + 51), (std::vector<uint8_t>{4, 3, 2, 1}));
 }
 

@@ -53,7 +53,7 @@ TEST(RecordDump, JsonEscapesControlCharactersAndGivesNullForNumbersItCannotHold)
     EXPECT_NE(tour.find("\"averageQuality\":null"), std::string::npos);
 }
 
-TEST(RecordDump, TableFileDumpsEveryRecordAndRefusesADamagedFile) {
+TEST(RecordDump, FileNamesTellTheirTableWhichDumpsEveryRecordAndADamagedFileIsRefused) {
     test::TempFolder folder;
     auto file = folder.path() / "shortlist.sg2";
     {
@@ -75,9 +75,6 @@ TEST(RecordDump, TableFileDumpsEveryRecordAndRefusesADamagedFile) {
     std::ofstream(file, std::ios::binary | std::ios::app) << 'x';
     EXPECT_THAT(test::fatalMessage([&] { dumpTableFile(file, FileNo::fileShortlist, DumpFormat::text); }),
                 ::testing::HasSubstr("shortlist.sg2"));
-}
-
-TEST(RecordDump, FileNamesTellTheirTable) {
     EXPECT_EQ(tableOfFile("Data/band.sg3"), FileNo::fileBand);
     EXPECT_EQ(tableOfFile("Data/2005.vel"), FileNo::fileDay);
     EXPECT_EQ(tableOfFile("Data/chart7.vel"), FileNo::fileChart);

@@ -21,13 +21,6 @@ using ::testing::HasSubstr;
 
 namespace {
 
-template <class R, class Set>
-int32_t add(Table<R>& t, Set set) {
-    t.rec = R{};
-    set(t.rec);
-    return t.append();
-}
-
 template <class R>
 int32_t put(Table<R>& t, const R& r) {
     t.rec = r;
@@ -35,15 +28,10 @@ int32_t put(Table<R>& t, const R& r) {
 }
 
 int32_t addBand(Game& g, std::string_view name, uint8_t ability = 50) {
-    return add(g.band, [&](BandRecord& b) {
-        b.name = name;
-        b.ability = ability;
-    });
+    return put(g.band, BandRecord{.name = std::string(name), .ability = ability});
 }
 
 using RecordStore = test::GameTest;
-using FindRecordByName = test::GameTest;
-using CompactTable = test::GameTest;
 
 // A change lives in the buffer until it is written: writing keeps it, reading
 // another record of the same table first throws it away. Other tables'
@@ -51,22 +39,19 @@ using CompactTable = test::GameTest;
 TEST_F(RecordStore, AChangeSurvivesOnlyUntilTheNextReadOfItsTable) {
     addBand(g, "One", 10);
     addBand(g, "Two", 20);
-    add(g.artist, [](ArtistRecord& a) { a.forename = "Ann"; });
+    put(g.artist, ArtistRecord{.forename = "Ann"});
 
     g.band.read(1);
     g.artist.read(1);
     g.band->ability = 11;
     g.band.write();
-    g.band.read(1);
-    EXPECT_EQ(g.band->ability, 11);
+    EXPECT_EQ((g.band.read(1), g.band->ability), 11);
 
     g.band->ability = 99;
     g.band.read(2);
     g.band.write();  // writes band 2 back as it was
-    g.band.read(1);
-    EXPECT_EQ(g.band->ability, 11);
-    g.band.read(2);
-    EXPECT_EQ(g.band->ability, 20);
+    EXPECT_EQ((g.band.read(1), g.band->ability), 11);
+    EXPECT_EQ((g.band.read(2), g.band->ability), 20);
     EXPECT_EQ(g.artist->forename, "Ann");
 }
 
@@ -89,8 +74,7 @@ TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
 
     patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{12}; });
     patchField<uint8_t>(g.band, 1, kAbility, [](uint8_t) { return uint8_t{12}; });  // the same: no write
-    g.band.read(1);
-    EXPECT_EQ(g.band->ability, 12);
+    EXPECT_EQ((g.band.read(1), g.band->ability), 12);
     EXPECT_EQ(g.band->name, "One");
     g.band->name = "Uno";  // a change beside the watched byte, not in it
     g.band.write();
@@ -100,8 +84,7 @@ TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
     // A stretch is compared from its first byte that differs to its last.
     const std::array<uint8_t, 3> uno{'U', 'n', 'a'};
     g.band.putStretch(1, kName, uno);
-    g.band.read(1);
-    EXPECT_EQ(g.band->name, "Una");
+    EXPECT_EQ((g.band.read(1), g.band->name), "Una");
     EXPECT_EQ(everyWrite, 4);
     EXPECT_THROW(g.band.putStretch(1, BandRecord::kLength - 1, uno), FatalError);
 
@@ -117,8 +100,7 @@ TEST_F(RecordStore, APatchedFieldIsSeenByTheWatchersOfItsBytesOnly) {
     name[49] = 'x';
     g.band.putStretch(1, kName, name);
     g.band.putStretch(1, kName, name);  // the same again: no write
-    g.band.read(1);
-    EXPECT_EQ(g.band->name.value.front(), 'E');
+    EXPECT_EQ((g.band.read(1), g.band->name.value.front()), 'E');
     EXPECT_EQ(g.band->name.value.back(), 'x');
     EXPECT_EQ(everyWrite, 6);
 }
@@ -150,23 +132,21 @@ TEST_F(RecordStore, RecordsCountFromOneAndReadingPastTheEndStopsTheGameNamingThe
     EXPECT_EQ(g.band->id, 1);
     EXPECT_EQ(recordCount(g, FileNo::fileBand), 2);
     EXPECT_THROW(recordCount(g, FileNo::fileTemp), FatalError);
-    for (int32_t n : {0, 2, -1}) {
-        EXPECT_THAT(fatalMessage([&] { g.band.read(n); }), HasSubstr("band"));
-    }
+    for (int32_t n : {0, 2, -1}) EXPECT_THAT(fatalMessage([&] { g.band.read(n); }), HasSubstr("band")) << n;
     EXPECT_THROW(g.band.write(3), FatalError);  // only the next free number adds a record
     EXPECT_FALSE(g.band.readIfPresent(2));
     EXPECT_EQ(g.band->name, "");
 }
 
 TEST_F(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
-    for (int32_t n = 1; n <= 32767; ++n) add(g.look, [](LookRecord&) {});
+    for (int32_t n = 1; n <= 32767; ++n) put(g.look, LookRecord{});
     EXPECT_EQ(g.look->id, 32767);
-    EXPECT_THAT(fatalMessage([&] { add(g.look, [](LookRecord&) {}); }), HasSubstr("look"));
+    EXPECT_THAT(fatalMessage([&] { put(g.look, LookRecord{}); }), HasSubstr("look"));
     EXPECT_EQ(g.look.recordCount(), 32768);  // the file did not grow
 }
 
 TEST_F(RecordStore, APilingTableReadsItsOldRecordsAgainFromItsFileAfterFourWeeksOfCommits) {
-    for (int i = 1; i <= 10; ++i) add(g.news, [&](NewsRecord& n) { n.title = fmt::format("Item {}", i); });
+    for (int i = 1; i <= 10; ++i) put(g.news, NewsRecord{.title = fmt::format("Item {}", i)});
     const fs::path file = g.news.path();
     constexpr std::size_t kTitle = 11;
     // Changes the first letter of a title in the file, behind the table's back.
@@ -175,10 +155,7 @@ TEST_F(RecordStore, APilingTableReadsItsOldRecordsAgainFromItsFileAfterFourWeeks
         ASSERT_EQ(::pwrite(fd, &c, 1, static_cast<off_t>((n - 1) * NewsRecord::kLength + kTitle)), 1);
         ::close(fd);
     };
-    auto title = [&](int32_t n) {
-        g.news.read(n);
-        return g.news->title.value;
-    };
+    auto title = [&](int32_t n) { return (g.news.read(n), g.news->title.value); };
     g.commitsSincePagesWentBack = 0;
     for (int day = 1; day <= 27; ++day) flushAllTables(g);  // the pages go at every 28th commit
     scribble(3, 'J');
@@ -193,7 +170,7 @@ TEST_F(RecordStore, APilingTableReadsItsOldRecordsAgainFromItsFileAfterFourWeeks
     g.news.read(9);
     g.news->title = "Changed";
     g.news.write();
-    add(g.news, [](NewsRecord& n) { n.title = "Item 11"; });
+    put(g.news, NewsRecord{.title = "Item 11"});
     scribble(9, 'X');
     EXPECT_EQ(title(9), "Changed");
     flushAllTables(g);
@@ -230,7 +207,7 @@ struct NameCase {
     int32_t expected;
 };
 
-TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
+TEST_F(RecordStore, FindByNameEachTableSearchesItsOwnNameField) {
     addBand(g, "Other");
     addBand(g, "The Band");
     put(g.country, CountryRecord{.name = "Spain", .adjective = "Spanish"});
@@ -267,7 +244,7 @@ TEST_F(FindRecordByName, EachTableSearchesItsOwnNameField) {
     EXPECT_THROW(findRecordByName(g, FileNo::fileNews, "x"), FatalError);
 }
 
-TEST_F(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent) {
+TEST_F(RecordStore, FindByNameLeavesTheBufferOnTheLastRecordReadExceptForLabelAndEvent) {
     for (auto name : {"A", "B", "C"}) {
         addBand(g, name);
         put(g.label, LabelRecord{.name = name});
@@ -289,22 +266,21 @@ TEST_F(FindRecordByName, LeavesTheBufferOnTheLastRecordReadExceptForLabelAndEven
     EXPECT_EQ(g.event->title, "B");
 }
 
-TEST_F(CompactTable, KeepsTheWantedRecordsInOrderNumberedFromOneAndMayKeepNone) {
+TEST_F(RecordStore, CompactKeepsTheWantedRecordsInOrderNumberedFromOneAndMayKeepNone) {
     for (auto [band, label] : {std::pair<int16_t, int16_t>{1, 1}, {0, 0}, {5, 2}, {3, 0}, {7, 7}})
         put(g.shortlist, ShortlistRecord{.band = band, .label = label});
     compactTable(g, g.shortlist, [](const ShortlistRecord& r) { return r.band >= 1 && r.label >= 1; });
     ASSERT_EQ(g.shortlist.recordCount(), 4);
-    g.shortlist.read(2);
-    EXPECT_EQ(std::tuple(g.shortlist->id, g.shortlist->band), std::tuple(2, int16_t{5}));
-    g.shortlist.read(3);
-    EXPECT_EQ(std::tuple(g.shortlist->id, g.shortlist->band), std::tuple(3, int16_t{7}));
+    auto idAndBand = [&](int32_t n) { return (g.shortlist.read(n), std::tuple(g.shortlist->id, g.shortlist->band)); };
+    EXPECT_EQ(idAndBand(2), std::tuple(2, int16_t{5}));
+    EXPECT_EQ(idAndBand(3), std::tuple(3, int16_t{7}));
     flushAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 3 * ShortlistRecord::kLength);
 
     compactTable(g, g.shortlist, [](const ShortlistRecord&) { return false; });
     flushAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), 0u);
-    EXPECT_EQ(add(g.shortlist, [](ShortlistRecord& r) { r.band = 4; }), 1);
+    EXPECT_EQ(put(g.shortlist, ShortlistRecord{.band = 4}), 1);
     closeAllTables(g);
     EXPECT_EQ(std::filesystem::file_size(g.dataDir / "shortlist.vel"), ShortlistRecord::kLength);
 }

@@ -18,21 +18,9 @@ namespace {
 
 using test::fatalMessage;
 using ::testing::HasSubstr;
-using OpenAllTables = test::GameTest;
-using OpenTable = test::GameTest;
-using CopyTableSet = test::GameTest;
-using PerUseFiles = test::GameTest;
+using TableSet = test::GameTest;
 
-TEST_F(OpenAllTables, AMissingOrBrokenWorldTableIsAnErrorNamingItsFile) {
-    closeAllTables(g);
-    fs::remove(g.dataDir / "country.vel");
-    EXPECT_THAT(fatalMessage([&] { openAllTables(g, "vel"); }), HasSubstr("country.vel"));
-    closeAllTables(g);
-    std::ofstream(g.dataDir / "country.vel", std::ios::binary) << std::string(CountryRecord::kLength + 1, 'x');
-    EXPECT_THAT(fatalMessage([&] { openAllTables(g, "vel"); }), HasSubstr("country.vel"));
-}
-
-TEST_F(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
+TEST_F(TableSet, TablesTheGameFillsAreCreatedEmptyAndAMissingOrBrokenWorldTableIsAnError) {
     closeAllTables(g);
     const char* created[] = {"news", "schedule", "offer", "shortlist", "chartrecs"};
     for (auto stem : created) fs::remove(g.dataDir / (std::string(stem) + ".vel"));
@@ -42,11 +30,17 @@ TEST_F(OpenAllTables, TablesTheGameFillsItselfAreCreatedEmpty) {
         EXPECT_EQ(recordCount(g, *fileNoByTableName(stem)), 1) << stem;
         EXPECT_TRUE(fs::exists(g.dataDir / (std::string(stem) + ".vel"))) << stem;
     }
+    closeAllTables(g);
+    fs::remove(g.dataDir / "country.vel");
+    EXPECT_THAT(fatalMessage([&] { openAllTables(g, "vel"); }), HasSubstr("country.vel"));
+    closeAllTables(g);
+    std::ofstream(g.dataDir / "country.vel", std::ios::binary) << std::string(CountryRecord::kLength + 1, 'x');
+    EXPECT_THAT(fatalMessage([&] { openAllTables(g, "vel"); }), HasSubstr("country.vel"));
 }
 
 // The saved set's extension names only the tables of the set; working tables
 // stay .vel and the player's own files .gam.
-TEST_F(OpenTable, OpensEachTableUnderItsOwnFileName) {
+TEST_F(TableSet, OpensEachTableUnderItsOwnFileName) {
     closeAllTables(g);
     copyTableSet(g, "vel", "sg0");
     struct Case {
@@ -65,7 +59,7 @@ TEST_F(OpenTable, OpensEachTableUnderItsOwnFileName) {
     EXPECT_THROW(openTable(g, FileNo::fileDay), FatalError);
 }
 
-TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTargetAndRefusesAnOpenTableOrAMissingSource) {
+TEST_F(TableSet, CopiesAllFortyNineFilesOverTheTargetAndRefusesAnOpenTableOrAMissingSource) {
     g.band.rec.name = "Saved";
     g.band.append();
     EXPECT_THAT(fatalMessage([&] { copyTableSet(g, "vel", "sg1"); }), HasSubstr("still open"));
@@ -87,7 +81,7 @@ TEST_F(CopyTableSet, CopiesAllFortyNineFilesOverTheTargetAndRefusesAnOpenTableOr
     EXPECT_THAT(fatalMessage([&] { copyTableSet(g, "vel", "sg2"); }), HasSubstr("chart7.vel"));
 }
 
-TEST_F(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
+TEST_F(TableSet, ADayIndexIsOpenedAndClosedByItsUser) {
     EXPECT_THAT(fatalMessage([&] { openDayFile(g, 2031); }), HasSubstr("2031.vel"));
 
     copyEmptyFile(g, g.dataDir / "2031.vel");
@@ -110,7 +104,7 @@ TEST_F(PerUseFiles, ADayIndexIsOpenedAndClosedByItsUser) {
     EXPECT_EQ(std::tuple(g.dayIndex->count, g.dayIndex->entries[0]), std::tuple(1, 17));
 }
 
-TEST_F(PerUseFiles, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables) {
+TEST_F(TableSet, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables) {
     auto dayOneCount = [&] {
         openDayFile(g, 2031);
         const int32_t count = g.dayIndex.recordCount() > 1 ? (g.dayIndex.read(1), g.dayIndex->count) : -1;
@@ -147,7 +141,7 @@ TEST_F(PerUseFiles, ADayFileClosedUnchangedIsKeptUntilFilesChangeBesideTheTables
     EXPECT_EQ(dayOneCount(), -1);
 }
 
-TEST_F(PerUseFiles, ChartsPrefsAndHighScoresAreClosedBetweenUses) {
+TEST_F(TableSet, ChartsPrefsAndHighScoresAreClosedBetweenUses) {
     tidyCharts(g);
     EXPECT_FALSE(g.chart.isOpen());
 
