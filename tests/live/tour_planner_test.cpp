@@ -143,7 +143,7 @@ TEST(TourGapsAndOrder, CityCountryAreaElsewhereAndLargestFirstWithEqualsInOrder)
     EXPECT_EQ(order, (std::vector<int16_t>{2, 4, 1, 3}));
 }
 
-TEST(NextVenue, TheFirstGigTakesTheLargestThenSameCityBeatsSameCountryWhichBeatsAnywhere) {
+TEST(NextVenue, FirstTheLargestThenSameCitySameCountryAnywhereAndANationlessTourLeavesACountryAfterSix) {
     // The last gig was at venue 0 (city 1, country 1).
     std::vector<TourVenue> v{at(1, 1, 1, "E"), at(2, 9, 2, "E"), at(3, 2, 1, "E"), at(4, 1, 1, "E")};
     EXPECT_EQ(pickNextVenue(v, {}, 0), 0);
@@ -156,10 +156,7 @@ TEST(NextVenue, TheFirstGigTakesTheLargestThenSameCityBeatsSameCountryWhichBeats
     EXPECT_EQ(pickNextVenue(v, gigs, 0), 1);
     v[1].used = true;
     EXPECT_EQ(pickNextVenue(v, gigs, 0), -1);
-}
-
-TEST(NextVenue, ANationlessTourMovesOnAfterSixGigsInACountry) {
-    std::vector<TourVenue> v{at(1, 1, 1, "E"), at(2, 9, 2, "E"), at(3, 1, 1, "E")};
+    v = {at(1, 1, 1, "E"), at(2, 9, 2, "E"), at(3, 1, 1, "E")};
     v[0].used = true;
     std::vector<PlannedGig> six(6, PlannedGig{.venue = 0});
     EXPECT_EQ(pickNextVenue(v, six, 0), 2);  // 6 gigs: the same city still wins

@@ -9,7 +9,7 @@
 
 using namespace trovane;
 
-TEST(Numbers, ConversionsRoundHalvesToEvenAndIntFloors) {
+TEST(Numbers, ConversionsRoundHalvesToEvenIntFloorsAndValuesPastTheirFieldStopTheGame) {
     struct Case {
         double v, rounded, floored;
     };
@@ -20,9 +20,6 @@ TEST(Numbers, ConversionsRoundHalvesToEvenAndIntFloors) {
         EXPECT_EQ(roundTo<int16_t>(c.v), static_cast<int16_t>(c.rounded)) << c.v;
         EXPECT_EQ(intTo<int32_t>(c.v), static_cast<int32_t>(c.floored)) << c.v;
     }
-}
-
-TEST(Numbers, ValuesPastTheirFieldStopTheGame) {
     EXPECT_EQ(narrow<int16_t>(-32768), -32768);
     EXPECT_EQ(roundTo<int16_t>(32766.5), 32766);  // the even neighbour stays inside
     EXPECT_EQ(roundTo<uint8_t>(255.4), 255);

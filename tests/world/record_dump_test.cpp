@@ -21,7 +21,7 @@ LabelRecord sampleLabel() {
     return l;
 }
 
-TEST(RecordDump, TextShowsEveryFieldOnItsOwnLineAndNestedRecordsAsJson) {
+TEST(RecordDump, TextShowsEachFieldOnItsLineAndJsonEscapesControlsAndGivesNullForWhatItCannotHold) {
     std::string text = recordToString(sampleLabel(), DumpFormat::text);
     EXPECT_TRUE(text.starts_with("id: 3\nname: \"Rival \\\"Q\\\" Records\"\n")) << text;
     EXPECT_NE(text.find("\nhype: [1, -2, 0, 0, 300]\n"), std::string::npos);
@@ -38,19 +38,16 @@ TEST(RecordDump, TextShowsEveryFieldOnItsOwnLineAndNestedRecordsAsJson) {
     // Text shows a number it cannot hold as it is; only JSON needs null.
     const std::string tour = recordToString(TourRecord{.averageQuality = std::nanf("")}, DumpFormat::text);
     EXPECT_NE(tour.find("\naverageQuality: nan"), std::string::npos) << tour;
-}
-
-TEST(RecordDump, JsonEscapesControlCharactersAndGivesNullForNumbersItCannotHold) {
-    std::string json = recordToString(sampleLabel(), DumpFormat::json);
+    const std::string json = recordToString(sampleLabel(), DumpFormat::json);
     EXPECT_TRUE(json.starts_with("{\"id\":3,\"name\":\"Rival \\\"Q\\\" Records\",")) << json;
     EXPECT_NE(json.find(",\"hype\":[1,-2,0,0,300],"), std::string::npos);
     EXPECT_EQ(json.back(), '}');
 
     const TourRecord t{.areaCode = std::string("\0\t\x1f", 3),
                        .averageQuality = std::numeric_limits<float>::quiet_NaN()};
-    std::string tour = recordToString(t, DumpFormat::json);
-    EXPECT_NE(tour.find("\"areaCode\":\"\\u0000\\t\\u001f\""), std::string::npos) << tour;
-    EXPECT_NE(tour.find("\"averageQuality\":null"), std::string::npos);
+    const std::string jsonTour = recordToString(t, DumpFormat::json);
+    EXPECT_NE(jsonTour.find("\"areaCode\":\"\\u0000\\t\\u001f\""), std::string::npos) << jsonTour;
+    EXPECT_NE(jsonTour.find("\"averageQuality\":null"), std::string::npos);
 }
 
 TEST(RecordDump, FileNamesTellTheirTableWhichDumpsEveryRecordAndADamagedFileIsRefused) {

@@ -126,7 +126,7 @@ TEST_F(RecordStore, AWholeRecordWriteLeavesOnlyItsChangedBytesToTheCommit) {
     EXPECT_LE(patch.data().size(), 2 * DirtyChunks::kChunk);
 }
 
-TEST_F(RecordStore, RecordsCountFromOneAndReadingPastTheEndStopsTheGameNamingTheTable) {
+TEST_F(RecordStore, RecordsCountFromOneReadingPastTheEndStopsTheGameAndSixteenBitNumbersEndAt32767) {
     EXPECT_EQ(recordCount(g, FileNo::fileBand), 1);
     EXPECT_EQ(addBand(g, "Only"), 1);
     EXPECT_EQ(g.band->id, 1);
@@ -136,9 +136,6 @@ TEST_F(RecordStore, RecordsCountFromOneAndReadingPastTheEndStopsTheGameNamingThe
     EXPECT_THROW(g.band.write(3), FatalError);  // only the next free number adds a record
     EXPECT_FALSE(g.band.readIfPresent(2));
     EXPECT_EQ(g.band->name, "");
-}
-
-TEST_F(RecordStore, SixteenBitNumbersRunOutAtRecord32768) {
     for (int32_t n = 1; n <= 32767; ++n) put(g.look, LookRecord{});
     EXPECT_EQ(g.look->id, 32767);
     EXPECT_THAT(fatalMessage([&] { put(g.look, LookRecord{}); }), HasSubstr("look"));
