@@ -9,11 +9,6 @@ using namespace trovane;
 
 namespace {
 
-TEST(FestivalVerdict, BandsMeetAt61And81And91) {
-    const std::pair<int, int> cases[] = {{0, 0}, {60, 0}, {61, 1}, {80, 1}, {81, 2}, {90, 2}, {91, 3}, {100, 3}};
-    for (auto [mean, verdict] : cases) EXPECT_EQ(festivalVerdict(mean), verdict) << mean;
-}
-
 class FestivalReview : public test::FestivalWorld, public ::testing::Test {
 protected:
     int16_t tour = 0;
@@ -50,7 +45,9 @@ protected:
     }
 };
 
-TEST_F(FestivalReview, TheMeanOfTheDaysRoundsHalfToEvenAndEachVerdictHasItsTitles) {
+TEST_F(FestivalReview, VerdictsMeetAt61And81And91TheMeanRoundsHalfToEvenAndEachHasItsTitles) {
+    const std::pair<int, int> cases[] = {{0, 0}, {60, 0}, {61, 1}, {80, 1}, {81, 2}, {90, 2}, {91, 3}, {100, 3}};
+    for (auto [mean, verdict] : cases) EXPECT_EQ(festivalVerdict(mean), verdict) << mean;
     played(60, 61, {70, 70, 70});  // 60.5 -> 60
     EXPECT_EQ(review(), "Halcote Summer Gathering fails to live up to expectations.");
     played(60, 62, {70, 70, 70});  // 61
