@@ -20,8 +20,7 @@ protected:
     // 36 acts of one to three members, their attributes spread by simple
     // arithmetic so that every rule keeps some and drops others, and two discs each.
     CrowdedField() {
-        g.style.rec = StyleRecord{};
-        g.style->parentStyle = style;
+        g.style.rec = StyleRecord{.parentStyle = static_cast<uint8_t>(style)};
         childStyle = static_cast<int16_t>(g.style.append());
         g.style.rec = StyleRecord{};
         otherStyle = static_cast<int16_t>(g.style.append());

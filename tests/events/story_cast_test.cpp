@@ -35,7 +35,6 @@ struct Cast : AlbumWorld, ::testing::Test {
         g.gameDate = serialFromCivil(2005, 6, 1);
         g.event.rec = EventRecord{.participantCount = 2, .eventType = 2, .title = std::string("<an1> and <an2>")};
         g.event->nextEvent[0] = 2;
-        g.event->rollLow[0] = 0;
         g.event->rollHigh[0] = 99;
         g.event->conditions[0].money = -500;
         g.event->conditions[0].boundChange = {0, 0, 0, 0, 95, -200};
@@ -213,9 +212,7 @@ TEST_F(Stories, WithoutADefenceTheVerdictIsGuiltyEvenAtTheLine) {
     g.crime.append();
     // no band, no label: defence 0
     amend(g.artist, d, [&] { g.artist->band = 0; });
-    ScheduleRecord stage{};
-    stage.artist = narrow<int16_t>(d);
-    stage.value = 1;
+    ScheduleRecord stage{.artist = narrow<int16_t>(d), .value = 1};
     for (int i = 0; i < 50; ++i) ASSERT_EQ(verdictEvent(g, stage), 8);
     stage.artist = narrow<int16_t>(a);  // the player's label, Finance and Law at 90
     amend(g.label, AlbumWorld::kPlayer, [&] { g.label->department[1].rating = 90; });
