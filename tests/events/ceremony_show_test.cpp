@@ -145,9 +145,7 @@ TEST_F(Show, AnActThatWonBeforeThanksAsOneThatHas) {
     addLine("First time", {0, 0, 0, 1, 0});
     addLine("Again", {0, 0, 0, 2, 0});
     busy(band, 7);  // the message always thanks people
-    auto contains = [](const std::vector<std::string>& v, const char* s) {
-        return std::find(v.begin(), v.end(), s) != v.end();
-    };
+    auto contains = [](const std::vector<std::string>& v, const char* s) { return std::ranges::find(v, s) != v.end(); };
     // The night builds its show before it records tonight's win.
     const int16_t c = addCeremony({addAward("Best Act", 2, {{band, "The Testers"}})});
     amend(g.ceremony, c, [&] { g.ceremony->playerInvited = kTrue; });
