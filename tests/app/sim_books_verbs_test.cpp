@@ -47,9 +47,15 @@ void makeGame(const test::TempFolder& data, Money cashSlip = 0) {
 
 }  // namespace
 
-TEST(SimBooksVerbs, RefusalsExitOneAndChangeNothing) {
+TEST(SimBooksVerbs, BadArgumentsExitTwoRefusalsOneAndNeitherChangesAnything) {
     test::TempFolder data;
     makeGame(data);
+    for (const char* args :
+         {"approach 3 --role 6", "approach 3 --role -1", "approach 3 --role 0 --years 0",
+          "approach 3 --role 0 --years 6", "approach 3 --role 0 --wage -1", "approach 9 --role 0",
+          "department 0 --levels 22,0,0,0,0", "department 0 --levels 0,0,0,0,33", "department 0 --levels 1,2,3,4",
+          "department 0 --levels 1,2,3,4,5,6", "department 6 --levels 0,0,0,0,0", "label \"No Such Label\""})
+        EXPECT_EQ(sim(data, args).first, 2) << args;
     const std::string staffBefore = test::fileBytes(data.path() / "staff.vel");
     const std::string scheduleBefore = test::fileBytes(data.path() / "schedule.vel");
     EXPECT_EQ(sim(data, "approach \"Gil Head\" --role 0").first, 1);
@@ -63,29 +69,12 @@ TEST(SimBooksVerbs, RefusalsExitOneAndChangeNothing) {
     EXPECT_EQ(sim(data, "approach 3 --role 4 --years 5").first, 0);
     EXPECT_EQ(sim(data, "approach 3 --role 4").first, 1) << "already pending";
     EXPECT_EQ(sim(data, "withdraw-staff \"Fay Free\"").first, 0);
-}
-
-TEST(SimBooksVerbs, BadArgumentsExitTwo) {
-    test::TempFolder data;
-    makeGame(data);
-    for (const char* args :
-         {"approach 3 --role 6", "approach 3 --role -1", "approach 3 --role 0 --years 0",
-          "approach 3 --role 0 --years 6", "approach 3 --role 0 --wage -1", "approach 9 --role 0",
-          "department 0 --levels 22,0,0,0,0", "department 0 --levels 0,0,0,0,33", "department 0 --levels 1,2,3,4",
-          "department 0 --levels 1,2,3,4,5,6", "department 6 --levels 0,0,0,0,0", "label \"No Such Label\""})
-        EXPECT_EQ(sim(data, args).first, 2) << args;
     EXPECT_EQ(sim(data, "approach 3 --role 0 --wage 0 --years 1").first, 0) << "a wage of 0 may be offered";
-}
 
-TEST(SimBooksVerbs, DepartmentLevelsShowTheirRatingAndTheBill) {
-    test::TempFolder data;
-    makeGame(data);
-    // 21 x 1,500 = 31,500 at the bound; weighted 105 -> 80; plus Gil's 700
-    auto [status, out] = sim(data, "--json department 0 --levels 21,0,0,0,0");
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(out,
-              "{\"department\":\"Artist and Repertoire\",\"levels\":[21,0,0,0,0],\"rating\":\"80%\","
-              "\"wages\":31500.0000,\"wageBill\":32200.0000}\n");
+    // Department levels: 21 x 1,500 = 31,500 at the bound; weighted 105 -> 80; plus Gil's 700
+    EXPECT_EQ(sim(data, "--json department 0 --levels 21,0,0,0,0"),
+              std::pair(0, std::string("{\"department\":\"Artist and Repertoire\",\"levels\":[21,0,0,0,0],"
+                                       "\"rating\":\"80%\",\"wages\":31500.0000,\"wageBill\":32200.0000}\n")));
     auto [shown, label] = sim(data, "--json label \"Tin Roof\"");
     EXPECT_NE(label.find("\"style\":\"All\""), std::string::npos);
     EXPECT_NE(label.find("\"independence\":\"Independent Label\""), std::string::npos);

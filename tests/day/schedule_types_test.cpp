@@ -16,7 +16,8 @@ TEST(ScheduleTypes, ANumberWithNoRowIsACalledOffEntry) {
     }
 }
 
-TEST(ScheduleTypes, EveryReplyTheNewsOffersHasAnAction) {
+// Every reply the news offers has an action; tour days, and nothing else, keep the whole bill busy.
+TEST(ScheduleTypes, EveryReplyHasAnActionAndOnlyTourDaysOccupyTheBill) {
     for (int t = 0; t <= kLastScheduleType; ++t) {
         const ScheduleTypeInfo& info = scheduleTypeInfo(t);
         const ScheduleAction& action = scheduleAction(t);
@@ -24,13 +25,7 @@ TEST(ScheduleTypes, EveryReplyTheNewsOffersHasAnAction) {
         EXPECT_EQ(yes, action.onYes != nullptr) << t;
         EXPECT_EQ(info.reply == ScheduleReply::yesOrNo, action.onNo != nullptr) << t;
         EXPECT_EQ(info.reply == ScheduleReply::okOpensDecision, info.decisionScreen != Screen::none) << t;
-    }
-}
-
-TEST(ScheduleTypes, TourDaysKeepTheWholeBillBusyAndNothingElseDoes) {
-    for (int t = 0; t <= kLastScheduleType; ++t) {
-        const bool tourDay = t == 8 || t == 10 || t == 11;
-        EXPECT_EQ(scheduleTypeInfo(t).occupiesTheBill, tourDay) << t;
+        EXPECT_EQ(info.occupiesTheBill, t == 8 || t == 10 || t == 11) << t;
     }
 }
 

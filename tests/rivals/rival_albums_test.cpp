@@ -84,16 +84,14 @@ TEST_F(RivalAlbums, TheBestSongsGoOnInWritingOrderAndABandBelowItsNeedWaits) {
     const int16_t disc = static_cast<int16_t>(g.band->songsWritten);
     EXPECT_EQ(tracksOf(disc), songs);
     g.disc.read(disc);
-    EXPECT_EQ(trim(g.disc->coverImage.value), "none.jpg");
-    EXPECT_EQ(g.disc->studio, studio);
+    EXPECT_EQ(std::tuple(trim(g.disc->coverImage.value), g.disc->studio), std::tuple("none.jpg", studio));
     EXPECT_EQ((g.song.read(used), g.song->disc), 3);
 
     g.band.read(twelve);
     const auto tracks = tracksOf(static_cast<int16_t>(g.band->songsWritten));
     // Ten tracks: 100, 90, 85 and seven of the 30s in table order; the 10 is left.
     ASSERT_EQ(tracks.size(), 10u);
-    EXPECT_EQ(tracks.front(), dozen[1]);
-    EXPECT_EQ(tracks.back(), dozen[12]);
+    EXPECT_EQ(std::tuple(tracks.front(), tracks.back()), std::tuple(dozen[1], dozen[12]));
     EXPECT_EQ((g.song.read(dozen[0]), g.song->disc), 65534);   // held back
     EXPECT_EQ((g.song.read(dozen[10]), g.song->disc), 65534);  // the ninth 30 did not make the cut
 

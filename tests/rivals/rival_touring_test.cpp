@@ -174,8 +174,7 @@ TEST_F(RivalTouring, APlayersActIsAskedOnceAndNotPlaced) {
     EXPECT_EQ(billOf(t.gigs[2]), (std::vector<int16_t>{rivalBand, a}));
     auto offers = entriesOn(g.gameDate + 1, ScheduleType::supportSlotOffer);
     ASSERT_EQ(offers.size(), 1u);
-    EXPECT_EQ(offers[0].band, band);
-    EXPECT_EQ(offers[0].gig, t.gigs[0]);
+    EXPECT_EQ(std::tuple(offers[0].band, offers[0].gig), std::tuple(band, t.gigs[0]));
 }
 
 TEST_F(RivalTouring, TheSupportOfferReadsAsTheGameWordsIt) {

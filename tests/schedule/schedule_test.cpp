@@ -51,10 +51,7 @@ TEST(Schedule, OnlyAPromotionKeepsItsNumberWhenFiledAgain) {
     Game& g = eg.g;
     for (int i = 0; i < 3; ++i) file(g, 17, day(2004, 9, 1));
     g.schedule.rec.band = 77;
-    ScheduleRecord moved{};
-    moved.type = 17;
-    moved.id = 2;
-    moved.date = day(2004, 9, 8);
+    ScheduleRecord moved{.type = 17, .date = day(2004, 9, 8), .id = 2};
     EXPECT_EQ(addSchedule(g, moved), 2);
     moved.type = 7;
     EXPECT_EQ(addSchedule(g, moved), 4);

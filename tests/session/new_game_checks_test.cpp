@@ -33,9 +33,8 @@ protected:
 
 }  // namespace
 
-TEST_F(NewGameChecks, APlayerAsTypedIsTaken) { EXPECT_FALSE(checkPlayerChoices(g, player())); }
-
-TEST_F(NewGameChecks, TheFirstNameRuleBrokenIsNamedWithItsField) {
+TEST_F(NewGameChecks, ThePlayersFirstBrokenRuleIsNamedWithItsField) {
+    EXPECT_FALSE(checkPlayerChoices(g, player()));
     PlayerChoices p = player();
     p.forename = " ";
     p.surname = "Ω";
@@ -45,16 +44,20 @@ TEST_F(NewGameChecks, TheFirstNameRuleBrokenIsNamedWithItsField) {
     EXPECT_EQ(
         said(checkPlayerChoices(g, p)),
         std::pair(NewGameField::surname, std::string("The surname holds \"Ω\", a character the game cannot store.")));
-}
-
-TEST_F(NewGameChecks, ANameFillsItsThirtyTwoCharactersAndNoMore) {
-    PlayerChoices p = player();
+    // A name fills its thirty-two characters and no more.
     p.surname = std::string(32, 'e');
     EXPECT_FALSE(checkPlayerChoices(g, p));
     p.surname += "é";
     EXPECT_EQ(
         said(checkPlayerChoices(g, p)),
         std::pair(NewGameField::surname, std::string("The surname is 33 characters long; it may be at most 32.")));
+    // A nationality is a country's adjective.
+    p = player();
+    p.nationality = "British";
+    EXPECT_EQ(said(checkPlayerChoices(g, p)),
+              std::pair(NewGameField::nationality, std::string("There is no nationality \"British\".")));
+    p.nationality = "New Zealander";
+    EXPECT_FALSE(checkPlayerChoices(g, p));
 }
 
 TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
@@ -68,72 +71,53 @@ TEST_F(NewGameChecks, BirthDatesRunFromTheFirstOf1880ToTheLastOf2003) {
                    Case{2000, 2, 29, true}, Case{1900, 2, 29, false}, Case{2003, 4, 31, false},
                    Case{2003, 13, 1, false}, Case{2003, 1, 0, false}}) {
         PlayerChoices p = player();
-        p.birthYear = c.y;
-        p.birthMonth = c.m;
-        p.birthDay = c.d;
+        std::tie(p.birthYear, p.birthMonth, p.birthDay) = std::tuple(c.y, c.m, c.d);
         InputRefusal r = checkPlayerChoices(g, p);
         EXPECT_EQ(!r, c.taken) << c.y << "-" << c.m << "-" << c.d;
         if (r) { EXPECT_EQ(r.text, "The date of birth must be a real date from 1 January 1880 to 31 December 2003."); }
     }
 }
 
-TEST_F(NewGameChecks, ANationalityIsACountrysAdjective) {
-    PlayerChoices p = player();
-    p.nationality = "British";
-    EXPECT_EQ(said(checkPlayerChoices(g, p)),
-              std::pair(NewGameField::nationality, std::string("There is no nationality \"British\".")));
-    p.nationality = "New Zealander";
-    EXPECT_FALSE(checkPlayerChoices(g, p));
-}
-
-TEST_F(NewGameChecks, AnotherLabelsNameIsRefusedInAnyCapitalsAndWithBlanksAround) {
+TEST_F(NewGameChecks, ALabelsNamePlaceAndStyleMustBeNewAndExist) {
+    // Another label's name is refused in any capitals and with blanks around.
     LabelChoices l = label();
     l.name = "  gREYSTONE music ";
     EXPECT_EQ(said(checkLabelChoices(g, l)),
               std::pair(NewGameField::labelName, std::string("There is already a label called Greystone Music.")));
     l.name = "Greystone Musics";
     EXPECT_FALSE(checkLabelChoices(g, l));
-}
 
-TEST_F(NewGameChecks, AnUnknownContinentListsTheSix) {
-    LabelChoices l = label();
-    l.continent = "Europa";
+    l.continent = "Europa";  // an unknown continent lists the six
     InputRefusal r = checkLabelChoices(g, l);
     EXPECT_EQ(said(r), std::pair(NewGameField::continent, std::string("There is no continent \"Europa\".")));
     EXPECT_EQ(r.choices,
               (std::vector<std::string>{"Africa", "Asia", "Europe", "North America", "Oceania", "South America"}));
-}
 
-TEST_F(NewGameChecks, ACountryMustExistAndLieInTheContinent) {
-    LabelChoices l = label();
+    l = label();  // a country must exist and lie in the continent
     l.country = "Wales";
     EXPECT_EQ(checkLabelChoices(g, l).text, "There is no country \"Wales\".");
     l.country = "Canada";
     l.city = "Toronto";
-    InputRefusal r = checkLabelChoices(g, l);
+    r = checkLabelChoices(g, l);
     EXPECT_EQ(said(r), std::pair(NewGameField::country,
                                  std::string("Canada is not a country of Europe with a city for a label.")));
     EXPECT_EQ(r.choices, (std::vector<std::string>{"England", "Scotland", "France"}));
     l.continent = "North America";
     EXPECT_FALSE(checkLabelChoices(g, l));
-}
 
-TEST_F(NewGameChecks, ACityMustExistAndLieInTheCountry) {
-    LabelChoices l = label();
+    l = label();  // a city must exist and lie in the country
     l.city = "Glasgow";
-    InputRefusal r = checkLabelChoices(g, l);
+    r = checkLabelChoices(g, l);
     EXPECT_EQ(said(r), std::pair(NewGameField::city, std::string("Glasgow is not a city of England.")));
     EXPECT_EQ(r.choices, std::vector<std::string>{"London"});
     l.city = "Atlantis";
     EXPECT_EQ(checkLabelChoices(g, l).text, "There is no city \"Atlantis\".");
-}
 
-TEST_F(NewGameChecks, AStyleMustExistOrBeAllStyles) {
-    LabelChoices l = label();
+    l = label();  // a style must exist or be all styles
     l.style = "All Styles";
     EXPECT_FALSE(checkLabelChoices(g, l));
     l.style = "Polka";
-    InputRefusal r = checkLabelChoices(g, l);
+    r = checkLabelChoices(g, l);
     EXPECT_EQ(said(r), std::pair(NewGameField::style, std::string("There is no style \"Polka\".")));
     EXPECT_EQ(r.choices, (std::vector<std::string>{"All Styles", "Indie Rock", "Legend"}));
 }

@@ -49,15 +49,13 @@ protected:
 };
 
 TEST(BirthDate, DayListsFollowTheMonthAndKeepTheDayWhenTheyCan) {
-    EXPECT_EQ(daysInBirthMonth(1984, 2), 29);
-    EXPECT_EQ(daysInBirthMonth(1983, 2), 28);
-    EXPECT_EQ(daysInBirthMonth(1900, 2), 28);
-    EXPECT_EQ(daysInBirthMonth(2000, 2), 29);
-    EXPECT_EQ(keptBirthDay(31, 1982, 6), 1);  // 31 falls back to the top of the list
-    EXPECT_EQ(keptBirthDay(30, 1982, 6), 30);
-    EXPECT_EQ(keptBirthDay(29, 1983, 2), 1);
-    EXPECT_EQ(birthYears().front(), 1880);
-    EXPECT_EQ(birthYears().back(), 2003);
+    EXPECT_EQ(std::tuple(daysInBirthMonth(1984, 2), daysInBirthMonth(1983, 2), daysInBirthMonth(1900, 2),
+                         daysInBirthMonth(2000, 2)),
+              std::tuple(29, 28, 28, 29));
+    // A day past the month falls back to the top of the list.
+    EXPECT_EQ(std::tuple(keptBirthDay(31, 1982, 6), keptBirthDay(30, 1982, 6), keptBirthDay(29, 1983, 2)),
+              std::tuple(1, 30, 1));
+    EXPECT_EQ(std::tuple(birthYears().front(), birthYears().back()), std::tuple(1880, 2003));
 }
 
 TEST_F(NewGame, DefaultsAreTwentiethJuly1982OnlyWithoutEarlierChoices) {
@@ -130,9 +128,8 @@ TEST_F(NewGame, FoundingALabelGivesAMillionAndTellsTheNews) {
               "time today. New boss Ann Lee will have her work cut out just trying to keep the label afloat in the "
               "current climate but with hard work, perseverence and luck one day maybe Quarry Records can join the "
               "hallowed ranks of the major labels. Only time will tell if Ann is up to the challenge.");
-    EXPECT_EQ(g.news->date, g.gameDate);
-    EXPECT_EQ((g.staff.read(p.staff.id), g.staff->employer), 2);
-    EXPECT_EQ(g.currentScreen, Screen::frmNews);
+    EXPECT_EQ(std::tuple(g.news->date, (g.staff.read(p.staff.id), g.staff->employer), g.currentScreen),
+              std::tuple(g.gameDate, 2, Screen::frmNews));
     LabelChoices remembered = defaultLabelChoices(g);
     EXPECT_EQ(std::tuple(remembered.name, remembered.city),
               std::tuple(std::string("Quarry Records"), std::string("Glasgow")));

@@ -6,6 +6,7 @@
 
 #include "floor/preferences.h"
 #include "session/save_load.h"
+#include "support/amend.h"
 #include "support/folder_files.h"
 #include "support/game_test.h"
 #include "world/dates.h"
@@ -34,9 +35,7 @@ struct SaveSlots : test::GameTest {
     }
 
     void renameBand(const char* name) {
-        g.band.read(1);
-        g.band->name = name;
-        g.band.write(1);
+        amend(g.band, 1, [&] { g.band->name = name; });
     }
     void makeYearFiles() {
         for (int y = g.firstScheduleYear; y <= g.lastScheduleYear; ++y) {
@@ -128,9 +127,8 @@ TEST_P(BrokenSlot, IsRefusedByNameAndTheRunningGameIsUntouched) {
         EXPECT_NE(std::string(e.what()).find(GetParam().fault), std::string::npos) << e.what();
     }
     EXPECT_EQ(workingSet(), before);
-    EXPECT_EQ(g.gameDate, date);
-    g.band.read(1);  // the working set is still open and usable
-    EXPECT_EQ(g.band->name, "Running game");
+    // The working set is still open and usable.
+    EXPECT_EQ(std::tuple(g.gameDate, (g.band.read(1), g.band->name)), std::tuple(date, "Running game"));
     // The slot list marks it.
     EXPECT_EQ(slotName(g, 6), "(damaged)");
     auto fault = slotFault(g, 6);

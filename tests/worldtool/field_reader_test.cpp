@@ -38,17 +38,14 @@ cashBalance = 2500000.25
 department = [ {}, { staffAtLevel = [1, 2], rating = 55, head = "Ann Smith" } ]
 )");
     EXPECT_TRUE(r.diag.clean());
-    EXPECT_EQ(label.boss, 4);
-    EXPECT_EQ(label.cashBalance, 25000002500);
-    EXPECT_EQ(label.department[1].head, 4);
-    EXPECT_EQ(label.department[1].staffAtLevel[1], 2);
-    EXPECT_EQ(label.department[0].rating, 0);
+    EXPECT_EQ(std::tuple(label.boss, label.cashBalance, label.department[1].head, label.department[1].staffAtLevel[1],
+                         label.department[1].rating, label.department[0].rating),
+              std::tuple(4, 25000002500, 4, 2, 55, 0));
 
     auto staff = r.read<StaffRecord>("forename = \"Ann\"\nbirthDate = 1961-02-28\nmale = false\nwage = 900\n");
     EXPECT_TRUE(r.diag.clean());
-    EXPECT_EQ(staff.birthDate, serialFromCivil(1961, 2, 28));
-    EXPECT_EQ(staff.male, kFalse);
-    EXPECT_EQ(staff.wage, moneyUnits(900));
+    EXPECT_EQ(std::tuple(staff.birthDate, staff.male, staff.wage),
+              std::tuple(serialFromCivil(1961, 2, 28), kFalse, moneyUnits(900)));
 }
 
 TEST(FieldReader, RefusesWhatDoesNotFitAndSaysWhere) {
@@ -56,10 +53,9 @@ TEST(FieldReader, RefusesWhatDoesNotFitAndSaysWhere) {
     r.read<LabelRecord>("name = \"X\"\n\ndepartment = [ { boss = 1 }, {}, {}, {}, {}, {}, {} ]\nfounded = true\n");
     auto problems = r.diag.sorted();
     ASSERT_EQ(problems.size(), 2u);
-    EXPECT_EQ(problems[0].line, 3);
-    EXPECT_EQ(problems[0].message, "`department` has 7 values; the field holds 6");
-    EXPECT_EQ(problems[1].line, 4);
-    EXPECT_EQ(problems[1].message, "`founded` should be a number");
+    EXPECT_EQ(std::tuple(problems[0].line, problems[0].message),
+              std::tuple(3, "`department` has 7 values; the field holds 6"));
+    EXPECT_EQ(std::tuple(problems[1].line, problems[1].message), std::tuple(4, "`founded` should be a number"));
 
     Reading nested;
     nested.read<LabelRecord>("department = [ { boss = 1 } ]\n");

@@ -47,9 +47,7 @@ TEST_F(IndustryBuild, ActsTakeTheirFiguresFromTheirMembers) {
     EXPECT_EQ(band.members, (std::array<int16_t, 10>{1, 2}));
     EXPECT_EQ(std::tuple(band.label, band.formedIn, band.formedInCity), std::tuple(1, 1, kTrue));
     // Means round half to even: (64 + 51) / 2, (65 + 70) / 2 and (80 + 61) / 2.
-    EXPECT_EQ(band.ability, 58);
-    EXPECT_EQ(band.live, 68);
-    EXPECT_EQ(band.stamina, 70);
+    EXPECT_EQ(std::tuple(band.ability, band.live, band.stamina), std::tuple(58, 68, 70));
     // The highest of the members.
     EXPECT_EQ(std::tuple(band.charisma, band.controversy, band.topAttitudeLevel), std::tuple(70, 55, 9));
     EXPECT_EQ(band.contractEnd, kNoDate);
@@ -69,17 +67,15 @@ TEST_F(IndustryBuild, DiscsAndSongsAreNumberedAndRated) {
     EXPECT_EQ(std::tuple(album.band, album.label, album.studio, album.distributor[0]), std::tuple(1, 1, 1, 3));
     EXPECT_EQ(std::tuple(album.trackCount, album.tracksRecorded, album.tracks[0], album.tracks[1]),
               std::tuple(2, 2, 1, 2));
-    EXPECT_EQ(album.quality, 60);  // (70 + 51) / 2, half to even
-    EXPECT_EQ(album.commerciality, 66);
+    EXPECT_EQ(std::tuple(album.quality, album.commerciality), std::tuple(60, 66));  // (70 + 51) / 2, half to even
     EXPECT_EQ(album.lifetimeSales, album.totalSales);
     EXPECT_EQ(album.releaseDate[1], serialFromCivil(2003, 10, 6));
     EXPECT_EQ(album.releaseDate[2], 0.0);
 
     auto single = record<DiscRecord>("disc.gam", 2);
-    EXPECT_EQ(single.tracks[0], 1);  // the album's song, by title
-    EXPECT_EQ(single.tracks[1], 3);  // a song of the single's own
-    EXPECT_EQ(single.quality, 70);   // the lead song's figures
-    EXPECT_EQ(single.commerciality, 62);
+    // The album's song by title, then a song of the single's own; the lead song's figures.
+    EXPECT_EQ(std::tuple(single.tracks[0], single.tracks[1], single.quality, single.commerciality),
+              std::tuple(1, 3, 70, 62));
 
     auto lead = record<SongRecord>("song.gam", 1);
     EXPECT_EQ(std::tuple(lead.writer, lead.disc, lead.style), std::tuple(1, 1, 1));
@@ -87,8 +83,7 @@ TEST_F(IndustryBuild, DiscsAndSongsAreNumberedAndRated) {
     // Released in the UK and the rest of the world: the Other territory is the third slot.
     EXPECT_EQ(lead.singleDisc, (std::array<int16_t, 5>{2, 0, 2, 0, 0}));
     auto boughtIn = record<SongRecord>("song.gam", 2);
-    EXPECT_EQ(boughtIn.writer, 0);
-    EXPECT_EQ(boughtIn.writerForename.str(), "Unknown");
+    EXPECT_EQ(std::tuple(boughtIn.writer, boughtIn.writerForename.str()), std::tuple(0, "Unknown"));
     EXPECT_EQ(record<SongRecord>("song.gam", 3).disc, 2);
 }
 
@@ -97,8 +92,8 @@ TEST_F(IndustryBuild, LabelsTakeTheirFiguresFromStaffAndActs) {
     EXPECT_EQ(std::tuple(halcyon.boss, halcyon.bandCount, halcyon.department[0].head), std::tuple(1, 1, 2));
     EXPECT_EQ(halcyon.strengthClass, 44);  // 1950 squared / 87120
     EXPECT_EQ(halcyon.hype, (std::array<int16_t, 5>{-75, -55, -65, -45, -40}));
-    EXPECT_EQ(halcyon.department[0].rating, 28);  // 39 weighted staff give 24, a head of 80 adds 4
-    EXPECT_EQ(halcyon.department[1].rating, 0);
+    // 39 weighted staff give 24, a head of 80 adds 4.
+    EXPECT_EQ(std::tuple(halcyon.department[0].rating, halcyon.department[1].rating), std::tuple(28, 0));
     // Staff by level 15,050 and 1,500, and the head's 900.
     EXPECT_EQ(halcyon.wageBill, moneyUnits(17450));
     auto kestrel = record<LabelRecord>("label.gam", 2);

@@ -119,54 +119,25 @@ style = "Legend"
 formedIn = "Japan"
 reputation = [2, 2, 2, 2, 30]
 monthsUnsigned = 4
-
-  [[band.member]]
-  forename = "Yuki"
-  surname = "Tanabe"
-  age = 22
-  job = "Singer-Songwriter"
-  country = "Japan"
-  male = false
-  ability = 45
-  talentCeiling = 80
-  potential = 80
+member = [ { forename = "Yuki", surname = "Tanabe", age = 22, job = "Singer-Songwriter", country = "Japan",
+             male = false, ability = 45, talentCeiling = 80, potential = 80 } ]
 )";
     files["hidden.toml"] = R"([[hiddenBand]]
 name = "The Salt Lanterns"
 style = "Indie Rock"
 reputation = [60, 40, 50, 30, 20]
-
-  [[hiddenBand.member]]
-  forename = "Ivo"
-  surname = "Marsh"
-  age = 28
-  job = "Singer-Songwriter"
-  country = "England"
-  male = true
-  ability = 77
-  talentCeiling = 85
-  potential = 85
-  royaltyShare = 70
+member = [ { forename = "Ivo", surname = "Marsh", age = 28, job = "Singer-Songwriter", country = "England",
+             male = true, ability = 77, talentCeiling = 85, potential = 85, royaltyShare = 70 } ]
 )";
     files["ceremonies.toml"] = R"([[ceremony]]
 name = "The Silver Stylus Awards"
 country = "England"
 calendar = [6, 5, 8, 0, 0, 0]
-
-  [[ceremony.award]]
-  name = "Best British Album"
-  kind = 0
-  basis = 1
-  weight = 70
-  styleRule = "Indie Rock"
-  origin = "England"
-  nomineeCount = 5
-  commercialityRange = [10, 90]
-
-  [[ceremony.award]]
-  name = "Best Newcomer"
-  kind = 2
-  originGroup = -3
+award = [
+  { name = "Best British Album", kind = 0, basis = 1, weight = 70, styleRule = "Indie Rock", origin = "England",
+    nomineeCount = 5, commercialityRange = [10, 90] },
+  { name = "Best Newcomer", kind = 2, originGroup = -3 },
+]
 )";
     files["events.toml"] =
         R"(crime = [ { crimeName = "assault", acquittalEvent = "brawl-acquitted", guiltyEvent = "brawl-trial", sentence = 6 } ]

@@ -52,20 +52,17 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
     EXPECT_EQ(recordOf<CityRecord>(set, "city.gam", 2).country, 5);
 
     auto oliver = recordOf<ForenameRecord>(set, "forename.gam", 1);
-    EXPECT_EQ(oliver.isMale, kTrue);
-    EXPECT_EQ(oliver.countryLinks, (std::array<uint8_t, 5>{3, 5, 0, 0, 0}));
-    EXPECT_EQ(oliver.countryWeights, (std::array<uint8_t, 5>{8, 1, 0, 0, 0}));
+    EXPECT_EQ(std::tuple(oliver.isMale, oliver.countryLinks, oliver.countryWeights),
+              std::tuple(kTrue, std::array<uint8_t, 5>{3, 5, 0, 0, 0}, std::array<uint8_t, 5>{8, 1, 0, 0, 0}));
     EXPECT_EQ(recordOf<ForenameRecord>(set, "forename.gam", 3).isMale, kFalse);
 
     auto indie = recordOf<StyleRecord>(set, "style.gam", 1);
     EXPECT_EQ(indie.bandJobs, (std::array<uint8_t, 7>{1, 2, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(indie.soloJob, 3);
-    EXPECT_EQ(indie.parentStyle, 2);
-    EXPECT_EQ(std::tuple(indie.baseCharisma, indie.baseAngst, indie.baseFlair), std::tuple(55, 60, 0));
+    EXPECT_EQ(std::tuple(indie.soloJob, indie.parentStyle, indie.baseCharisma, indie.baseAngst, indie.baseFlair),
+              std::tuple(3, 2, 55, 60, 0));
 
     auto look = recordOf<LookRecord>(set, "look.gam", 1);
-    EXPECT_EQ(look.bounds[2], 50);   // controversy low
-    EXPECT_EQ(look.bounds[15], 90);  // visual high
+    EXPECT_EQ(std::tuple(look.bounds[2], look.bounds[15]), std::tuple(50, 90));  // controversy low, visual high
 
     EXPECT_EQ(recordOf<ProductRecord>(set, "product.gam", 1).regionWeights, (std::array<uint8_t, 5>{6, 2, 0, 0, 0}));
 
@@ -75,13 +72,11 @@ TEST(WorldBuild, NamesResolveToTheRecordNumbersOfTheirTables) {
     // Banks of names keep the order of the source, styles included.
     EXPECT_EQ(set.files.at("newband.gam").size(), 3 * NewBandRecord::kLength);
     auto first = recordOf<NewBandRecord>(set, "newband.gam", 1);
-    EXPECT_EQ(first.name.str(), "The Paper Lanterns");
-    EXPECT_EQ(first.style, 2);
+    EXPECT_EQ(std::tuple(first.name.str(), first.style), std::tuple("The Paper Lanterns", 2));
     EXPECT_EQ(recordOf<NewBandRecord>(set, "newband.gam", 3).id, 3);
 
     auto prefs = recordOf<PrefsRecord>(set, "prefs.gam", 1);
-    EXPECT_EQ(prefs.currencySymbol.str(), "£");
-    EXPECT_EQ(prefs.exchangeRate, 1.0f);
+    EXPECT_EQ(std::tuple(prefs.currencySymbol.str(), prefs.exchangeRate), std::tuple("£", 1.0f));
 }
 
 // Two builds give the same bytes in every file; the set proves itself and
