@@ -229,12 +229,6 @@ TEST_F(StaffGame, AFormerBossHeadsNothingAndGoesWithoutTouchingADepartment) {
     EXPECT_NE(checkTerminateStaff(g, old), "") << "no longer works there";
 }
 
-TEST(CalendarMonths, CountMonthsNotDays) {
-    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2004, 1, 31), serialFromCivil(2004, 2, 1)), 1);
-    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2004, 1, 1), serialFromCivil(2004, 1, 31)), 0);
-    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2003, 12, 15), serialFromCivil(2005, 1, 2)), 13);
-}
-
 struct ReleaseCase {
     int months;
     std::string text;
@@ -272,8 +266,12 @@ INSTANTIATE_TEST_SUITE_P(
                       ReleaseCase{23, parted("over a year")}, ReleaseCase{24, parted("over 2 years")},
                       ReleaseCase{36, parted("over 2 years")}, ReleaseCase{37, parted("a number of years")}));
 
-TEST(ReleaseNewsText, AManIsHeAndHis) {
+TEST(ReleaseNewsText, AManIsHeAndHisAndTheMonthsServedAreCalendarMonths) {
     ReleaseNews n = releaseNews("Al Reed", true, "K", "B", 0);
     EXPECT_NE(n.text.find("said he felt betrayed by his treatment"), std::string::npos);
     EXPECT_NE(n.text.find("that his contract"), std::string::npos);
+    // The months served are calendar months, not days.
+    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2004, 1, 31), serialFromCivil(2004, 2, 1)), 1);
+    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2004, 1, 1), serialFromCivil(2004, 1, 31)), 0);
+    EXPECT_EQ(calendarMonthsBetween(serialFromCivil(2003, 12, 15), serialFromCivil(2005, 1, 2)), 13);
 }
