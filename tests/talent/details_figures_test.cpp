@@ -20,9 +20,6 @@ struct Figures : ::testing::Test, AlbumWorld {
     const int16_t us = addBand("Us", kPlayer);
     const int16_t them = addBand("Them", kRival);
 };
-using BandDetailsFigures = Figures;
-using ArtistDetailsFigures = Figures;
-using VenueCard = Figures;
 
 }  // namespace
 
@@ -50,7 +47,7 @@ TEST_F(Figures, AJobIsNamedForTheArtistsSex) {
     EXPECT_EQ(jobTitleFor(g, 3, true), "") << "past the table";
 }
 
-TEST_F(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
+TEST_F(Figures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
     const int16_t others = addBand("Others", AlbumWorld::kRival);
     g.festival.rec = FestivalRecord{.festivalName = "Moor Fest"};
     g.festival.append();
@@ -69,7 +66,7 @@ TEST_F(BandDetailsFigures, ToursListHeadlinedAndSupportedOnesByAreaOrFestival) {
                                                "4 Moor Fest, Support, Europe"}));
 }
 
-TEST_F(BandDetailsFigures, AnAnnouncedEndIsTheActsOwnPendingEnd) {
+TEST_F(Figures, AnAnnouncedEndIsTheActsOwnPendingEnd) {
     EXPECT_EQ(bandDetails(g, us).announcedEnd, 0);
     test::file(g, 28, g.gameDate + 3, them);  // an act's end, filed ahead
     test::file(g, 28, g.gameDate + 9, us);
@@ -83,7 +80,7 @@ TEST_F(BandDetailsFigures, AnAnnouncedEndIsTheActsOwnPendingEnd) {
     EXPECT_TRUE(bandDetails(g, them).attributes.empty());
 }
 
-TEST_F(ArtistDetailsFigures, ARetiredArtistShowsTheDateSetAndAPlayersArtistItsLook) {
+TEST_F(Figures, ARetiredArtistShowsTheDateSetAndAPlayersArtistItsLook) {
     const int16_t a = (g.band.read(us), g.band->members[0]);
     amend(g.artist, a, [&] {
         g.artist->retired = kTrue;
@@ -102,7 +99,7 @@ TEST_F(ArtistDetailsFigures, ARetiredArtistShowsTheDateSetAndAPlayersArtistItsLo
     }
 }
 
-TEST_F(VenueCard, GigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
+TEST_F(Figures, AVenuesGigsStandLatestFirstAndALaterRecordFirstOnOneDate) {
     g.venue.rec = VenueRecord{.name = std::string("The Hall"), .capacity = 1200, .city = 1};
     g.venue.append();
     const double d = test::day(2004, 6, 1);

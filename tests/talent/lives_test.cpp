@@ -69,13 +69,9 @@ struct Lives : ::testing::Test, AlbumWorld {
     }
 };
 
-using NewActs = Lives;
-using Replacements = Lives;
-using Retirement = Lives;
-
 }  // namespace
 
-TEST_F(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
+TEST_F(Lives, NewActsStylesAreDrawnByPopularityAndNeverLegend) {
     // Style 1 (Rock, popularity 0, commerciality 60: 30) exists; then a hit
     // style (100 everywhere: always kept), Legend, a middling one (25: kept only
     // on a draw of 0, 1 in 75) and a last record that is never drawn.
@@ -94,7 +90,7 @@ TEST_F(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
     EXPECT_GT(seen[4], 0);
 }
 
-TEST_F(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
+TEST_F(Lives, NewActsGroupSizesStayBetweenTheSmallestAndTheSpread) {
     g.style->membersUsual = 4;
     g.style->membersHigh = 6;
     g.style->membersLow = 3;
@@ -107,7 +103,7 @@ TEST_F(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
     EXPECT_NEAR(seen[4] / 4000.0, 0.51 + 0.49 / 4, 0.03);
 }
 
-TEST_F(NewActs, HomeMarketsFollowWhereTheActFormed) {
+TEST_F(Lives, NewActsHomeMarketsFollowWhereTheActFormed) {
     using Order = std::array<int, 5>;
     for (auto [name, region, order] : {std::tuple{"Scotland", "E", Order{0, 2, 1, 3, 4}},
                                        {"France", "E", {2, 0, 1, 3, 4}},
@@ -120,7 +116,7 @@ TEST_F(NewActs, HomeMarketsFollowWhereTheActFormed) {
     }
 }
 
-TEST_F(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
+TEST_F(Lives, NewActsABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
     for (auto [name, style] : {std::pair{"Taken", 1}, {"Free", 1}, {"Other", 2}}) {
         g.newband.rec = NewBandRecord{.name = name, .style = narrow<uint8_t>(style)};
         g.newband.append();
@@ -135,7 +131,7 @@ TEST_F(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
     EXPECT_EQ(drawn, (std::set<std::string>{"Free", "Taken"}));
 }
 
-TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
+TEST_F(Lives, ReplacementScoreFrom70To130AndTheFirstBestStays) {
     int16_t x = group("X");
     const auto leaver = narrow<int16_t>(member(x, 0));
     auto found = [&](const std::set<int32_t>& chain = {}) { return findReplacement(g, leaver, x, chain); };
@@ -162,7 +158,7 @@ TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     EXPECT_EQ(found(), 0) << "another job, style, or retiring";
 }
 
-TEST_F(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
+TEST_F(Lives, ReplacementAMemberOfAnotherBandNeedsTheStamina) {
     int16_t x = group("X");
     int16_t y = group("Y", 25);  // rating 25 of 50: 100 - stamina must reach 50
     for (int i = 0; i < 2; ++i) amend(g.artist, member(y, i), [&] { g.artist->job = 2; });
@@ -173,7 +169,7 @@ TEST_F(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), able);
 }
 
-TEST_F(Replacements, ALeaverWithNoFollowingCountsAsOne) {
+TEST_F(Lives, ReplacementALeaverWithNoFollowingCountsAsOne) {
     int16_t x = group("X");
     int32_t leaver = member(x, 0);
     amend(g.artist, leaver, [&] { g.artist->reputation = {}; });
@@ -182,7 +178,7 @@ TEST_F(Replacements, ALeaverWithNoFollowingCountsAsOne) {
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), c);
 }
 
-TEST_F(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
+TEST_F(Lives, RetirementAChainOfPostsRunsOnOneDateUntilOneFails) {
     readyForNewActs();
     int16_t x = group("X"), y = group("Y", 50), z = group("Z", 50);
     int32_t a = member(x, 0), b = member(y, 0), c = member(z, 0);
@@ -223,7 +219,7 @@ TEST_F(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
     EXPECT_EQ(g.band.recordCount(), after);
 }
 
-TEST_F(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
+TEST_F(Lives, RetirementAnActUnsignedTenMonthsEndsWithoutNews) {
     readyForNewActs();
     int16_t x = group("X", 90);  // rated 90: of interest
     amend(g.band, x, [&] { g.band->monthsUnsigned = 9; });
@@ -234,7 +230,7 @@ TEST_F(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
     EXPECT_EQ(g.band.recordCount(), bands + 1);
 }
 
-TEST_F(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
+TEST_F(Lives, RetirementAnAgeingActRetiresOnlyPastHalfItsSpan) {
     amend(g.style, 1, [&] { g.style->lifeSpan = 100; });
     int16_t x = group("X");
     for (auto [age, filed] : {std::pair{50, false}, {51, true}}) {
@@ -252,7 +248,7 @@ TEST_F(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
     }
 }
 
-TEST_F(Retirement, ASoloActGoesWithItsArtist) {
+TEST_F(Lives, RetirementASoloActGoesWithItsArtist) {
     readyForNewActs();
     const double tomorrow = g.gameDate + 1;
     // A solo artist's notice is the act's: a year's notice, nothing filed for the artist.
