@@ -24,7 +24,8 @@ TEST_F(Terms, EveryActAsksAtLeastSixtyThousandAndMoreWithTheSquareOfItsWorth) {
                          b.offerStage),
               std::tuple(moneyUnits(60'000), moneyUnits(60'000), 9, 3, 18, 1));
     EXPECT_EQ(b.advanceToPay, moneyUnits(60'000)) << "61,234 on its step of 5,000";
-    // The ask rises with the square of the act's worth: v = 10 x 20 + 3 x 3 = 209: 209^2 / 1089 x 1500 = 60,166.67 -> 60,167, on its step 60,000;
+    // The ask rises with the square of the act's worth: v = 10 x 20 + 3 x 3 = 209:
+    // 209^2 / 1089 x 1500 = 60,166.67 -> 60,167, on its step 60,000;
     // royalty Int(Int(209 / 33) / 6) + 9 = Int(6 / 6) + 9 = 10.
     b = askedBy({0, 20, 0, 0, 3});
     EXPECT_EQ(std::tuple(b.initialAdvance, b.royaltyRate), std::tuple(moneyUnits(60'000), 10));
@@ -89,7 +90,8 @@ TEST_F(Scoring, ABandOfNoReputationMakesAnyLabelHugeAndExtraOptionsPayAnOlderAct
     // standing round(100 x 10 / 1) = 1000: round(1000 x 90 / 1000 + 90) = 180.
     EXPECT_EQ(rateContract(g, 1).score, 180);
 
-    // More options than asked pay an older act eighty: careerAge round(5 x 100 / 5) = 100: twice the options add 1 x (100 - 60) x 2 = 80:
+    // More options than asked pay an older act eighty: careerAge round(5 x 100 / 5) = 100: twice the
+    // options add 1 x (100 - 60) x 2 = 80:
     // mean round((180 + 100 + 100) / 3) = 127, x 0.9 = 114.3 -> 114; standing 0.
     setUpBand(5, 2);
     labelWithStanding(0);
