@@ -13,14 +13,8 @@
 
 using namespace trovane;
 
-using Interest = test::GameTest;
-using LabelWages = test::GameTest;
-using MonthEnd = test::GameTest;
-using DepartmentWages = test::GameTest;
-using DepartmentRating = test::GameTest;
-using DepartmentLevels = test::GameTest;
-using DepartmentError = test::GameTest;
-using LabelPage = test::GameTest;
+using Books = test::GameTest;
+using Departments = test::GameTest;
 
 namespace {
 
@@ -41,21 +35,22 @@ Money entryOf(Game& g, int32_t n, int period, int category) {
 
 }  // namespace
 
-TEST_F(Interest, RatingSquaredIsTheMonthlyRateInMillionthsHalfToEven) {
-    struct Row {
-        Money cash;
-        int rating;
-        Money interest;
-    };
+TEST_F(Books, InterestIsTheRatingSquaredInMillionthsAMonthHalfToEven) {
     // 1000.0000 = 10,000,000 ten-thousandths x 85^2 / 1,000,000 = 72,250; 1 x 7225 / 1e6 rounds away;
     // 200 x 2500 / 1e6 = 0.5 -> 0; 600 -> 1.5 -> 2; 201 -> 0.5025 -> 1.
-    for (Row r : {Row{units(1000), 85, 72'250}, Row{0, 85, 0}, Row{-units(5000), 85, 0}, Row{units(5000), 0, 0},
-                  Row{1, 85, 0}, Row{200, 50, 0}, Row{600, 50, 2}, Row{201, 50, 1}}) {
-        EXPECT_EQ(monthlyInterest(r.cash, r.rating), r.interest) << r.cash << " at " << r.rating;
-    }
+    const std::tuple<Money, int, Money> rows[] = {{units(1000), 85, 72'250},
+                                                  {0, 85, 0},
+                                                  {-units(5000), 85, 0},
+                                                  {units(5000), 0, 0},
+                                                  {1, 85, 0},
+                                                  {200, 50, 0},
+                                                  {600, 50, 2},
+                                                  {201, 50, 1}};
+    for (auto [cash, rating, interest] : rows)
+        EXPECT_EQ(monthlyInterest(cash, rating), interest) << cash << " at " << rating;
 }
 
-TEST_F(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
+TEST_F(Books, EveryLabelPaysItsBillWhateverItsCash) {
     addLabel(g, units(100), 0, units(1500));
     addLabel(g, -units(50), 0, units(2700));
     takeLabelWages(g);
@@ -66,7 +61,7 @@ TEST_F(LabelWages, EveryLabelPaysItsBillWhateverItsCash) {
               std::tuple(-units(2750), -units(2700)));
 }
 
-TEST_F(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
+TEST_F(Books, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
     addLabel(g, units(10'000), 10);  // 1% of 1% a month: 10,000 x 100 / 1e6 = 1.0000
     g.gameDate = serialFromCivil(2004, 12, 1);
     updateLabelFinances(g);
@@ -87,7 +82,7 @@ TEST_F(MonthEnd, FirstOfJanuaryPaysInterestAgainAndClearsTheMonthNotTheYear) {
 // Played day by day from Thursday 5 August 2004 to 2 January 2005: wages of
 // 1,500 on each of 22 Fridays, the Friday the 1st of October and Friday 31
 // December falling in the month that closes that day.
-TEST_F(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
+TEST_F(Books, ThePlayedMonthsCloseIntoTheHistory) {
     addLabel(g, units(50'000), 0, units(1500));
     g.player.playerLabel = 1;
     amend(g.label, 1,
@@ -102,20 +97,16 @@ TEST_F(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
         auto broken = checkInvariants(g);
         ASSERT_FALSE(broken) << describeBreak(*broken);
     }
-    struct Row {
-        double date;
-        int fridays;
-    };
-    const Row closes[] = {{serialFromCivil(2004, 9, 1), 4},   {serialFromCivil(2004, 10, 1), 5},
-                          {serialFromCivil(2004, 11, 1), 4},  {serialFromCivil(2004, 12, 1), 4},
-                          {serialFromCivil(2004, 12, 31), 5}, {serialFromCivil(2005, 1, 1), 0}};
+    const std::pair<double, int> closes[] = {{serialFromCivil(2004, 9, 1), 4},   {serialFromCivil(2004, 10, 1), 5},
+                                             {serialFromCivil(2004, 11, 1), 4},  {serialFromCivil(2004, 12, 1), 4},
+                                             {serialFromCivil(2004, 12, 31), 5}, {serialFromCivil(2005, 1, 1), 0}};
     ASSERT_EQ(g.ledger.recordCount(), 1 + 1 + 6);
     for (int i = 0; i < 6; ++i) {
         g.ledger.read(i + 2);
         // royalties carried on every row
         EXPECT_EQ(std::tuple(g.ledger->date, g.ledger->figures.expense[0],
                              g.ledger->figures.expense[ledgerRoyaltiesPaid - ledgerWages]),
-                  std::tuple(closes[i].date, -units(1500) * closes[i].fridays, -units(25)))
+                  std::tuple(closes[i].first, -units(1500) * closes[i].second, -units(25)))
             << "row " << i;
     }
     // 50,000 - 25 - 22 x 1,500 = 16,975
@@ -125,16 +116,10 @@ TEST_F(MonthEnd, ThePlayedMonthsCloseIntoTheHistory) {
     EXPECT_EQ(entryOf(g, 1, 0, ledgerRoyaltiesPaid), -units(25));
 }
 
-TEST(LabelReputation, IsTheFiveMarketsAdded) {
-    LabelRecord l{};
-    l.reputation = {40, 15, 20, 10, 5};
-    EXPECT_EQ(labelReputationSum(l), 90);
-}
-
 // What the label's page shows of its standing: the five markets' points and
 // their sum, each reputation as a percent, the years since founding, the boss
 // and the boss's own page.
-TEST_F(LabelPage, ShowsItsStandingItsBossAndTheBossesPage) {
+TEST_F(Books, TheLabelPageShowsItsStandingItsBossAndTheBossesPage) {
     const int16_t l = addLabel(g, 0);
     g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe", .reputation = {9, 8, 7, 6, 5}, .employer = l};
     g.staff->points = {5, 6, 7, 8, 9};
@@ -145,6 +130,7 @@ TEST_F(LabelPage, ShowsItsStandingItsBossAndTheBossesPage) {
         g.label->reputation = {40, 15, 20, 10, 5};
         g.label->founded = 90;
     });
+    EXPECT_EQ(labelReputationSum(labelOf(g, l)), 90);
     const LabelDetails d = labelDetails(g, l);
     EXPECT_EQ(std::tuple(d.points, d.pointsTotal, d.reputation[0], d.reputation[4], d.age, d.independence, d.boss),
               std::tuple(std::array<int32_t, 5>{1, 20, 300, 4000, 50000}, 54321, "40%", "5%", 14, "Independent Label",
@@ -154,7 +140,7 @@ TEST_F(LabelPage, ShowsItsStandingItsBossAndTheBossesPage) {
               std::tuple("Kim Rowe", "Label Boss", std::array{9, 8, 7, 6, 5}, std::array<int32_t, 5>{5, 6, 7, 8, 9}));
 }
 
-TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) {
+TEST_F(Departments, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) {
     g.staff.rec = StaffRecord{};
     g.staff->wage = units(420);
     int16_t head = static_cast<int16_t>(g.staff.append());
@@ -169,7 +155,7 @@ TEST_F(DepartmentWages, TheBillAddsEveryDepartmentAndItsHeadAndOverflowIsFatal) 
     EXPECT_THROW(departmentWages(g, security), FatalError);
 }
 
-TEST_F(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
+TEST_F(Departments, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty) {
     Department& dep = g.label->department[publicRelations];
     // weighted 10 -> 8; 5 -> 0; 201 -> 160, held at 80
     for (auto [levels, rating] :
@@ -190,20 +176,15 @@ TEST_F(DepartmentRating, StaffGiveMultiplesOfEightAndAHeadAddsAbilityOverTwenty)
     EXPECT_EQ(dep.rating, 12);  // 8 + 3.5 = 11.5, to the even 12
 }
 
-TEST_F(DepartmentLevels, TheSliderBoundsAreTheWagesBounds) {
+TEST_F(Departments, TheSliderBoundsAreTheWagesBoundsAndLockingWritesCountsRatingAndBill) {
     EXPECT_EQ(checkDepartmentLevels(0, {21, 24, 27, 29, 32}), "");
     // one past each bound, a level below 0 and a seventh department
-    for (auto [dep, levels] : {std::pair{0, std::array{22, 0, 0, 0, 0}},
-                               {0, {0, 25, 0, 0, 0}},
-                               {0, {0, 0, 28, 0, 0}},
-                               {0, {0, 0, 0, 30, 0}},
-                               {0, {0, 0, 0, 0, 33}},
-                               {0, {-1, 0, 0, 0, 0}},
-                               {6, {0, 0, 0, 0, 0}}})
+    const std::pair<int, std::array<int, 5>> refused[] = {
+        {0, {22, 0, 0, 0, 0}}, {0, {0, 25, 0, 0, 0}}, {0, {0, 0, 28, 0, 0}}, {0, {0, 0, 0, 30, 0}},
+        {0, {0, 0, 0, 0, 33}}, {0, {-1, 0, 0, 0, 0}}, {6, {0, 0, 0, 0, 0}}};
+    for (auto [dep, levels] : refused)
         EXPECT_NE(checkDepartmentLevels(dep, levels), "") << dep << " " << testing::PrintToString(levels);
-}
-
-TEST_F(DepartmentLevels, LockingWritesCountsRatingAndBill) {
+    // locking writes the counts, the rating and the bill
     addLabel(g, 0);
     g.player.playerLabel = 1;
     setDepartmentLevels(g, financeAndLaw, {4, 0, 0, 0, 1});  // weighted 21 -> 16; 6,000 + 1,000
@@ -212,7 +193,7 @@ TEST_F(DepartmentLevels, LockingWritesCountsRatingAndBill) {
               std::tuple(uint8_t{4}, uint8_t{16}, units(7000)));
 }
 
-TEST_F(DepartmentError, APerfectDepartmentReadsTrueAndAnEmptyOneMovesTheValueByTwoWholePercentDraws) {
+TEST_F(Departments, APerfectDepartmentReadsTrueAndAnEmptyOneMovesTheValueByTwoWholePercentDraws) {
     g.label->department[marketing].rating = 100;
     for (int value : {0, 1, 37, 99, 100}) EXPECT_EQ(applyDepartmentError(g, value, marketing), value);
     g.label->department[artistAndRepertoire].rating = 0;

@@ -66,27 +66,21 @@ TEST_F(Scouting, AStyleTakesItsDescendantsButNotItsParent) {
     EXPECT_FALSE(stylesAssociated(g, britpop, indie));
 }
 
-TEST_F(Scouting, ARivalLooksFromHalfItsTargetToJustBelowIt) {
+TEST_F(Scouting, ARivalLooksFromHalfItsTargetToJustBelowItAndWithinItsControversyBounds) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1});
-    struct Case {
-        uint8_t target, reputation;
-        bool listed;
-    };
-    // 41 / 2 = 20.5: a reputation of 20 is below an odd target's half.
-    for (Case c : {Case{40, 40, false}, Case{40, 39, true}, Case{40, 20, true}, Case{40, 19, false},
-                   Case{41, 20, false}, Case{41, 21, true}}) {
-        load(addAct(g, {.reputation = {c.reputation, 0, 0, 0, 0}}), label);
-        g.label->reputationTarget = {c.target, 0, 0, 0, 0};
-        EXPECT_EQ(considerForShortlist(g, 0), c.listed) << int{c.target} << " " << int{c.reputation};
+    // target, reputation, listed; 41 / 2 = 20.5: a reputation of 20 is below an odd target's half.
+    const std::tuple<uint8_t, uint8_t, bool> windows[] = {{40, 40, false}, {40, 39, true},  {40, 20, true},
+                                                          {40, 19, false}, {41, 20, false}, {41, 21, true}};
+    for (auto [target, reputation, listed] : windows) {
+        load(addAct(g, {.reputation = {reputation, 0, 0, 0, 0}}), label);
+        g.label->reputationTarget = {target, 0, 0, 0, 0};
+        EXPECT_EQ(considerForShortlist(g, 0), listed) << int{target} << " " << int{reputation};
     }
     // Forced, the window is skipped and the band listed.
     load(addAct(g, {.reputation = {90, 0, 0, 0, 0}}), label);
     EXPECT_TRUE(considerForShortlist(g, -1));
     EXPECT_TRUE(isShortlisted(g));
-}
-
-TEST_F(Scouting, ASignedBandOrOneOutsideTheControversyBoundsIsNotTaken) {
-    int16_t label = addLabel(g, {1, 1, 1, 1, 1});
+    // A signed band, or one outside the controversy bounds, is not taken.
     load(addAct(g, {.label = label}), label);
     EXPECT_FALSE(considerForShortlist(g, -1));
     g.band->label = 0;

@@ -27,9 +27,7 @@ struct Best {
 };
 
 void expectHolder(const ChartHolder& h, const Best& b, const char* what) {
-    EXPECT_EQ(h.value, b.value) << what;
-    EXPECT_EQ(h.who, b.who) << what;
-    EXPECT_EQ(h.text.value, b.text) << what;
+    EXPECT_EQ(std::tuple(h.value, h.who, h.text.value), std::tuple(b.value, b.who, b.text)) << what;
 }
 
 TEST(ChartRecords, APlayedChartsHoldersMatchAPlainWalk) {

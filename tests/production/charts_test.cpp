@@ -40,13 +40,6 @@ protected:
     }
 };
 
-TEST_F(Charts, PositionValuesFallFromAHundred) {
-    EXPECT_EQ((std::array{positionValue(1), positionValue(2), positionValue(3), positionValue(4), positionValue(5)}),
-              (std::array{100, 78, 59, 48, 42}));
-    EXPECT_EQ(publishedLength(6), 100);
-    EXPECT_EQ(publishedLength(9), 20);
-}
-
 // Rows 1 and 5 are new; row 10 climbs from a best of 11; the rest were at 1.
 TEST_F(Charts, AHitCountsOnceInTheBestClassReachedAndLeavesTheClassBelow) {
     auto discs = fill(0, 10);
@@ -146,7 +139,7 @@ TEST_F(Charts, ARiseByDiscReachesThatDiscAndLeavesTheBuffersAtTheLastRow) {
     closeChart(g);
 }
 
-TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelow) {
+TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelowAndPositionValuesFallFromAHundred) {
     int16_t sold = addDisc("Sold"), unsold = addDisc("Unsold");
     amend(g.disc, sold, [&] { g.disc->totalSales[0] = 1; });
     for (int i = 0; i < 199; ++i) addRow(0, sold);
@@ -156,6 +149,11 @@ TEST_F(Charts, TidyingKeeps199RowsAndTheUnsoldBelow) {
     ASSERT_EQ(rows.size(), 202u);
     EXPECT_EQ(rows[199], unsold);
     EXPECT_EQ(rows[201], unsold);
+    // Position values fall from a hundred.
+    EXPECT_EQ((std::array{positionValue(1), positionValue(2), positionValue(3), positionValue(4), positionValue(5)}),
+              (std::array{100, 78, 59, 48, 42}));
+    EXPECT_EQ(publishedLength(6), 100);
+    EXPECT_EQ(publishedLength(9), 20);
 }
 
 TEST_F(Charts, SeedingDerivesWeeksHypeAndTheEntryPosition) {

@@ -39,7 +39,7 @@ protected:
     }
 };
 
-TEST_F(Release, AnotherAlbumPushesTheEarliestDateInItsTerritoryOnly) {
+TEST_F(Release, ADateIsAMondayOnOrAfterTheEarliestWhichAnotherAlbumPushesInItsTerritoryOnly) {
     int16_t first = recorded("First");
     amend(g.disc, first, [&] { g.disc->releaseDate[0] = g.gameDate + 10; });
     int16_t second = recorded("Second");
@@ -48,11 +48,9 @@ TEST_F(Release, AnotherAlbumPushesTheEarliestDateInItsTerritoryOnly) {
     EXPECT_EQ(earliestReleaseDate(g, 1), g.gameDate + 42);
     g.disc->isSingle = 1;  // a single is not held back by an album
     EXPECT_EQ(earliestReleaseDate(g, 0), g.gameDate + 42);
-}
-
-TEST_F(Release, ADateMustBeAMondayOnOrAfterTheEarliest) {
-    int16_t d = recorded();
-    g.disc.read(d);
+    // A date must be a Monday on or after the earliest, with no other album out.
+    amend(g.disc, first, [&] { g.disc->releaseDate[0] = 0; });
+    g.disc.read(second);
     g.band.read(band);
     // The game starts on Thursday 5 August 2004: + 42 is Thursday 16
     // September; the first Monday offered is 20 September.
@@ -67,7 +65,7 @@ TEST_F(Release, ADateMustBeAMondayOnOrAfterTheEarliest) {
     EXPECT_EQ(releaseDateRefusal(g, 0, monday), "");
 }
 
-TEST_F(Release, DatingAgainCancelsTheEarlierEntries) {
+TEST_F(Release, DatingAgainCancelsTheEarlierEntriesAndOnlyThePlayersRecordedDiscsAreDated) {
     int16_t d = recorded();
     double monday = serialFromCivil(2004, 9, 20);
     std::array<double, 5> dates{monday, monday, 0, 0, monday + 7};
@@ -81,11 +79,7 @@ TEST_F(Release, DatingAgainCancelsTheEarlierEntries) {
     EXPECT_EQ(entriesOfType(15).size(), 1u);
     EXPECT_EQ(entriesOfType(255).size(), 4u);
     EXPECT_EQ(disc(d).releaseDate[1], 0.0);
-}
-
-TEST_F(Release, OnlyThePlayersRecordedDiscCanBeDated) {
-    int16_t d = recorded();
-    std::array<double, 5> dates{serialFromCivil(2004, 9, 20), 0, 0, 0, 0};
+    // Only the player's recorded disc can be dated.
     amend(g.disc, d, [&] { g.disc->tracksRecorded = 9; });
     EXPECT_EQ(setReleaseDatesRefusal(g, d, dates), "New has not been recorded yet.");
     amend(g.disc, d, [&] {
@@ -95,15 +89,13 @@ TEST_F(Release, OnlyThePlayersRecordedDiscCanBeDated) {
     EXPECT_EQ(setReleaseDatesRefusal(g, d, dates), "New is not a disc of your label.");
 }
 
-TEST_F(Release, PressingCostsASetUpChargeAndThreeQuartersACopy) {
+TEST_F(Release, PressingCostsASetUpChargeAndThreeQuartersACopyChargedToTheBandsLabel) {
     EXPECT_FLOAT_EQ(pressingCostPerUnit(1000), 2.0f);  // 100 / 80 + 0.75
     EXPECT_EQ(pressingCost(10000), moneyUnits(8750));  // 1250 + 7500
     // 7.5 x (50 / 2100 + 0.15) = 1.3035714 a copy.
     EXPECT_EQ(distributionCost(100000, 50, false), moneyUnits(130357));
     EXPECT_EQ(distributionCost(100000, 0, true), moneyUnits(30000));  // 2.0 x 0.15
-}
-
-TEST_F(Release, PressingChargesTheBandsLabelAndBooksTheWeeks) {
+    // Pressing charges the band's label and books the weeks.
     int16_t d = recorded();
     amend(g.disc, d, [&] { g.disc->releaseDate[0] = serialFromCivil(2004, 9, 20); });
     int16_t owned = addFirm(1, 20, rival);

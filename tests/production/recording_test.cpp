@@ -51,8 +51,12 @@ struct Recording : AlbumWorld, ::testing::Test {
             if (g.schedule->type == 7) runScheduleEntry(g);
         }
     }
-    void setStamina(uint8_t s) {
-        amend(g.band, band, [&] { g.band->stamina = s; });
+    // The album of one track booked into a studio of quality 10 (150 a day), the band at the given stamina.
+    int16_t booked(uint8_t stamina) {
+        amend(g.band, band, [&] { g.band->stamina = stamina; });
+        int16_t disc = finaliseAlbum(g, band, tracks());
+        bookStudio(g, disc, addFirm("Rooms", kStudio, 10, 0));
+        return disc;
     }
 };
 
@@ -159,10 +163,7 @@ TEST_F(Recording, TheLabelsOwnStudioIsBilledAndPaidTheSame) {
 
 TEST_F(Recording, WithNoStaminaEveryEndOfBookingCostsOneMoreSession) {
     const double today = g.gameDate;
-    setStamina(0);
-    int16_t studio = addFirm("Rooms", kStudio, 10, 0);  // 150 a day
-    int16_t disc = finaliseAlbum(g, band, tracks());
-    bookStudio(g, disc, studio);  // 2 sessions, +14 and +15; due +15
+    int16_t disc = booked(0);  // 2 sessions, +14 and +15; due +15
     for (double day : {today + 14, today + 15}) playStudioDay(day);
     g.disc.read(disc);
     EXPECT_EQ(g.disc->recordingDue, today + 16);
@@ -176,10 +177,7 @@ TEST_F(Recording, WithNoStaminaEveryEndOfBookingCostsOneMoreSession) {
 
 TEST_F(Recording, ALastDayLostToRestIsBookedAgain) {
     const double today = g.gameDate;
-    setStamina(100);
-    int16_t studio = addFirm("Rooms", kStudio, 10, 0);
-    int16_t disc = finaliseAlbum(g, band, tracks());
-    bookStudio(g, disc, studio);
+    int16_t disc = booked(100);
     // away: the guard skips the studio day
     amend(g.artist, 1, [&] { g.artist->energy = -1; });
     for (double day : {today + 14, today + 15}) playStudioDay(day);
@@ -192,11 +190,8 @@ TEST_F(Recording, ALastDayLostToRestIsBookedAgain) {
 
 TEST_F(Recording, TheLastTrackOfAnAlbumPaysTheSecondThirdAndTellsThePlayer) {
     const double today = g.gameDate;
-    setStamina(100);
-    int16_t studio = addFirm("Rooms", kStudio, 10, 0);
-    int16_t disc = finaliseAlbum(g, band, tracks());
+    int16_t disc = booked(100);
     setDiscTitle(g, disc, "First Light");
-    bookStudio(g, disc, studio);
     playStudioDay(today + 14);
     EXPECT_EQ((g.band.read(band), g.band->albumStatus), 3);
     EXPECT_EQ(ledger(kPlayer, ledgerAdvances), -moneyUnits(20000)) << "60,000 / 3";
@@ -217,7 +212,7 @@ TEST_F(Recording, TheLastTrackOfAnAlbumPaysTheSecondThirdAndTellsThePlayer) {
 
 TEST_F(Recording, AFinishedSingleLeavesTheAlbumAndTheAdvanceAlone) {
     addTracks(2);
-    setStamina(100);
+    amend(g.band, band, [&] { g.band->stamina = 100; });
     int16_t studio = addFirm("Rooms", kStudio, 10, 0);
     g.disc.rec = DiscRecord{.isSingle = 1,
                             .studio = studio,

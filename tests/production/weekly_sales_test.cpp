@@ -34,7 +34,7 @@ protected:
     }
 };
 
-TEST_F(WeeklySales, FirstWeekOfTheWorkedAlbumAndItsSingle) {
+TEST_F(WeeklySales, FirstWeekOfTheWorkedAlbumAndItsSingleThenTheNextWeeks) {
     int16_t album = addDisc("Worked");
     g.disc.read(album);
     // W 80, hype 50 -> H 40; (80^4 / 2000 x 5 x 1.2 + 50 x 50 x 4) / 3 x 60% = 26576.
@@ -45,12 +45,9 @@ TEST_F(WeeklySales, FirstWeekOfTheWorkedAlbumAndItsSingle) {
     // The same in the US (divisor 1): 132880 x 0.6 = 79728, a fifth of it for a single.
     expected = std::nearbyint((79728 + nextSpread(79728)) / 5);
     EXPECT_EQ(firstWeekSales(g, 1), static_cast<int32_t>(expected));
-}
-
-TEST_F(WeeklySales, NextWeekFollowsTheHypeAndHoldsBothHypes) {
+    // The next week follows the hype and holds both hypes: 10000 - 1000 = 9000; ratio 40/50 - 1 = -0.2 -> 7200.
     int now = 40, last = 50;
-    // 10000 - 1000 = 9000; ratio 40/50 - 1 = -0.2 -> 7200.
-    double expected = 7200 + nextSpread(7200);
+    expected = 7200 + nextSpread(7200);
     EXPECT_EQ(nextWeekSales(g, 10000, now, last), static_cast<int32_t>(expected));
     now = 0;
     last = 150;
@@ -78,18 +75,15 @@ TEST_F(WeeklySales, SalesAreHeldByCapacityThenStock) {
 }
 
 TEST_F(WeeklySales, TheFirstAwardEachTerritoryCanGiveAndNeverTheUnawardedLevel) {
-    struct Case {
-        int t;
-        int32_t threshold, points;
-    };
     // UK and Other: silver at 60000; US: gold at 500000; Europe: platinum at
     // 1000000; Oceania: gold at 35000.
-    for (Case c :
-         {Case{0, 60000, 100}, Case{1, 500000, 250}, Case{2, 1000000, 500}, Case{3, 35000, 250}, Case{4, 60000, 100}}) {
+    const std::tuple<int, int32_t, int32_t> firsts[] = {
+        {0, 60000, 100}, {1, 500000, 250}, {2, 1000000, 500}, {3, 35000, 250}, {4, 60000, 100}};
+    for (auto [t, threshold, points] : firsts) {
         int16_t d = addDisc("Award");
-        EXPECT_EQ(sellIn(d, c.t, c.threshold - 2, 1), 0) << c.t;
-        EXPECT_EQ(sellIn(d, c.t, c.threshold - 1, 1), c.points) << c.t;
-        EXPECT_EQ(sellIn(d, c.t, c.threshold, 1), c.points) << "no second award at " << c.t;
+        EXPECT_EQ(sellIn(d, t, threshold - 2, 1), 0) << t;
+        EXPECT_EQ(sellIn(d, t, threshold - 1, 1), points) << t;
+        EXPECT_EQ(sellIn(d, t, threshold, 1), points) << "no second award at " << t;
     }
     // The unawarded level is never given even when reached: Europe's 49999999 -> 50000000
     // crosses only platinum level 50.
@@ -126,21 +120,19 @@ TEST_F(WeeklySales, OnlyThePlayersDiscsAndShortlistBringCertificationNews) {
 // 1000 albums: gross 7500, 20% royalty -> artists 1500, label 6000; a debt
 // is recouped from the artists' share first.
 TEST_F(WeeklySales, DiscIncomeRecoupsTheBandsDebtFromItsShare) {
-    struct Row {
-        int64_t costs, recouped, discIncome, gross;
-        int32_t memberWealth;
-    };
     // 0 + 1500 - 1000 = 500: the asymmetric figure, not + 1000. A debt of
     // exactly the share takes it all and counts it all as earned.
-    for (Row r : {Row{0, 0, 6000, 0, 750}, Row{2000, 1500, 7500, 1500, 0}, Row{1500, 1500, 7500, 1500, 0},
-                  Row{1000, 1000, 7000, 500, 250}}) {
-        SCOPED_TRACE(r.costs);
+    // costs, recouped, disc income, gross, each member's wealth
+    const std::tuple<int64_t, int64_t, int64_t, int64_t, int32_t> rows[] = {
+        {0, 0, 6000, 0, 750}, {2000, 1500, 7500, 1500, 0}, {1500, 1500, 7500, 1500, 0}, {1000, 1000, 7000, 500, 250}};
+    for (auto [costs, recouped, discIncome, gross, memberWealth] : rows) {
+        SCOPED_TRACE(costs);
         DiscWorld fresh;
         Game& h = fresh.g;
         int16_t d = fresh.addDisc("Paid");
         amend(h.band, fresh.band, [&] {
             h.band->royaltyRate = 20;
-            h.band->costs = moneyUnits(r.costs);
+            h.band->costs = moneyUnits(costs);
         });
         amend(h.disc, d, [&] { h.disc->weekSales[0] = 1000; });
         h.disc.read(d);
@@ -149,9 +141,9 @@ TEST_F(WeeklySales, DiscIncomeRecoupsTheBandsDebtFromItsShare) {
         LabelRecord l = fresh.labelRec(fresh.label);
         EXPECT_EQ(std::tuple(ledgerEntry(l, 0, ledgerRecordSales), ledgerEntry(l, 0, ledgerRecoupedAdvances),
                              fresh.disc(d).income, fresh.bandRec(fresh.band).grossIncome),
-                  std::tuple(moneyUnits(6000), moneyUnits(r.recouped), moneyUnits(r.discIncome), moneyUnits(r.gross)));
+                  std::tuple(moneyUnits(6000), moneyUnits(recouped), moneyUnits(discIncome), moneyUnits(gross)));
         for (int m : {0, 1})
-            EXPECT_EQ((h.artist.read(fresh.bandRec(fresh.band).members[m]), h.artist->wealth), r.memberWealth);
+            EXPECT_EQ((h.artist.read(fresh.bandRec(fresh.band).members[m]), h.artist->wealth), memberWealth);
     }
 }
 

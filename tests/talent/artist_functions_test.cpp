@@ -22,18 +22,15 @@ struct NewArtists : test::GameTest {
 
 }  // namespace
 
-TEST_F(NewArtists, AgeStaysWithinSeventeenAndTwentyFive) {
+TEST_F(NewArtists, AgeStaysWithinSeventeenAndTwentyFiveAndEachPlaceTakesTheLastJobNamedUpToIt) {
     for (auto [lifeSpan, youngest, oldest] : {std::tuple{0, 17, 17}, {15, 17, 22}, {30, 19, 25}, {60, 25, 25}}) {
         useStyle(narrow<uint8_t>(lifeSpan));
         std::set<int> seen;
         for (int i = 0; i < 2000; ++i) seen.insert(setNewArtistAge(g));
         EXPECT_EQ(std::pair(*seen.begin(), *seen.rbegin()), std::pair(youngest, oldest)) << "life span " << lifeSpan;
     }
-}
-
-// A member takes the last job the style names at or before their place; a
-// solo act takes the solo job.
-TEST_F(NewArtists, EachPlaceTakesTheLastJobNamedUpToIt) {
+    // A member takes the last job the style names at or before their place; a
+    // solo act takes the solo job.
     g.style.rec = StyleRecord{.bandJobs = {0, 3, 0, 5, 0, 0, 7}, .soloJob = 9};
     std::vector<int> jobs;
     for (int place = 0; place < 9; ++place) jobs.push_back(jobForPlace(g, place, false));
@@ -74,9 +71,9 @@ TEST_F(NewArtists, NamesFitTheCountryAndTheSexByTheirWeights) {
         g.forename.rec = ForenameRecord{0, name, links, weights, boolean(male)};
         g.forename.append();
     }
-    for (auto [name, links, weights] : {std::tuple{"Alder", Links{home}, Links{100}},
-                                        {"Birch", {abroad}, {100}},
-                                        {"Cobb", {abroad, home}, {100, 25}}}) {
+    const std::tuple<const char*, Links, Links> surnames[] = {
+        {"Alder", {home}, {100}}, {"Birch", {abroad}, {100}}, {"Cobb", {abroad, home}, {100, 25}}};
+    for (auto [name, links, weights] : surnames) {
         g.surname.rec = SurnameRecord{0, name, links, weights};
         g.surname.append();
     }

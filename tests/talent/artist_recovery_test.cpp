@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/album_world.h"
+#include "support/amend.h"
 #include "talent/band_condition.h"
 #include "world/artist_sets.h"
 
@@ -11,11 +12,6 @@ using namespace trovane;
 namespace {
 
 struct Recovery : ::testing::Test, test::AlbumWorld {
-    void set(int32_t n, auto change) {
-        g.artist.read(n);
-        change(g.artist.rec);
-        g.artist.write();
-    }
     ArtistRecord artist(int32_t n) {
         g.artist.read(n);
         return g.artist.rec;
@@ -27,21 +23,21 @@ struct Recovery : ::testing::Test, test::AlbumWorld {
 TEST_F(Recovery, ArtistsChangedAfterADayAtRestRecoverTheNext) {
     addBand("Rested", 0, 3, 50);
     for (int32_t n = 1; n <= 3; ++n)
-        set(n, [](ArtistRecord& a) {
-            a.energy = 100;
-            a.writingFocus = 100;
+        amend(g.artist, n, [&] {
+            g.artist->energy = 100;
+            g.artist->writingFocus = 100;
         });
     increaseArtistEnergy(g);  // all three at rest now, and left out of the next walks
     EXPECT_TRUE(unrestedArtists(g).empty());
 
-    set(1, [](ArtistRecord& a) {
-        a.energy = 50;
-        a.stamina = 64;
+    amend(g.artist, 1, [&] {
+        g.artist->energy = 50;
+        g.artist->stamina = 64;
     });
-    set(2, [](ArtistRecord& a) { a.writingFocus = 90; });
-    set(3, [](ArtistRecord& a) {
-        a.retired = kTrue;
-        a.energy = -3;
+    amend(g.artist, 2, [&] { g.artist->writingFocus = 90; });
+    amend(g.artist, 3, [&] {
+        g.artist->retired = kTrue;
+        g.artist->energy = -3;
     });
     increaseArtistEnergy(g);
     EXPECT_EQ(artist(1).energy, 53);        // 50 + 64 / 32 + 1
@@ -55,20 +51,20 @@ TEST_F(Recovery, ArtistsChangedAfterADayAtRestRecoverTheNext) {
 
 TEST_F(Recovery, RestIsFullEnergyAndFullFocusForWriters) {
     addBand("Edge", 0, 4, 50);
-    set(1, [](ArtistRecord& a) { a.writingFocus = 100; });  // energy 100: at rest
-    set(2, [](ArtistRecord& a) { a.writingFocus = 99; });   // focus one short
-    set(3, [](ArtistRecord& a) {
-        a.writingFocus = 100;
-        a.energy = 99;  // energy one short
+    amend(g.artist, 1, [&] { g.artist->writingFocus = 100; });  // energy 100: at rest
+    amend(g.artist, 2, [&] { g.artist->writingFocus = 99; });   // focus one short
+    amend(g.artist, 3, [&] {
+        g.artist->writingFocus = 100;
+        g.artist->energy = 99;  // energy one short
     });
-    set(4, [](ArtistRecord& a) {
-        a.songQuality = 0;  // writes nothing: focus does not count
-        a.writingFocus = 0;
+    amend(g.artist, 4, [&] {
+        g.artist->songQuality = 0;  // writes nothing: focus does not count
+        g.artist->writingFocus = 0;
     });
     increaseArtistEnergy(g);  // the first walk reads everyone and files them
     EXPECT_EQ(unrestedArtists(g), std::vector<int32_t>{}) << "2 and 3 reached 100 today";
-    set(2, [](ArtistRecord& a) { a.writingFocus = 99; });
-    set(3, [](ArtistRecord& a) { a.energy = 101; });
+    amend(g.artist, 2, [&] { g.artist->writingFocus = 99; });
+    amend(g.artist, 3, [&] { g.artist->energy = 101; });
     EXPECT_EQ(unrestedArtists(g), (std::vector<int32_t>{2, 3}));
     increaseArtistEnergy(g);
     EXPECT_EQ(artist(2).writingFocus, 100);

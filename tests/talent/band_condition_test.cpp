@@ -34,26 +34,19 @@ struct Condition : test::GameTest {
     }
 };
 
-TEST_F(Condition, PotentialDeclinesOnlyPastHalfTheCareer) {
+TEST_F(Condition, PotentialDeclinesOnlyPastHalfTheCareerAndAbilityMovesByWholePoints) {
     // lifeSpan 36, age 18: 50 percent, no decline. lifeSpan 35: round(51.4) = 51, decline
     // round(round(15 / 2) / 12) = round(8 / 12) = 1.
-    int16_t half = addAct(g, {.style = static_cast<uint8_t>(addStyle(g, 36)), .age = 18});
-    int16_t past = addAct(g, {.style = static_cast<uint8_t>(addStyle(g, 35)), .age = 18});
-    setMember(half, 0, 80, 60, 0);
-    setMember(past, 0, 80, 60, 0);
-    bandPotentialCalculations(g);
-    EXPECT_EQ(std::tuple(member(half).potential, member(past).potential), std::tuple(80, 79));
-    // (80 - 60) / 2 x 10 / 36 / 12 x 100 = 23.15: no whole point yet.
-    EXPECT_EQ(std::tuple(member(half).ability, member(half).abilityProgress), std::tuple(60, 23));
-}
-
-TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
     const auto style = static_cast<uint8_t>(addStyle(g, 36));
+    int16_t half = addAct(g, {.style = style, .age = 18});
+    int16_t past = addAct(g, {.style = static_cast<uint8_t>(addStyle(g, 35)), .age = 18});
     int16_t pair = addAct(g, {.ranks = {1, 2}, .style = style});
     int16_t falling = addAct(g, {.style = style});
     int16_t top = addAct(g, {.style = style});
     int16_t gone = addAct(g, {.style = style});
     int16_t exact = addAct(g, {.style = style});
+    setMember(half, 0, 80, 60, 0);  // (80 - 60) / 2 x 10 / 36 / 12 x 100 = 23.15: no whole point yet
+    setMember(past, 0, 80, 60, 0);
     setMember(pair, 0, 80, 60, 90);    // v = 23.15 + 90 = 113.15: one point, 13 left
     setMember(exact, 0, 60, 60, 100);  // v = 100: a point, nothing left
     setMember(pair, 1, 60, 60, 0);     // v = 0
@@ -63,14 +56,12 @@ TEST_F(Condition, AbilityMovesByWholePointsKeepsTheRestAndStopsAtOneHundred) {
     setMember(gone, 0, 80, 60, 90);
     amend(g.band, gone, [&] { g.band->retired = kTrue; });
     bandPotentialCalculations(g);
-    struct Case {
-        int16_t band;
-        int ability, progress;
-    };
-    for (Case c :
-         {Case{pair, 61, 13}, Case{falling, 59, -6}, Case{top, 100, 50}, Case{gone, 60, 90}, Case{exact, 61, 0}}) {
-        EXPECT_EQ(std::tuple(member(c.band).ability, member(c.band).abilityProgress), std::tuple(c.ability, c.progress))
-            << "band " << c.band;
+    EXPECT_EQ(std::tuple(member(half).potential, member(past).potential), std::tuple(80, 79));
+    const std::tuple<int16_t, int, int> moved[] = {{half, 60, 23}, {pair, 61, 13}, {falling, 59, -6},
+                                                   {top, 100, 50}, {gone, 60, 90}, {exact, 61, 0}};
+    for (auto [band, ability, progress] : moved) {
+        EXPECT_EQ(std::tuple(member(band).ability, member(band).abilityProgress), std::tuple(ability, progress))
+            << "band " << band;
     }
     EXPECT_EQ((g.band.read(pair), g.band->ability), 60) << "round(60.5) to even";
 }

@@ -58,11 +58,9 @@ TEST_F(Bands, RatingsWeighTheMarketsOverThirtyThree) {
     EXPECT_EQ(stylePopularity(g), 48) << "(47 + 50) / 2 rounds half to even";
 
     g.band->reputation = {1, 2, 3, 4, 5};
-    for (auto [name, region, reputation] : {std::tuple{"Wales", "E", 1},
-                                            {"Northern Ireland", "E", 1},
-                                            {"France", "E", 3},
-                                            {"Canada", "N", 2},
-                                            {"Japan", "A", 5}}) {
+    const std::tuple<const char*, const char*, int> countries[] = {
+        {"Wales", "E", 1}, {"Northern Ireland", "E", 1}, {"France", "E", 3}, {"Canada", "N", 2}, {"Japan", "A", 5}};
+    for (auto [name, region, reputation] : countries) {
         g.country->name = name;
         g.country->region = region;
         EXPECT_EQ(reputationInCountry(g), reputation) << name;

@@ -14,11 +14,6 @@ using test::AlbumWorld;
 namespace {
 
 struct ContractProgress : ::testing::Test, AlbumWorld {
-    void setBand(int16_t band, auto change) {
-        g.band.read(band);
-        change(g.band.rec);
-        g.band.write();
-    }
     BandRecord band(int16_t n) {
         g.band.read(n);
         return g.band.rec;
@@ -31,9 +26,9 @@ TEST_F(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
     int16_t first = addBand("First", kPlayer);  // 3 options = 2 further + stage 1
     int16_t second = addBand("Second", kPlayer);
     int16_t released = addBand("Released", kPlayer);
-    setBand(first, [](BandRecord& b) { b.optionMonthsLeft = 7; });
-    setBand(second, [](BandRecord& b) { b.optionsRemaining = 2; });
-    setBand(released, [](BandRecord& b) { b.optionMonthsLeft = 100; });
+    amend(g.band, first, [&] { g.band->optionMonthsLeft = 7; });
+    amend(g.band, second, [&] { g.band->optionsRemaining = 2; });
+    amend(g.band, released, [&] { g.band->optionMonthsLeft = 100; });
     updateMonthsRemainingOnOption(g);
     EXPECT_EQ(std::tuple(band(first).optionMonthsLeft, band(second).optionMonthsLeft, band(released).optionMonthsLeft),
               std::tuple(6, 12, 100));
@@ -47,35 +42,30 @@ TEST_F(ContractProgress, TheOptionCountRunsOnlyInTheFirstTerm) {
     EXPECT_EQ(newsCount(), 1) << "no warning at 5";
 }
 
-TEST_F(ContractProgress, ARivalInBreachPaysDamagesAndLosesTheBand) {
-    int16_t band = addBand("Sued", kRival, 2);
-    setBand(band, [](BandRecord& b) {
-        b.optionMonthsLeft = 1;
-        b.initialAdvance = moneyUnits(130000);
-        b.costs = moneyUnits(5);
+TEST_F(ContractProgress, ABreachCostsDamagesAndTheBandAndOnlyThePlayerIsTold) {
+    int16_t sued = addBand("Sued", kRival, 2);
+    int16_t angry = addBand("Angry", kPlayer, 2);
+    amend(g.band, sued, [&] {
+        g.band->optionMonthsLeft = 1;
+        g.band->initialAdvance = moneyUnits(130000);
+        g.band->costs = moneyUnits(5);
+    });
+    amend(g.band, angry, [&] {
+        g.band->optionMonthsLeft = 1;
+        g.band->initialAdvance = moneyUnits(90000);
     });
     updateMonthsRemainingOnOption(g);
     // 130,000 x 0.75 = 97,500, in steps of 5,000: 19.5 to the even 20, so 100,000.
-    EXPECT_EQ(ledger(kRival, ledgerOtherExpense), -moneyUnits(100000));
+    // 90,000 x 0.75 = 67,500: 13.5 steps of 5,000 to the even 14, 70,000.
+    EXPECT_EQ(std::tuple(ledger(kRival, ledgerOtherExpense), ledger(kPlayer, ledgerOtherExpense)),
+              std::tuple(-moneyUnits(100000), -moneyUnits(70000)));
     EXPECT_EQ((g.artist.read(1), g.artist->wealth), 50000);
-    const BandRecord b = this->band(band);
+    const BandRecord b = this->band(sued);
     EXPECT_EQ(std::tuple(b.label, b.costs, b.advanceToPay), std::tuple(0, 0, moneyUnits(130000)));
     EXPECT_EQ((g.label.read(kRival), g.label->bandCount), 0);
-    EXPECT_EQ(newsCount(), 0) << "a rival's band of rating 10 is nobody's news";
-}
-
-TEST_F(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
-    int16_t band = addBand("Angry", kPlayer, 2);
-    setBand(band, [](BandRecord& b) {
-        b.optionMonthsLeft = 1;
-        b.initialAdvance = moneyUnits(90000);
-    });
-    updateMonthsRemainingOnOption(g);
-    // 90,000 x 0.75 = 67,500: 13.5 steps of 5,000 to the even 14, 70,000.
-    EXPECT_EQ(ledger(kPlayer, ledgerOtherExpense), -moneyUnits(70000));
-    g.news.read(1);
-    EXPECT_EQ(trim(g.news->title.value), "Angry sued for breach of contract");
-    EXPECT_EQ(trim(g.news->text.value),
+    ASSERT_EQ(newsCount(), 1) << "a rival's band of rating 10 is nobody's news";
+    EXPECT_EQ(trim(lastNews().title.value), "Angry sued for breach of contract");
+    EXPECT_EQ(trim(lastNews().text.value),
               "Due to your label not fulfilling contract obligations with Angry they have successfully sued you for "
               "breach of contract. They are now released from their contract. You have also been forced to pay "
               "£70,000 in damages.");
@@ -83,13 +73,12 @@ TEST_F(ContractProgress, ThePlayerInBreachIsToldWhatItCost) {
 
 TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths) {
     int16_t band = addBand("Term", kPlayer);
-    setBand(band, [](BandRecord& b) {
-        b.additionalAdvance = moneyUnits(40000);
-        b.advanceToPay = moneyUnits(10);
-        b.albumStatus = 3;
-        b.songsWritten = 7;
+    amend(g.band, band, [&] {
+        g.band->additionalAdvance = moneyUnits(40000);
+        g.band->advanceToPay = moneyUnits(10);
+        g.band->albumStatus = 3;
+        g.band->songsWritten = 7;
     });
-    g.band.read(band);
     scheduleContractPoint(g, g.gameDate);
     const BandRecord b = this->band(band);
     EXPECT_EQ(std::tuple(b.optionsRemaining, b.advanceToPay, b.firstInstallmentDue, b.albumStatus, b.songsWritten),
@@ -97,8 +86,7 @@ TEST_F(ContractProgress, TheFirstTermIsTakenUpAtOnceAndLaterTermsWaitThreeMonths
     EXPECT_EQ(g.schedule.recordCount(), 1) << "nothing filed";
 
     for (uint8_t options : {2, 0}) {
-        setBand(band, [&](BandRecord& b) { b.optionsRemaining = options; });
-        g.band.read(band);
+        amend(g.band, band, [&] { g.band->optionsRemaining = options; });
         scheduleContractPoint(g, serialFromCivil(2004, 11, 30));
         EXPECT_EQ(this->band(band).optionsRemaining, options) << "no take-up";
     }
@@ -113,13 +101,13 @@ TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilen
     int16_t asks = addBand("Asks", kPlayer);
     int16_t done = addBand("Done", kPlayer);
     int16_t rival = addBand("Rivals", kRival);
-    setBand(asks, [](BandRecord& b) { b.optionsRemaining = 2; });
-    setBand(done, [](BandRecord& b) {
-        b.optionsRemaining = 0;
-        b.initialAdvance = moneyUnits(25000);
-        b.reputation = {90, 90, 90, 90, 90};  // big enough for release news, which stays silent here
+    amend(g.band, asks, [&] { g.band->optionsRemaining = 2; });
+    amend(g.band, done, [&] {
+        g.band->optionsRemaining = 0;
+        g.band->initialAdvance = moneyUnits(25000);
+        g.band->reputation = {90, 90, 90, 90, 90};  // big enough for release news, which stays silent here
     });
-    setBand(rival, [](BandRecord& b) { b.optionsRemaining = 1; });
+    amend(g.band, rival, [&] { g.band->optionsRemaining = 1; });
     // the rival weighs its deal by the band's career age
     amend(g.style, 1, [&] { g.style->lifeSpan = 10; });
     for (int16_t b : {asks, done, rival}) {
@@ -140,19 +128,17 @@ TEST_F(ContractProgress, AnEndedOptionAsksThePlayerAndFulfilledContractsEndSilen
 
 TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
     int16_t band = addBand("Choice", kPlayer);
-    setBand(band, [](BandRecord& b) {
-        b.optionsRemaining = 1;
-        b.initialAdvance = moneyUnits(80000);
-        b.additionalAdvance = moneyUnits(45000);
+    amend(g.band, band, [&] {
+        g.band->optionsRemaining = 1;
+        g.band->initialAdvance = moneyUnits(80000);
+        g.band->additionalAdvance = moneyUnits(45000);
     });
-    g.band.read(band);
     EXPECT_EQ(optionDecisionTitle(g), "Choice Option Decision");
     EXPECT_EQ(optionDecisionText(g),
               "You must choose whether to extend Choice's contract or terminate it. If you choose to extend the "
               "contract you will be committed to producing 1 futher album. They will be paid £45,000 for this "
               "album. Do you wish to extend the contract?");
-    setBand(band, [](BandRecord& b) { b.optionsRemaining = 2; });
-    g.band.read(band);
+    amend(g.band, band, [&] { g.band->optionsRemaining = 2; });
     EXPECT_EQ(optionDecisionText(g),
               "You must choose whether to extend Choice's contract or terminate it. If you choose to extend the "
               "contract you will be committed to producing 2 futher albums. They will be paid £45,000 for each of "
@@ -162,8 +148,8 @@ TEST_F(ContractProgress, TheDecisionCountsTheAlbumsStillOwed) {
 TEST_F(ContractProgress, LettingABandGoTellsTheWorldWhenItMatters) {
     int16_t famous = addBand("Famous", kPlayer);
     int16_t small = addBand("Small", kPlayer);
-    setBand(famous, [](BandRecord& b) { b.reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51
-    setBand(small, [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 50}; });
+    amend(g.band, famous, [&] { g.band->reputation = {51, 51, 51, 51, 51}; });  // rating exactly 51
+    amend(g.band, small, [&] { g.band->reputation = {50, 50, 50, 50, 50}; });
     amend(g.label, kPlayer, [&] { g.label->bandCount = 2; });
     g.band.read(small);
     releaseBand(g, 1);

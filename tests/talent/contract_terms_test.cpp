@@ -18,18 +18,16 @@ struct Terms : test::GameTest {
     }
 };
 
-TEST_F(Terms, EveryActAsksAtLeastSixtyThousand) {
+TEST_F(Terms, EveryActAsksAtLeastSixtyThousandAndMoreWithTheSquareOfItsWorth) {
     BandRecord b = askedBy({0, 0, 0, 0, 0});
     EXPECT_EQ(std::tuple(b.initialAdvance, b.additionalAdvance, b.royaltyRate, b.additionalAdvanceCount, b.optionLength,
                          b.offerStage),
               std::tuple(moneyUnits(60'000), moneyUnits(60'000), 9, 3, 18, 1));
     EXPECT_EQ(b.advanceToPay, moneyUnits(60'000)) << "61,234 on its step of 5,000";
-}
-
-TEST_F(Terms, TheAskRisesWithTheSquareOfTheActsWorth) {
-    // v = 10 x 20 + 3 x 3 = 209: 209^2 / 1089 x 1500 = 60,166.67 -> 60,167, on its step 60,000;
+    // The ask rises with the square of the act's worth: v = 10 x 20 + 3 x 3 = 209:
+    // 209^2 / 1089 x 1500 = 60,166.67 -> 60,167, on its step 60,000;
     // royalty Int(Int(209 / 33) / 6) + 9 = Int(6 / 6) + 9 = 10.
-    BandRecord b = askedBy({0, 20, 0, 0, 3});
+    b = askedBy({0, 20, 0, 0, 3});
     EXPECT_EQ(std::tuple(b.initialAdvance, b.royaltyRate), std::tuple(moneyUnits(60'000), 10));
     // v = 33 x 33 = 1089: 1,633,500 on its step of 100,000: 1,600,000; royalty Int(33 / 6) + 9 = 14.
     b = askedBy({33, 33, 33, 33, 33});
@@ -85,16 +83,15 @@ TEST_F(Scoring, TheAskedTermsNeedAStandingOfSix) {
     EXPECT_EQ(score(0), 90);
 }
 
-TEST_F(Scoring, ABandOfNoReputationMakesAnyLabelHuge) {
+TEST_F(Scoring, ABandOfNoReputationMakesAnyLabelHugeAndExtraOptionsPayAnOlderAct) {
     setUpBand(0, 3, {0, 0, 0, 0, 0});
     addLabel(g, {10, 0, 0, 0, 0});
     offer(60'000, 60'000, 3, 18, 10);
     // standing round(100 x 10 / 1) = 1000: round(1000 x 90 / 1000 + 90) = 180.
     EXPECT_EQ(rateContract(g, 1).score, 180);
-}
 
-TEST_F(Scoring, MoreOptionsThanAskedPayAnOlderActEighty) {
-    // careerAge round(5 x 100 / 5) = 100: twice the options add 1 x (100 - 60) x 2 = 80:
+    // More options than asked pay an older act eighty: careerAge round(5 x 100 / 5) = 100: twice the
+    // options add 1 x (100 - 60) x 2 = 80:
     // mean round((180 + 100 + 100) / 3) = 127, x 0.9 = 114.3 -> 114; standing 0.
     setUpBand(5, 2);
     labelWithStanding(0);
@@ -102,7 +99,7 @@ TEST_F(Scoring, MoreOptionsThanAskedPayAnOlderActEighty) {
     EXPECT_EQ(rateContract(g, 1).score, 114);
 }
 
-TEST_F(Scoring, ARoyaltyBelowTheAskCountsDoubleWhenAdvancesArePoor) {
+TEST_F(Scoring, ARoyaltyBelowTheAskCountsDoubleWhenAdvancesArePoorAndARenewalLeavesTheInitialOut) {
     setUpBand();
     labelWithStanding(0);
     // royaltyDelta round(5 x 100 / 10 - 100) = -50. Advances of 0: a = 0, royaltyScore
@@ -113,6 +110,11 @@ TEST_F(Scoring, ARoyaltyBelowTheAskCountsDoubleWhenAdvancesArePoor) {
     // x 0.9 = 74.7 -> 75.
     offer(60'000, 60'000, 3, 18, 5);
     EXPECT_EQ(rateContract(g, 1).score, 75);
+    // A renewal (mode 2) leaves the initial advance out: initialScore 100 and a = 1 x 100: the asked
+    // additional terms score 90.
+    offer(0, 60'000, 3, 18, 10);
+    EXPECT_EQ(rateContract(g, 2).score, 90);
+    EXPECT_LT(rateContract(g, 1).score, 90);
 }
 
 TEST_F(Scoring, ReasonsNameTheBestAndTheWorstTerm) {
@@ -128,15 +130,6 @@ TEST_F(Scoring, ReasonsNameTheBestAndTheWorstTerm) {
     g.label.rec.reputation = {50, 100, 0, 0, 0};
     r = rateContract(g, 1);
     EXPECT_EQ(std::pair(r.bestReason, r.worstReason), std::pair(5, 2));
-}
-
-TEST_F(Scoring, ARenewalLeavesTheInitialAdvanceOut) {
-    setUpBand();
-    labelWithStanding(0);
-    offer(0, 60'000, 3, 18, 10);
-    // mode 2: initialScore 100 and a = 1 x 100: the asked additional terms score 90.
-    EXPECT_EQ(rateContract(g, 2).score, 90);
-    EXPECT_LT(rateContract(g, 1).score, 90);
 }
 
 }  // namespace

@@ -203,10 +203,12 @@ TEST_F(Deals, APoorOfferGetsTheHarshWordsAndALaughableOneIsToldSo) {
     }
 }
 
-TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDay) {
+TEST_F(Deals, ARivalWinsQuietlyAndSignsTheNextDayAndOfEqualBestScoresTheLaterOfferWins) {
+    int16_t first = addLabel(g, {26, 60, 0, 0, 0});
     int16_t rival = addLabel(g, {26, 60, 0, 0, 0});
     double date = g.gameDate + 3;
-    int32_t offer = rivalOffer(rival, date, true);
+    rivalOffer(first, date, true);
+    int32_t offer = rivalOffer(rival, date, false);
     playDay(date);
     EXPECT_EQ(g.news.recordCount(), 1) << "nobody is told";
     auto tomorrow = entriesOn(date + 1);
@@ -262,16 +264,6 @@ TEST_F(Deals, AVoidOfferSignsNobody) {
     playDay(g.gameDate + 1);
     EXPECT_EQ(labelOf(band), 0);
     EXPECT_EQ((g.label.read(rival), g.label->bandCount), 0);
-}
-
-TEST_F(Deals, OfEqualBestScoresTheLaterOfferWins) {
-    int16_t first = addLabel(g, {26, 60, 0, 0, 0});
-    int16_t second = addLabel(g, {26, 60, 0, 0, 0});
-    double date = g.gameDate + 3;
-    rivalOffer(first, date, true);
-    int32_t later = rivalOffer(second, date, false);
-    playDay(date);
-    EXPECT_EQ(entriesOn(date)[0].offer, later);
 }
 
 TEST_F(Deals, AWithdrawnEntryTakesItsJoinersWithItButNotOnTheDecisionDay) {

@@ -22,13 +22,9 @@ ScheduleRecord entry(uint8_t type, int16_t band) { return ScheduleRecord{.type =
 
 TEST(EventFatigue, EachKindOfWorkHasItsCost) {
     // A studio of quality 50 costs round(1.5) + 3; a gig of a basic tour (levels 4 and 4) 7 + 2.
-    for (auto [type, after] : {std::pair{7, std::pair{45, 46}},
-                               {8, {41, 45}},
-                               {10, {46, 53}},
-                               {11, {52, 55}},
-                               {17, {44, 40}},
-                               {6, {50, 50}},
-                               {255, {50, 50}}}) {
+    const std::pair<int, std::pair<int, int>> costs[] = {{7, {45, 46}},  {8, {41, 45}}, {10, {46, 53}}, {11, {52, 55}},
+                                                         {17, {44, 40}}, {6, {50, 50}}, {255, {50, 50}}};
+    for (auto [type, after] : costs) {
         EmptyGame eg;
         Game& g = eg.g;
         ScheduleRecord e = entry(static_cast<uint8_t>(type), addBand(g, {50}));

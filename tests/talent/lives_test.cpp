@@ -34,40 +34,28 @@ struct Lives : ::testing::Test, AlbumWorld {
             g.style.append();
         }
     }
-    void setArtist(int32_t n, auto change) {
-        g.artist.read(n);
-        change(g.artist.rec);
-        g.artist.write();
-    }
-    void setBandRec(int16_t n, auto change) {
-        g.band.read(n);
-        change(g.band.rec);
-        g.band.write();
-    }
     int32_t member(int16_t band, int i) {
         g.band.read(band);
         return g.band->members[static_cast<std::size_t>(i)];
     }
     // A free artist of job 1 and style 1 with every market at rep.
     int32_t freeArtist(uint8_t rep, uint8_t ability, int16_t band = 0, uint8_t stamina = 100) {
-        g.artist.rec = ArtistRecord{
-            .forename = std::string("Cand"), .surname = std::to_string(g.artist.recordCount()), .job = 1, .style = 1};
+        g.artist.rec = ArtistRecord{.job = 1, .ability = ability, .style = 1, .band = band, .stamina = stamina};
+        g.artist->forename = "Cand";
+        g.artist->surname = std::to_string(g.artist.recordCount());
         g.artist->reputation = {rep, rep, rep, rep, rep};
-        g.artist->ability = ability;
-        g.artist->stamina = stamina;
-        g.artist->band = band;
         return g.artist.append();
     }
     // A group of two whose markets all stand at 50 (rating 50), its members of
     // job 1 with 50 everywhere and ability 50.
     int16_t group(const std::string& name, uint8_t rep = 50, int members = 2) {
         int16_t b = addBand(name, 0, members);
-        setBandRec(b, [&](BandRecord& r) { r.reputation = {rep, rep, rep, rep, rep}; });
+        amend(g.band, b, [&] { g.band->reputation = {rep, rep, rep, rep, rep}; });
         for (int i = 0; i < members; ++i)
-            setArtist(member(b, i), [&](ArtistRecord& a) {
-                a.job = 1;
-                a.ability = 50;
-                a.reputation = {rep, rep, rep, rep, rep};
+            amend(g.artist, member(b, i), [&] {
+                g.artist->job = 1;
+                g.artist->ability = 50;
+                g.artist->reputation = {rep, rep, rep, rep, rep};
             });
         return b;
     }
@@ -81,13 +69,9 @@ struct Lives : ::testing::Test, AlbumWorld {
     }
 };
 
-using NewActs = Lives;
-using Replacements = Lives;
-using Retirement = Lives;
-
 }  // namespace
 
-TEST_F(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
+TEST_F(Lives, NewActsStylesAreDrawnByPopularityAndNeverLegend) {
     // Style 1 (Rock, popularity 0, commerciality 60: 30) exists; then a hit
     // style (100 everywhere: always kept), Legend, a middling one (25: kept only
     // on a draw of 0, 1 in 75) and a last record that is never drawn.
@@ -106,7 +90,7 @@ TEST_F(NewActs, StylesAreDrawnByPopularityAndNeverLegend) {
     EXPECT_GT(seen[4], 0);
 }
 
-TEST_F(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
+TEST_F(Lives, NewActsGroupSizesStayBetweenTheSmallestAndTheSpread) {
     g.style->membersUsual = 4;
     g.style->membersHigh = 6;
     g.style->membersLow = 3;
@@ -119,7 +103,7 @@ TEST_F(NewActs, GroupSizesStayBetweenTheSmallestAndTheSpread) {
     EXPECT_NEAR(seen[4] / 4000.0, 0.51 + 0.49 / 4, 0.03);
 }
 
-TEST_F(NewActs, HomeMarketsFollowWhereTheActFormed) {
+TEST_F(Lives, NewActsHomeMarketsFollowWhereTheActFormed) {
     using Order = std::array<int, 5>;
     for (auto [name, region, order] : {std::tuple{"Scotland", "E", Order{0, 2, 1, 3, 4}},
                                        {"France", "E", {2, 0, 1, 3, 4}},
@@ -132,7 +116,7 @@ TEST_F(NewActs, HomeMarketsFollowWhereTheActFormed) {
     }
 }
 
-TEST_F(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
+TEST_F(Lives, NewActsABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
     for (auto [name, style] : {std::pair{"Taken", 1}, {"Free", 1}, {"Other", 2}}) {
         g.newband.rec = NewBandRecord{.name = name, .style = narrow<uint8_t>(style)};
         g.newband.append();
@@ -141,13 +125,13 @@ TEST_F(NewActs, ABandNameIsDrawnFromItsStyleAmongNamesNoActiveActBears) {
     std::set<std::string> drawn;
     for (int i = 0; i < 40; ++i) drawn.insert(pickBandName(g, 1));
     EXPECT_EQ(drawn, std::set<std::string>{"Free"});
-    setBandRec(taken, [](BandRecord& b) { b.retired = kTrue; });
+    amend(g.band, taken, [&] { g.band->retired = kTrue; });
     drawn.clear();
     for (int i = 0; i < 40; ++i) drawn.insert(pickBandName(g, 1));  // all 40 miss "Taken" at odds of 1 in 2^40
     EXPECT_EQ(drawn, (std::set<std::string>{"Free", "Taken"}));
 }
 
-TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
+TEST_F(Lives, ReplacementScoreFrom70To130AndTheFirstBestStays) {
     int16_t x = group("X");
     const auto leaver = narrow<int16_t>(member(x, 0));
     auto found = [&](const std::set<int32_t>& chain = {}) { return findReplacement(g, leaver, x, chain); };
@@ -157,9 +141,9 @@ TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     EXPECT_EQ(found(), 0);
     int32_t at70 = freeArtist(20, 50);  // 70
     EXPECT_EQ(found(), at70);
-    setArtist(at70, [](ArtistRecord& a) { a.retired = kTrue; });
+    amend(g.artist, at70, [&] { g.artist->retired = kTrue; });
     EXPECT_EQ(found(), 0) << "retired in play";
-    setArtist(at70, [](ArtistRecord& a) { a.retired = kFalse; });
+    amend(g.artist, at70, [&] { g.artist->retired = kFalse; });
     EXPECT_EQ(found(), at70) << "and back";
     EXPECT_EQ(g.artist->id, g.artist.recordCount() - 1) << "the buffer as a walk of every artist leaves it";
     freeArtist(65, 66);                  // 131
@@ -168,16 +152,16 @@ TEST_F(Replacements, ScoreFrom70To130AndTheFirstBestStays) {
     int32_t second = freeArtist(65, 65);  // 130 again: the first stays
     EXPECT_EQ(found(), at130);
     EXPECT_EQ(found({at130, second}), at70) << "chosen in the chain";
-    setArtist(at130, [](ArtistRecord& a) { a.job = 2; });
-    setArtist(second, [](ArtistRecord& a) { a.retirementDate = a.birthDate + 9000; });
-    setArtist(at70, [](ArtistRecord& a) { a.style = 2; });
+    amend(g.artist, at130, [&] { g.artist->job = 2; });
+    amend(g.artist, second, [&] { g.artist->retirementDate = g.artist->birthDate + 9000; });
+    amend(g.artist, at70, [&] { g.artist->style = 2; });
     EXPECT_EQ(found(), 0) << "another job, style, or retiring";
 }
 
-TEST_F(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
+TEST_F(Lives, ReplacementAMemberOfAnotherBandNeedsTheStamina) {
     int16_t x = group("X");
     int16_t y = group("Y", 25);  // rating 25 of 50: 100 - stamina must reach 50
-    for (int i = 0; i < 2; ++i) setArtist(member(y, i), [](ArtistRecord& a) { a.job = 2; });
+    for (int i = 0; i < 2; ++i) amend(g.artist, member(y, i), [&] { g.artist->job = 2; });
     int32_t leaver = member(x, 0);
     freeArtist(50, 50, y, 51);  // too tired
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), 0);
@@ -185,21 +169,21 @@ TEST_F(Replacements, AMemberOfAnotherBandNeedsTheStamina) {
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), able);
 }
 
-TEST_F(Replacements, ALeaverWithNoFollowingCountsAsOne) {
+TEST_F(Lives, ReplacementALeaverWithNoFollowingCountsAsOne) {
     int16_t x = group("X");
     int32_t leaver = member(x, 0);
-    setArtist(leaver, [](ArtistRecord& a) { a.reputation = {}; });
+    amend(g.artist, leaver, [&] { g.artist->reputation = {}; });
     // (100 * 1 / 1 + 100 * 1 / 50 + 200 * 45 / 50) = 282, / 4 = 70.5.
     int32_t c = freeArtist(1, 45);
     EXPECT_EQ(findReplacement(g, narrow<int16_t>(leaver), x), c);
 }
 
-TEST_F(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
+TEST_F(Lives, RetirementAChainOfPostsRunsOnOneDateUntilOneFails) {
     readyForNewActs();
     int16_t x = group("X"), y = group("Y", 50), z = group("Z", 50);
     int32_t a = member(x, 0), b = member(y, 0), c = member(z, 0);
     // Each post's replacement comes from the next band; nobody can replace c.
-    for (int32_t n : {member(x, 1), member(y, 1), member(z, 1)}) setArtist(n, [](ArtistRecord& r) { r.job = 9; });
+    for (int32_t n : {member(x, 1), member(y, 1), member(z, 1)}) amend(g.artist, n, [&] { g.artist->job = 9; });
     g.schedule.rec = ScheduleRecord{.type = 29, .artist = narrow<int16_t>(a)};
     announceArtistRetirement(g);
     auto filed = entries();
@@ -235,10 +219,10 @@ TEST_F(Retirement, AChainOfPostsRunsOnOneDateUntilOneFails) {
     EXPECT_EQ(g.band.recordCount(), after);
 }
 
-TEST_F(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
+TEST_F(Lives, RetirementAnActUnsignedTenMonthsEndsWithoutNews) {
     readyForNewActs();
     int16_t x = group("X", 90);  // rated 90: of interest
-    setBandRec(x, [](BandRecord& b) { b.monthsUnsigned = 9; });
+    amend(g.band, x, [&] { g.band->monthsUnsigned = 9; });
     const int32_t news = newsCount(), bands = g.band.recordCount();
     updateBandTimeWithoutADeal(g);
     EXPECT_EQ((g.band.read(x), g.band->retired), kTrue);
@@ -246,11 +230,11 @@ TEST_F(Retirement, AnActUnsignedTenMonthsEndsWithoutNews) {
     EXPECT_EQ(g.band.recordCount(), bands + 1);
 }
 
-TEST_F(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
+TEST_F(Lives, RetirementAnAgeingActRetiresOnlyPastHalfItsSpan) {
     amend(g.style, 1, [&] { g.style->lifeSpan = 100; });
     int16_t x = group("X");
     for (auto [age, filed] : {std::pair{50, false}, {51, true}}) {
-        setBandRec(x, [&](BandRecord& b) { b.age = narrow<uint8_t>(age); });
+        amend(g.band, x, [&] { g.band->age = narrow<uint8_t>(age); });
         int count = 0;
         // At 51 the chance is 2 in 100: 2,000 tries see it, at 50 none.
         for (int i = 0; i < 2000; ++i) {
@@ -264,7 +248,7 @@ TEST_F(Retirement, AnAgeingActRetiresOnlyPastHalfItsSpan) {
     }
 }
 
-TEST_F(Retirement, ASoloActGoesWithItsArtist) {
+TEST_F(Lives, RetirementASoloActGoesWithItsArtist) {
     readyForNewActs();
     const double tomorrow = g.gameDate + 1;
     // A solo artist's notice is the act's: a year's notice, nothing filed for the artist.

@@ -91,7 +91,7 @@ TEST(NameDraws, TheShippedBanksGiveTheRowsAndDrawsOfAWalk) {
     }
 }
 
-TEST(NameDraws, ARowWrittenInPlayIsDrawnAsItNowReads) {
+TEST(NameDraws, ANameOrCityWrittenInPlayIsDrawnAsItNowReads) {
     test::AlbumWorld w;
     Game& g = w.g;
     for (bool male : {true, false}) {
@@ -103,11 +103,8 @@ TEST(NameDraws, ARowWrittenInPlayIsDrawnAsItNowReads) {
         amend(g.forename, n, [&] { g.forename->isMale = g.forename->isMale == kFalse ? kTrue : kFalse; });
     EXPECT_EQ(drawForename(g, 1, true), 2);
     EXPECT_EQ(g.forename->name.value, "Bea");
-}
 
-TEST(Birthplaces, ACityWrittenInPlayIsDrawnAsItNowReads) {
-    test::AlbumWorld w;
-    Game& g = w.g;
+    // So is a city.
     const int32_t first = g.city.recordCount();
     for (uint8_t country : {201, 202}) {
         g.city.rec = CityRecord{.size = 100, .country = country};  // size 100: always kept once drawn

@@ -40,12 +40,8 @@ struct Hype : test::GameTest {
 };
 
 TEST_F(Hype, TheMeterMovesByTwiceTheAmountAndPassingEitherEndMovesTheReputation) {
-    struct Case {
-        uint8_t rep;
-        int16_t hype, amount;
-        std::pair<int, int> after;  // reputation, meter
-    };
-    const Case cases[] = {
+    // reputation, meter, amount; the reputation and meter after
+    const std::tuple<uint8_t, int16_t, int16_t, std::pair<int, int>> cases[] = {
         {50, 0, 5, {50, 10}},      // the amount counts double
         {20, -90, 1, {20, -18}},   // a boost first recovers the whole slump: -90 snaps to -20, then +2
         {20, -90, -1, {20, -92}},  // a fall of the same size does not snap
@@ -58,12 +54,12 @@ TEST_F(Hype, TheMeterMovesByTwiceTheAmountAndPassingEitherEndMovesTheReputation)
         {90, -99, -1, {89, -80}},   // H is held to -80 after a loss
         {2, -99, -1, {2, -2}},      // the floor of 2: no loss, H -2
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(boost(actAt(c.rep, c.hype), 0, c.amount), c.after)
-            << "R " << int(c.rep) << ", H " << c.hype << ", amount " << c.amount;
+    for (auto [rep, hype, amount, after] : cases)
+        EXPECT_EQ(boost(actAt(rep, hype), 0, amount), after)
+            << "R " << int(rep) << ", H " << hype << ", amount " << amount;
 }
 
-TEST_F(Hype, AtTheTopTheGainStillCountsForMembersAndLabel) {
+TEST_F(Hype, AtTheTopTheGainStillCountsForMembersLabelAndTheLabelsChartingDiscs) {
     int16_t label = addLabel(g, {50, 50, 50, 50, 50});
     int16_t band = actAt(100, 150, {1}, label);
     // H 152 > 100: gain round(1.52) = 2, R held at 100, H 52.
@@ -71,6 +67,22 @@ TEST_F(Hype, AtTheTopTheGainStillCountsForMembersAndLabel) {
     g.band.read(band);
     EXPECT_EQ(memberRep(g.band->members[0]), 100) << "a member's reputation is held to 100";
     EXPECT_EQ((g.label.read(label), g.label->hype[0]), 2) << "the label's meter takes the change";
+
+    // The change reaches the label's charting discs outside the rest of the world.
+    g.disc.rec = DiscRecord{.hype = {50, 50, 50, 50, 50}, .label = label};
+    int16_t disc = static_cast<int16_t>(g.disc.append());
+    for (int chart : {0, 4}) {
+        openChart(g, chart);
+        g.chart.rec = ChartRow{.disc = disc};
+        g.chart.append();
+        closeChart(g);
+    }
+    int16_t other = actAt(10, 9, {1}, label);
+    boost(other, 0, 1);
+    amend(g.band, other, [&] { g.band->hype[4] = 9; });
+    boost(other, 4, 1);
+    g.disc.read(disc);
+    EXPECT_EQ(std::tuple(g.disc->hype[0], g.disc->hype[4]), std::tuple(51, 50));
 }
 
 TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChangeUpOrDown) {
@@ -83,24 +95,6 @@ TEST_F(Hype, MembersMoveByTheirRankAndASoloActByTheChangeUpOrDown) {
     int16_t falling = actAt(20, -99, {1, 2});
     boost(falling, 0, -1);
     EXPECT_EQ(memberReps(falling), (std::vector<int>{17, 18}));  // 20 - 3, 20 + round(-1.5) = 20 - 2
-}
-
-TEST_F(Hype, AChangeReachesTheLabelsChartingDiscsOutsideTheRestOfTheWorld) {
-    int16_t label = addLabel(g, {50, 50, 50, 50, 50});
-    g.disc.rec = DiscRecord{.hype = {50, 50, 50, 50, 50}, .label = label};
-    int16_t disc = static_cast<int16_t>(g.disc.append());
-    for (int chart : {0, 4}) {
-        openChart(g, chart);
-        g.chart.rec = ChartRow{.disc = disc};
-        g.chart.append();
-        closeChart(g);
-    }
-    int16_t band = actAt(10, 9, {1}, label);
-    boost(band, 0, 1);
-    amend(g.band, band, [&] { g.band->hype[4] = 9; });
-    boost(band, 4, 1);
-    g.disc.read(disc);
-    EXPECT_EQ(std::tuple(g.disc->hype[0], g.disc->hype[4]), std::tuple(51, 50));
 }
 
 }  // namespace
