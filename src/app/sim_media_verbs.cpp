@@ -120,10 +120,14 @@ void runAppearances(SimContext& ctx, const std::string& bandKey) {
                                jsonQuote(mediaKindName(e.mediaOption)), jsonQuote(label));
             out += played ? fmt::format(",\"effect\":{:.2f}}}", effect) : "}";
         } else {
-            fmt::print("{:6}  {}  {:<30} {:<34} {:<28} {:<24}", n, isoDate(e.date).c_str(), act.c_str(), outlet.c_str(),
-                       mediaKindName(e.mediaOption).c_str(), label.c_str());
-            if (played) std::printf(" %+.2f", effect);
-            std::printf("\n");
+            // The label is padded only where the effect follows it, so no line ends in blanks.
+            std::string line = fmt::format("{:6}  {}  {:<30} {:<34} {:<28} {:<24}", n, isoDate(e.date), act, outlet,
+                                           mediaKindName(e.mediaOption), label);
+            if (played)
+                line += fmt::format(" {:+.2f}", effect);
+            else
+                line.erase(line.find_last_not_of(' ') + 1);
+            std::printf("%s\n", line.c_str());
         }
     }
     if (ctx.json) std::printf("[%s]\n", out.c_str());

@@ -254,9 +254,9 @@ TEST_F(SimLiveVerbs, TheMediaOfferAnAppearanceThatIsThenListed) {
               std::pair(0, std::string("     6  2004-07-07  Beta                           Samba FM                    "
                                        "       Interview                    Their Records            -2.50\n"
                                        "     7  2004-08-11  The Testers                    Samba FM                    "
-                                       "       Interview                    Our Records             \n"
+                                       "       Interview                    Our Records\n"
                                        "     8  2004-08-10  The Testers                    Daily Beat                  "
-                                       "       Small Article                Our Records             \n")));
+                                       "       Small Article                Our Records\n")));
     EXPECT_EQ(sim("--json appearances --band Beta"),
               std::pair(0, std::string("[{\"entry\":6,\"date\":\"2004-07-07\",\"band\":\"Beta\",\"media\":\"Samba FM\","
                                        "\"kind\":\"Interview\",\"label\":\"Their Records\",\"effect\":-2.50}]\n")));
