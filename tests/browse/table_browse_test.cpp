@@ -43,6 +43,11 @@ protected:
         for (const GridRow& r : grid.rows) v.push_back(r.cells[static_cast<std::size_t>(column)].text);
         return v;
     }
+    Names row(std::size_t i) {
+        Names v;
+        for (const GridCell& c : grid.rows.at(i).cells) v.push_back(c.text);
+        return v;
+    }
 };
 
 TEST_F(TableBrowse, AVenueShowsItsPlaceAndSortsCapacityByValue) {
@@ -50,10 +55,8 @@ TEST_F(TableBrowse, AVenueShowsItsPlaceAndSortsCapacityByValue) {
     venue("Maracana", 9000, rio);
     venue("Bataclan", 12500, paris);
     EXPECT_EQ(names(BrowseTable::venue), (Names{"Olympia", "Maracana", "Bataclan"}));  // table order
-    EXPECT_EQ(grid.rows[1].cells[1].text, "Rio");
-    EXPECT_EQ(grid.rows[1].cells[2].text, "Brazil");
-    EXPECT_EQ(grid.rows[1].cells[3].text, "South America");
-    EXPECT_EQ(grid.rows[0].cells[4].text, "12,500");
+    EXPECT_EQ(row(0), (Names{"Olympia", "Paris", "France", "Europe", "12,500"}));
+    EXPECT_EQ(row(1), (Names{"Maracana", "Rio", "Brazil", "South America", "9,000"}));
     // By text "12,500" would stand before "9,000"; by value 9,000 comes first and
     // the two of 12,500 keep their table order, both ways round.
     clickColumnLabel(sort, grid, 4);
@@ -93,11 +96,13 @@ TEST_F(TableBrowse, AFirmInBuildingAndAnIndependentOneSaySo) {
     g.business.append();
     g.business.rec = BusinessRecord{.name = "Press", .kind = 1, .city = paris, .quality = 40, .owner = label};
     g.business.append();
-    EXPECT_EQ(names(BrowseTable::business), (Names{"Abbey", "Press (In Construction)"}));
-    EXPECT_EQ(names(BrowseTable::business, 1), (Names{"Studio", "Manufacturing Plant"}));
-    EXPECT_EQ(names(BrowseTable::business, 5), (Names{"40%", "40%"}));
-    EXPECT_EQ(names(BrowseTable::business, 6), (Names{"Independent Company", "Mine"}));
-    EXPECT_EQ(grid.rows[0].cells[7].text, "");  // a studio has no daily capacity
+    populateTableGrid(g, BrowseTable::business, filter, sort, grid);
+    // A studio has no daily capacity.
+    EXPECT_EQ(row(0), (Names{"Abbey", "Studio", "Paris", "France", "Europe", "40%", "Independent Company", ""}));
+    Names press = row(1);
+    press.pop_back();  // the plant's capacity
+    EXPECT_EQ(press,
+              (Names{"Press (In Construction)", "Manufacturing Plant", "Paris", "France", "Europe", "40%", "Mine"}));
 }
 
 TEST_F(TableBrowse, MediaShowScopeAndType) {
@@ -111,10 +116,9 @@ TEST_F(TableBrowse, MediaShowScopeAndType) {
     g.media->mediaType = 3;
     g.media->reach = 2;
     g.media.append();
-    EXPECT_EQ(names(BrowseTable::media, 1), (Names{"France", "France"}));
-    EXPECT_EQ(names(BrowseTable::media, 2), (Names{"National", "Global"}));
-    EXPECT_EQ(names(BrowseTable::media, 3), (Names{"12", "12"}));  // the larger of 7 and 12
-    EXPECT_EQ(names(BrowseTable::media, 4), (Names{"Newspaper", "TV Show"}));
+    populateTableGrid(g, BrowseTable::media, filter, sort, grid);
+    EXPECT_EQ(row(0), (Names{"Le Monde", "France", "National", "12", "Newspaper"}));  // the larger of 7 and 12
+    EXPECT_EQ(row(1), (Names{"World TV", "France", "Global", "12", "TV Show"}));
 }
 
 TEST_F(TableBrowse, ABandsDiscsShowTheirFirstReleaseDate) {
