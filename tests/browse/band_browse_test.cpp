@@ -49,7 +49,7 @@ protected:
 
 using Names = std::vector<std::string>;
 
-TEST_F(BandBrowse, EachRangeKeepsBothEndsAndDropsOnePast) {
+TEST_F(BandBrowse, EachRangeKeepsBothEndsAndDropsOnePastAndTheTopAdvanceIsInTheDisplayCurrency) {
     // Three bands, each range set so that the bands stand at its ends and one past.
     for (const char* name : {"One", "Two", "Three"}) band(name, [](BandRecord&) {});
     auto set = [&](auto field, auto a, auto b, auto c) {
@@ -75,15 +75,16 @@ TEST_F(BandBrowse, EachRangeKeepsBothEndsAndDropsOnePast) {
     filter.gigMax = 6.0f;
     set(&BandRecord::bestShare, 5.5f, 6.0f, 6.25f);
     EXPECT_EQ(names(), (Names{"One", "Two"}));
-}
-
-TEST_F(BandBrowse, EveryTerritorysReputationIsTested) {
-    band("A", [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 70}; });
-    band("B", [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 71}; });
-    band("C", [](BandRecord& b) { b.reputation = {49, 50, 50, 50, 60}; });
+    resetBandFilter(g, filter);  // every territory's reputation is tested
     filter.reputationMin = {50, 0, 0, 0, 0};
     filter.reputationMax = {100, 100, 100, 100, 70};
-    EXPECT_EQ(names(), (Names{"A"}));
+    using Reputation = std::array<uint8_t, 5>;
+    set(&BandRecord::reputation, Reputation{50, 50, 50, 50, 70}, Reputation{50, 50, 50, 50, 71},
+        Reputation{49, 50, 50, 50, 60});
+    EXPECT_EQ(names(), (Names{"One"}));
+    g.prefs.rec.exchangeRate = 0.0f;  // counts as 1: the top advance is 50,000,000
+    resetBandFilter(g, filter);
+    EXPECT_EQ(filter.advanceMax, moneyUnits(50'000'000));
 }
 
 TEST_F(BandBrowse, LabelStyleAndRetiredBandsAreLeftOut) {
@@ -125,13 +126,6 @@ TEST_F(BandBrowse, TheShortlistKeepsOnlyThePlayersListedBands) {
     g.band.read(c), g.label.read(rival), shortlistAdd(g);
     filter.shortlistOnly = true;
     EXPECT_EQ(names(), (Names{"Ours"}));
-}
-
-// Other rates are worked through the band filter form on screen.
-TEST_F(BandBrowse, TheFiltersTopAdvanceTakesARateOfNoughtAsOne) {
-    g.prefs.rec.exchangeRate = 0.0f;
-    resetBandFilter(g, filter);
-    EXPECT_EQ(filter.advanceMax, moneyUnits(50'000'000));
 }
 
 TEST_F(BandBrowse, ALabelClickedThreeTimesSortsUpDownUp) {

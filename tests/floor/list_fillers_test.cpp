@@ -11,23 +11,15 @@ namespace {
 
 struct ListFixture : test::GameTest {
     void SetUp() override {
-        for (auto [name, adjective, region] : {std::tuple{"England", "English", "E"},
-                                               {"Peru", "Peruvian", "S"},  // no city
-                                               {" France ", "French", "E"}}) {
-            g.country.rec = CountryRecord{.name = name, .adjective = adjective, .region = region};
-            g.country.append();
-        }
-        for (auto [name, country] : {std::pair{"London", 1}, {"  Paris", 3}, {"Leeds ", 1}}) {
-            g.city.rec = CityRecord{.name = name, .country = static_cast<uint8_t>(country)};
-            g.city.append();
-        }
-        for (const char* name : {"Rock", " Pop "}) {
-            g.style.rec = StyleRecord{.name = name};
-            g.style.append();
-        }
-        for (const char* name : {"Big Sound", "Lowlife "}) {
-            g.label.rec = LabelRecord{.name = name};
-            g.label.append();
+        // Peru has no city.
+        for (auto [name, adjective, region] :
+             {std::tuple{"England", "English", "E"}, {"Peru", "Peruvian", "S"}, {" France ", "French", "E"}})
+            (g.country.rec = CountryRecord{.name = name, .adjective = adjective, .region = region}, g.country.append());
+        for (auto [name, country] : {std::pair{"London", 1}, {"  Paris", 3}, {"Leeds ", 1}})
+            (g.city.rec = CityRecord{.name = name, .country = static_cast<uint8_t>(country)}, g.city.append());
+        for (auto [style, label] : {std::pair{"Rock", "Big Sound"}, {" Pop ", "Lowlife "}}) {
+            (g.style.rec = StyleRecord{.name = style}, g.style.append());
+            (g.label.rec = LabelRecord{.name = label}, g.label.append());
         }
     }
 };
