@@ -159,7 +159,7 @@ TEST_F(DetailsScreens, ChangeImageAsksNoFilesNothingAndYesFilesTheReportForAWeek
               std::tuple(uint8_t{9}, game->gameDate + 7, game->player.playerLabel, rae));
 }
 
-TEST_F(DetailsScreens, TheHallOfFameAndTheBirthdayNoteOpenFromTheGameOptions) {
+TEST_F(DetailsScreens, TheHallOfFameAndTheBirthdayNoteOpenFromTheGameOptionsAndOnTheDay) {
     updateHighScoreTable(*game);  // this career's row, as a day writes it
     click(window->sideBar()->btnGameOptions);
     click(window->sideBar()->gameOptions()->entry("lblHallOfFame"));
@@ -180,6 +180,18 @@ TEST_F(DetailsScreens, TheHallOfFameAndTheBirthdayNoteOpenFromTheGameOptions) {
     EXPECT_EQ(note->lblTitle->text(), QString::fromStdString(trim(game->player.playerForename.value)) + "'s Birthday");
     screenshotOf(note, "45_frmBirthday");
     note->close();
+
+    // A session that starts on the player's birthday opens the note.
+    Game& g = *game;
+    EXPECT_EQ(dialog("frmBirthday"), nullptr) << "the new game did not start on the player's day";
+    g.staff.read(g.player.playerStaff);
+    const CivilDate today = civilFromSerial(g.gameDate);
+    g.staff->birthDate = serialFromCivil(1970, today.month, today.day);
+    g.staff.write();
+    saveGame(g, 1, "Birthday");
+    window->loadSavedGame(1);
+    ASSERT_TRUE(waitFor([&] { return dialog("frmBirthday") != nullptr; }));
+    EXPECT_EQ(screen(), Screen::frmNews);
 }
 
 TEST_F(DetailsScreens, AStorysAnswersShowTheirStatementsAndDefendPostsIt) {
@@ -245,19 +257,6 @@ TEST_F(DetailsScreens, TheLabelPagesCashChartLeavesATenthOfTheSpreadAboveAndBelo
     // 1,000,000 to 3,000,000: a tenth of the 2,000,000 between, 200,000, is
     // more than a twentieth of the top, 150,000.
     EXPECT_EQ(std::pair(y->min(), y->max()), std::pair(800'000.0, 3'200'000.0));
-}
-
-TEST_F(DetailsScreens, ASessionThatStartsOnThePlayersBirthdayOpensTheNote) {
-    Game& g = *game;
-    EXPECT_EQ(dialog("frmBirthday"), nullptr) << "the new game did not start on the player's day";
-    g.staff.read(g.player.playerStaff);
-    const CivilDate today = civilFromSerial(g.gameDate);
-    g.staff->birthDate = serialFromCivil(1970, today.month, today.day);
-    g.staff.write();
-    saveGame(g, 1, "Birthday");
-    window->loadSavedGame(1);
-    ASSERT_TRUE(waitFor([&] { return dialog("frmBirthday") != nullptr; }));
-    EXPECT_EQ(screen(), Screen::frmNews);
 }
 
 TEST_F(DetailsScreens, AVenueCardListsItsGigsLatestFirst) {
