@@ -173,25 +173,14 @@ TEST_F(BandBrowse, TheRichListOpensByWealthLeavesOutTheRetiredAndNamesTheJobBySe
     EXPECT_EQ(rows(false, " Rich Roe "), (Names{"Rich Roe"}));
 }
 
-TEST_F(BandBrowse, TheActivityColumnShowsTodaysEngagement) {
-    const int16_t busy = band("Busy", [](BandRecord&) {});
-    band("Idle", [](BandRecord&) {});
-    const int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Tin Roof");
-    const auto signs = static_cast<uint8_t>(ScheduleType::bandSigns);
-    addSchedule(g, ScheduleRecord{.type = signs, .date = g.gameDate, .band = busy, .label = label});
-    populateBandGrid(g, 1, filter, {bcActivity}, sort, grid);
-    EXPECT_EQ(cells(0), (Names{"Signing for Tin Roof", "None"}));
-}
-
-TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
+TEST_F(BandBrowse, StaffShowLabelDepartmentAndWageLabelsTheirStyleAndBandsTodaysEngagement) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Tin Roof");
     g.label.read(label), g.label->labelStyle = static_cast<uint8_t>(rock), g.label.write();  // the first style
     addLabel(g, {1, 1, 1, 1, 1}, "Anything Goes");
-    g.staff.rec =
-        StaffRecord{.forename = "Kim", .surname = "Rowe", .employer = label, .department = 3, .wage = moneyUnits(1250)};
-    g.staff.append();
-    g.staff.rec = StaffRecord{.forename = "Fay", .surname = "Free"};
-    g.staff.append();
+    const Money wage = moneyUnits(1250);
+    (g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe", .employer = label, .department = 3, .wage = wage},
+     g.staff.append());
+    (g.staff.rec = StaffRecord{.forename = "Fay", .surname = "Free"}, g.staff.append());
     populateStaffGrid(g, "", sort, grid);
     EXPECT_EQ(cells(3)[0] + "|" + cells(5)[0], "Tin Roof|£1,250");
     EXPECT_EQ(cells(4), (Names{"Marketing", ""}));  // out of work: no department
@@ -199,6 +188,13 @@ TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
     EXPECT_EQ(grid.rows.size(), 1u);
     populateLabelGrid(g, "", sort, grid);
     EXPECT_EQ(cells(1), (Names{"Rock", "All Styles"}));
+
+    const int16_t busy = band("Busy", [](BandRecord&) {});  // the activity column shows today's engagement
+    band("Idle", [](BandRecord&) {});
+    const auto signs = static_cast<uint8_t>(ScheduleType::bandSigns);
+    addSchedule(g, ScheduleRecord{.type = signs, .date = g.gameDate, .band = busy, .label = label});
+    populateBandGrid(g, 1, filter, {bcActivity}, sort, grid);
+    EXPECT_EQ(cells(0), (Names{"Signing for Tin Roof", "None"}));
 }
 
 TEST(AdvanceSteps, StepToTheNextListedAmountAndStopAtTheEnds) {
