@@ -1,4 +1,4 @@
-// The band browser: which bands its filter keeps, and how its labels sort.
+// The band browser: which bands its filter keeps, how its labels sort, and its booking list.
 #include <gtest/gtest.h>
 
 #include "browse/artist_browse.h"
@@ -49,7 +49,7 @@ protected:
 
 using Names = std::vector<std::string>;
 
-TEST_F(BandBrowse, EachRangeKeepsBothEndsAndDropsOnePast) {
+TEST_F(BandBrowse, EachRangeKeepsBothEndsAndDropsOnePastAndTheTopAdvanceIsInTheDisplayCurrency) {
     // Three bands, each range set so that the bands stand at its ends and one past.
     for (const char* name : {"One", "Two", "Three"}) band(name, [](BandRecord&) {});
     auto set = [&](auto field, auto a, auto b, auto c) {
@@ -75,15 +75,16 @@ TEST_F(BandBrowse, EachRangeKeepsBothEndsAndDropsOnePast) {
     filter.gigMax = 6.0f;
     set(&BandRecord::bestShare, 5.5f, 6.0f, 6.25f);
     EXPECT_EQ(names(), (Names{"One", "Two"}));
-}
-
-TEST_F(BandBrowse, EveryTerritorysReputationIsTested) {
-    band("A", [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 70}; });
-    band("B", [](BandRecord& b) { b.reputation = {50, 50, 50, 50, 71}; });
-    band("C", [](BandRecord& b) { b.reputation = {49, 50, 50, 50, 60}; });
+    resetBandFilter(g, filter);  // every territory's reputation is tested
     filter.reputationMin = {50, 0, 0, 0, 0};
     filter.reputationMax = {100, 100, 100, 100, 70};
-    EXPECT_EQ(names(), (Names{"A"}));
+    using Reputation = std::array<uint8_t, 5>;
+    set(&BandRecord::reputation, Reputation{50, 50, 50, 50, 70}, Reputation{50, 50, 50, 50, 71},
+        Reputation{49, 50, 50, 50, 60});
+    EXPECT_EQ(names(), (Names{"One"}));
+    g.prefs.rec.exchangeRate = 0.0f;  // counts as 1: the top advance is 50,000,000
+    resetBandFilter(g, filter);
+    EXPECT_EQ(filter.advanceMax, moneyUnits(50'000'000));
 }
 
 TEST_F(BandBrowse, LabelStyleAndRetiredBandsAreLeftOut) {
@@ -127,18 +128,6 @@ TEST_F(BandBrowse, TheShortlistKeepsOnlyThePlayersListedBands) {
     EXPECT_EQ(names(), (Names{"Ours"}));
 }
 
-TEST_F(BandBrowse, TheFiltersTopAdvanceIsFiftyMillionInTheDisplayCurrency) {
-    g.prefs.rec.exchangeRate = 2.0f;
-    resetBandFilter(g, filter);
-    EXPECT_EQ(filter.advanceMax, moneyUnits(25'000'000));  // 50,000,000 / 2
-    g.prefs.rec.exchangeRate = 0.0f;                       // a rate of 0 counts as 1
-    resetBandFilter(g, filter);
-    EXPECT_EQ(filter.advanceMax, moneyUnits(50'000'000));
-    g.prefs.rec.exchangeRate = 1.47f;
-    // 147,000 typed in euros is 100,000 pounds.
-    EXPECT_EQ(moneyFromDisplay(g, 147'000), moneyUnits(100'000));
-}
-
 TEST_F(BandBrowse, ALabelClickedThreeTimesSortsUpDownUp) {
     band("Bravo", [](BandRecord&) {});
     band("Alpha", [](BandRecord&) {});
@@ -155,23 +144,18 @@ TEST_F(BandBrowse, ALabelClickedThreeTimesSortsUpDownUp) {
     clickColumnLabel(sort, grid, 2);
     EXPECT_EQ(std::pair(sort.column, sort.direction), std::pair(3, 2));
     clickColumnLabel(sort, grid, 1);  // another label starts ascending
-    EXPECT_EQ(sort.column, 1);
-    EXPECT_EQ(sort.direction, 1);
+    EXPECT_EQ(std::pair(sort.column, sort.direction), std::pair(1, 1));
 }
 
-class ArtistBrowse : public BandBrowse {
-protected:
-    int16_t artist(const std::string& forename, int32_t wealth, int16_t retired = 0) {
+TEST_F(BandBrowse, TheRichListOpensByWealthLeavesOutTheRetiredAndNamesTheJobBySex) {
+    auto artist = [&](const char* forename, int32_t wealth, int16_t retired = 0) {
         g.artist.rec = ArtistRecord{.retired = retired, .forename = forename, .surname = "Roe", .wealth = wealth};
-        return static_cast<int16_t>(g.artist.append());
-    }
-    Names rows(bool rich, const std::string& name = "") {
+        g.artist.append();
+    };
+    auto rows = [&](bool rich, const std::string& name = "") {
         populateArtistGrid(g, rich, name, sort, grid);
         return cells(0);
-    }
-};
-
-TEST_F(ArtistBrowse, TheRichListOpensByWealthLeavesOutTheRetiredAndNamesTheJobBySex) {
+    };
     g.job.rec = JobRecord{.title = "Frontman", .titleFemale = "Frontwoman"};
     const auto job = static_cast<uint8_t>(g.job.append());
     artist("Poor", 10);
@@ -189,27 +173,14 @@ TEST_F(ArtistBrowse, TheRichListOpensByWealthLeavesOutTheRetiredAndNamesTheJobBy
     EXPECT_EQ(rows(false, " Rich Roe "), (Names{"Rich Roe"}));
 }
 
-TEST_F(BandBrowse, TheActivityColumnShowsTodaysEngagement) {
-    const int16_t busy = band("Busy", [](BandRecord&) {});
-    band("Idle", [](BandRecord&) {});
-    const int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Tin Roof");
-    addSchedule(
-        g,
-        ScheduleRecord{
-            .type = static_cast<uint8_t>(ScheduleType::bandSigns), .date = g.gameDate, .band = busy, .label = label});
-    populateBandGrid(g, 1, filter, {bcActivity}, sort, grid);
-    EXPECT_EQ(cells(0), (Names{"Signing for Tin Roof", "None"}));
-}
-
-TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
+TEST_F(BandBrowse, StaffShowLabelDepartmentAndWageLabelsTheirStyleAndBandsTodaysEngagement) {
     int16_t label = addLabel(g, {1, 1, 1, 1, 1}, "Tin Roof");
     g.label.read(label), g.label->labelStyle = static_cast<uint8_t>(rock), g.label.write();  // the first style
     addLabel(g, {1, 1, 1, 1, 1}, "Anything Goes");
-    g.staff.rec =
-        StaffRecord{.forename = "Kim", .surname = "Rowe", .employer = label, .department = 3, .wage = moneyUnits(1250)};
-    g.staff.append();
-    g.staff.rec = StaffRecord{.forename = "Fay", .surname = "Free"};
-    g.staff.append();
+    const Money wage = moneyUnits(1250);
+    (g.staff.rec = StaffRecord{.forename = "Kim", .surname = "Rowe", .employer = label, .department = 3, .wage = wage},
+     g.staff.append());
+    (g.staff.rec = StaffRecord{.forename = "Fay", .surname = "Free"}, g.staff.append());
     populateStaffGrid(g, "", sort, grid);
     EXPECT_EQ(cells(3)[0] + "|" + cells(5)[0], "Tin Roof|£1,250");
     EXPECT_EQ(cells(4), (Names{"Marketing", ""}));  // out of work: no department
@@ -217,6 +188,42 @@ TEST_F(BandBrowse, StaffShowTheirLabelDepartmentAndWageAndLabelsTheirStyle) {
     EXPECT_EQ(grid.rows.size(), 1u);
     populateLabelGrid(g, "", sort, grid);
     EXPECT_EQ(cells(1), (Names{"Rock", "All Styles"}));
+
+    const int16_t busy = band("Busy", [](BandRecord&) {});  // the activity column shows today's engagement
+    band("Idle", [](BandRecord&) {});
+    const auto signs = static_cast<uint8_t>(ScheduleType::bandSigns);
+    addSchedule(g, ScheduleRecord{.type = signs, .date = g.gameDate, .band = busy, .label = label});
+    populateBandGrid(g, 1, filter, {bcActivity}, sort, grid);
+    EXPECT_EQ(cells(0), (Names{"Signing for Tin Roof", "None"}));
+}
+
+TEST(AdvanceSteps, StepToTheNextListedAmountAndStopAtTheEnds) {
+    EXPECT_EQ(stepAdvance(50'000, 1), 100'000);  // on a step: the next one
+    EXPECT_EQ(stepAdvance(49'999, 1), 50'000);   // between steps: the one above
+    EXPECT_EQ(stepAdvance(50'000, -1), 0);
+    EXPECT_EQ(stepAdvance(50'001, -1), 50'000);
+    EXPECT_EQ(stepAdvance(0, -1), 0);                    // the bottom stays
+    EXPECT_EQ(stepAdvance(25'000'000, 1), 25'000'000);   // the top stays
+    EXPECT_EQ(stepAdvance(50'000'000, -1), 25'000'000);  // the default top steps down into the list
+}
+
+TEST_F(BandBrowse, TheBookingListMarksTheBandsOnTheBillInHand) {
+    int16_t head = band("Head", [](BandRecord&) {});
+    int16_t first = band("First", [](BandRecord&) {});
+    int16_t second = band("Second", [](BandRecord&) {});
+    band("Free", [](BandRecord&) {});
+    g.tour.rec = TourRecord{.supportCount = 1};  // the headliner and one support stand on the bill
+    g.gig.rec = GigRecord{.bill = {head, first, second}};
+    filter.referenceBand = head;
+    populateBandGrid(g, 1, filter, kBandBookingColumns, sort, grid);
+    EXPECT_EQ(grid.columns[0].label, "Added");
+    // The third on the bill is past the count the tour holds.
+    EXPECT_EQ(cells(0), (Names{"Added", "Added", "", ""}));
+    // Mode 3 lists the bill one shorter than mode 2, unfiltered.
+    populateBandGrid(g, 3, filter, kBandBookingColumns, sort, grid);
+    EXPECT_EQ(grid.rows.size(), 1u);
+    populateBandGrid(g, 2, filter, kBandBookingColumns, sort, grid);
+    EXPECT_EQ(grid.rows.size(), 2u);
 }
 
 }  // namespace

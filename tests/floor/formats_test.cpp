@@ -7,33 +7,26 @@
 using namespace trovane;
 
 TEST(Formats, NumberMasks) {
-    struct Case {
-        double value;
-        const char* mask;
-        const char* shown;
-    };
+    using C = std::tuple<double, const char*, const char*>;  // value, mask, shown
     const char* const wide = "###,###,###,###";
-    for (Case c : {Case{0, wide, ""}, Case{0.4, wide, ""}, Case{-0.4, wide, ""}, Case{999, wide, "999"},
-                   Case{1000, wide, "1,000"}, Case{1234567, wide, "1,234,567"}, Case{-1234567, wide, "-1,234,567"},
-                   Case{2.5, wide, "3"}, Case{0, "###,###,##0", "0"}, Case{-5, "###,###,##0", "-5"},
-                   Case{123456, "###,##0", "123,456"}, Case{0, "##0.00", "0.00"}, Case{3.14159, "##0.00", "3.14"},
-                   Case{0.125, "##0.00", "0.13"}, Case{1234.5, "##0.00", "1234.50"}, Case{-0.5, "##0.00", "-0.50"}})
-        EXPECT_EQ(formatNumber(c.value, c.mask), c.shown) << c.value << " through " << c.mask;
+    for (auto [value, mask, shown] :
+         {C{0, wide, ""}, C{0.4, wide, ""}, C{-0.4, wide, ""}, C{999, wide, "999"}, C{1000, wide, "1,000"},
+          C{1234567, wide, "1,234,567"}, C{-1234567, wide, "-1,234,567"}, C{2.5, wide, "3"}, C{0, "###,###,##0", "0"},
+          C{-5, "###,###,##0", "-5"}, C{123456, "###,##0", "123,456"}, C{0, "##0.00", "0.00"},
+          C{3.14159, "##0.00", "3.14"}, C{0.125, "##0.00", "0.13"}, C{1234.5, "##0.00", "1234.50"},
+          C{-0.5, "##0.00", "-0.50"}})
+        EXPECT_EQ(formatNumber(value, mask), shown) << value << " through " << mask;
 }
 
 TEST(Formats, DateMasks) {
-    struct Case {
-        int y;
-        unsigned m, d;
-        const char* mask;
-        const char* shown;
-    };
+    using C = std::tuple<int, unsigned, unsigned, const char*, const char*>;  // date, mask, shown
     const char* const full = "dddd d/m/yyyy ";
-    for (Case c : {Case{2004, 8, 5, full, "Thursday 5/8/2004 "}, Case{2000, 1, 1, full, "Saturday 1/1/2000 "},
-                   Case{2006, 12, 31, full, "Sunday 31/12/2006 "}, Case{2008, 2, 29, full, "Friday 29/2/2008 "},
-                   Case{2004, 8, 5, "ddd dd mmm yy", "Thu 05 Aug 04"}, Case{2010, 3, 9, "mmmm yyyy", "March 2010"},
-                   Case{2010, 3, 9, "dd/mm/yyyy", "09/03/2010"}})
-        EXPECT_EQ(formatDate(serialFromCivil(c.y, c.m, c.d), c.mask), c.shown) << c.mask;
+    for (auto [y, m, d, mask, shown] :
+         {C{2004, 8, 5, full, "Thursday 5/8/2004 "}, C{2000, 1, 1, full, "Saturday 1/1/2000 "},
+          C{2006, 12, 31, full, "Sunday 31/12/2006 "}, C{2008, 2, 29, full, "Friday 29/2/2008 "},
+          C{2004, 8, 5, "ddd dd mmm yy", "Thu 05 Aug 04"}, C{2010, 3, 9, "mmmm yyyy", "March 2010"},
+          C{2010, 3, 9, "dd/mm/yyyy", "09/03/2010"}})
+        EXPECT_EQ(formatDate(serialFromCivil(y, m, d), mask), shown) << mask;
 }
 
 TEST(Formats, MoneyShowsTheSymbolAndTheExchangedAmount) {

@@ -1,21 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <tuple>
-
 #include "floor/number_helpers.h"
 #include "support/empty_game.h"
 
 using namespace trovane;
 
 TEST(Clamps, HoldTheValueAndWriteTheLimitBack) {
-    struct Case {
-        int16_t value, low, high, result;
-    };
-    for (Case c : {Case{-5, 0, 100, 0}, Case{0, 0, 100, 0}, Case{57, 0, 100, 57}, Case{100, 0, 100, 100},
-                   Case{101, 0, 100, 100}, Case{-32768, -10, 10, -10}}) {
-        int16_t v = c.value;
-        EXPECT_EQ(clampInteger(v, c.low, c.high), c.result);
-        EXPECT_EQ(v, c.result);
+    using C = std::array<int16_t, 4>;  // value, low, high, result
+    for (auto [value, low, high, result] : {C{-5, 0, 100, 0}, C{0, 0, 100, 0}, C{57, 0, 100, 57}, C{100, 0, 100, 100},
+                                            C{101, 0, 100, 100}, C{-32768, -10, 10, -10}}) {
+        EXPECT_EQ(clampInteger(value, low, high), result);
+        EXPECT_EQ(value, result);
     }
     int32_t big = 3'000'000;
     EXPECT_EQ(clampLong(big, 0, 1'000'000), 1'000'000);
@@ -26,50 +21,41 @@ TEST(Clamps, HoldTheValueAndWriteTheLimitBack) {
 }
 
 TEST(MoneySteps, StepTableEdges) {
-    // Each step with the first and the last value it covers.
-    for (auto [first, last, step] : {std::tuple{0, 99, 5},
-                                     {100, 999, 50},
-                                     {1000, 4999, 250},
-                                     {5000, 24999, 500},
-                                     {25000, 49999, 1000},
-                                     {50000, 99999, 5000},
-                                     {100000, 249999, 10000},
-                                     {250000, 499999, 25000},
-                                     {500000, 999999, 50000},
-                                     {1000000, 4999999, 100000},
-                                     {5000000, 9999999, 250000}}) {
-        EXPECT_EQ(moneyStep(first), step) << first;
-        EXPECT_EQ(moneyStep(last), step) << last;
-    }
-    EXPECT_EQ(moneyStep(10000000), 500000);
-    EXPECT_EQ(moneyStep(-1), 500000);
+    std::string steps;  // each step at the first and the last value it covers, then past the table
+    for (int32_t v :
+         {0,      99,     100,    999,    1000,   4999,   5000,    24999,   25000,   49999,   50000,    99999,
+          100000, 249999, 250000, 499999, 500000, 999999, 1000000, 4999999, 5000000, 9999999, 10000000, -1})
+        steps += std::to_string(moneyStep(v)) + " ";
+    EXPECT_EQ(steps,
+              "5 5 50 50 250 250 500 500 1000 1000 5000 5000 10000 10000 25000 25000 50000 50000 100000 100000 "
+              "250000 250000 500000 500000 ");
 }
 
 TEST(MoneySteps, ArrowsStepFromTheValueBeforeTheClick) {
-    struct Case {
-        bool up;
-        int32_t value, result;
-    };
-    for (Case c : {Case{true, 95, 100}, Case{true, 100, 150}, Case{false, 100, 50}, Case{false, 3, 0},
-                   Case{false, 10000000, 9500000}, Case{true, 9999999, 10249999}, Case{false, 1000, 750},
-                   Case{false, -20, 0}, Case{true, -20, 499980}}) {
-        int32_t v = c.value;
-        EXPECT_EQ(stepMoney(c.up, v), c.result) << c.up << " " << c.value;
-        EXPECT_EQ(v, c.result);
+    using C = std::tuple<bool, int32_t, int32_t>;  // up, value, result
+    for (auto [up, value, result] :
+         {C{true, 95, 100}, C{true, 100, 150}, C{false, 100, 50}, C{false, 3, 0}, C{false, 10000000, 9500000},
+          C{true, 9999999, 10249999}, C{false, 1000, 750}, C{false, -20, 0}, C{true, -20, 499980}}) {
+        int32_t v = value;
+        EXPECT_EQ(stepMoney(up, v), result) << up << " " << value;
+        EXPECT_EQ(v, result);
     }
     int32_t top = INT32_MAX - 10;
     EXPECT_THROW(stepMoney(true, top), FatalError);
 }
 
 TEST(MoneySteps, RoundToStepHalvesGoToTheEvenMultiple) {
-    struct Case {
-        int32_t value, result;
-    };
-    for (Case c : {Case{1375, 1500}, Case{1125, 1000}, Case{1124, 1000}, Case{97, 95}, Case{98, 100},
-                   Case{1'234'567, 1'200'000}, Case{0, 0}, Case{-750'000, -1'000'000}}) {
-        int32_t v = c.value;
-        EXPECT_EQ(roundToMoneyStep(v), c.result) << c.value;
-        EXPECT_EQ(v, c.result);
+    for (auto [value, result] : {std::pair{1375, 1500},
+                                 {1125, 1000},
+                                 {1124, 1000},
+                                 {97, 95},
+                                 {98, 100},
+                                 {1'234'567, 1'200'000},
+                                 {0, 0},
+                                 {-750'000, -1'000'000}}) {
+        int32_t v = value;
+        EXPECT_EQ(roundToMoneyStep(v), result) << value;
+        EXPECT_EQ(v, result);
     }
 }
 
@@ -93,18 +79,14 @@ TEST(BandReputation, WeighsTheFiveMarkets) {
 // exact; 25 and 30 land the first division on a half that must go to the even byte,
 // and 32 gives the third market a base of 3 that a divisor of 13 would make 2.
 TEST(RegionalShares, FixedSharesAndNewBandSharesOfSmallAbilities) {
-    struct Case {
-        int kind;
-        uint8_t ability;
-        std::array<uint8_t, 5> shares;
-    };
-    for (Case c : {Case{1, 50, {40, 20, 15, 10, 5}}, Case{3, 50, {}}, Case{2, 0, {2, 2, 2, 2, 2}},
-                   Case{2, 25, {4, 2, 2, 2, 2}}, Case{2, 30, {4, 3, 2, 2, 2}}, Case{2, 32, {4, 3, 3, 2, 2}}}) {
+    using C = std::array<uint8_t, 7>;  // kind, ability, the five shares
+    for (C c : {C{1, 50, 40, 20, 15, 10, 5}, C{3, 50}, C{2, 0, 2, 2, 2, 2, 2}, C{2, 25, 4, 2, 2, 2, 2},
+                C{2, 30, 4, 3, 2, 2, 2}, C{2, 32, 4, 3, 3, 2, 2}}) {
         test::EmptyGame eg;
-        eg.g.band->ability = c.ability;
-        std::array<uint8_t, 5> r{};
-        setRegionalShares(eg.g, c.kind, r[0], r[1], r[2], r[3], r[4]);
-        EXPECT_EQ(r, c.shares) << c.kind << " " << int{c.ability};
+        eg.g.band->ability = c[1];
+        C r{c[0], c[1]};
+        setRegionalShares(eg.g, c[0], r[2], r[3], r[4], r[5], r[6]);
+        EXPECT_EQ(r, c) << int{c[0]} << " " << int{c[1]};
     }
 }
 

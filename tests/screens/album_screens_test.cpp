@@ -65,11 +65,10 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
     g.band.read(band);
     EXPECT_EQ(std::tuple(g.band->albumStatus, g.band->materialBudget), std::tuple(1, 3));
 
-    std::vector<int32_t> songs;
     for (const char* title : {"Low Tide", "Night Bus", "Glass Roof"}) {
         g.song.rec = SongRecord{
             .title = title, .band = band, .quality = 60, .commerciality = 40, .disc = 65535, .written = g.gameDate};
-        songs.push_back(g.song.append());
+        g.song.append();
     }
     amend(g.band, band, [&] { g.band->songsWritten = 3; });
     panel = new screens::frmBandOptionsSigned(*window, band, window.get());
@@ -121,7 +120,7 @@ TEST_F(ScreenTest, AnAlbumFromTheBandsPanelToTheStudio) {
     EXPECT_EQ(trim(g.disc->title.value), "Harbour Lights");
 }
 
-TEST_F(ScreenTest, ARecordedAlbumIsReleasedFromTheBandsPanel) {
+TEST_F(ScreenTest, ARecordedAlbumIsReleasedFromTheBandsPanelAndAStudioBuiltFromTheFacilities) {
     startNewGameAsPlayer();
     Game& g = *game;
     const int16_t band = addSignedBand(g);
@@ -146,11 +145,8 @@ TEST_F(ScreenTest, ARecordedAlbumIsReleasedFromTheBandsPanel) {
     });
     click(panel->lblAlbumProgress);
     EXPECT_EQ(opened.toStdString(), "frmSetReleaseDate");
-}
 
-TEST_F(ScreenTest, AStudioIsBuiltFromTheLabelsFacilities) {
-    startNewGameAsPlayer();
-    Game& g = *game;
+    // A studio is built from the label's facilities.
     click(window->sideBar()->btnLabelOptions);
     ASSERT_EQ(screen(), Screen::frmLabelDetails);
     auto* page = find<screens::frmLabelDetails>("frmLabelDetails");

@@ -36,11 +36,8 @@ TEST_F(ScreenTest, LabelDetailsShowTheBooksAndLockDepartmentChangesIn) {
     ASSERT_EQ(screen(), Screen::frmLabelDetails);
     auto* page = find<screens::frmLabelDetails>("frmLabelDetails");
     EXPECT_EQ(page->titleLabel()->text(), "Nightjar Records");
-    EXPECT_EQ(find<QLabel>("lblGenreR")->text(), "Indie Rock");
-    EXPECT_EQ(find<QLabel>("lblIndependenceR")->text(), "Independent Label");
-    EXPECT_EQ(find<QLabel>("lblBossR")->text(), "Ann Lee");
-    EXPECT_EQ(find<QLabel>("lblFormedR")->text(), "London, this year");
-    EXPECT_EQ(find<QLabel>("lblUkReputationR")->text(), "40%");
+    EXPECT_EQ(texts({"lblGenreR", "lblIndependenceR", "lblBossR", "lblFormedR", "lblUkReputationR"}),
+              (QStringList{"Indie Rock", "Independent Label", "Ann Lee", "London, this year", "40%"}));
     screenshot("60_frmLabelDetails");
 
     page->tabs->setCurrentIndex(1);

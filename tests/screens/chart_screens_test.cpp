@@ -46,7 +46,7 @@ protected:
     int16_t a = 0, b = 0, c = 0;
 };
 
-TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntriesAndAPastWeekAndAnotherChartCanBeChosen) {
+TEST_F(ChartScreen, MovementsEntriesPastWeeksAndOtherChartsSortedAndExported) {
     startNewGameAsPlayer();
     threeWeeks();
     screens::frmChartForm form(*window);
@@ -72,12 +72,8 @@ TEST_F(ChartScreen, TheLatestWeekShowsMovementsAndEntriesAndAPastWeekAndAnotherC
     EXPECT_EQ(form.lblTitle->text(), QStringLiteral("Global Single Chart"));
     EXPECT_EQ(form.lblChartSizeR->text(), QStringLiteral("Top 20"));
     EXPECT_TRUE(form.model()->lines().empty());
-}
 
-TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
-    startNewGameAsPlayer();
-    threeWeeks();
-    screens::frmChartForm form(*window);
+    form.cmbChart->setCurrentIndex(0);  // sorted by sales, then exported as shown
     EXPECT_EQ(form.flxEntries->model()->columnCount(), 11);
     form.flxEntries->sortByColumn(5, Qt::AscendingOrder);
     QModelIndex first = form.flxEntries->model()->index(0, 2);
@@ -93,7 +89,7 @@ TEST_F(ChartScreen, SortingBySalesAndExportingWhatIsShown) {
     EXPECT_TRUE(rows[1].contains(QStringLiteral("\"Bravo, Live\""))) << rows[1].toStdString();
 }
 
-TEST_F(ChartScreen, TheRecordsTabShowsCopiesAsFiguresAndSharesAsPercentages) {
+TEST_F(ChartScreen, TheRecordsTabShowsFiguresAndPercentagesAndThePanelOpensAChart) {
     startNewGameAsPlayer();
     Game& g = *game;
     g.chartrecs.read(10);  // the records of the last chart, the Global single chart
@@ -106,16 +102,13 @@ TEST_F(ChartScreen, TheRecordsTabShowsCopiesAsFiguresAndSharesAsPercentages) {
     EXPECT_EQ(shown("lblMostWeeklySalesLabelR"), "Halcyon  123,456");
     EXPECT_EQ(shown("lblHighestBandPercentageR"), "Alpha  12.34%") << "1234 hundredths of a percent";
     EXPECT_EQ(shown("lblMostTotalSalesR"), "-") << "no holder yet";
-}
 
-TEST_F(ChartScreen, TheChartsPanelOpensTheChosenChart) {
-    startNewGameAsPlayer();
     click("btnCharts");
     click("lblUSSingleChart");
     EXPECT_EQ(screen(), Screen::frmChartForm);
-    auto* form = find<screens::frmChartForm>("frmChartForm");
-    ASSERT_NE(form, nullptr);
-    EXPECT_EQ(form->chart(), 6);
+    auto* opened = find<screens::frmChartForm>("frmChartForm");
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->chart(), 6);
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ protected:
     }
 };
 
-TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) {
+TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlySetsTheTickedTerritoriesAndNoneWithoutADay) {
     {
         screens::frmSetReleaseDate none(*game, disc);
         none.show();
@@ -70,14 +70,12 @@ TEST_F(DiscForms, TheDateFormOffersValidMondaysOnlyAndSetsTheTickedTerritories) 
     click(form.cmdConfirm);
     EXPECT_EQ(record().releaseDate[0], serialFromCivil(2004, 10, 4));
     EXPECT_EQ(record().releaseDate[1], 0.0);
-}
 
-// An act whose contract ends before the earliest release date leaves every
-// territory without a day: none ticked, none to tick.
-TEST_F(DiscForms, ATerritoryWithoutADayCannotBeTicked) {
+    // An act whose contract ends before the earliest release date leaves every
+    // territory without a day: none ticked, none to tick.
     amend(game->band, record().band, [&] { game->band->contractEnd = game->gameDate + 10; });
-    screens::frmSetReleaseDate form(*game, disc);
-    for (auto* box : form.chkTerritories) {
+    screens::frmSetReleaseDate ended(*game, disc);
+    for (auto* box : ended.chkTerritories) {
         EXPECT_FALSE(box->isChecked());
         EXPECT_FALSE(box->isEnabled());
     }
@@ -100,7 +98,7 @@ TEST_F(DiscForms, TheOptionsOfferWhatTheDiscIsReadyFor) {
     EXPECT_EQ(offered(), std::pair(false, false)) << "no tracks at all";
 }
 
-TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
+TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritoriesAndDiscDetailsShowThem) {
     amend(game->disc, disc, [&] { game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20); });
     screens::frmPressDiscs form(*game, disc);
     form.show();
@@ -114,6 +112,17 @@ TEST_F(DiscForms, ThePressFormStepsThroughTheQuantitiesOfDatedTerritories) {
     screenshotOf(&form, QStringLiteral("33_frmPressDiscs"));
     click(form.cmdConfirm);
     EXPECT_EQ(record().pressingOrder[0], 5000);
+
+    amend(game->disc, disc, [&] {
+        game->disc->stock[0] = 12000;
+        game->disc->totalSales[0] = 61000;
+    });
+    screens::frmDiscDetails details(*window, disc);
+    details.resize(1280, 800);
+    details.show();
+    EXPECT_EQ(cells(details.flxTerritories, 0, {0, 2, 5}), (QStringList{"20/9/2004", "12,000", "S"}));
+    EXPECT_TRUE(details.cmdExtra->isEnabled());
+    screenshotOf(&details, QStringLiteral("35_frmDiscDetails"));
 }
 
 TEST_F(DiscForms, TheDistributorFormListsTheWeeksTerritoriesAndConfirms) {
@@ -133,20 +142,6 @@ TEST_F(DiscForms, TheDistributorFormListsTheWeeksTerritoriesAndConfirms) {
     screenshotOf(&form, QStringLiteral("34_frmChooseDistributor"));
     click(form.cmdConfirm);
     EXPECT_EQ(record().distributor[0], firm);
-}
-
-TEST_F(DiscForms, DiscDetailsShowsEachTerritory) {
-    amend(game->disc, disc, [&] {
-        game->disc->releaseDate[0] = serialFromCivil(2004, 9, 20);
-        game->disc->stock[0] = 12000;
-        game->disc->totalSales[0] = 61000;
-    });
-    screens::frmDiscDetails details(*window, disc);
-    details.resize(1280, 800);
-    details.show();
-    EXPECT_EQ(cells(details.flxTerritories, 0, {0, 2, 5}), (QStringList{"20/9/2004", "12,000", "S"}));
-    EXPECT_TRUE(details.cmdExtra->isEnabled());
-    screenshotOf(&details, QStringLiteral("35_frmDiscDetails"));
 }
 
 TEST_F(DiscForms, ASingleTakesAFreeLeadAndTheTwoWeakestOtherTracks) {

@@ -109,7 +109,7 @@ TEST_F(ScreenTest, TheNewGameFormsRefuseAtTheFieldAndKeepWhatWasTyped) {
     EXPECT_EQ(find<QLineEdit>("txtName")->text(), "  greystone MUSIC ");
 }
 
-TEST_F(ScreenTest, TheSaveScreenRefusesANameItCannotStoreAndSavesNothing) {
+TEST_F(ScreenTest, TheSaveScreenRefusesANameItCannotStoreAndTheStatusBarShowsLongFiguresInFull) {
     startNewGameAsPlayer();
     window->openSaveScreen(false);
     find<QListWidget>("lstSaves")->setCurrentRow(3);
@@ -120,10 +120,8 @@ TEST_F(ScreenTest, TheSaveScreenRefusesANameItCannotStoreAndSavesNothing) {
               QString::fromUtf8("The save's name holds \"Ω\", a character the game cannot store."));
     EXPECT_EQ(find<QListWidget>("lstSaves")->item(3)->text(), "3 : None");
     EXPECT_EQ(name->text(), QString::fromUtf8("Tour Ω"));
-}
 
-TEST_F(ScreenTest, AtTheMinimumSizeTheStatusBarShowsEveryFigureInFull) {
-    startNewGameAsPlayer();
+    // At the minimum size the status bar shows every figure in full.
     // Long texts as players type them: a label name of the full 32 characters, long
     // names, the longest weekday and a cash figure in the thousands of millions.
     game->player.playerLabelName = "Featherstonehaugh & Cholmondeley";

@@ -28,33 +28,6 @@ protected:
     }
 };
 
-TEST_F(ListCards, AFirmRowOpensItsParticulars) {
-    startNewGameAsPlayer();
-    Game& g = *game;
-    g.business.rec = BusinessRecord{.name = "Marsh Lane Pressing",
-                                    .kind = 1,
-                                    .quality = 10,
-                                    .owner = g.player.playerLabel,
-                                    .open = -1,
-                                    .runningCost = 15'000};
-    const int16_t firm = static_cast<int16_t>(g.business.append());
-
-    openLastRow("lblBusinesses", Screen::frmBusinessBrowse, firm);
-
-    auto* card = dialog<screens::frmFirmCard>("frmFirmCard");
-    ASSERT_NE(card, nullptr);
-    g.label.read(g.player.playerLabel);
-    EXPECT_EQ(card->details->lblName->text(), "Marsh Lane Pressing");
-    EXPECT_EQ(card->details->lblQuality->text(), "Quality : 10%");
-    EXPECT_EQ(card->details->lblOwner->text(), "Owned by " + QString::fromStdString(trim(g.label->name.value)));
-    EXPECT_TRUE(card->details->lblRunningCost->text().endsWith("15,000 per month"));
-    // A plant of quality 10 presses 2 x 1,000 = 2,000 units a day.
-    EXPECT_EQ(card->details->lblCost->text(), "2,000 units per day");
-    screenshotOf(card, "49_frmFirmCard");
-    card->close();
-    EXPECT_EQ(screen(), Screen::frmBusinessBrowse);
-}
-
 TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
     startNewGameAsPlayer();
     Game& g = *game;
@@ -113,7 +86,7 @@ TEST_F(ListCards, AnOutletRowOpensItsParticulars) {
     }
 }
 
-TEST_F(ListCards, ASongRowOpensItsDiscElseItsBand) {
+TEST_F(ListCards, ASongRowOpensItsDiscElseItsBandAndAFirmRowItsParticulars) {
     startNewGameAsPlayer();
     Game& g = *game;
     const int16_t band = addHartbeats(g);
@@ -136,6 +109,29 @@ TEST_F(ListCards, ASongRowOpensItsDiscElseItsBand) {
     amend(g.song, song, [&] { g.song->disc = static_cast<uint16_t>(disc); });
     open();
     EXPECT_EQ(std::tuple(screen(), window->discOnScreen), std::tuple(Screen::frmDiscDetails, disc));
+
+    g.business.rec = BusinessRecord{.name = "Marsh Lane Pressing",
+                                    .kind = 1,
+                                    .quality = 10,
+                                    .owner = g.player.playerLabel,
+                                    .open = -1,
+                                    .runningCost = 15'000};
+    const int16_t firm = static_cast<int16_t>(g.business.append());
+
+    openLastRow("lblBusinesses", Screen::frmBusinessBrowse, firm);
+
+    auto* card = dialog<screens::frmFirmCard>("frmFirmCard");
+    ASSERT_NE(card, nullptr);
+    g.label.read(g.player.playerLabel);
+    EXPECT_EQ(card->details->lblName->text(), "Marsh Lane Pressing");
+    EXPECT_EQ(card->details->lblQuality->text(), "Quality : 10%");
+    EXPECT_EQ(card->details->lblOwner->text(), "Owned by " + QString::fromStdString(trim(g.label->name.value)));
+    EXPECT_TRUE(card->details->lblRunningCost->text().endsWith("15,000 per month"));
+    // A plant of quality 10 presses 2 x 1,000 = 2,000 units a day.
+    EXPECT_EQ(card->details->lblCost->text(), "2,000 units per day");
+    screenshotOf(card, "49_frmFirmCard");
+    card->close();
+    EXPECT_EQ(screen(), Screen::frmBusinessBrowse);
 }
 
 }  // namespace trovane::test

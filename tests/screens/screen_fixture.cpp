@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "screens/side_bar.h"
@@ -163,6 +164,20 @@ int16_t addVenue(Game& g, const std::string& name, int16_t city, int32_t capacit
 QStringList ScreenTest::cells(const QTableWidget* t, int row, std::initializer_list<int> columns) {
     QStringList out;
     for (int c : columns) out << (t->item(row, c) ? t->item(row, c)->text() : QStringLiteral("<none>"));
+    return out;
+}
+
+QStringList ScreenTest::items(const QListWidget* l) {
+    EXPECT_NE(l, nullptr);
+    QStringList out;
+    for (int i = 0; l && i < l->count(); ++i) out << l->item(i)->text();
+    return out;
+}
+
+QStringList ScreenTest::texts(std::initializer_list<const char*> labels) const {
+    QStringList out;
+    for (const char* name : labels)
+        if (auto* l = find<QLabel>(name)) out << l->text();
     return out;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -61,6 +62,9 @@ protected:
     void screenshotOf(QWidget* w, const QString& name);
     // The texts of a table's row at those columns ("<none>" for a missing cell).
     static QStringList cells(const QTableWidget* t, int row, std::initializer_list<int> columns);
+    // The texts of a list's items (none for a missing list), and of the window's labels of those names.
+    static QStringList items(const QListWidget* l);
+    QStringList texts(std::initializer_list<const char*> labels) const;
 };
 
 }  // namespace trovane::test

@@ -19,14 +19,12 @@ namespace trovane::test {
 
 namespace {
 
-const char* kLongText =
-    "Assembled journalists were left somewhat surprised today when the band announced a forty-date tour of the "
-    "country's smallest venues, a move their manager described as 'going back to where it all began'. Tickets for "
-    "every date sold out within the hour, and the promoters are already talking about adding a second run in the "
-    "spring. The band's label declined to comment on whether the new album, recorded over six weeks in a converted "
-    "chapel, would be released before the tour begins, but insiders say that the first single is ready to go and "
-    "that radio play has been lined up across three territories. Whatever happens, it promises to be a long, loud "
-    "year for everyone involved, and the industry will be watching closely to see whether the gamble pays off.";
+// A long story: one sentence seven times over.
+const std::string kLongText = QStringLiteral(
+                                  "Assembled journalists were left somewhat surprised today when the band announced a "
+                                  "forty-date tour of the country's smallest venues. ")
+                                  .repeated(7)
+                                  .toStdString();
 
 // The shell's frame, shown whole wherever a game is on screen.
 constexpr std::initializer_list<const char*> kShell = {"frmSideBar", "frmStatusBar", "btnContinueGame", "btnNews",

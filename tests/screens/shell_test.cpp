@@ -26,7 +26,7 @@ namespace trovane::test {
 
 using screens::OptionPanel;
 
-TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
+TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDayAndTheCurrencyPanelWorks) {
     startNewGameAsPlayer();
     screens::frmSideBar* bar = window->sideBar();
     for (auto [button, panel] : {std::pair<QPushButton*, OptionPanel*>{bar->btnFind, bar->findOptions()},
@@ -57,6 +57,19 @@ TEST_F(ScreenTest, PanelsToggleSwapAndCloseWithEscapeAndAtTheEndOfTheDay) {
     continueOneDay();
     EXPECT_EQ(bar->openPanel(), nullptr);
     EXPECT_EQ(screen(), Screen::frmNews);
+
+    // The currency changes the cash shown, never the cash held.
+    const Money held = game->player.playerLabelCash;
+    click(window->sideBar()->btnGameOptions);
+    click("lblCurrency");
+    auto* currency = dialog<QDialog>("frmChangeCurrency");
+    ASSERT_NE(currency, nullptr);
+    EXPECT_TRUE(currency->findChild<QAbstractButton*>("optCurrency0")->isChecked());
+    click(currency->findChild<QAbstractButton*>("optCurrency1"));
+    click(currency->findChild<QAbstractButton*>("cmdConfirm"));
+    EXPECT_EQ(window->gameStatusBar()->lblCash->text(), "$1,770,000");
+    EXPECT_EQ(game->player.playerLabelCash, held);
+    EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
 }
 
 TEST_F(ScreenTest, ContinueHasKeysAndShowsTheLoadingScreenBeforeTheDayRuns) {
@@ -149,21 +162,6 @@ TEST_F(ScreenTest, NewsSortsByItsHeadersAndDeletedItemsLeaveTheList) {
         click("cmdDelete");
     }
     EXPECT_TRUE(find<QLabel>("lblNoNews")->isVisible()) << "an empty inbox says so";
-}
-
-TEST_F(ScreenTest, CurrencyChangesTheCashShownAndNeverTheCashHeld) {
-    startNewGameAsPlayer();
-    const Money held = game->player.playerLabelCash;
-    click(window->sideBar()->btnGameOptions);
-    click("lblCurrency");
-    auto* currency = dialog<QDialog>("frmChangeCurrency");
-    ASSERT_NE(currency, nullptr);
-    EXPECT_TRUE(currency->findChild<QAbstractButton*>("optCurrency0")->isChecked());
-    click(currency->findChild<QAbstractButton*>("optCurrency1"));
-    click(currency->findChild<QAbstractButton*>("cmdConfirm"));
-    EXPECT_EQ(window->gameStatusBar()->lblCash->text(), "$1,770,000");
-    EXPECT_EQ(game->player.playerLabelCash, held);
-    EXPECT_EQ(window->sideBar()->openPanel(), nullptr);
 }
 
 TEST_F(ScreenTest, TheDayListFollowsTheMonthAndCancelDropsTheWorkingSet) {
