@@ -109,9 +109,14 @@ TEST_F(TableBrowse, AFirmInBuildingAndAnIndependentOneSaySoAndMediaShowScopeAndT
     g.media->mediaType = 3;
     g.media->reach = 2;
     g.media.append();
+    g.media->mediaName = "Zeit";  // only a reach of 2 is global
+    g.media->mediaType = 0;
+    g.media->reach = 1;
+    g.media.append();
     populateTableGrid(g, BrowseTable::media, filter, sort, grid);
     EXPECT_EQ(row(0), (Names{"Le Monde", "France", "National", "12", "Newspaper"}));  // the larger of 7 and 12
     EXPECT_EQ(row(1), (Names{"World TV", "France", "Global", "12", "TV Show"}));
+    EXPECT_EQ(row(2), (Names{"Zeit", "France", "National", "12", "Newspaper"}));
 }
 
 TEST_F(TableBrowse, ABandsDiscsShowTheirFirstReleaseAndItsToursWhetherItHeadsOrSupports) {
