@@ -15,6 +15,7 @@
 #include "support/sim_run.h"
 
 using namespace trovane;
+using test::said;
 
 namespace {
 
@@ -33,9 +34,6 @@ protected:
     }
     std::pair<int, std::string> sim(const std::string& args) { return test::runSim(g.dataDir.string(), args); }
     // A refusal or a bad argument: the status and the one line said.
-    static std::pair<int, std::string> said(int status, const std::string& words) {
-        return {status, "trovane-sim: " + words + "\n"};
-    }
 };
 
 TEST_F(SimDiscVerbs, BadArgumentsExitTwoAndRefusalsOne) {

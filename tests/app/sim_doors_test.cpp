@@ -22,10 +22,7 @@ namespace {
 std::pair<int, std::string> sim(const fs::path& data, const std::string& args) {
     return trovane::test::runSim(data.string(), "--seed 3 " + args);
 }
-// A refusal: the status and the one line said.
-std::pair<int, std::string> said(int status, const std::string& words) {
-    return {status, "trovane-sim: " + words + "\n"};
-}
+using trovane::test::said;
 
 // Every file of the folder with its bytes, to show that a run changed nothing.
 std::map<std::string, std::string> snapshot(const fs::path& dir) {

@@ -25,6 +25,11 @@ inline std::pair<int, std::string> runSim(const std::filesystem::path& data, con
 }
 
 // The whole file as bytes.
+// A refusal as trovane-sim gives it: the status and the one line said.
+inline std::pair<int, std::string> said(int status, const std::string& words) {
+    return {status, "trovane-sim: " + words + "\n"};
+}
+
 inline std::string fileBytes(const std::filesystem::path& p) {
     std::ifstream in(p, std::ios::binary);
     std::ostringstream s;
